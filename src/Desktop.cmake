@@ -1,0 +1,28 @@
+# The desktop: everything that knows Qt. A library, so that the program and the window tests link the same code.
+find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets Network PrintSupport)
+find_package(QScintilla REQUIRED)
+
+# Where pages are found on the web. Empty: no update request, and the help pages the program brings along.
+set(ORVANE_DOWNLOAD_URL "" CACHE STRING "Address of the page that names the latest version")
+set(ORVANE_HOME_URL "" CACHE STRING "Address of the home page")
+set(ORVANE_HELP_URL "" CACHE STRING "Base address of the help pages; NUMBER.htm is added")
+
+file(GLOB desktop_sources CONFIGURE_DEPENDS
+  ${CMAKE_CURRENT_LIST_DIR}/*/ui/*.h ${CMAKE_CURRENT_LIST_DIR}/*/ui/*.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/app/*.h ${CMAKE_CURRENT_LIST_DIR}/app/*.cpp)
+list(REMOVE_ITEM desktop_sources ${CMAKE_CURRENT_LIST_DIR}/app/main.cpp)
+file(GLOB desktop_resources CONFIGURE_DEPENDS ${CMAKE_CURRENT_LIST_DIR}/app/*.qrc)
+
+add_library(orvane_desktop STATIC ${desktop_sources})
+set_target_properties(orvane_desktop PROPERTIES AUTOMOC ON)
+target_compile_definitions(orvane_desktop
+  PUBLIC QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS
+  PRIVATE ORVANE_DOWNLOAD_URL="${ORVANE_DOWNLOAD_URL}" ORVANE_HOME_URL="${ORVANE_HOME_URL}"
+          ORVANE_HELP_URL="${ORVANE_HELP_URL}" ORVANE_HELP_FOLDER="${PROJECT_SOURCE_DIR}/docs/help")
+target_link_libraries(orvane_desktop
+  PUBLIC orvane_engine Qt6::Widgets Qt6::Network QScintilla::QScintilla
+  PRIVATE $<BUILD_INTERFACE:orvane_warnings>)
+
+add_executable(orvane ${CMAKE_CURRENT_LIST_DIR}/app/main.cpp ${desktop_resources})
+set_target_properties(orvane PROPERTIES AUTORCC ON)
+target_link_libraries(orvane PRIVATE orvane_desktop orvane_warnings)

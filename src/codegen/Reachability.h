@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "core/FsmDocument.h"
+
+#include <bitset>
+
+namespace orvane {
+
+// Which states a walk from state 1 enters. Derived from the document whenever it is asked for, never stored.
+class Reachability {
+  public:
+    explicit Reachability(const FsmDocument& document);
+
+    // State 1..100.
+    bool Reached(int state) const { return reached_.test(static_cast<std::size_t>(state)); }
+
+    // Some transition of a reached state leads to state 1.
+    bool ReturnsToStart() const { return returnsToStart_; }
+
+  private:
+    void Visit(const FsmDocument& document, int state);
+
+    std::bitset<kStateCount + 1> reached_;
+    bool returnsToStart_ = false;
+};
+
+Reachability ComputeReachability(const FsmDocument& document);
+
+} // namespace orvane

@@ -1,0 +1,323 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "core/DocumentReader.h"
+
+#include "core/AnsiText.h"
+#include "core/DocumentTags.h"
+#include "core/NumberText.h"
+#include "core/TagScanner.h"
+
+#include <algorithm>
+#include <array>
+#include <limits>
+#include <optional>
+#include <utility>
+
+namespace orvane {
+
+namespace {
+
+template <typename Record>
+struct TextField {
+    std::string_view Tag;
+    std::string Record::*Member;
+};
+
+template <typename Record>
+struct NumberField {
+    std::string_view Tag;
+    std::int32_t Record::*Member;
+};
+
+struct BooleanField {
+    std::string_view Tag;
+    bool ViewOptions::*Member;
+};
+
+constexpr auto kGeneralTexts =
+    std::to_array<TextField<GeneralCode>>({{tag::kFsmName, &GeneralCode::FsmName},
+                                           {tag::kBuildFile, &GeneralCode::BuildFile},
+                                           {tag::kCodeSeg, &GeneralCode::CodeSeg},
+                                           {tag::kHeaderComment, &GeneralCode::HeaderComment},
+                                           {tag::kInitSeg, &GeneralCode::InitSeg},
+                                           {tag::kNvEm0Data, &GeneralCode::NvEm0Data},
+                                           {tag::kTestSeg, &GeneralCode::TestSeg},
+                                           {tag::kInstances, &GeneralCode::Instances}});
+constexpr auto kEventTexts = std::to_array<TextField<EventRecord>>({{tag::kName, &EventRecord::Name},
+                                                                    {tag::kTooltip, &EventRecord::Tooltip},
+                                                                    {tag::kCode, &EventRecord::Code}});
+constexpr auto kStateTexts =
+    std::to_array<TextField<StateRecord>>({{tag::kName, &StateRecord::Name},
+                                           {tag::kTooltip, &StateRecord::Tooltip},
+                                           {tag::kEntry, &StateRecord::EntryCode},
+                                           {tag::kExit, &StateRecord::ExitCode},
+                                           {tag::kTimeConst, &StateRecord::TimeConst},
+                                           {tag::kTimingVar, &StateRecord::TimingVar},
+                                           {tag::kTimerId, &StateRecord::TimerId}});
+constexpr auto kStateNumbers =
+    std::to_array<NumberField<StateRecord>>({{tag::kTimingMode, &StateRecord::TimingMode},
+                                             {tag::kColWidth, &StateRecord::ColWidth},
+                                             {tag::kOldColWidth, &StateRecord::ColWidth}});
+constexpr auto kRowHeights =
+    std::to_array<NumberField<RowHeights>>({{tag::kElse, &RowHeights::Else},
+                                            {tag::kExitAction, &RowHeights::ExitAction},
+                                            {tag::kTimingModeRow, &RowHeights::TimingMode},
+                                            {tag::kTimeTargetRow, &RowHeights::TimeTarget}});
+constexpr auto kViewMarks = std::to_array<BooleanField>({{tag::kPolytask, &ViewOptions::Polytask},
+                                                         {tag::kShowTimeTarget, &ViewOptions::ShowTimeTarget},
+                                                         {tag::kShowTimingMode, &ViewOptions::ShowTimingMode},
+                                                         {tag::kShowElse, &ViewOptions::ShowElse}});
+
+template <typename Table>
+const auto* Find(const Table& table, std::string_view wanted) {
+    const auto found =
+        std::find_if(table.begin(), table.end(), [wanted](const auto& field) { return field.Tag == wanted; });
+    return found == table.end() ? nullptr : &*found;
+}
+
+bool IsTrue(std::string_view text) { return ToUpper(text) == "TRUE"; }
+
+// Ends the reading from anywhere; what was read up to here stays.
+struct BreakOff {
+    std::string Why;
+};
+
+// A value that begins with a number: "7:" or "12:the rest".
+struct IndexedValue {
+    std::string_view Index;
+    std::string_view Rest; // empty without ":"
+};
+
+IndexedValue SplitIndex(std::string_view value) {
+    const std::size_t colon = value.find(':');
+    if (colon == std::string_view::npos)
+        return {value, {}};
+    return {value.substr(0, colon), value.substr(colon + 1)};
+}
+
+// A number as it stands in the file, cut where it gets too long to read.
+std::string Quoted(std::string_view number) {
+    constexpr std::size_t longest = 24;
+    return "\"" + std::string(Trim(number.substr(0, longest))) + (number.size() > longest ? "..." : "") +
+           "\"";
+}
+
+class Reader {
+  public:
+    explicit Reader(std::string_view bytes) : scanner_(bytes) {}
+
+    ReadResult Read();
+
+  private:
+    void ReadTopLevel();
+    void ReadGeneralField(std::string_view tag);
+    void ReadRowHeights();
+    void ReadEvent();
+    void ReadState();
+    void ReadTransitions(StateRecord& state);
+
+    // Calls `field(tag)` for each tag up to the closing one.
+    template <typename Field>
+    void ReadBlock(std::string_view closer, Field field);
+
+    // The number in the head of an event or a state.
+    int HeadNumber(NumberRange range);
+    void RequireWholeValue() const;
+    void SetText(std::string& text, std::string_view value);
+    // The number at the front of the text; outside the range reading breaks off.
+    std::int64_t Number(std::string_view text, std::int64_t first, std::int64_t last) const;
+    template <typename T>
+    T NumberOf(std::string_view text) const {
+        return static_cast<T>(Number(text, std::numeric_limits<T>::min(), std::numeric_limits<T>::max()));
+    }
+    int NumberOf(std::string_view text, NumberRange range) const {
+        return static_cast<int>(Number(text, range.First(), range.Last()));
+    }
+
+    void TellUnknownTag(std::string_view tag);
+    void TellUnknown(std::string text);
+    void Tell(std::string text) { result_.Messages.push_back({std::move(text), scanner_.TagLine()}); }
+
+    TagScanner scanner_;
+    ReadResult result_;
+    std::string_view tag_; // the field being read
+    std::string block_;    // the block it stands in, " in state 7", empty at top level
+    std::size_t unknownTags_ = 0;
+    bool toldDelimiter_ = false;
+};
+
+ReadResult Reader::Read() {
+    try {
+        ReadTopLevel();
+    } catch (const BreakOff& breakOff) {
+        result_.BrokeOff = true;
+        Tell(breakOff.Why + "; reading stopped there");
+    }
+    if (unknownTags_ > kMostUnknownTags)
+        result_.Messages.push_back({NumberText(static_cast<std::int64_t>(unknownTags_ - kMostUnknownTags)) +
+                                        " more unknown tags were skipped",
+                                    0});
+    return std::move(result_);
+}
+
+void Reader::ReadTopLevel() {
+    while (!scanner_.AtEnd()) {
+        const std::optional<std::string_view> found = scanner_.NextTag();
+        if (!found)
+            return;
+        tag_ = *found;
+        block_.clear();
+        if (tag_ == tag::kRowVisible)
+            ReadRowHeights();
+        else if (tag_ == tag::kEvent)
+            ReadEvent();
+        else if (tag_ == tag::kState)
+            ReadState();
+        else
+            ReadGeneralField(tag_);
+        RequireWholeValue();
+    }
+}
+
+void Reader::ReadGeneralField(std::string_view tag) {
+    GeneralCode& general = result_.Document.General;
+    ViewOptions& view = result_.Document.View;
+    if (const auto* text = Find(kGeneralTexts, tag))
+        SetText(general.*text->Member, scanner_.NextValue());
+    else if (const auto* mark = Find(kViewMarks, tag))
+        view.*mark->Member = IsTrue(scanner_.NextValue());
+    else if (tag == tag::kLaunchSeg)
+        general.LaunchSeg = NumberOf<std::int16_t>(scanner_.NextValue()) != 0;
+    else if (tag == tag::kCol0Width)
+        view.Col0Width = NumberOf<std::int32_t>(scanner_.NextValue());
+    else
+        TellUnknownTag(tag);
+}
+
+template <typename Field>
+void Reader::ReadBlock(std::string_view closer, Field field) {
+    while (true) {
+        const std::optional<std::string_view> found = scanner_.NextTag();
+        if (!found)
+            throw BreakOff{"The file ends before " + std::string(closer) + block_};
+        tag_ = *found;
+        if (tag_ == closer)
+            return;
+        field(tag_);
+        RequireWholeValue();
+    }
+}
+
+void Reader::ReadRowHeights() {
+    RowHeights& heights = result_.Document.View.RowVisible;
+    ReadBlock(tag::kRowVisibleEnd, [&](std::string_view tag) {
+        if (const auto* height = Find(kRowHeights, tag))
+            heights.*height->Member = NumberOf<std::int32_t>(scanner_.NextValue());
+        else
+            TellUnknownTag(tag);
+    });
+}
+
+void Reader::ReadEvent() {
+    const int row = HeadNumber(CellRows());
+    EventRecord& event = result_.Document.Event(row);
+    block_ = " in event row " + NumberText(row);
+    ReadBlock(tag::kEventEnd, [&](std::string_view tag) {
+        if (const auto* text = Find(kEventTexts, tag))
+            SetText(event.*text->Member, scanner_.NextValue());
+        else
+            TellUnknownTag(tag);
+    });
+}
+
+void Reader::ReadState() {
+    const int number = HeadNumber(StateNumbers());
+    StateRecord& state = result_.Document.State(number);
+    block_ = " in state " + NumberText(number);
+    ReadBlock(tag::kStateEnd, [&](std::string_view tag) {
+        if (tag == tag::kTransitions)
+            ReadTransitions(state);
+        else if (const auto* text = Find(kStateTexts, tag))
+            SetText(state.*text->Member, scanner_.NextValue());
+        else if (const auto* value = Find(kStateNumbers, tag))
+            state.*value->Member = NumberOf<std::int32_t>(scanner_.NextValue());
+        else if (tag == tag::kLastTab)
+            state.LastTab = NumberOf<std::int16_t>(scanner_.NextValue());
+        else
+            TellUnknownTag(tag);
+    });
+}
+
+void Reader::ReadTransitions(StateRecord& state) {
+    ReadBlock(tag::kTransitionsEnd, [&](std::string_view tag) {
+        if (tag != tag::kTarget && tag != tag::kAction) {
+            TellUnknown("Unkown tag " + std::string(tag) + " in Transitions section");
+            return;
+        }
+        const IndexedValue value = SplitIndex(scanner_.NextValue());
+        const int row = NumberOf(value.Index, CellRows());
+        if (tag == tag::kTarget)
+            state.Targets[row] = static_cast<std::int16_t>(NumberOf(value.Rest, TargetNumbers()));
+        else
+            SetText(state.Actions[row], value.Rest);
+    });
+}
+
+int Reader::HeadNumber(NumberRange range) {
+    const std::string_view value = scanner_.NextValue();
+    RequireWholeValue();
+    return NumberOf(SplitIndex(value).Index, range);
+}
+
+void Reader::RequireWholeValue() const {
+    if (scanner_.ValueWasCut())
+        throw BreakOff{"The file ends inside the value of " + std::string(tag_) + block_};
+}
+
+void Reader::SetText(std::string& text, std::string_view value) {
+    text = value;
+    if (toldDelimiter_ || value.find(kDelimiter) == std::string_view::npos)
+        return;
+    toldDelimiter_ = true;
+    Tell("The text of " + std::string(tag_) + block_ +
+         " holds the character \xA4, which ends fields; it is kept and "
+         "saved as it is, but undo cannot carry it");
+}
+
+std::int64_t Reader::Number(std::string_view text, std::int64_t first, std::int64_t last) const {
+    const std::int64_t number = ParseNumber(text);
+    if (number >= first && number <= last)
+        return number;
+    throw BreakOff{"The number " + Quoted(text) + " of " + std::string(tag_) + block_ + " is outside " +
+                   NumberText(first) + ".." + NumberText(last)};
+}
+
+// The last line of a file may hold anything: an unknown tag there is not told.
+void Reader::TellUnknownTag(std::string_view tag) {
+    if (!scanner_.AtEnd())
+        TellUnknown("Unknown tag " + std::string(tag));
+}
+
+void Reader::TellUnknown(std::string text) {
+    if (++unknownTags_ <= kMostUnknownTags)
+        Tell(std::move(text));
+}
+
+ReadResult Refused(std::string why) {
+    ReadResult refused;
+    refused.Messages.push_back({std::move(why), 0});
+    refused.BrokeOff = true;
+    return refused;
+}
+
+} // namespace
+
+ReadResult ReadDocument(std::string_view bytes) {
+    if (bytes.size() > kLargestDocument)
+        return Refused("The file is larger than 64 MiB, which no document is");
+    const bool blank = bytes.find_first_not_of(" \t\r\n") == std::string_view::npos;
+    if (!blank && bytes.find(kTagOpen) == std::string_view::npos)
+        return Refused("The file is not a document: it holds no field");
+    return Reader(bytes).Read();
+}
+
+} // namespace orvane

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "core/EventRecord.h"
+#include "core/GeneralCode.h"
+#include "core/StateRecord.h"
+#include "core/ViewOptions.h"
+
+#include <functional>
+#include <string_view>
+#include <vector>
+
+namespace orvane {
+
+inline constexpr std::int32_t kDefaultColumnWidth = 945; // twips
+
+// Receives the short labels that mark progress through start-up and clearing; an empty one receives nothing.
+using TraceSink = std::function<void(std::string_view label)>;
+
+// One finite-state machine as a table: 100 states, 49 events, a cell at every crossing, and what belongs to
+// the machine as a whole. A fresh document is empty, with every column at its default width.
+//
+// Access is by table number, states 1..100 and rows 4..54. Anything else throws BoundsError and changes
+// nothing.
+class FsmDocument {
+  public:
+    explicit FsmDocument(std::int32_t defaultColumnWidth = kDefaultColumnWidth);
+
+    StateRecord& State(int number);
+    const StateRecord& State(int number) const;
+    EventRecord& Event(int row);
+    const EventRecord& Event(int row) const;
+
+    // The cleared records that clearing, inserting and deleting put in place.
+    StateRecord StateTemplate() const;
+    static EventRecord EventTemplate() { return {}; }
+
+    // The width in twips of a state column when nothing else says.
+    std::int32_t DefaultColumnWidth() const { return defaultColumnWidth_; }
+
+    // Empties states, events and general code; the builder script's path and the view options stay. With
+    // keepWidths the columns keep their widths, else they get the default.
+    void ClearDataBase(bool keepWidths, const TraceSink& trace = {});
+
+    GeneralCode General;
+    ViewOptions View;
+
+    bool operator==(const FsmDocument&) const = default;
+
+  private:
+    std::int32_t defaultColumnWidth_;
+    // Both have their full size for life. On the heap, because together they are too large for a stack.
+    std::vector<StateRecord> states_;
+    std::vector<EventRecord> events_;
+};
+
+} // namespace orvane

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "core/BoundsError.h"
+#include "core/TableGeometry.h"
+
+#include <array>
+
+namespace orvane {
+
+// One element for each cell row, 4..54, indexed by the row number itself. A row outside throws BoundsError.
+template <typename T>
+class RowArray {
+  public:
+    T& operator[](int row) { return elements_[Index(row)]; }
+    const T& operator[](int row) const { return elements_[Index(row)]; }
+
+    bool operator==(const RowArray&) const = default;
+
+  private:
+    static std::size_t Index(int row) {
+        RequireInRange(row, CellRows(), "row");
+        return static_cast<std::size_t>(row - kFirstCellRow);
+    }
+
+    std::array<T, kCellRowCount> elements_{};
+};
+
+} // namespace orvane

@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "core/StateLabel.h"
+
+#include "core/AnsiText.h"
+#include "core/NumberText.h"
+
+namespace orvane {
+
+std::string StateLabel(int number, std::string_view name) {
+    return std::string(Trim(NumberText(number) + ":" + std::string(name)));
+}
+
+} // namespace orvane

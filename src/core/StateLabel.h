@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace orvane {
+
+// A state as people read it: its number, ":" and its name, blanks at the ends trimmed (3:Idle).
+std::string StateLabel(int number, std::string_view name);
+
+} // namespace orvane

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The one pair of functions between document text (Windows-1252 bytes) and what windows show (Unicode).
+#pragma once
+
+#include <QString>
+
+#include <string>
+#include <string_view>
+
+namespace orvane {
+
+// Never fails: every byte has a character.
+QString FromAnsi(std::string_view text);
+
+struct AnsiText {
+    std::string Text;
+    bool LeftOut = false; // some characters cannot stand in a document; they are not in the text
+};
+
+// Leaves out what a document cannot hold: characters outside Windows-1252, and the delimiter.
+AnsiText ToAnsi(const QString& text);
+
+// The characters of the text that a document can hold, in their order.
+QString DocumentCharacters(const QString& text);
+
+} // namespace orvane
