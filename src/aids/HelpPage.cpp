@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "aids/HelpPage.h"
+
+namespace orvane {
+
+std::string HelpPageAddress(std::string_view baseAddress, int page) {
+    return std::string(baseAddress) + std::to_string(page) + ".htm";
+}
+
+bool IsHelpKey(int keyCode, bool shiftCtrlOrAlt) { return keyCode == kHelpKeyCode && !shiftCtrlOrAlt; }
+
+} // namespace orvane

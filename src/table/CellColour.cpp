@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "table/CellColour.h"
+
+#include "core/TableGeometry.h"
+
+namespace orvane {
+
+namespace {
+
+constexpr Colour kEntryActionColour{204, 255, 204};
+constexpr Colour kExitActionColour{255, 204, 153};
+constexpr Colour kEventAndActionColour{255, 221, 178};
+
+Colour RowHeadColour(int row) {
+    switch (row) {
+    case kHeadRow:
+        return kPlainCellColour;
+    case kEntryActionRow:
+        return kEventAndActionColour;
+    case kExitActionRow:
+        return kExitActionColour;
+    case kTimingModeRow:
+    case kTimeoutRow:
+        return kTimeoutColour;
+    case kElseRow:
+        return kElseColour;
+    default:
+        return kEventColour;
+    }
+}
+
+Colour StateColumnColour(int row) {
+    switch (row) {
+    case kHeadRow:
+        return kStateHeadColour;
+    case kEntryActionRow:
+        return kEntryActionColour;
+    case kExitActionRow:
+        return kExitActionColour;
+    case kTimingModeRow:
+        return kTimeoutColour;
+    default:
+        return kPlainCellColour;
+    }
+}
+
+} // namespace
+
+Colour CellColour(int row, int column) { return column == 0 ? RowHeadColour(row) : StateColumnColour(row); }
+
+} // namespace orvane

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The colours of the table and of the lists that go with it. All are light: the text on them is dark,
+// whatever the desktop's own colours are.
+#pragma once
+
+#include <cstdint>
+
+namespace orvane {
+
+struct Colour {
+    std::uint8_t Red;
+    std::uint8_t Green;
+    std::uint8_t Blue;
+
+    bool operator==(const Colour&) const = default;
+};
+
+inline constexpr Colour kPlainCellColour{255, 255, 255};
+inline constexpr Colour kStateHeadColour{204, 255, 255};
+inline constexpr Colour kTimeoutColour{255, 255, 153};
+inline constexpr Colour kElseColour{255, 238, 204};
+inline constexpr Colour kEventColour{255, 153, 204};
+
+inline constexpr Colour kCurrentStateColour{255, 0, 0}; // the head of the state that stepping has reached
+inline constexpr Colour kNextStateColour{255, 255, 0};  // the cell whose target is pointed out
+
+// The fixed background of a cell, rows 0..54, columns 0..100.
+Colour CellColour(int row, int column);
+
+} // namespace orvane

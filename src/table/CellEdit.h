@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Transition targets typed into the cells of the table, rows 4..54, states 1..100.
+#pragma once
+
+#include "core/FsmDocument.h"
+#include "core/UserMessage.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace orvane {
+
+// A row of events takes transitions once the event has a name; the rows above always do.
+bool CanEditCell(const FsmDocument& document, int row);
+
+// What the editor of a cell starts with: the number of the target, nothing without one.
+std::string CellEditText(const FsmDocument& document, int row, int state);
+
+// Stores the typed number as the cell's target. Nothing, or 0, deletes the cell's action as well. Any number
+// up to 100 will do, whether or not that state has a name. For another number the message says so, and the
+// document stays as it is.
+std::optional<UserMessage> StoreTypedTarget(FsmDocument& document, int row, int state, std::string_view text);
+
+// Where the event of this row leads from the current state; 0 when there is no current state, when the row
+// has no transitions or this one has none.
+int StepTarget(const FsmDocument& document, int currentState, int row);
+
+} // namespace orvane

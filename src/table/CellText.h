@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What the cells of the table say. Every text is computed from the document; nothing is read back from the
+// table.
+#pragma once
+
+#include "core/FsmDocument.h"
+#include "table/TextFitting.h"
+
+#include <string>
+
+namespace orvane {
+
+// The text of a cell, heads included: rows 0..54, columns 0..100. All texts but the names of events are
+// fitted to the width that the document gives the column. Any other cell throws BoundsError.
+std::string CellText(const FsmDocument& document, int row, int column, const TextMeasurer& measure);
+
+// The head that the rows of events and the row of entry actions share, "Event" at its left and "Action" at
+// its right end as far as the column's width (in twips) allows. Not fitted yet.
+std::string ForceLREventAction(int column0Width, const TextMeasurer& measure);
+
+// How a cell names the state it leads to: number, ":" and name (12:Wait), nothing for 0.
+std::string TargetText(const FsmDocument& document, int state);
+
+// How a state times out, in brief; nothing for a mode that nobody knows.
+std::string TimingText(const StateRecord& state);
+
+} // namespace orvane
