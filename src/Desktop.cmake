@@ -15,6 +15,8 @@ file(GLOB desktop_resources CONFIGURE_DEPENDS ${CMAKE_CURRENT_LIST_DIR}/app/*.qr
 
 add_library(orvane_desktop STATIC ${desktop_sources})
 set_target_properties(orvane_desktop PROPERTIES AUTOMOC ON)
+# CMake 3.25 does not look again at the headers when the list of them has changed.
+file(REMOVE ${CMAKE_CURRENT_BINARY_DIR}/orvane_desktop_autogen/timestamp)
 target_compile_definitions(orvane_desktop
   PUBLIC QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS
   PRIVATE ORVANE_DOWNLOAD_URL="${ORVANE_DOWNLOAD_URL}" ORVANE_HOME_URL="${ORVANE_HOME_URL}"
