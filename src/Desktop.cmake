@@ -11,10 +11,9 @@ file(GLOB desktop_sources CONFIGURE_DEPENDS
   ${CMAKE_CURRENT_LIST_DIR}/*/ui/*.h ${CMAKE_CURRENT_LIST_DIR}/*/ui/*.cpp
   ${CMAKE_CURRENT_LIST_DIR}/app/*.h ${CMAKE_CURRENT_LIST_DIR}/app/*.cpp)
 list(REMOVE_ITEM desktop_sources ${CMAKE_CURRENT_LIST_DIR}/app/main.cpp)
-file(GLOB desktop_resources CONFIGURE_DEPENDS ${CMAKE_CURRENT_LIST_DIR}/app/*.qrc)
 
-add_library(orvane_desktop STATIC ${desktop_sources})
-set_target_properties(orvane_desktop PROPERTIES AUTOMOC ON)
+add_library(orvane_desktop STATIC ${desktop_sources} ${CMAKE_CURRENT_LIST_DIR}/app/orvane.qrc)
+set_target_properties(orvane_desktop PROPERTIES AUTOMOC ON AUTORCC ON)
 # CMake 3.25 does not look again at the headers when the list of them has changed.
 file(REMOVE ${CMAKE_CURRENT_BINARY_DIR}/orvane_desktop_autogen/timestamp)
 target_compile_definitions(orvane_desktop
@@ -25,6 +24,5 @@ target_link_libraries(orvane_desktop
   PUBLIC orvane_engine Qt6::Widgets Qt6::Network QScintilla::QScintilla
   PRIVATE $<BUILD_INTERFACE:orvane_warnings>)
 
-add_executable(orvane ${CMAKE_CURRENT_LIST_DIR}/app/main.cpp ${desktop_resources})
-set_target_properties(orvane PROPERTIES AUTORCC ON)
+add_executable(orvane ${CMAKE_CURRENT_LIST_DIR}/app/main.cpp)
 target_link_libraries(orvane PRIVATE orvane_desktop orvane_warnings)
