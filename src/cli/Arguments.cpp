@@ -1,0 +1,147 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cli/Arguments.h"
+
+#include "core/ProgramVersion.h"
+
+#include <CLI/CLI.hpp>
+
+namespace orvane::cli {
+
+namespace {
+
+constexpr const char* kProgramNotes =
+    "Example: orvanec generate pump.zfsm\n"
+    "         writes pump.zls beside the document, and what was found to standard error\n\n"
+    "Exit status: 0 no design errors, 1 a design error, 2 wrong usage,\n"
+    "             3 a file could not be read or written, or a document broke off";
+constexpr const char* kGenerateNotes =
+    "Example: SOURCE_DATE_EPOCH=0 orvanec generate -o - pump.zfsm\n"
+    "         shows the program, dated 01/01/1970 00:00:00\n\n"
+    "A design with errors writes nothing. SOURCE_DATE_EPOCH, in seconds, stands for the clock.";
+constexpr const char* kCheckNotes = "Example: orvanec check --format=json *.zfsm\n"
+                                    "         writes one line of JSON for each document";
+constexpr const char* kFormatNotes =
+    "Example: orvanec format pump.zfsm -o tidy.zfsm\n\n"
+    "A document that breaks off is only written with -o, never over the original.";
+
+// The parser takes a value in brackets for a list. No argument can hold a NUL, so one at the end hides the
+// closing bracket from it.
+std::string HideBracket(std::string value) {
+    if (!value.empty() && value.back() == ']')
+        value += '\0';
+    return value;
+}
+
+void ShowBracket(std::string& value) {
+    if (!value.empty() && value.back() == '\0')
+        value.pop_back();
+}
+
+class CommandLine {
+  public:
+    CommandLine() {
+        app_.name("orvanec");
+        app_.set_version_flag("--version", "orvanec " + ProgramVersion());
+        app_.footer(kProgramNotes);
+        app_.require_subcommand(1);
+        app_.allow_windows_style_options(false);
+        AddGenerate();
+        AddCheck();
+        AddFormat();
+    }
+
+    Arguments Parse(int count, const char* const* values);
+    Outcome Answer(const CLI::ParseError& error);
+
+  private:
+    void AddGenerate() {
+        CLI::App& verb = AddVerb("generate", "Write the controller program of each document", kGenerateNotes);
+        AddDocuments(verb);
+        AddOutput(verb, "Write to FILE instead of beside the document; - is standard output");
+    }
+    void AddCheck() {
+        CLI::App& verb =
+            AddVerb("check", "Report what is wrong with each design; write no program", kCheckNotes);
+        AddDocuments(verb);
+        verb.add_option("--format", format_, "How to report: text (default) or json")
+            ->check(CLI::IsMember({"text", "json"}))
+            ->type_name("FORMAT");
+    }
+    void AddFormat() {
+        CLI::App& verb = AddVerb("format", "Write a document as the editor would save it", kFormatNotes);
+        verb.add_option("DOC", document_, "The document")->required()->type_name("");
+        AddOutput(verb, "Write to FILE instead of over the document; - is standard output");
+    }
+
+    CLI::App& AddVerb(const char* name, const char* purpose, const char* notes) {
+        CLI::App* verb = app_.add_subcommand(name, purpose);
+        verb->footer(notes);
+        return *verb;
+    }
+    void AddDocuments(CLI::App& verb) {
+        verb.add_option("DOC", documents_, "The documents")->required()->type_name("");
+    }
+    void AddOutput(CLI::App& verb, const char* purpose) {
+        verb.add_option("-o,--output", output_, purpose)->type_name("FILE");
+    }
+
+    CLI::App app_{"Checks Orvane documents and writes their controller programs, without a window."};
+    std::vector<std::string> documents_;
+    std::string document_;
+    std::optional<std::string> output_;
+    std::string format_ = "text";
+};
+
+Arguments CommandLine::Parse(int count, const char* const* values) {
+    std::vector<std::string> reversed; // as the parser takes them
+    for (int i = count - 1; i > 0; --i)
+        reversed.push_back(HideBracket(values[i]));
+    app_.parse(std::move(reversed));
+
+    Arguments arguments;
+    arguments.What = app_.got_subcommand("generate") ? Verb::Generate
+                     : app_.got_subcommand("check")  ? Verb::Check
+                                                     : Verb::Format;
+    arguments.Documents =
+        arguments.What == Verb::Format ? std::vector{std::move(document_)} : std::move(documents_);
+    std::for_each(arguments.Documents.begin(), arguments.Documents.end(), ShowBracket);
+    arguments.Output = std::move(output_);
+    if (arguments.Output)
+        ShowBracket(*arguments.Output);
+    arguments.Format = format_ == "json" ? ReportFormat::Json : ReportFormat::Text;
+    return arguments;
+}
+
+Outcome CommandLine::Answer(const CLI::ParseError& error) {
+    if (error.get_exit_code() != static_cast<int>(CLI::ExitCodes::Success))
+        return WrongUsage(error.what());
+    Outcome asked;
+    asked.Output = error.get_name() == "CallForVersion" ? std::string(error.what()) + "\n" : app_.help();
+    return asked;
+}
+
+} // namespace
+
+Outcome WrongUsage(const std::string& what) {
+    Outcome wrong;
+    wrong.Errors = "orvanec: " + what + "\nRun \"orvanec --help\" for how it is used.\n";
+    wrong.Status = kWrongUsage;
+    return wrong;
+}
+
+std::variant<Arguments, Outcome> ParseArguments(int count, const char* const* values) {
+    CommandLine commandLine;
+    try {
+        Arguments arguments = commandLine.Parse(count, values);
+        if (arguments.Output && arguments.Documents.size() > 1)
+            return WrongUsage("-o takes the program of one document, not of " +
+                              std::to_string(arguments.Documents.size()));
+        if (arguments.Output && arguments.Output->empty())
+            return WrongUsage("-o needs the name of a file");
+        return arguments;
+    } catch (const CLI::ParseError& error) {
+        return commandLine.Answer(error);
+    }
+}
+
+} // namespace orvane::cli

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "cli/Outcome.h"
+
+#include <optional>
+#include <string>
+#include <variant>
+#include <vector>
+
+namespace orvane::cli {
+
+enum class Verb { Generate, Check, Format };
+enum class ReportFormat { Text, Json };
+
+inline constexpr const char* kStandardOutput = "-";
+
+struct Arguments {
+    Verb What = Verb::Check;
+    std::vector<std::string> Documents; // at least one, as they were given
+    std::optional<std::string> Output;  // a path or kStandardOutput; only with one document
+    ReportFormat Format = ReportFormat::Text;
+};
+
+// What the command line asks for. When there is nothing to do, or no way to do it, the outcome of that: the
+// help or version text, or what is wrong with the usage.
+std::variant<Arguments, Outcome> ParseArguments(int count, const char* const* values);
+
+Outcome WrongUsage(const std::string& what);
+
+} // namespace orvane::cli

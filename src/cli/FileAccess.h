@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Files in and out, binary, as a whole.
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <system_error>
+
+namespace orvane::cli {
+
+struct FileBytes {
+    std::string Bytes;
+    std::error_code Failure;
+};
+
+// Reads a file, or anything else that can be read, to its end. One with more than `limit` bytes fails with
+// std::errc::file_too_large; of a regular file nothing is read then.
+FileBytes ReadWholeFile(const std::filesystem::path& path, std::size_t limit);
+
+// Writes a file, all or nothing: the bytes go to a temporary file beside it that then takes its place, so
+// that a failure leaves the older file whole. They are on the disk, not only in its cache, when that happens.
+// A link stays a link, and the file keeps its permissions. What is no regular file, a device or a pipe, is
+// written to directly.
+[[nodiscard]] std::error_code WriteWholeFile(const std::filesystem::path& path, std::string_view bytes);
+
+} // namespace orvane::cli

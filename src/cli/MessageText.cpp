@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cli/MessageText.h"
+
+#include "core/AnsiText.h"
+#include "core/NumberText.h"
+
+namespace orvane::cli {
+
+namespace {
+
+constexpr std::size_t kLongestMessage = 300; // bytes of the message as the reader gave it
+
+void AppendEscaped(std::string& shown, char byte) {
+    constexpr std::string_view digits = "0123456789ABCDEF";
+    const auto code = static_cast<unsigned char>(byte);
+    shown += "\\x";
+    shown += digits[code >> 4];
+    shown += digits[code & 0xF];
+}
+
+bool IsControl(char32_t character) { return character < 0x20 || (character >= 0x7F && character < 0xA0); }
+
+} // namespace
+
+std::string ShownName(std::string_view name) {
+    std::string shown;
+    for (const char byte : name) {
+        const auto code = static_cast<unsigned char>(byte);
+        if (code < 0x80 && IsControl(code)) // bytes above are parts of UTF-8 characters
+            AppendEscaped(shown, byte);
+        else
+            shown += byte;
+    }
+    return shown;
+}
+
+std::string ShownMessage(const ReaderMessage& message) {
+    std::string shown;
+    for (const char byte : std::string_view(message.Text).substr(0, kLongestMessage)) {
+        if (IsControl(ToUnicode(byte)))
+            AppendEscaped(shown, byte);
+        else
+            shown += ToUtf8({&byte, 1});
+    }
+    return message.Text.size() > kLongestMessage ? shown + "..." : shown;
+}
+
+std::string MessageLine(std::string_view document, const ReaderMessage& message) {
+    const std::string line =
+        message.Line == 0 ? "" : ":" + NumberText(static_cast<std::int64_t>(message.Line));
+    return ShownName(document) + line + ": " + ShownMessage(message) + "\n";
+}
+
+std::string FailureLine(std::string_view document, std::string_view what, std::error_code reason) {
+    const std::string why = reason ? " (" + reason.message() + ")" : "";
+    return "orvanec: " + ShownName(document) + ": " + std::string(what) + why + "\n";
+}
+
+std::string StreamText(std::string_view ansi) {
+    std::string text = ToUtf8(ansi);
+    for (std::size_t at = text.find(kLineEnd); at != std::string::npos; at = text.find(kLineEnd, at + 1))
+        text.erase(at, 1);
+    return text;
+}
+
+} // namespace orvane::cli

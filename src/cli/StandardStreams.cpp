@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cli/StandardStreams.h"
+
+#include "cli/MessageText.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <string_view>
+#include <system_error>
+
+#include <fcntl.h>
+#ifdef _WIN32
+#include <io.h>
+#endif
+
+namespace orvane::cli {
+
+namespace {
+
+// What kept the bytes from being written; no error when they were.
+std::error_code Write(std::FILE* stream, std::string_view bytes) {
+    if (bytes.empty())
+        return {};
+    errno = 0;
+    if (std::fwrite(bytes.data(), 1, bytes.size(), stream) == bytes.size() && std::fflush(stream) == 0)
+        return {};
+    return {errno, std::generic_category()};
+}
+
+} // namespace
+
+void PrepareStandardStreams() {
+#ifdef _WIN32
+    _setmode(_fileno(stdout), _O_BINARY);
+    _setmode(_fileno(stderr), _O_BINARY);
+#else
+    // Open the wrong way round, so that its use fails as that of a closed stream does.
+    for (int stream = 0; stream <= 2; ++stream) {
+        if (fcntl(stream, F_GETFD) == -1 && errno == EBADF)
+            (void)open("/dev/null", stream == 0 ? O_WRONLY : O_RDONLY);
+    }
+#endif
+}
+
+int Deliver(const Outcome& outcome) {
+    Outcome delivered{{}, {}, outcome.Status};
+    if (Write(stderr, outcome.Errors))
+        delivered.Raise(kFileError);
+    if (const std::error_code reason = Write(stdout, outcome.Output)) {
+        delivered.Raise(kFileError);
+        (void)Write(stderr, FailureLine("standard output", "cannot be written", reason));
+    }
+    return delivered.Status;
+}
+
+} // namespace orvane::cli

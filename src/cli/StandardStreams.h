@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "cli/Outcome.h"
+
+namespace orvane::cli {
+
+// To be called before any file is opened. Bytes pass as they are, and a standard stream that was closed
+// stays unusable: no file that is opened later can take its place and receive what is written to it.
+void PrepareStandardStreams();
+
+// Writes what the outcome has and returns its status, or kFileError when a stream did not take it all.
+int Deliver(const Outcome& outcome);
+
+} // namespace orvane::cli

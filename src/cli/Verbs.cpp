@@ -1,0 +1,151 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cli/Verbs.h"
+
+#include "cli/DocumentPath.h"
+#include "cli/FileAccess.h"
+#include "cli/JsonReport.h"
+#include "cli/MessageText.h"
+#include "codegen/CodeGenerator.h"
+#include "core/DocumentReader.h"
+#include "core/DocumentWriter.h"
+
+#include <exception>
+#include <map>
+
+namespace orvane::cli {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+class DocumentRun {
+  public:
+    DocumentRun(const Arguments& arguments, const std::string& bannerDate, std::size_t index)
+        : arguments_(arguments), bannerDate_(bannerDate), name_(arguments.Documents[index]) {}
+
+    Outcome Run();
+
+  private:
+    // Reads the document into read_. Tells what there is to tell; false when there is no document at all.
+    bool Read();
+    void Generate();
+    void Check(const Report& report);
+    void Format();
+
+    void WriteBytes(const fs::path& target, std::string bytes);
+    bool WritesOver(const fs::path& target) const {
+        std::error_code none;
+        return fs::equivalent(target, name_, none);
+    }
+    std::string HeadedReport(const Report& report) const {
+        const std::string head = arguments_.Documents.size() > 1 ? ShownName(name_) + ":\n" : "";
+        return head + StreamText(ReportText(report));
+    }
+    void Fail(std::string_view what, std::error_code reason = {}) {
+        outcome_.Errors += FailureLine(name_, what, reason);
+        outcome_.Raise(kFileError);
+    }
+    bool AsJson() const { return arguments_.Format == ReportFormat::Json; }
+
+    const Arguments& arguments_;
+    const std::string& bannerDate_;
+    const std::string& name_;
+    ReadResult read_;
+    Outcome outcome_;
+};
+
+Outcome DocumentRun::Run() {
+    const bool isDocument = Read();
+    if (arguments_.What == Verb::Check && isDocument)
+        Check(GenerateProgram(read_.Document, {}).Findings);
+    else if (arguments_.What == Verb::Check && AsJson())
+        Check({}); // so that there is a line for each document
+    else if (arguments_.What == Verb::Generate && isDocument)
+        Generate();
+    else if (arguments_.What == Verb::Format && isDocument)
+        Format();
+    return std::move(outcome_);
+}
+
+bool DocumentRun::Read() {
+    const FileBytes file = ReadWholeFile(name_, kLargestDocument);
+    if (file.Failure) {
+        const bool tooLarge = file.Failure == std::errc::file_too_large;
+        const std::string what = tooLarge ? "is larger than 64 MiB, which no document is" : "cannot be read";
+        const std::error_code reason = tooLarge ? std::error_code() : file.Failure;
+        Fail(what, reason);
+        read_.BrokeOff = true;
+        read_.Messages.push_back({"The file " + what + (reason ? " (" + reason.message() + ")" : ""), 0});
+        return false;
+    }
+    read_ = ReadDocument(file.Bytes);
+    for (const ReaderMessage& message : read_.Messages)
+        outcome_.Errors += MessageLine(name_, message);
+    if (read_.BrokeOff)
+        outcome_.Raise(kFileError);
+    // Where reading stopped has a line; a file that was refused as a whole has none.
+    return !read_.BrokeOff || read_.Messages.front().Line != 0;
+}
+
+void DocumentRun::Generate() {
+    const fs::path document = FullPath(name_);
+    const GeneratedProgram program = GenerateProgram(read_.Document, {PathInProgram(document), bannerDate_});
+    outcome_.Errors += HeadedReport(program.Findings);
+    if (program.Findings.HasErrors())
+        outcome_.Raise(kDesignError);
+    if (program.Findings.HasErrors() || read_.BrokeOff)
+        return;
+    const fs::path target = arguments_.Output ? fs::path(*arguments_.Output) : ProgramPath(document);
+    if (WritesOver(target))
+        return Fail("the program would take the place of the document; name another file with -o");
+    WriteBytes(target, ProgramFileBytes(program));
+}
+
+void DocumentRun::Check(const Report& report) {
+    if (report.HasErrors())
+        outcome_.Raise(kDesignError);
+    outcome_.Output = AsJson() ? JsonLine({name_, read_.Document, report, read_.Messages, !read_.BrokeOff})
+                               : HeadedReport(report);
+}
+
+void DocumentRun::Format() {
+    const fs::path target = arguments_.Output.value_or(name_);
+    if (read_.BrokeOff && WritesOver(target))
+        return Fail("is not written over, because it was not read to its end");
+    WriteBytes(target, WriteDocument(read_.Document));
+}
+
+void DocumentRun::WriteBytes(const fs::path& target, std::string bytes) {
+    if (target == kStandardOutput) {
+        outcome_.Output = std::move(bytes);
+        return;
+    }
+    if (const std::error_code failure = WriteWholeFile(target, bytes))
+        Fail(ShownName(target.string()) + " cannot be written", failure);
+}
+
+} // namespace
+
+std::optional<Outcome> ProgramClash(const Arguments& arguments) {
+    if (arguments.What != Verb::Generate || arguments.Documents.size() < 2)
+        return std::nullopt;
+    std::map<fs::path, const std::string*> firstOf; // by the path of the program
+    for (const std::string& name : arguments.Documents) {
+        const fs::path program = ProgramPath(FullPath(name));
+        const auto [first, isNew] = firstOf.emplace(program, &name);
+        if (!isNew && FullPath(*first->second) != FullPath(name))
+            return WrongUsage(ShownName(*first->second) + " and " + ShownName(name) +
+                              " would have the same program, " + ShownName(program.string()));
+    }
+    return std::nullopt;
+}
+
+Outcome RunVerb(const Arguments& arguments, const std::string& bannerDate, std::size_t index) noexcept {
+    try {
+        return DocumentRun(arguments, bannerDate, index).Run();
+    } catch (const std::exception& error) {
+        return {{}, FailureLine(arguments.Documents[index], error.what()), kFileError};
+    }
+}
+
+} // namespace orvane::cli

@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "core/ProgramVersion.h"
+
+#include "core/NumberText.h"
+#include "core/Version.h"
+
+namespace orvane {
+
+std::string ProgramVersion() {
+    std::string revision = NumberText(kVersionRevision);
+    if (revision.size() < 3)
+        revision.insert(0, 3 - revision.size(), '0');
+    return "V" + NumberText(kVersionMajor) + "." + NumberText(kVersionMinor) + "." + revision;
+}
+
+} // namespace orvane
