@@ -1,0 +1,132 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "table/StructuralEdits.h"
+
+#include "core/NumberText.h"
+#include "table/RenumberTargets.h"
+
+#include <algorithm>
+
+namespace orvane {
+
+namespace {
+
+// The first state with a transition in the row, 0 when there is none.
+int StateWithTransition(const FsmDocument& document, int row) {
+    for (const int state : StateNumbers())
+        if (document.State(state).Targets[row] != kNoState)
+            return state;
+    return kNoState;
+}
+
+void ShiftCellsDown(StateRecord& state, int row) {
+    for (int r = kLastRow; r > row; --r) {
+        state.Targets[r] = state.Targets[r - 1];
+        state.Actions[r] = state.Actions[r - 1];
+    }
+    state.Targets[row] = kNoState;
+    state.Actions[row].clear();
+}
+
+// The action of the bottom row stays.
+void ShiftCellsUp(StateRecord& state, int row) {
+    for (int r = row; r < kLastRow; ++r) {
+        state.Targets[r] = state.Targets[r + 1];
+        state.Actions[r] = state.Actions[r + 1];
+    }
+    state.Targets[kLastRow] = kNoState;
+}
+
+// Whether an insertion may use the column up. Timing modes and actions are not looked at.
+bool IsFree(const StateRecord& state) {
+    const auto withoutTarget = [&state](int row) { return state.Targets[row] == kNoState; };
+    return state.Name.empty() && state.Tooltip.empty() && state.EntryCode.empty() && state.ExitCode.empty() &&
+           state.TimeConst.empty() && state.TimingVar.empty() && state.TimerId.empty() &&
+           std::all_of(CellRows().begin(), CellRows().end(), withoutTarget);
+}
+
+// The last free column behind this one, 0 when there is none.
+int LastFreeColumnBehind(const FsmDocument& document, int state) {
+    for (int column = kStateCount; column > state; --column)
+        if (IsFree(document.State(column)))
+            return column;
+    return kNoState;
+}
+
+void Forget(TableClipboard& clipboard) { clipboard.Kind = ClipKind::Empty; }
+
+UserMessage BottomRowInUse(int state) {
+    return {"Sorry, you can't insert an event row because at least\r\none state (" + NumberText(state) +
+            ") has a transition in the very bottom cell.\r\n"
+            "and inserting a row involves moving everything down a row."};
+}
+
+UserMessage EventHasTransitions() {
+    return {.Text = "The event row contains one or more state transitions.\r\n"
+                    "Are you quite sure you want to delete it?",
+            .Title = "Careful!",
+            .Icon = MessageIcon::Warning,
+            .Buttons = MessageButtons::YesNo};
+}
+
+UserMessage NoRoomForAState() {
+    return {.Text = "Sorry, there is no room left to insert a new column",
+            .Title = "We have a problem here, Housten",
+            .Icon = MessageIcon::Critical};
+}
+
+} // namespace
+
+std::optional<UserMessage> InsertEvent(FsmDocument& document, TableClipboard& clipboard, int row) {
+    RequireInRange(row, EventRows(), "event row");
+    if (const int state = StateWithTransition(document, kLastRow))
+        return BottomRowInUse(state);
+    for (const int state : StateNumbers())
+        ShiftCellsDown(document.State(state), row);
+    ShiftCellsDown(clipboard.ClipState, row);
+    for (int r = kLastRow; r > row; --r)
+        document.Event(r) = document.Event(r - 1);
+    document.Event(row) = FsmDocument::EventTemplate();
+    return std::nullopt;
+}
+
+bool DeleteEvent(FsmDocument& document, TableClipboard& clipboard, int row, const Question& confirm) {
+    RequireInRange(row, EventRows(), "event row");
+    if (StateWithTransition(document, row) && !confirm(EventHasTransitions()))
+        return false;
+    for (const int state : StateNumbers())
+        ShiftCellsUp(document.State(state), row);
+    ShiftCellsUp(clipboard.ClipState, row);
+    clipboard.ClipState.Actions[kLastRow].clear();
+    for (int r = row; r < kLastRow; ++r)
+        document.Event(r) = document.Event(r + 1);
+    document.Event(kLastRow) = FsmDocument::EventTemplate();
+    return true;
+}
+
+std::optional<UserMessage> InsertState(FsmDocument& document, TableClipboard& clipboard, int state) {
+    RequireInRange(state, StateNumbers(), "state");
+    const int free = LastFreeColumnBehind(document, state);
+    if (free == kNoState)
+        return NoRoomForAState();
+    for (int k = free - 1; k >= state; --k) {
+        document.State(k + 1) = document.State(k);
+        RenumberTargets(document, clipboard, StateNumbers(), {k, k + 1});
+    }
+    document.State(state) = document.StateTemplate();
+    if (clipboard.Kind == ClipKind::Event)
+        Forget(clipboard);
+    return std::nullopt;
+}
+
+void DeleteState(FsmDocument& document, TableClipboard& clipboard, int state) {
+    RequireInRange(state, StateNumbers(), "state");
+    const bool leadsHere = clipboard.Kind == ClipKind::Transition && clipboard.ClipTarget == state;
+    if (leadsHere || clipboard.Kind == ClipKind::Event)
+        Forget(clipboard);
+    for (int k = state; k < kStateCount; ++k) {
+        RenumberTargets(document, clipboard, {1, kStateCount - 1}, {k + 1, k});
+        document.State(k) = document.State(k + 1);
+    }
+}
+
+} // namespace orvane

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Whole rows and columns of the table come and go. What lies behind moves over, transitions are renumbered
+// with the columns they lead to, and the clipboard keeps in step. A command that is refused changes nothing.
+#pragma once
+
+#include "core/FsmDocument.h"
+#include "core/UserMessage.h"
+#include "table/TableClipboard.h"
+
+#include <functional>
+#include <optional>
+
+namespace orvane {
+
+// Asks the user; true is Yes.
+using Question = std::function<bool(const UserMessage& question)>;
+
+// Puts an empty event at the row, 6..54; the bottom one drops out. Refused with a message while a state has a
+// transition in the bottom row.
+std::optional<UserMessage> InsertEvent(FsmDocument& document, TableClipboard& clipboard, int row);
+
+// Takes the event of the row out. Asks once when a state has a transition there. Returns whether it was done.
+//
+// Of the bottom row only the targets and the event are emptied: an action there moves up and stays as well.
+bool DeleteEvent(FsmDocument& document, TableClipboard& clipboard, int row, const Question& confirm);
+
+// Puts an empty state at the column. The states from there up to the last free column behind it move over,
+// and that free column goes. Refused with a message when there is none. A copied event is forgotten.
+std::optional<UserMessage> InsertState(FsmDocument& document, TableClipboard& clipboard, int state);
+
+// Takes the state of the column out. Transitions to it are left, and now lead to the state that was behind
+// it. Column 100 keeps its content, so that columns 99 and 100 are the same then. A copied event is
+// forgotten, and so is a copied transition to the state.
+void DeleteState(FsmDocument& document, TableClipboard& clipboard, int state);
+
+} // namespace orvane

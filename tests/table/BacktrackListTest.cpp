@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "table/BacktrackList.h"
+
+#include "table/RandomTable.h"
+
+#include <gtest/gtest.h>
+
+namespace orvane {
+namespace {
+
+TEST(BacktrackList, TheTitleNamesTheState) {
+    FsmDocument document;
+    document.State(3).Name = "Idle";
+    EXPECT_EQ(BacktrackTitle(document, 3), "Backtracks for state: 3:Idle");
+    EXPECT_EQ(BacktrackTitle(document, 100), "Backtracks for state: 100:");
+}
+
+TEST(BacktrackList, AStateThatNothingTargetsHasNoLines) {
+    FsmDocument document;
+    document.State(1).Targets[6] = 2;
+    EXPECT_TRUE(BacktrackLines(document, 3).empty());
+}
+
+TEST(BacktrackList, AStateThatTargetsItselfIsInItsOwnList) {
+    FsmDocument document;
+    document.Event(6).Name = "Again";
+    document.State(3).Name = "Idle";
+    document.State(3).Targets[6] = 3;
+    EXPECT_EQ(BacktrackLines(document, 3),
+              (std::vector<BacktrackLine>{{"Again", "3:Idle", Colour{255, 153, 204}}}));
+}
+
+TEST(BacktrackList, TimeoutsComeFirstThenElseThenEventsAndInEachTheStatesInOrder) {
+    FsmDocument document;
+    document.Event(6).Name = "Start";
+    document.Event(54).Name = "Last";
+    for (const int state : {90, 2}) {
+        document.State(state).Name = "S";
+        document.State(state).Targets[54] = 5;
+        document.State(state).Targets[6] = 5;
+        document.State(state).Targets[kElseRow] = 5;
+        document.State(state).Targets[kTimeoutRow] = 5;
+    }
+    const Colour timeout{255, 255, 153};
+    const Colour otherwise{255, 238, 204};
+    const Colour event{255, 153, 204};
+    EXPECT_EQ(BacktrackLines(document, 5), (std::vector<BacktrackLine>{{"TimeOut", "2:S", timeout},
+                                                                       {"TimeOut", "90:S", timeout},
+                                                                       {"ELSE", "2:S", otherwise},
+                                                                       {"ELSE", "90:S", otherwise},
+                                                                       {"Start", "2:S", event},
+                                                                       {"Start", "90:S", event},
+                                                                       {"Last", "2:S", event},
+                                                                       {"Last", "90:S", event}}));
+}
+
+TEST(BacktrackList, AgreesWithAPlainSearch) {
+    for (unsigned seed = 1; seed <= 10; ++seed) {
+        const FsmDocument document = RandomTable(seed).Document();
+        for (const int state : StateNumbers()) {
+            std::vector<std::string> expected;
+            for (int row = 4; row <= 54; ++row)
+                for (int from = 1; from <= 100; ++from)
+                    if (document.State(from).Targets[row] == state)
+                        expected.push_back((row == 4   ? "TimeOut"
+                                            : row == 5 ? "ELSE"
+                                                       : document.Event(row).Name) +
+                                           "|" + std::to_string(from) + ":" + document.State(from).Name);
+            std::vector<std::string> listed;
+            for (const BacktrackLine& line : BacktrackLines(document, state))
+                listed.push_back(line.EventText + "|" + line.FromText);
+            ASSERT_EQ(listed, expected) << seed << ' ' << state;
+        }
+    }
+}
+
+TEST(BacktrackList, ALineLeadsBackToTheStateItNames) {
+    EXPECT_EQ(BacktrackedState("3:Idle"), 3);
+    EXPECT_EQ(BacktrackedState("100:"), 100);
+    EXPECT_EQ(BacktrackedState("7:8:9"), 7);
+}
+
+} // namespace
+} // namespace orvane
