@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The example documents: sound as files, free of errors as designs, and together a show of every feature.
 #include "codegen/CodeGenerator.h"
+#include "codegen/Reachability.h"
 #include "core/DocumentReader.h"
 #include "core/DocumentWriter.h"
 #include "core/TightPacked.h"
@@ -108,6 +109,17 @@ TEST(Examples, AreGeneratedWithoutErrorsAndWarnings) {
         const Report report = Generate(document).Findings;
         EXPECT_EQ(report.Count(Severity::Error), 0u) << name << ":\n" << ReportText(report);
         EXPECT_EQ(report.Count(Severity::Warning), 0u) << name << ":\n" << ReportText(report);
+    }
+}
+
+TEST(Examples, ReachEveryStateAndComeBackToTheFirst) {
+    const auto documents = SoundExamples();
+    EXPECT_GE(documents.size(), 8u);
+    for (const auto& [name, document] : documents) {
+        const Reachability reachability = ComputeReachability(document);
+        for (const int state : StateNumbers())
+            EXPECT_EQ(reachability.Reached(state), !IsEmpty(document.State(state)))
+                << name << ", state " << state;
     }
 }
 
