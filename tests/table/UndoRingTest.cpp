@@ -1,0 +1,136 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "table/UndoRing.h"
+
+#include <gtest/gtest.h>
+
+namespace orvane {
+namespace {
+
+std::string Image(int number) { return "image " + std::to_string(number); }
+
+// Image 0 and then this many commits.
+UndoRing RingWith(int commits) {
+    UndoRing ring;
+    ring.Reset(Image(0));
+    for (int number = 1; number <= commits; ++number)
+        EXPECT_TRUE(ring.Commit(Image(number)));
+    return ring;
+}
+
+int UndoneSteps(UndoRing& ring) {
+    int steps = 0;
+    while (ring.UndoStep())
+        ++steps;
+    return steps;
+}
+
+TEST(UndoRing, AfterAResetThereIsNothingToUndoOrRedo) {
+    UndoRing ring = RingWith(5);
+    ring.UndoStep();
+    ring.Reset("fresh");
+    EXPECT_FALSE(ring.CanUndo());
+    EXPECT_FALSE(ring.CanRedo());
+    EXPECT_EQ(ring.UndoStep(), nullptr);
+    EXPECT_EQ(ring.RedoStep(), nullptr);
+    EXPECT_EQ(ring.Current(), "fresh");
+    EXPECT_FALSE(ring.IsModified());
+}
+
+TEST(UndoRing, UndoAndRedoStepThroughTheImages) {
+    UndoRing ring = RingWith(2);
+    ASSERT_NE(ring.UndoStep(), nullptr);
+    EXPECT_EQ(ring.Current(), Image(1));
+    const std::string* oldest = ring.UndoStep();
+    ASSERT_NE(oldest, nullptr);
+    EXPECT_EQ(*oldest, Image(0));
+    EXPECT_FALSE(ring.CanUndo());
+    EXPECT_TRUE(ring.CanRedo());
+    const std::string* newer = ring.RedoStep();
+    ASSERT_NE(newer, nullptr);
+    EXPECT_EQ(*newer, Image(1));
+    EXPECT_TRUE(ring.CanUndo());
+    ring.RedoStep();
+    EXPECT_EQ(ring.Current(), Image(2));
+    EXPECT_FALSE(ring.CanRedo());
+}
+
+TEST(UndoRing, StepsAtTheEndsChangeNothing) {
+    UndoRing ring = RingWith(1);
+    EXPECT_EQ(ring.RedoStep(), nullptr);
+    EXPECT_EQ(ring.Current(), Image(1));
+    ring.UndoStep();
+    EXPECT_EQ(ring.UndoStep(), nullptr);
+    EXPECT_EQ(ring.Current(), Image(0));
+}
+
+TEST(UndoRing, AfterAHundredCommitsUndoGoesBackNinetyNineSteps) {
+    UndoRing ring = RingWith(100);
+    EXPECT_EQ(UndoneSteps(ring), 99);
+    EXPECT_EQ(ring.Current(), Image(1));
+}
+
+TEST(UndoRing, UpToNinetyNineCommitsNothingIsLost) {
+    UndoRing ring = RingWith(99);
+    EXPECT_EQ(UndoneSteps(ring), 99);
+    EXPECT_EQ(ring.Current(), Image(0));
+}
+
+TEST(UndoRing, TheRingGoesRoundManyTimes) {
+    UndoRing ring = RingWith(350);
+    EXPECT_EQ(UndoneSteps(ring), 99);
+    EXPECT_EQ(ring.Current(), Image(251));
+    int redone = 0;
+    while (ring.RedoStep())
+        ++redone;
+    EXPECT_EQ(redone, 99);
+    EXPECT_EQ(ring.Current(), Image(350));
+}
+
+TEST(UndoRing, AnEditAfterUndoEndsRedo) {
+    UndoRing ring = RingWith(3);
+    ring.UndoStep();
+    ring.UndoStep();
+    EXPECT_TRUE(ring.Commit("another"));
+    EXPECT_FALSE(ring.CanRedo());
+    EXPECT_EQ(ring.RedoStep(), nullptr);
+    EXPECT_EQ(UndoneSteps(ring), 2);
+}
+
+TEST(UndoRing, AnUnchangedDocumentIsNoStep) {
+    UndoRing ring = RingWith(1);
+    EXPECT_FALSE(ring.Commit(Image(1)));
+    EXPECT_EQ(UndoneSteps(ring), 1);
+}
+
+TEST(UndoRing, AnUnchangedDocumentDoesNotEndRedo) {
+    UndoRing ring = RingWith(2);
+    ring.UndoStep();
+    EXPECT_FALSE(ring.Commit(Image(1)));
+    EXPECT_TRUE(ring.CanRedo());
+}
+
+TEST(UndoRing, RecreatingAnUndoneStateIsAStepOfItsOwn) {
+    UndoRing ring = RingWith(1);
+    ring.UndoStep();
+    EXPECT_TRUE(ring.Commit(Image(1)));
+    EXPECT_FALSE(ring.CanRedo());
+    EXPECT_EQ(UndoneSteps(ring), 1);
+}
+
+TEST(UndoRing, UndoBackToWhatWasSavedIsNotModified) {
+    UndoRing ring = RingWith(1);
+    EXPECT_TRUE(ring.IsModified());
+    ring.MarkSaved(Image(1));
+    EXPECT_FALSE(ring.IsModified());
+    ring.Commit(Image(2));
+    EXPECT_TRUE(ring.IsModified());
+    ring.UndoStep();
+    EXPECT_FALSE(ring.IsModified());
+    ring.UndoStep();
+    EXPECT_TRUE(ring.IsModified());
+    ring.RedoStep();
+    EXPECT_FALSE(ring.IsModified());
+}
+
+} // namespace
+} // namespace orvane
