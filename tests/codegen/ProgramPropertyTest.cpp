@@ -8,9 +8,16 @@ namespace {
 
 const GenerationContext kContext{"C:\\work\\random.zfsm", "16/11/2026 01:02:03"};
 
+// Without a name nothing is generated.
+FsmDocument NamedDocument() {
+    FsmDocument document = *AnyDocument();
+    document.General.FsmName += "P";
+    return document;
+}
+
 TEST(ProgramProperties, TheSameDocumentGivesTheSameProgramAndReport) {
     ExpectProperty({.Cases = 1500, .LargestSize = 200}, [] {
-        const FsmDocument document = *AnyDocument();
+        const FsmDocument document = NamedDocument();
         const GeneratedProgram first = GenerateProgram(document, kContext);
         const FsmDocument copy = document;
         const GeneratedProgram second = GenerateProgram(copy, kContext);
@@ -23,7 +30,7 @@ TEST(ProgramProperties, TheSameDocumentGivesTheSameProgramAndReport) {
 
 TEST(ProgramProperties, WhatIsNeitherGeneratedNorNamedInMessagesChangesNothing) {
     ExpectProperty({.Cases = 500, .LargestSize = 200}, [] {
-        const FsmDocument document = *AnyDocument();
+        const FsmDocument document = NamedDocument();
         FsmDocument other = document;
         for (const int state : StateNumbers()) {
             other.State(state).ExitCode = *AnyText();
