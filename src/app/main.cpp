@@ -1,10 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/CommandLine.h"
+#include "app/Logo.h"
+#include "app/frmTable.h"
+
 #include <QApplication>
-#include <QMainWindow>
 
 int main(int argc, char* argv[]) {
     const QApplication application(argc, argv);
-    QMainWindow window;
+    QApplication::setApplicationName(QStringLiteral("Orvane"));
+    QApplication::setWindowIcon(orvane::Logo());
+    orvane::frmTable window;
     window.show();
+    window.Start(orvane::ParseCommandLine(QApplication::arguments().mid(1)));
     return QApplication::exec();
 }

@@ -1,0 +1,175 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/DocumentLifecycle.h"
+
+#include "core/ui/AnsiString.h"
+#include "core/ui/DocumentFile.h"
+#include "core/ui/UserMessageBox.h"
+
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <utility>
+
+namespace orvane {
+
+namespace {
+
+constexpr std::size_t kMostBoxes = 5;  // messages about one file that get a box of their own
+constexpr std::size_t kMostLines = 20; // of those that share the last box
+
+QString SettingsFile() { return QStringLiteral("ORVANE_INI.zfsm"); }
+
+bool IsSettingsFile(const QString& path) {
+    return QFileInfo(path).fileName().compare(SettingsFile(), Qt::CaseInsensitive) == 0;
+}
+
+QString FileFilter() { return QStringLiteral("All Files (*.*) (*);;Config file (*.zfsm) (*.zfsm)"); }
+
+QString Shown(const QString& path) { return QDir::toNativeSeparators(path); }
+
+// Messages about a whole block of a file say where; the plain ones about unknown tags need not.
+QString MessageText(const ReaderMessage& message, bool withLine) {
+    const QString text = FromAnsi(message.Text);
+    return withLine && message.Line != 0 ? QStringLiteral("%1\r\n(line %2)").arg(text).arg(message.Line)
+                                         : text;
+}
+
+} // namespace
+
+DocumentLifecycle::DocumentLifecycle(DocumentSession& session, QWidget* window, TraceSink trace)
+    : QObject(window), session_(session), window_(window), trace_(std::move(trace)) {}
+
+void DocumentLifecycle::NewGrid() {
+    LayOutFresh();
+    Q_EMIT Replaced();
+    trace_("NGf");
+}
+
+// Nothing of one document shows in the next.
+void DocumentLifecycle::LayOutFresh() {
+    session_.Document.ClearDataBase(false, trace_);
+    trace_("In NewGrid");
+    session_.Document.General = {};
+    trace_("NGa");
+    session_.Document.View = {};
+    trace_("NGb");
+    session_.CurrentFileName.clear();
+    trace_("NGc");
+    session_.ResetUndoRing();
+    trace_("NGd");
+    trace_("NGe");
+}
+
+void DocumentLifecycle::New() {
+    if (GuardUnsavedWork(QStringLiteral("Orvane"), QStringLiteral("Save changes?")))
+        NewGrid();
+}
+
+void DocumentLifecycle::Open() {
+    if (!GuardUnsavedWork(QStringLiteral("Save?"), QStringLiteral("Save current file?")))
+        return;
+    const QString path =
+        QFileDialog::getOpenFileName(window_, QStringLiteral("Open"), StartFolder(), FileFilter());
+    if (!path.isEmpty())
+        Load(path);
+}
+
+bool DocumentLifecycle::Save() {
+    return session_.CurrentFileName.isEmpty() ? SaveAs() : WriteTo(session_.CurrentFileName);
+}
+
+bool DocumentLifecycle::SaveAs() {
+    QFileDialog dialog(window_, QStringLiteral("Save As"), StartFolder(), FileFilter());
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(QStringLiteral("zfsm"));
+    dialog.selectFile(QFileInfo(session_.CurrentFileName).fileName());
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return false;
+    return WriteTo(dialog.selectedFiles().constFirst());
+}
+
+bool DocumentLifecycle::MayClose() {
+    return GuardUnsavedWork(QStringLiteral("Orvane"), QStringLiteral("Save changes?"));
+}
+
+bool DocumentLifecycle::GuardUnsavedWork(const QString& title, const QString& question) {
+    if (!session_.IsModified())
+        return true;
+    switch (AskYesNoCancel(window_, title, question)) {
+    case QMessageBox::Yes:
+        return Save();
+    case QMessageBox::No:
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool DocumentLifecycle::WriteTo(const QString& path) {
+    const QString fullPath = QFileInfo(path).absoluteFilePath();
+    if (const std::optional<QString> failure = WriteDocumentFile(fullPath, session_.Document)) {
+        Tell(window_,
+             QStringLiteral("The document could not be saved as\r\n%1\r\n%2.\r\n\r\nIt is still open here, "
+                            "with all changes. You can save it under another name.")
+                 .arg(Shown(fullPath), *failure));
+        return false;
+    }
+    session_.CurrentFileName = fullPath;
+    session_.Undo.MarkSaved(Pack(session_.Document));
+    Q_EMIT Saved();
+    return true;
+}
+
+void DocumentLifecycle::Load(const QString& path) {
+    const QString fullPath = QFileInfo(path).absoluteFilePath();
+    DocumentFile file = ReadDocumentFile(fullPath);
+    if (!file.Content) {
+        Tell(window_,
+             QStringLiteral("The file\r\n%1\r\ncould not be opened: %2.").arg(Shown(fullPath), file.Error));
+        return;
+    }
+    const bool hasName = !file.Content->BrokeOff && !IsSettingsFile(fullPath);
+    Take(std::move(file.Content->Document), hasName ? fullPath : QString());
+    TellMessages(fullPath, *file.Content);
+}
+
+void DocumentLifecycle::LoadSettings() {
+    if (QFileInfo::exists(SettingsFile()))
+        Load(SettingsFile());
+}
+
+// What broke off keeps no name: a save would put the part that was read in the place of the whole file.
+void DocumentLifecycle::Take(FsmDocument document, const QString& fileName) {
+    LayOutFresh();
+    trace_("NGf");
+    session_.Document = std::move(document);
+    session_.CurrentFileName = fileName;
+    session_.ResetUndoRing();
+    Q_EMIT Replaced();
+}
+
+void DocumentLifecycle::TellMessages(const QString& path, const ReadResult& result) {
+    const std::size_t count = result.Messages.size();
+    const std::size_t boxes = count <= kMostBoxes ? count : kMostBoxes - 1;
+    for (std::size_t i = 0; i < boxes; ++i)
+        Tell(window_, MessageText(result.Messages[i], result.BrokeOff && i + 1 == count));
+    if (boxes == count && !result.BrokeOff)
+        return;
+    QStringList rest;
+    for (std::size_t i = boxes; i < std::min(count, boxes + kMostLines); ++i)
+        rest += MessageText(result.Messages[i], false);
+    if (count > boxes + kMostLines)
+        rest += QStringLiteral("... and %1 more").arg(count - boxes - kMostLines);
+    if (result.BrokeOff)
+        rest += QStringLiteral("Only what stands before that in\r\n%1\r\nwas read. It has no file name here, "
+                               "so that saving it "
+                               "does not replace the file.")
+                    .arg(Shown(path));
+    Tell(window_, rest.join(QStringLiteral("\r\n")));
+}
+
+QString DocumentLifecycle::StartFolder() const { return QFileInfo(session_.CurrentFileName).path(); }
+
+} // namespace orvane

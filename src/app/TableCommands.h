@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "app/Redraw.h"
+#include "core/FsmDocument.h"
+#include "core/UserMessage.h"
+#include "table/TableClipboard.h"
+
+#include <QObject>
+
+#include <optional>
+
+class QWidget;
+
+namespace orvane {
+
+class TableMenus;
+
+// A cell of the table, heads included.
+struct GridCell {
+    int Row = 0;
+    int Column = 0;
+};
+
+// The commands of the pop-up menus that move, copy and paste whole pieces of the table. They act on the cell
+// that was pressed last.
+class TableCommands : public QObject {
+    Q_OBJECT
+
+  public:
+    // All of them outlive this; questions are asked over the window.
+    TableCommands(FsmDocument& document, const GridCell& pressed, TableMenus& menus, QWidget* window);
+
+    // Connects the menu items; changes run through the runner.
+    void Connect(const CommandRunner& run);
+
+    // Enables what the clipboard's content can be pasted as.
+    void EnablePasteItems();
+
+  private:
+    void ConnectStructure();
+    void ConnectCopies();
+    void ConnectCuts();
+    void ConnectPastes();
+    // An item whose command changes the document and needs everything drawn again.
+    void ConnectChange(const char* item, const std::function<void()>& change);
+    void Refuse(const std::optional<UserMessage>& message);
+
+    FsmDocument& document_;
+    const GridCell& pressed_;
+    TableMenus& menus_;
+    QWidget* window_;
+    CommandRunner run_;
+    TableClipboard clipboard_;
+};
+
+} // namespace orvane

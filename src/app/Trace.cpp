@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/Trace.h"
+
+#include <QLoggingCategory>
+
+#include <string>
+
+namespace orvane {
+
+namespace {
+
+Q_LOGGING_CATEGORY(traceCategory, "orvane.trace", QtInfoMsg)
+
+} // namespace
+
+void Trace(std::string_view label) { qCDebug(traceCategory).noquote() << std::string(label).c_str(); }
+
+} // namespace orvane

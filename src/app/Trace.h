@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string_view>
+
+namespace orvane {
+
+// Passes a label on to the logging category `orvane.trace`, which is off unless it is asked for:
+// QT_LOGGING_RULES="orvane.trace=true".
+void Trace(std::string_view label);
+
+} // namespace orvane

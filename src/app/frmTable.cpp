@@ -1,0 +1,312 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/frmTable.h"
+
+#include "app/DocumentLifecycle.h"
+#include "app/TableMenus.h"
+#include "app/Trace.h"
+#include "app/WindowTitle.h"
+#include "codegen/Reachability.h"
+#include "core/ui/AnsiString.h"
+#include "core/ui/UserMessageBox.h"
+#include "table/CellEdit.h"
+#include "table/ui/CellEditor.h"
+#include "table/ui/FsmGridModel.h"
+#include "table/ui/FsmGridView.h"
+#include "table/ui/HoverHints.h"
+#include "table/ui/TableGrid.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDateTime>
+#include <QDir>
+#include <QLabel>
+#include <QMenu>
+#include <QStatusBar>
+
+#include <array>
+
+namespace orvane {
+
+namespace {
+
+constexpr int kStartWidth = 1100; // pixels
+constexpr int kStartHeight = 700;
+
+struct ViewItem {
+    const char* Name;
+    SpecialRow Row;
+};
+
+constexpr auto kViewItems = std::to_array<ViewItem>({{"mnuShowExitAction", SpecialRow::ExitAction},
+                                                     {"mnuShowElse", SpecialRow::Else},
+                                                     {"mnuShowTimingMode", SpecialRow::TimingMode},
+                                                     {"mnuShowTimeTarget", SpecialRow::TimeTarget}});
+
+} // namespace
+
+frmTable::frmTable(QWidget* parent)
+    : QMainWindow(parent),
+      menus_(new TableMenus(this)),
+      commands_(new TableCommands(session_.Document, pressed_, *menus_, this)),
+      lifecycle_(new DocumentLifecycle(session_, this, &Trace)),
+      grid_(new TableGrid(session_.Document, this)) {
+    setObjectName(QStringLiteral("frmTable"));
+    resize(kStartWidth, kStartHeight);
+    setCentralWidget(grid_);
+    BuildStatusBar();
+    ConnectDocument();
+    ConnectFileMenu();
+    ConnectMenus();
+    ConnectGrid();
+    Trace("Start at " + QDateTime::currentDateTime().toString(Qt::ISODate).toStdString());
+    lifecycle_->NewGrid();
+    grid_->View().setFocus();
+}
+
+void frmTable::BuildStatusBar() {
+    statusBar()->setObjectName(QStringLiteral("StatusBar1"));
+    Panel1 = new QLabel(this);
+    Panel2 = new QLabel(this);
+    Panel3 = new QLabel(this);
+    Panel1->setObjectName(QStringLiteral("Panel1"));
+    Panel2->setObjectName(QStringLiteral("Panel2"));
+    Panel3->setObjectName(QStringLiteral("Panel3"));
+    for (QLabel* panel : {Panel1, Panel2, Panel3})
+        panel->setTextFormat(Qt::PlainText);
+    Panel1->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("***")));
+    Panel1->setAlignment(Qt::AlignCenter);
+    statusBar()->addWidget(Panel1);
+    statusBar()->addWidget(Panel2);
+    statusBar()->addWidget(Panel3, 1);
+}
+
+void frmTable::ConnectDocument() {
+    connect(lifecycle_, &DocumentLifecycle::Replaced, this, &frmTable::ShowReplacedDocument);
+    connect(lifecycle_, &DocumentLifecycle::Saved, this, &frmTable::ShowDocumentState);
+    connect(&generator_, &GeneratorRun::WriteFailed, this, [this](const QString& path, const QString& why) {
+        Tell(this, QStringLiteral("The generated program could not be written to\r\n%1\r\n%2.")
+                       .arg(QDir::toNativeSeparators(path), why));
+    });
+    connect(grid_, &TableGrid::RowsForced, this, &frmTable::ShowViewMarks);
+}
+
+// What is being typed in a cell belongs to the document by now.
+void frmTable::ConnectFileMenu() {
+    const auto connectFile = [this](const char* item, const std::function<void()>& command) {
+        menus_->Connect(item, [this, command] {
+            CommitOpenEdit();
+            command();
+        });
+    };
+    connectFile("mnuFNew", [this] { lifecycle_->New(); });
+    connectFile("mnuFOpen", [this] { lifecycle_->Open(); });
+    connectFile("mnuFSave", [this] { lifecycle_->Save(); });
+    connectFile("mnuFSaveAs", [this] { lifecycle_->SaveAs(); });
+}
+
+void frmTable::ConnectMenus() {
+    menus_->Connect("mnuUndo", [this] { UndoOrRedo(&UndoRing::UndoStep); });
+    menus_->Connect("mnuRedo", [this] { UndoOrRedo(&UndoRing::RedoStep); });
+    for (const ViewItem& item : kViewItems)
+        menus_->Connect(item.Name, [this, row = item.Row] { ToggleView(row); });
+    menus_->Connect("mnuPolytask", [this] { TogglePolytask(); });
+    menus_->Connect("mnuCurrentState", [this] { SetCurrentState(pressed_.Column); });
+    commands_->Connect([this](const Change& change) { RunCommand(change); });
+}
+
+void frmTable::ConnectGrid() {
+    FsmGridView& view = grid_->View();
+    connect(&view, &FsmGridView::CellPressed, this, &frmTable::PressGrid);
+    connect(&view, &FsmGridView::ShiftChanged, this, &frmTable::SetShiftHeld);
+    connect(&view, &FsmGridView::EnterPressed, this,
+            [this] { BeginCellEdit(pressed_.Row, pressed_.Column); });
+    connect(&grid_->Editor(), &CellEditor::CommitWanted, this, &frmTable::CommitCellEdit);
+}
+
+void frmTable::Start(const CommandLine& commandLine) {
+    if (!commandLine.DocumentPath.isEmpty())
+        lifecycle_->Load(commandLine.DocumentPath);
+    else
+        lifecycle_->LoadSettings();
+    Trace("");
+    Trace("a");
+    ShowDocumentState();
+    Trace("b");
+}
+
+void frmTable::closeEvent(QCloseEvent* event) {
+    CommitOpenEdit();
+    event->setAccepted(lifecycle_->MayClose());
+    if (event->isAccepted())
+        QApplication::quit();
+}
+
+void frmTable::RunCommand(const Change& change) {
+    DrawAgain(change());
+    CommitChange();
+    RefreshGenerators();
+}
+
+void frmTable::DrawAgain(const Redraw& redraw) {
+    switch (redraw.What) {
+    case Redraw::Extent::Nothing:
+        break;
+    case Redraw::Extent::Column:
+        grid_->PopulateStateColumn(redraw.Column);
+        break;
+    case Redraw::Extent::RowHeads:
+        grid_->PopulateRowHeaders();
+        break;
+    case Redraw::Extent::AllColumns:
+        grid_->PopulateAllStateColumns();
+        break;
+    case Redraw::Extent::Everything:
+        grid_->RefreshGrid();
+        break;
+    }
+}
+
+void frmTable::CommitChange() {
+    if (session_.Undo.Commit(Pack(session_.Document)))
+        ShowDocumentState();
+}
+
+void frmTable::RefreshGenerators() { generator_.Run(session_.Document, session_.CurrentFileName); }
+
+void frmTable::UndoOrRedo(const std::string* (UndoRing::*step)()) {
+    grid_->Editor().Abandon();
+    if (const std::string* image = (session_.Undo.*step)()) {
+        for (const std::string& fault : Unpack(*image, session_.Document))
+            Tell(this, FromAnsi(fault));
+        grid_->RefreshGrid();
+    }
+    ShowDocumentState();
+    RefreshGenerators();
+}
+
+void frmTable::ShowReplacedDocument() {
+    grid_->Editor().Abandon();
+    grid_->Hints().ClearHoverEffects();
+    grid_->Model().SetCurrentState(kNoState);
+    grid_->RefreshGrid();
+    ShowViewMarks();
+    ShowDocumentState();
+    generator_.RunWithoutFile(session_.Document, session_.CurrentFileName);
+}
+
+void frmTable::ShowDocumentState() {
+    setWindowTitle(WindowTitle(session_.CurrentFileName, session_.IsModified()));
+    menus_->Item("mnuUndo")->setEnabled(session_.Undo.CanUndo());
+    menus_->Item("mnuRedo")->setEnabled(session_.Undo.CanRedo());
+    const std::string& name = session_.Document.General.FsmName;
+    Panel2->setText(name.empty() ? QStringLiteral("[Un-named]") : FromAnsi(name));
+}
+
+void frmTable::ShowViewMarks() {
+    const ViewOptions& view = session_.Document.View;
+    for (const ViewItem& item : kViewItems)
+        menus_->Item(item.Name)->setChecked(IsMarked(view, item.Row));
+    menus_->Item("mnuPolytask")->setChecked(view.Polytask);
+}
+
+void frmTable::PressGrid(const GridPress& press) {
+    grid_->TestForColumWidthChange();
+    pressed_ = {press.Row, press.Column};
+    if (press.Column > 0)
+        PressState(press);
+    else
+        PressRowHead(press);
+}
+
+void frmTable::PressState(const GridPress& press) {
+    if (press.Button == Qt::LeftButton && press.Modifiers == Qt::NoModifier) {
+        if (press.Row >= kFirstCellRow)
+            BeginCellEdit(press.Row, press.Column);
+        else
+            grid_->Editor().Abandon();
+    } else if (press.Button == Qt::RightButton) {
+        if (press.Row == kHeadRow) {
+            const Reachability reachability = ComputeReachability(session_.Document);
+            menus_->Item("mnuDeleteState")->setEnabled(!reachability.Reached(press.Column));
+            PopUp("mnuColumnHead", press.GlobalPosition);
+        } else if (press.Row == kEntryActionRow) {
+            PopUp("mnuEntryAction", press.GlobalPosition);
+        } else if (press.Row >= kFirstCellRow) {
+            PopUp("mnuTranCell", press.GlobalPosition);
+        }
+    }
+}
+
+void frmTable::PressRowHead(const GridPress& press) {
+    grid_->Editor().Abandon();
+    const bool isEvent = press.Row >= kFirstEventRow;
+    if (press.Button == Qt::LeftButton && press.Modifiers == Qt::ShiftModifier)
+        StepMachine(press.Row);
+    else if (press.Button == Qt::RightButton && isEvent)
+        PopUp("mnuEventLabel", press.GlobalPosition);
+}
+
+void frmTable::PopUp(const char* menu, const QPoint& position) {
+    commands_->EnablePasteItems();
+    menus_->Menu(menu)->popup(position);
+}
+
+// Fires the event of this row: the machine goes where the current state's transition leads.
+void frmTable::StepMachine(int row) {
+    const int target = StepTarget(session_.Document, grid_->Model().CurrentState(), row);
+    if (target == kNoState)
+        return;
+    if (target != grid_->Model().CurrentState())
+        grid_->Hints().HideNextState();
+    SetCurrentState(target);
+    grid_->Hints().ShowNextState(row, target);
+}
+
+void frmTable::BeginCellEdit(int row, int column) {
+    CommitOpenEdit();
+    if (row < kFirstCellRow || column == 0 || !CanEditCell(session_.Document, row))
+        return;
+    if (grid_->View().CellRect(row, column).isEmpty())
+        return;
+    grid_->View().setCurrentIndex(grid_->Model().index(row, column));
+    grid_->Editor().Begin(row, column, FromAnsi(CellEditText(session_.Document, row, column)));
+}
+
+void frmTable::CommitCellEdit() {
+    CellEditor& editor = grid_->Editor();
+    const int column = editor.EditColumn();
+    const std::string typed = ToAnsi(editor.text()).Text;
+    RunCommand([&] {
+        if (const auto refusal = StoreTypedTarget(session_.Document, editor.EditRow(), column, typed))
+            Show(this, *refusal);
+        return Redraw{Redraw::Extent::Column, column};
+    });
+    editor.Abandon();
+}
+
+void frmTable::CommitOpenEdit() {
+    if (grid_->Editor().IsOpen())
+        CommitCellEdit();
+}
+
+void frmTable::ToggleView(SpecialRow row) {
+    ToggleRow(session_.Document.View, row, grid_->StandardHeight());
+    grid_->ApplyRowVisibility();
+    ShowViewMarks();
+}
+
+void frmTable::TogglePolytask() {
+    session_.Document.View.Polytask = !session_.Document.View.Polytask;
+    ShowViewMarks();
+    RefreshGenerators();
+}
+
+void frmTable::SetCurrentState(int state) { grid_->Model().SetCurrentState(state); }
+
+void frmTable::SetShiftHeld(bool held) {
+    grid_->Hints().SetShiftHeld(held);
+    Panel1->setText(held ? QStringLiteral("*") : QString());
+}
+
+} // namespace orvane

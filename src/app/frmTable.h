@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "app/CommandLine.h"
+#include "app/DocumentSession.h"
+#include "app/Redraw.h"
+#include "app/TableCommands.h"
+#include "codegen/ui/GeneratorRun.h"
+#include "table/RowVisibility.h"
+
+#include <QMainWindow>
+
+class QLabel;
+
+namespace orvane {
+
+class DocumentLifecycle;
+class TableGrid;
+class TableMenus;
+struct GridPress;
+
+// The main window: the document as a table. It owns the document, its history and the other windows, and runs
+// the commands; what a command does to the document is an engine function.
+class frmTable : public QMainWindow {
+    Q_OBJECT
+
+  public:
+    explicit frmTable(QWidget* parent = nullptr);
+
+    // Opens what the program was started with, or the settings document.
+    void Start(const CommandLine& commandLine);
+
+    // Generates the program anew and writes it.
+    void RefreshGenerators();
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+
+  private:
+    // Building the window.
+    void BuildStatusBar();
+    void ConnectDocument();
+    void ConnectFileMenu();
+    void ConnectMenus();
+    void ConnectGrid();
+
+    // Every change of the document comes through here: change, redraw, CommitChange, RefreshGenerators.
+    void RunCommand(const Change& change);
+    void DrawAgain(const Redraw& redraw);
+    void CommitChange();
+    void UndoOrRedo(const std::string* (UndoRing::*step)());
+
+    // Showing what is the case.
+    void ShowReplacedDocument();
+    void ShowDocumentState();
+    void ShowViewMarks();
+
+    // A press on the table.
+    void PressGrid(const GridPress& press);
+    void PressState(const GridPress& press);
+    void PressRowHead(const GridPress& press);
+    void PopUp(const char* menu, const QPoint& position);
+    void StepMachine(int row);
+
+    // Typing a target.
+    void BeginCellEdit(int row, int column);
+    void CommitCellEdit();
+    void CommitOpenEdit();
+
+    void ToggleView(SpecialRow row);
+    void TogglePolytask();
+    void SetCurrentState(int state);
+    void SetShiftHeld(bool held);
+
+    DocumentSession session_;
+    GeneratorRun generator_;
+    GridCell pressed_; // by the last press of a mouse button
+    TableMenus* menus_;
+    TableCommands* commands_;
+    DocumentLifecycle* lifecycle_;
+    TableGrid* grid_;
+    QLabel* Panel1;
+    QLabel* Panel2;
+    QLabel* Panel3;
+};
+
+} // namespace orvane

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "codegen/ui/GeneratorRun.h"
+
+#include "codegen/BannerDate.h"
+#include "core/ui/AnsiString.h"
+#include "core/ui/DocumentFile.h"
+
+#include <cstdlib>
+#include <ctime>
+
+namespace orvane {
+
+void GeneratorRun::Run(const FsmDocument& document, const QString& documentPath) {
+    Generate(document, documentPath);
+    if (!documentPath.isEmpty() && !latest_.Findings.HasErrors())
+        WriteProgram(QString::fromStdString(ProgramFilePath(documentPath.toStdString())));
+    Q_EMIT Finished();
+}
+
+void GeneratorRun::RunWithoutFile(const FsmDocument& document, const QString& documentPath) {
+    Generate(document, documentPath);
+    Q_EMIT Finished();
+}
+
+void GeneratorRun::Generate(const FsmDocument& document, const QString& documentPath) {
+    generatedOk_ = false;
+    latest_ = GenerateProgram(document, {ToAnsi(documentPath).Text,
+                                         BannerDate(std::time(nullptr), std::getenv("SOURCE_DATE_EPOCH"))});
+}
+
+void GeneratorRun::WriteProgram(const QString& path) {
+    const std::optional<QString> failure = WriteWholeFile(path, ProgramFileBytes(latest_));
+    generatedOk_ = !failure;
+    if (!failure) {
+        toldPath_.clear();
+    } else if (toldPath_ != path) {
+        toldPath_ = path;
+        Q_EMIT WriteFailed(path, *failure);
+    }
+}
+
+} // namespace orvane

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "core/ui/DocumentFile.h"
+
+#include "core/DocumentWriter.h"
+#include "core/ui/AnsiString.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+
+namespace orvane {
+
+namespace {
+
+DocumentFile Failed(const QString& why) { return {std::nullopt, why}; }
+
+// The reader refuses a file as a whole without naming a line.
+bool IsRefused(const ReadResult& result) {
+    return result.BrokeOff && result.Messages.size() == 1 && result.Messages.front().Line == 0;
+}
+
+} // namespace
+
+DocumentFile ReadDocumentFile(const QString& path) {
+    if (QFileInfo(path).isDir())
+        return Failed(QStringLiteral("It is a folder"));
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return Failed(file.errorString());
+    // One byte more than any document has is enough for the reader to refuse it.
+    const QByteArray bytes = file.read(qint64{kLargestDocument} + 1);
+    if (file.error() != QFileDevice::NoError)
+        return Failed(file.errorString());
+    ReadResult result = ReadDocument({bytes.constData(), static_cast<std::size_t>(bytes.size())});
+    if (IsRefused(result))
+        return Failed(FromAnsi(result.Messages.front().Text));
+    return {std::move(result), {}};
+}
+
+std::optional<QString> WriteWholeFile(const QString& path, std::string_view bytes) {
+    QSaveFile file(path);
+    const auto size = static_cast<qint64>(bytes.size());
+    if (file.open(QIODevice::WriteOnly) && file.write(bytes.data(), size) == size && file.commit())
+        return std::nullopt;
+    return file.errorString();
+}
+
+std::optional<QString> WriteDocumentFile(const QString& path, const FsmDocument& document) {
+    return WriteWholeFile(path, WriteDocument(document));
+}
+
+} // namespace orvane

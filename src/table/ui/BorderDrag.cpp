@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "table/ui/BorderDrag.h"
+
+#include "core/TableGeometry.h"
+#include "table/ui/FsmGridView.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace orvane {
+
+namespace {
+
+constexpr int kReach = 3; // pixels at either side of a border
+
+// In a narrow column the borders reach less far, so that its middle stays a place to press.
+int ReachIn(const FsmGridView& view, const QPoint& position) {
+    const QModelIndex cell = view.indexAt(position);
+    return cell.isValid() ? std::clamp(view.columnWidth(cell.column()) / 4, 1, kReach) : kReach;
+}
+
+} // namespace
+
+int BorderDrag::ColumnAt(const QPoint& position) const {
+    const QSize frozen = view_.FrozenSize();
+    if (position.y() < 0 || position.y() >= frozen.height())
+        return -1;
+    const int reach = ReachIn(view_, position);
+    int nearest = -1;
+    for (int column = 0; column < kTableColumns; ++column) {
+        const int border = BorderOf(column);
+        if (column > 0 && border < frozen.width())
+            continue;
+        const int distance = std::abs(position.x() - border);
+        if (distance > reach)
+            continue;
+        // Of borders in one place, the pointer at the right takes the last one: that column was dragged shut.
+        const bool behind = nearest >= 0 && BorderOf(nearest) == border && position.x() >= border;
+        if (nearest < 0 || behind || distance < std::abs(position.x() - BorderOf(nearest)))
+            nearest = column;
+    }
+    return nearest;
+}
+
+bool BorderDrag::Begin(const QPoint& position) {
+    column_ = ColumnAt(position);
+    grip_ = IsActive() ? position.x() - BorderOf(column_) : 0;
+    return IsActive();
+}
+
+bool BorderDrag::MoveTo(const QPoint& position) {
+    const int left = column_ == 0 ? 0 : view_.columnViewportPosition(column_);
+    const int width = std::max(position.x() - grip_ - left, 0);
+    if (width == view_.columnWidth(column_))
+        return false;
+    view_.setColumnWidth(column_, width);
+    return true;
+}
+
+int BorderDrag::BorderOf(int column) const {
+    if (column == 0)
+        return view_.FrozenSize().width();
+    return view_.columnViewportPosition(column) + view_.columnWidth(column);
+}
+
+} // namespace orvane

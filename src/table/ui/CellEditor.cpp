@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "table/ui/CellEditor.h"
+
+#include "table/ui/FsmGridView.h"
+
+#include <QKeyEvent>
+#include <QRegularExpressionValidator>
+
+namespace orvane {
+
+namespace {
+
+QPalette DarkOnLight(QPalette palette) {
+    palette.setColor(QPalette::Base, Qt::white);
+    palette.setColor(QPalette::Text, Qt::black);
+    return palette;
+}
+
+} // namespace
+
+CellEditor::CellEditor(FsmGridView& view) : QLineEdit(view.viewport()), view_(view) {
+    setObjectName(QStringLiteral("txtCellEdit"));
+    setToolTip(QStringLiteral("Enter only the column number of the target state."));
+    setAccessibleName(QStringLiteral("Target state"));
+    setFrame(false);
+    setPalette(DarkOnLight(palette()));
+    setContextMenuPolicy(Qt::NoContextMenu);
+    setAcceptDrops(false);
+    setValidator(new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[0-9]*")), this));
+    hide();
+    connect(&view, &FsmGridView::CellsMoved, this, &CellEditor::CoverCell);
+}
+
+void CellEditor::Begin(int row, int column, const QString& text) {
+    editRow_ = row;
+    editColumn_ = column;
+    setText(text);
+    show();
+    CoverCell();
+    raise();
+    selectAll();
+    setFocus();
+}
+
+void CellEditor::Abandon() {
+    const bool hadFocus = hasFocus();
+    clear();
+    hide();
+    if (hadFocus)
+        view_.setFocus();
+}
+
+// Follows its cell when the table scrolls, and stays open where the cell cannot be seen.
+void CellEditor::CoverCell() {
+    if (!IsOpen())
+        return;
+    const QRect cell = view_.VisibleRect(view_.model()->index(editRow_, editColumn_));
+    setGeometry(cell.isEmpty() ? QRect(-1, -1, 1, 1) : cell);
+}
+
+bool CellEditor::event(QEvent* event) {
+    if (event->type() == QEvent::ShortcutOverride) {
+        event->ignore();
+        return false;
+    }
+    return QLineEdit::event(event);
+}
+
+void CellEditor::keyPressEvent(QKeyEvent* event) {
+    event->accept();
+    switch (event->key()) {
+    case Qt::Key_Delete:
+        clear();
+        Q_EMIT CommitWanted();
+        return;
+    case Qt::Key_Escape:
+        Abandon();
+        return;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        Q_EMIT CommitWanted();
+        return;
+    default:
+        break;
+    }
+    const QString typed = event->text();
+    if (typed.size() == 1 && typed[0] >= QLatin1Char('0') && typed[0] <= QLatin1Char('9'))
+        QLineEdit::keyPressEvent(event);
+}
+
+// The middle button would paste.
+void CellEditor::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() != Qt::MiddleButton)
+        QLineEdit::mouseReleaseEvent(event);
+}
+
+} // namespace orvane

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QLineEdit>
+
+namespace orvane {
+
+class FsmGridView;
+
+// The box laid over a cell in which the number of a target state is typed. It takes digits, Delete, Enter and
+// Escape and no other key, so that the commands of the window keep their shortcuts.
+class CellEditor : public QLineEdit {
+    Q_OBJECT
+
+  public:
+    // Lives in the view's viewport.
+    explicit CellEditor(FsmGridView& view);
+
+    // Opens over a cell that can be seen.
+    void Begin(int row, int column, const QString& text);
+    // Hides and clears the box; what was typed is forgotten.
+    void Abandon();
+
+    bool IsOpen() const { return isVisibleTo(parentWidget()); }
+    int EditRow() const { return editRow_; }
+    int EditColumn() const { return editColumn_; }
+
+  Q_SIGNALS:
+    void CommitWanted();
+
+  protected:
+    bool event(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+
+  private:
+    void CoverCell();
+
+    FsmGridView& view_;
+    int editRow_ = 0;
+    int editColumn_ = 0;
+};
+
+} // namespace orvane

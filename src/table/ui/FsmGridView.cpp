@@ -1,0 +1,259 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "table/ui/FsmGridView.h"
+
+#include "core/TableGeometry.h"
+#include "table/ui/GridPainter.h"
+
+#include <QApplication>
+#include <QHeaderView>
+#include <QMouseEvent>
+#include <QPaintEvent>
+#include <QScrollBar>
+
+#include <algorithm>
+
+namespace orvane {
+
+FsmGridView::FsmGridView(QWidget* parent) : QTableView(parent), borderDrag_(*this) {
+    setObjectName(QStringLiteral("MSFlexGrid1"));
+    setFrameShape(NoFrame);
+    for (QHeaderView* header : {horizontalHeader(), verticalHeader()}) {
+        header->hide();
+        header->setMinimumSectionSize(0);
+        connect(header, &QHeaderView::sectionResized, this, [this] {
+            viewport()->update();
+            Q_EMIT CellsMoved();
+        });
+    }
+    setHorizontalScrollMode(ScrollPerPixel);
+    setVerticalScrollMode(ScrollPerPixel);
+    setEditTriggers(NoEditTriggers);
+    setSelectionMode(SingleSelection);
+    setTabKeyNavigation(false);
+    setContextMenuPolicy(Qt::PreventContextMenu);
+    setMouseTracking(true);
+    viewport()->setMouseTracking(true);
+}
+
+QSize FsmGridView::FrozenSize() const {
+    // However wide column 0 is, some of the table is left to be seen beside it.
+    return {std::min(columnWidth(0), viewport()->width() * 3 / 4), rowHeight(0)};
+}
+
+QRect FsmGridView::BodyRect() const {
+    const QSize frozen = FrozenSize();
+    return viewport()->rect().adjusted(frozen.width(), frozen.height(), 0, 0);
+}
+
+QRect FsmGridView::visualRect(const QModelIndex& index) const {
+    if (!index.isValid() || isRowHidden(index.row()) || isColumnHidden(index.column()))
+        return {};
+    const int x = index.column() == 0 ? 0 : columnViewportPosition(index.column());
+    const int y = index.row() == 0 ? 0 : rowViewportPosition(index.row());
+    return {x, y, columnWidth(index.column()), rowHeight(index.row())};
+}
+
+QRect FsmGridView::VisibleRect(const QModelIndex& index) const {
+    const QSize frozen = FrozenSize();
+    QRect area = viewport()->rect();
+    if (index.column() == 0)
+        area.setWidth(std::min(frozen.width(), area.width()));
+    else
+        area.setLeft(frozen.width());
+    if (index.row() == 0)
+        area.setHeight(std::min(frozen.height(), area.height()));
+    else
+        area.setTop(frozen.height());
+    return visualRect(index).intersected(area);
+}
+
+QRect FsmGridView::CellRect(int row, int col) {
+    if (model() == nullptr)
+        return {};
+    const QModelIndex cell = model()->index(row, col);
+    if (!cell.isValid() || visualRect(cell).isEmpty())
+        return {};
+    scrollTo(cell);
+    return VisibleRect(cell);
+}
+
+QModelIndex FsmGridView::indexAt(const QPoint& position) const {
+    if (model() == nullptr || !viewport()->rect().contains(position))
+        return {};
+    const QSize frozen = FrozenSize();
+    const int row = position.y() < frozen.height() ? 0 : rowAt(position.y());
+    const int column = position.x() < frozen.width() ? 0 : columnAt(position.x());
+    return model()->index(row, column); // not valid for a row or column of -1
+}
+
+namespace {
+
+// Moves the scroll bar as little as brings the stretch first..last (in the viewport) behind the head's end.
+void BringIntoSight(QScrollBar& bar, int first, int last, int headEnd, int viewportEnd) {
+    if (first < headEnd)
+        bar.setValue(bar.value() - (headEnd - first));
+    else if (last > viewportEnd)
+        bar.setValue(bar.value() + std::min(last - viewportEnd, first - headEnd));
+}
+
+} // namespace
+
+void FsmGridView::scrollTo(const QModelIndex& index, ScrollHint) {
+    executeDelayedItemsLayout();
+    const QRect cell = visualRect(index);
+    if (cell.isEmpty())
+        return;
+    const QSize frozen = FrozenSize();
+    if (index.column() > 0)
+        BringIntoSight(*horizontalScrollBar(), cell.left(), cell.left() + cell.width(), frozen.width(),
+                       viewport()->width());
+    if (index.row() > 0)
+        BringIntoSight(*verticalScrollBar(), cell.top(), cell.top() + cell.height(), frozen.height(),
+                       viewport()->height());
+}
+
+void FsmGridView::scrollContentsBy(int dx, int dy) {
+    QTableView::scrollContentsBy(dx, dy);
+    viewport()->update(); // The heads do not scroll along.
+    Q_EMIT CellsMoved();
+}
+
+void FsmGridView::updateGeometries() {
+    QTableView::updateGeometries();
+    Q_EMIT CellsMoved();
+}
+
+void FsmGridView::dataChanged(const QModelIndex& topLeft, const QModelIndex& bottomRight,
+                              const QList<int>& roles) {
+    QTableView::dataChanged(topLeft, bottomRight, roles);
+    const QSize frozen = FrozenSize();
+    if (topLeft.column() == 0)
+        viewport()->update(0, 0, frozen.width(), viewport()->height());
+    if (topLeft.row() == 0)
+        viewport()->update(0, 0, viewport()->width(), frozen.height());
+}
+
+void FsmGridView::paintEvent(QPaintEvent* event) {
+    GridPainter painter(*this, event->rect());
+    const QRect whole = viewport()->rect();
+    const QSize frozen = FrozenSize();
+    painter.PaintOutside();
+    painter.PaintCells(BodyRect());
+    painter.PaintCells({frozen.width(), 0, whole.width() - frozen.width(), frozen.height()});
+    painter.PaintCells({0, frozen.height(), frozen.width(), whole.height() - frozen.height()});
+    painter.PaintCells({0, 0, frozen.width(), frozen.height()});
+}
+
+bool FsmGridView::event(QEvent* event) {
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseMove:
+        // Sent to the view itself, as a script does that knows it only by name.
+        return viewportEvent(event);
+    case QEvent::FontChange:
+    case QEvent::StyleChange:
+        viewport()->update();
+        break;
+    default:
+        break;
+    }
+    return QTableView::event(event);
+}
+
+bool FsmGridView::viewportEvent(QEvent* event) {
+    if (event->type() == QEvent::Leave)
+        Q_EMIT PointerLeft();
+    return QTableView::viewportEvent(event);
+}
+
+void FsmGridView::mousePressEvent(QMouseEvent* event) {
+    event->accept();
+    if (event->button() == Qt::LeftButton && event->modifiers() == Qt::NoModifier &&
+        borderDrag_.Begin(event->position().toPoint()))
+        return;
+    lastPressed_ = indexAt(event->position().toPoint());
+    PressCell(*event);
+    sinceLastPress_.start();
+}
+
+// The second press of a double click has been dealt with by the first one: what that opened is open. Stepping
+// with Shift takes every press.
+void FsmGridView::mouseDoubleClickEvent(QMouseEvent* event) {
+    const QModelIndex cell = indexAt(event->position().toPoint());
+    const bool isSecondHalf = event->modifiers() == Qt::NoModifier && cell.isValid() &&
+                              cell == lastPressed_ && sinceLastPress_.isValid() &&
+                              sinceLastPress_.elapsed() < QApplication::doubleClickInterval();
+    event->accept();
+    if (!isSecondHalf)
+        mousePressEvent(event);
+    lastPressed_ = {};
+}
+
+void FsmGridView::PressCell(const QMouseEvent& event) {
+    const QModelIndex cell = indexAt(event.position().toPoint());
+    if (!cell.isValid())
+        return;
+    if (event.button() == Qt::LeftButton)
+        setCurrentIndex(cell);
+    Q_EMIT CellPressed(
+        {cell.row(), cell.column(), event.button(), event.modifiers(), event.globalPosition().toPoint()});
+}
+
+void FsmGridView::mouseMoveEvent(QMouseEvent* event) {
+    event->accept();
+    const QPoint position = event->position().toPoint();
+    if (DragBorder(*event))
+        return;
+    viewport()->setCursor(borderDrag_.ColumnAt(position) >= 0 ? Qt::SplitHCursor : Qt::ArrowCursor);
+    const QModelIndex cell = indexAt(position);
+    if (cell.isValid())
+        Q_EMIT PointerMoved(cell.row(), cell.column());
+    else
+        Q_EMIT PointerLeft();
+}
+
+void FsmGridView::mouseReleaseEvent(QMouseEvent* event) {
+    event->accept();
+    DragBorder(*event);
+    borderDrag_.End();
+}
+
+bool FsmGridView::DragBorder(const QMouseEvent& event) {
+    if (!borderDrag_.IsActive())
+        return false;
+    if (borderDrag_.MoveTo(event.position().toPoint()))
+        Q_EMIT ColumnWidthDragged();
+    return true;
+}
+
+void FsmGridView::keyPressEvent(QKeyEvent* event) {
+    switch (event->key()) {
+    case Qt::Key_Shift:
+        Q_EMIT ShiftChanged(true);
+        break;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        event->accept();
+        Q_EMIT EnterPressed();
+        return;
+    default:
+        break;
+    }
+    QTableView::keyPressEvent(event);
+}
+
+void FsmGridView::keyReleaseEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Shift)
+        Q_EMIT ShiftChanged(false);
+    QTableView::keyReleaseEvent(event);
+}
+
+// The key may be released where nobody tells us.
+void FsmGridView::focusOutEvent(QFocusEvent* event) {
+    Q_EMIT ShiftChanged(false);
+    QTableView::focusOutEvent(event);
+}
+
+} // namespace orvane

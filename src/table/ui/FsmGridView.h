@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "table/ui/BorderDrag.h"
+
+#include <QElapsedTimer>
+#include <QTableView>
+
+namespace orvane {
+
+// A mouse button pressed on a cell, heads included.
+struct GridPress {
+    int Row = 0;
+    int Column = 0;
+    Qt::MouseButton Button = Qt::NoButton;
+    Qt::KeyboardModifiers Modifiers;
+    QPoint GlobalPosition;
+};
+
+// The table with row 0 and column 0 always in sight.
+//
+// There are no header widgets and no second view: the table scrolls as a whole, and the two heads are painted
+// where the viewport begins, over what has scrolled beneath them. One viewport therefore receives every
+// event, and every question of the kind "which cell is here", "where is this cell" is answered by indexAt()
+// and visualRect(), which know about the heads. The view begins where its viewport begins, so that positions
+// in the one are positions in the other.
+class FsmGridView : public QTableView {
+    Q_OBJECT
+
+  public:
+    explicit FsmGridView(QWidget* parent = nullptr);
+
+    // Scrolls the cell into sight and returns the part of it that can be seen; empty for a cell that is
+    // hidden or does not exist.
+    Q_INVOKABLE QRect CellRect(int row, int col);
+
+    // The part of the cell that can be seen now; empty when nothing can.
+    QRect VisibleRect(const QModelIndex& index) const;
+
+    // Where the cell would be if nothing cut it off.
+    QRect visualRect(const QModelIndex& index) const override;
+    QModelIndex indexAt(const QPoint& position) const override;
+    void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;
+    // A letter typed in the table looks for nothing.
+    void keyboardSearch(const QString&) override {}
+
+    // How much the heads cover of the viewport.
+    QSize FrozenSize() const;
+
+    void dataChanged(const QModelIndex& topLeft, const QModelIndex& bottomRight,
+                     const QList<int>& roles = {}) override;
+
+  Q_SIGNALS:
+    void CellPressed(const orvane::GridPress& press);
+    void PointerMoved(int row, int column);
+    void PointerLeft(); // it is outside all cells
+    void ColumnWidthDragged();
+    void ShiftChanged(bool held);
+    void EnterPressed();
+    // Cells may be somewhere else now.
+    void CellsMoved();
+
+  protected:
+    bool event(QEvent* event) override;
+    bool viewportEvent(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void scrollContentsBy(int dx, int dy) override;
+    void updateGeometries() override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+
+  private:
+    QRect BodyRect() const;
+    bool DragBorder(const QMouseEvent& event);
+    void PressCell(const QMouseEvent& event);
+
+    BorderDrag borderDrag_;
+    QModelIndex lastPressed_; // what the first half of a double click has pressed
+    QElapsedTimer sinceLastPress_;
+};
+
+} // namespace orvane

@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "table/ui/GridGeometry.h"
+
+#include <QApplication>
+#include <QFontMetrics>
+#include <QHeaderView>
+
+#include <algorithm>
+#include <utility>
+
+namespace orvane {
+
+namespace {
+
+// A document may ask for any 32-bit number of twips. More than this many pixels are of no use to anyone, and
+// a hundred such columns still fit the scroll bar's range.
+constexpr int kLargestPixels = 20000;
+constexpr int kRowPadding = 6; // pixels above and below the text together
+
+int PixelsFromTwips(std::int32_t twips) {
+    return std::clamp((std::max(twips, 0) + kTwipsPerPixel / 2) / kTwipsPerPixel, 0, kLargestPixels);
+}
+
+} // namespace
+
+GridGeometry::GridGeometry(FsmDocument& document, QTableView& view)
+    : document_(document),
+      view_(view),
+      standardHeight_((QFontMetrics(view.font()).height() + kRowPadding) * kTwipsPerPixel) {
+    view_.verticalHeader()->setDefaultSectionSize(PixelsFromTwips(standardHeight_));
+    view_.horizontalHeader()->setMaximumSectionSize(kLargestPixels);
+}
+
+void GridGeometry::ApplyColumnWidth(int column) {
+    const int pixels = PixelsFromTwips(DocumentWidth(column));
+    widthCache_[static_cast<std::size_t>(column)] = pixels;
+    if (view_.columnWidth(column) != pixels)
+        view_.setColumnWidth(column, pixels);
+}
+
+void GridGeometry::ApplyColumnWidths() {
+    for (int column = 0; column < kTableColumns; ++column)
+        ApplyColumnWidth(column);
+}
+
+void GridGeometry::ApplyRowHeights() {
+    const RowHeights& heights = document_.View.RowVisible;
+    for (const auto& [row, twips] :
+         {std::pair{kExitActionRow, heights.ExitAction}, std::pair{kTimingModeRow, heights.TimingMode},
+          std::pair{kTimeoutRow, heights.TimeTarget}, std::pair{kElseRow, heights.Else}}) {
+        const int pixels = PixelsFromTwips(twips);
+        view_.setRowHidden(row, pixels == 0);
+        if (pixels != 0)
+            view_.setRowHeight(row, pixels);
+    }
+}
+
+std::vector<int> GridGeometry::TestForColumWidthChange() {
+    std::vector<int> changed;
+    if (QApplication::activeModalWidget() != nullptr)
+        return changed;
+    for (int column = 0; column < kTableColumns; ++column) {
+        const int pixels = view_.columnWidth(column);
+        int& cached = widthCache_[static_cast<std::size_t>(column)];
+        if (pixels == cached)
+            continue;
+        cached = pixels;
+        DocumentWidth(column) = pixels * kTwipsPerPixel;
+        changed.push_back(column);
+    }
+    return changed;
+}
+
+std::int32_t& GridGeometry::DocumentWidth(int column) {
+    return column == 0 ? document_.View.Col0Width : document_.State(column).ColWidth;
+}
+
+} // namespace orvane

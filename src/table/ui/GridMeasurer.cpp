@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "table/ui/GridMeasurer.h"
+
+#include "core/ViewOptions.h"
+#include "core/ui/AnsiString.h"
+
+#include <QFontMetrics>
+
+#include <string>
+#include <unordered_map>
+
+namespace orvane {
+
+namespace {
+
+// A redraw asks for the same few thousand texts again and again, and shaping a text costs a hundred times
+// what finding it costs.
+class CachedWidths {
+  public:
+    explicit CachedWidths(const QFont& font) : metrics_(font) {}
+
+    int operator()(std::string_view text) {
+        if (text.size() > kLongestKept)
+            return Measure(text);
+        if (widths_.size() > kMostKept)
+            widths_.clear();
+        const auto [entry, isNew] = widths_.try_emplace(std::string(text), 0);
+        if (isNew)
+            entry->second = Measure(text);
+        return entry->second;
+    }
+
+  private:
+    static constexpr std::size_t kLongestKept = 256; // characters
+    static constexpr std::size_t kMostKept = 20000;  // texts; a full table has 5555, each cut a few times
+
+    int Measure(std::string_view text) const {
+        return metrics_.horizontalAdvance(CellLine(text)) * kTwipsPerPixel;
+    }
+
+    QFontMetrics metrics_;
+    std::unordered_map<std::string, int> widths_;
+};
+
+} // namespace
+
+QString CellLine(std::string_view text) { return CellLine(FromAnsi(text)); }
+
+QString CellLine(QString text) {
+    return text.replace(QStringLiteral("\r\n"), QStringLiteral(" "))
+        .replace(QLatin1Char('\n'), QLatin1Char(' '))
+        .replace(QLatin1Char('\r'), QLatin1Char(' '));
+}
+
+TextMeasurer GridMeasurer(const QFont& font) { return CachedWidths(font); }
+
+} // namespace orvane

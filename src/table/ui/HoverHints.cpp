@@ -1,0 +1,135 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "table/ui/HoverHints.h"
+
+#include "core/FsmDocument.h"
+#include "core/ui/AnsiString.h"
+#include "table/HoverHint.h"
+#include "table/ui/FsmGridModel.h"
+#include "table/ui/FsmGridView.h"
+#include "table/ui/NextStateMarker.h"
+
+#include <QEvent>
+
+#include <algorithm>
+
+namespace orvane {
+
+namespace {
+
+constexpr int kLowestHighlight = 26 / kTwipsPerPixel; // pixels; lower rows show no head to set off
+constexpr int kHighlightIndent = 2;                   // pixels at its left
+constexpr int kHighlightGap = 1;                      // pixels at its right
+
+QLineEdit* MakeRowHeader(QWidget* parent) {
+    auto* box = new QLineEdit(parent);
+    box->setObjectName(QStringLiteral("txtRowheader"));
+    box->setReadOnly(true);
+    box->setFrame(false);
+    box->setMouseTracking(true);
+    box->setFocusPolicy(Qt::ClickFocus);
+    QPalette palette = box->palette();
+    palette.setColor(QPalette::Base, QColor(255, 225, 238));
+    palette.setColor(QPalette::Text, Qt::black);
+    box->setPalette(palette);
+    box->hide();
+    return box;
+}
+
+} // namespace
+
+HoverHints::HoverHints(const FsmDocument& document, FsmGridModel& model, FsmGridView& view)
+    : QObject(&view),
+      document_(document),
+      model_(model),
+      view_(view),
+      txtRowheader_(MakeRowHeader(view.viewport())),
+      picNextStateMarker_(new NextStateMarker(view.viewport())) {
+    txtRowheader_->installEventFilter(this);
+    connect(&view, &FsmGridView::PointerMoved, this, &HoverHints::PointerAt);
+    connect(&view, &FsmGridView::PointerLeft, this, [this] {
+        ForgetPointer();
+        ClearHoverEffects();
+    });
+    connect(&view, &FsmGridView::CellsMoved, this, [this] {
+        txtRowheader_->hide();
+        PlaceMarker();
+    });
+}
+
+void HoverHints::PointerAt(int row, int column) {
+    Q_EMIT CellEntered();
+    const std::pair cell{row, column};
+    if (pointer_ == cell)
+        return;
+    pointer_ = cell;
+    ClearHoverEffects();
+    ShowCellHint(row, column);
+}
+
+void HoverHints::ShowCellHint(int row, int column) {
+    Q_EMIT HintGone();
+    if (const std::optional<Hint> hint = HoverHint(document_, row, column, shiftHeld_))
+        Q_EMIT HintWanted(FromAnsi(hint->Text), hint->Wrap);
+    if (column == 0 || row < kFirstCellRow)
+        return;
+    ShowRowHeaderHighlight(row);
+    if (shiftHeld_)
+        ShowNextState(row, column);
+}
+
+void HoverHints::ClearHoverEffects() {
+    Q_EMIT HintGone();
+    txtRowheader_->hide();
+    HideNextState();
+}
+
+void HoverHints::ShowNextState(int row, int column) {
+    const int target = document_.State(column).Targets[row];
+    if (target == kNoState)
+        return;
+    model_.Highlight(row, column);
+    markedState_ = target;
+    picNextStateMarker_->show();
+    picNextStateMarker_->raise();
+    PlaceMarker();
+}
+
+void HoverHints::HideNextState() {
+    markedState_ = kNoState;
+    model_.ClearHighlight();
+    picNextStateMarker_->hide();
+}
+
+// At the head of the marked state; at the edge of the table, towards it, when that is out of sight.
+void HoverHints::PlaceMarker() {
+    if (markedState_ == kNoState)
+        return;
+    const QRect head = view_.visualRect(model_.index(kHeadRow, markedState_));
+    const int first = view_.FrozenSize().width();
+    const int last = view_.viewport()->width() - picNextStateMarker_->width();
+    picNextStateMarker_->move(std::clamp(head.left(), first, std::max(first, last)), head.top());
+}
+
+void HoverHints::ShowRowHeaderHighlight(int row) {
+    txtRowheader_->hide();
+    const QModelIndex head = model_.index(row, 0);
+    const QString text = head.data().toString();
+    const QRect cell = view_.VisibleRect(head);
+    if (text.trimmed().isEmpty() || view_.rowHeight(row) <= kLowestHighlight || cell.isEmpty())
+        return;
+    txtRowheader_->setGeometry(cell.left() + kHighlightIndent, cell.top(), cell.width() - kHighlightGap,
+                               cell.height());
+    txtRowheader_->setText(text);
+    txtRowheader_->setCursorPosition(0);
+    txtRowheader_->show();
+}
+
+bool HoverHints::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::FocusIn)
+        view_.setFocus();
+    else if (event->type() == QEvent::MouseMove)
+        txtRowheader_->hide();
+    return QObject::eventFilter(watched, event);
+}
+
+} // namespace orvane

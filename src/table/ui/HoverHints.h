@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QLineEdit>
+#include <QObject>
+
+#include <optional>
+#include <utility>
+
+namespace orvane {
+
+class FsmDocument;
+class FsmGridModel;
+class FsmGridView;
+
+// What happens in the table while the pointer moves over it: the hint of the cell, the head of its row set
+// off, and, while Shift is held, where its transition leads.
+class HoverHints : public QObject {
+    Q_OBJECT
+
+  public:
+    // All three outlive this.
+    HoverHints(const FsmDocument& document, FsmGridModel& model, FsmGridView& view);
+
+    void SetShiftHeld(bool held) { shiftHeld_ = held; }
+
+    void ShowCellHint(int row, int column);
+    void ClearHoverEffects();
+
+    // Points out the cell, yellow, and the head of the state it leads to. Nothing without a transition.
+    void ShowNextState(int row, int column);
+    void HideNextState();
+
+    // The pointer will be in a new cell wherever it moves next.
+    void ForgetPointer() { pointer_.reset(); }
+
+  Q_SIGNALS:
+    // A new cell is under the pointer: widths may have been dragged.
+    void CellEntered();
+    void HintWanted(const QString& text, bool wrap);
+    void HintGone();
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    void PointerAt(int row, int column);
+    void ShowRowHeaderHighlight(int row);
+    void PlaceMarker();
+
+    const FsmDocument& document_;
+    FsmGridModel& model_;
+    FsmGridView& view_;
+    QLineEdit* txtRowheader_;
+    QWidget* picNextStateMarker_;
+    bool shiftHeld_ = false;
+    int markedState_ = 0;                        // at whose head the marker is
+    std::optional<std::pair<int, int>> pointer_; // row and column it was in last
+};
+
+} // namespace orvane
