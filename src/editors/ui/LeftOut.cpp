@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "editors/ui/LeftOut.h"
+
+#include "core/ui/AnsiString.h"
+
+namespace orvane {
+
+namespace {
+
+constexpr int kMostShown = 40; // characters
+
+} // namespace
+
+QString CharactersOutsideDocuments(const QString& text) {
+    QString outside;
+    for (const QChar character : text)
+        if (ToAnsi(QString(character)).LeftOut)
+            outside += character;
+    return outside;
+}
+
+QString LeftOutMessage(const QString& characters) {
+    const QString shown =
+        characters.size() > kMostShown ? characters.left(kMostShown) + QChar(0x2026) : characters;
+    return QStringLiteral("Left out, because a document cannot hold it: %1").arg(shown);
+}
+
+} // namespace orvane

@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Characters that a field does not take, because a document could not hold them.
+#pragma once
+
+#include <QString>
+
+namespace orvane {
+
+// The characters of the text outside Windows-1252, and the delimiter, in their order.
+QString CharactersOutsideDocuments(const QString& text);
+
+// What the window says about them.
+QString LeftOutMessage(const QString& characters);
+
+} // namespace orvane
