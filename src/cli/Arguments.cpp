@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/Arguments.h"
 
+#include "cli/MessageText.h"
 #include "core/ProgramVersion.h"
 
 #include <CLI/CLI.hpp>
@@ -44,6 +45,8 @@ class CommandLine {
         app_.set_version_flag("--version", "orvanec " + ProgramVersion());
         app_.footer(kProgramNotes);
         app_.require_subcommand(1);
+        app_.get_formatter()->label("SUBCOMMAND", "VERB");
+        app_.get_formatter()->label("Subcommands", "Verbs");
         app_.allow_windows_style_options(false);
         AddGenerate();
         AddCheck();
@@ -52,6 +55,7 @@ class CommandLine {
 
     Arguments Parse(int count, const char* const* values);
     Outcome Answer(const CLI::ParseError& error);
+    std::string WhatIsMissing() const;
 
   private:
     void AddGenerate() {
@@ -90,9 +94,12 @@ class CommandLine {
     std::string document_;
     std::optional<std::string> output_;
     std::string format_ = "text";
+    std::string firstWord_;
 };
 
 Arguments CommandLine::Parse(int count, const char* const* values) {
+    if (count > 1)
+        firstWord_ = values[1];
     std::vector<std::string> reversed; // as the parser takes them
     for (int i = count - 1; i > 0; --i)
         reversed.push_back(HideBracket(values[i]));
@@ -113,11 +120,21 @@ Arguments CommandLine::Parse(int count, const char* const* values) {
 }
 
 Outcome CommandLine::Answer(const CLI::ParseError& error) {
+    if (error.get_name() == "RequiredError")
+        return WrongUsage(WhatIsMissing());
     if (error.get_exit_code() != static_cast<int>(CLI::ExitCodes::Success))
         return WrongUsage(error.what());
     Outcome asked;
     asked.Output = error.get_name() == "CallForVersion" ? std::string(error.what()) + "\n" : app_.help();
     return asked;
+}
+
+std::string CommandLine::WhatIsMissing() const {
+    if (!app_.get_subcommands().empty())
+        return "No document is given";
+    return (firstWord_.empty() ? std::string("No verb is given")
+                               : "There is no verb " + ShownName(firstWord_)) +
+           "; the verbs are generate, check and format";
 }
 
 } // namespace

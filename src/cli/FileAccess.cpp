@@ -101,10 +101,11 @@ class TemporaryFile {
 
     std::error_code Failure() const { return failure_; }
 
-    std::error_code Fill(std::string_view bytes) {
-        if (const std::error_code failure = Write(file_.get(), bytes))
-            return failure;
-        if (const std::error_code failure = Sync(file_.get()))
+    std::error_code Fill(std::string_view bytes, Durability durability) {
+        std::error_code failure = Write(file_.get(), bytes);
+        if (!failure && durability == Durability::Synced)
+            failure = Sync(file_.get());
+        if (failure)
             return failure;
         return Close(std::move(file_));
     }
@@ -125,6 +126,8 @@ class TemporaryFile {
     File file_;
     std::error_code failure_;
 };
+
+FileBytes Failed(std::error_code failure) { return {nullptr, 0, failure}; }
 
 // Where a chain of links ends, whether or not there is a file.
 fs::path LinkTarget(fs::path path) {
@@ -150,38 +153,41 @@ bool NamesOpenFile(const fs::path& path) {
 } // namespace
 
 FileBytes ReadWholeFile(const fs::path& path, std::size_t limit) {
-    std::error_code ignored;
-    const fs::file_status status = fs::status(path, ignored);
+    std::error_code noSize;
+    const fs::file_status status = fs::status(path, noSize);
     if (fs::is_directory(status)) // not every system says so by itself
-        return {{}, make_error_code(std::errc::is_a_directory)};
+        return Failed(make_error_code(std::errc::is_a_directory));
     const File file = Open(path, "rb");
     if (!file)
-        return {{}, LastError()};
-    const std::uintmax_t size = fs::is_regular_file(status) ? fs::file_size(path, ignored) : 0;
-    if (!ignored && size > limit)
-        return {{}, make_error_code(std::errc::file_too_large)};
+        return Failed(LastError());
+    const std::uintmax_t size = fs::is_regular_file(status) ? fs::file_size(path, noSize) : 0;
+    if (!noSize && size > limit)
+        return Failed(make_error_code(std::errc::file_too_large));
 
-    std::string bytes;
-    std::size_t length = 0;
     constexpr std::size_t chunk = 64u << 10;
-    bytes.resize(std::max<std::size_t>(ignored ? 0 : size + 1, chunk)); // one more, to meet the end at once
-    while (const std::size_t read = std::fread(bytes.data() + length, 1, bytes.size() - length, file.get())) {
-        length += read;
-        if (length > limit)
-            return {{}, make_error_code(std::errc::file_too_large)};
-        if (length == bytes.size())
-            bytes.resize(2 * length);
+    std::size_t room =
+        std::max<std::size_t>(noSize ? 0 : size + 1, chunk); // one more, to meet the end at once
+    FileBytes bytes{std::make_unique_for_overwrite<char[]>(room), 0, {}};
+    while (const std::size_t read =
+               std::fread(bytes.Buffer.get() + bytes.Length, 1, room - bytes.Length, file.get())) {
+        bytes.Length += read;
+        if (bytes.Length > limit)
+            return Failed(make_error_code(std::errc::file_too_large));
+        if (bytes.Length < room)
+            break;
+        auto larger = std::make_unique_for_overwrite<char[]>(room *= 2);
+        std::copy_n(bytes.Buffer.get(), bytes.Length, larger.get());
+        bytes.Buffer = std::move(larger);
     }
     if (std::ferror(file.get()) != 0)
-        return {{}, LastError()};
-    bytes.resize(length);
-    return {std::move(bytes), {}};
+        return Failed(LastError());
+    return bytes;
 }
 
-std::error_code WriteWholeFile(const fs::path& path, std::string_view bytes) {
+std::error_code WriteWholeFile(const fs::path& path, std::string_view bytes, Durability durability) {
     std::error_code failure;
     const fs::file_status older = fs::status(path, failure);
-    if (failure && fs::exists(older))
+    if (failure && older.type() != fs::file_type::not_found)
         return failure;
     if (fs::is_directory(older))
         return make_error_code(std::errc::is_a_directory);
@@ -195,7 +201,7 @@ std::error_code WriteWholeFile(const fs::path& path, std::string_view bytes) {
     TemporaryFile temporary(target.parent_path());
     if (temporary.Failure())
         return temporary.Failure();
-    if ((failure = temporary.Fill(bytes)))
+    if ((failure = temporary.Fill(bytes, durability)))
         return failure;
     return temporary.TakePlaceOf(target, older);
 }

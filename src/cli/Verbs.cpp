@@ -32,7 +32,7 @@ class DocumentRun {
     void Check(const Report& report);
     void Format();
 
-    void WriteBytes(const fs::path& target, std::string bytes);
+    void WriteBytes(const fs::path& target, std::string bytes, Durability durability);
     bool WritesOver(const fs::path& target) const {
         std::error_code none;
         return fs::equivalent(target, name_, none);
@@ -50,14 +50,14 @@ class DocumentRun {
     const Arguments& arguments_;
     const std::string& bannerDate_;
     const std::string& name_;
-    ReadResult read_;
+    std::optional<ReadResult> read_; // there from Read() on; an empty document when none could be read
     Outcome outcome_;
 };
 
 Outcome DocumentRun::Run() {
     const bool isDocument = Read();
     if (arguments_.What == Verb::Check && isDocument)
-        Check(GenerateProgram(read_.Document, {}).Findings);
+        Check(GenerateProgram(read_->Document, {}).Findings);
     else if (arguments_.What == Verb::Check && AsJson())
         Check({}); // so that there is a line for each document
     else if (arguments_.What == Verb::Generate && isDocument)
@@ -74,53 +74,54 @@ bool DocumentRun::Read() {
         const std::string what = tooLarge ? "is larger than 64 MiB, which no document is" : "cannot be read";
         const std::error_code reason = tooLarge ? std::error_code() : file.Failure;
         Fail(what, reason);
-        read_.BrokeOff = true;
-        read_.Messages.push_back({"The file " + what + (reason ? " (" + reason.message() + ")" : ""), 0});
+        read_.emplace().BrokeOff = true;
+        read_->Messages.push_back({"The file " + what + (reason ? " (" + reason.message() + ")" : ""), 0});
         return false;
     }
-    read_ = ReadDocument(file.Bytes);
-    for (const ReaderMessage& message : read_.Messages)
+    read_ = ReadDocument(file.Bytes());
+    for (const ReaderMessage& message : read_->Messages)
         outcome_.Errors += MessageLine(name_, message);
-    if (read_.BrokeOff)
+    if (read_->BrokeOff)
         outcome_.Raise(kFileError);
     // Where reading stopped has a line; a file that was refused as a whole has none.
-    return !read_.BrokeOff || read_.Messages.front().Line != 0;
+    return !read_->BrokeOff || read_->Messages.front().Line != 0;
 }
 
 void DocumentRun::Generate() {
     const fs::path document = FullPath(name_);
-    const GeneratedProgram program = GenerateProgram(read_.Document, {PathInProgram(document), bannerDate_});
+    const GeneratedProgram program = GenerateProgram(read_->Document, {PathInProgram(document), bannerDate_});
     outcome_.Errors += HeadedReport(program.Findings);
     if (program.Findings.HasErrors())
         outcome_.Raise(kDesignError);
-    if (program.Findings.HasErrors() || read_.BrokeOff)
+    if (program.Findings.HasErrors() || read_->BrokeOff)
         return;
     const fs::path target = arguments_.Output ? fs::path(*arguments_.Output) : ProgramPath(document);
     if (WritesOver(target))
         return Fail("the program would take the place of the document; name another file with -o");
-    WriteBytes(target, ProgramFileBytes(program));
+    // Not waiting for the disk: the program can be made again.
+    WriteBytes(target, ProgramFileBytes(program), Durability::Flushed);
 }
 
 void DocumentRun::Check(const Report& report) {
     if (report.HasErrors())
         outcome_.Raise(kDesignError);
-    outcome_.Output = AsJson() ? JsonLine({name_, read_.Document, report, read_.Messages, !read_.BrokeOff})
+    outcome_.Output = AsJson() ? JsonLine({name_, read_->Document, report, read_->Messages, !read_->BrokeOff})
                                : HeadedReport(report);
 }
 
 void DocumentRun::Format() {
     const fs::path target = arguments_.Output.value_or(name_);
-    if (read_.BrokeOff && WritesOver(target))
+    if (read_->BrokeOff && WritesOver(target))
         return Fail("is not written over, because it was not read to its end");
-    WriteBytes(target, WriteDocument(read_.Document));
+    WriteBytes(target, WriteDocument(read_->Document), Durability::Synced);
 }
 
-void DocumentRun::WriteBytes(const fs::path& target, std::string bytes) {
+void DocumentRun::WriteBytes(const fs::path& target, std::string bytes, Durability durability) {
     if (target == kStandardOutput) {
         outcome_.Output = std::move(bytes);
         return;
     }
-    if (const std::error_code failure = WriteWholeFile(target, bytes))
+    if (const std::error_code failure = WriteWholeFile(target, bytes, durability))
         Fail(ShownName(target.string()) + " cannot be written", failure);
 }
 

@@ -1,0 +1,227 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What goes wrong with files, and what has to stay whole then.
+#include "cli/Orvanec.h"
+
+#include <cstdlib>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace orvane {
+namespace {
+
+namespace fs = std::filesystem;
+
+class Files : public Orvanec {
+  protected:
+    Files() { WriteFile("pump.zfsm", PumpDocument()); }
+
+    void ExpectUnread(const std::string& name, const std::string& why) const {
+        const RunResult run = Run("check " + name);
+        EXPECT_EQ(run.Status, 3);
+        EXPECT_EQ(run.Output, "");
+        EXPECT_EQ(run.Errors, "orvanec: " + name + ": " + why + "\n");
+    }
+    // Generating to that output fails for the reason given.
+    void ExpectUnwritten(const std::string& output, const std::string& why) const {
+        const RunResult run = Run("generate pump.zfsm -o " + output);
+        EXPECT_EQ(run.Status, 3);
+        EXPECT_EQ(run.Output, "");
+        EXPECT_EQ(run.Errors, std::string(kCleanReport) + "orvanec: pump.zfsm: " + output +
+                                  " cannot be written (" + why + ")\n");
+    }
+    static bool IsRoot() { return geteuid() == 0; }
+};
+
+TEST_F(Files, AMissingDocumentIsTold) {
+    ExpectUnread("gone.zfsm", "cannot be read (No such file or directory)");
+}
+
+TEST_F(Files, AFolderIsNoDocument) {
+    fs::create_directory(Path("folder"));
+    ExpectUnread("folder", "cannot be read (Is a directory)");
+}
+
+TEST_F(Files, AnUnreadableDocumentIsTold) {
+    if (IsRoot())
+        GTEST_SKIP() << "root reads everything";
+    fs::permissions(Path("pump.zfsm"), fs::perms::none);
+    ExpectUnread("pump.zfsm", "cannot be read (Permission denied)");
+}
+
+TEST_F(Files, AReadErrorIsTold) {
+    if (!fs::exists("/proc/self/mem"))
+        GTEST_SKIP() << "no file here that opens and cannot be read";
+    ExpectUnread("/proc/self/mem", "cannot be read (Input/output error)");
+}
+
+TEST_F(Files, ABinaryFileIsNoDocument) {
+    WriteFile("b.zfsm", std::string("\x7F"
+                                    "ELF\0\0\n\r\xFF\xFE",
+                                    10));
+    const RunResult run = Run("generate b.zfsm");
+    EXPECT_EQ(run.Status, 3);
+    EXPECT_EQ(run.Errors, "b.zfsm: The file is not a document: it holds no field\n");
+    EXPECT_EQ(Listing(), "b.zfsm pump.zfsm ");
+}
+
+TEST_F(Files, AControlCharacterInANameStaysOnItsLine) {
+    const RunResult run = Run("check \"$(printf 'a\\nb\\033')\"");
+    EXPECT_EQ(run.Errors, "orvanec: a\\x0Ab\\x1B: cannot be read (No such file or directory)\n");
+}
+
+TEST_F(Files, APipeIsReadToItsEnd) {
+    const RunResult run = Run("check /dev/stdin", "cat pump.zfsm |");
+    EXPECT_EQ(run.Status, 0);
+    EXPECT_EQ(run.Output, kCleanReport);
+}
+
+TEST_F(Files, AMissingFolderIsTold) {
+    ExpectUnwritten("nowhere/pump.zls", "No such file or directory");
+    EXPECT_EQ(Listing(), "pump.zfsm ");
+}
+
+TEST_F(Files, AFileInPlaceOfTheFolderIsTold) { ExpectUnwritten("pump.zfsm/pump.zls", "Not a directory"); }
+
+TEST_F(Files, AFolderIsNotWrittenOver) {
+    fs::create_directory(Path("pump.zls"));
+    ExpectUnwritten("pump.zls", "Is a directory");
+    EXPECT_EQ(Listing(), "pump.zfsm pump.zls ");
+}
+
+TEST_F(Files, AReadOnlyFolderStaysAsItIs) {
+    if (IsRoot())
+        GTEST_SKIP() << "root writes everywhere";
+    fs::create_directory(Path("kept"));
+    fs::permissions(Path("kept"), fs::perms::owner_read | fs::perms::owner_exec);
+    ExpectUnwritten("kept/pump.zls", "Permission denied");
+    EXPECT_EQ(Listing("kept"), "");
+}
+
+TEST_F(Files, AReadOnlyFileStaysAsItIs) {
+    if (IsRoot())
+        GTEST_SKIP() << "root writes everything";
+    WriteFile("pump.zls", "older program");
+    fs::permissions(Path("pump.zls"), fs::perms::owner_read);
+    ExpectUnwritten("pump.zls", "Permission denied");
+    EXPECT_EQ(ReadFile("pump.zls"), "older program");
+}
+
+TEST_F(Files, AFullDeviceIsToldAndStaysADevice) {
+    ExpectUnwritten("/dev/full", "No space left on device");
+    EXPECT_TRUE(fs::is_character_file("/dev/full"));
+}
+
+TEST_F(Files, AFullDiskLeavesTheOlderFileWhole) {
+    fs::create_directory(Path("disk"));
+    const std::string mount = "mount -t tmpfs -o size=64k tmpfs '" + PathText("disk") + "' 2>/dev/null";
+    if (!IsRoot() || std::system(mount.c_str()) != 0)
+        GTEST_SKIP() << "a disk to fill cannot be mounted here";
+    std::string large = PumpDocument();
+    large.replace(large.find(";pump"), 5, std::string(60000, 'x'));
+    WriteFile("large.zfsm", large);
+    WriteFile("disk/large.zls", "older program");
+    WriteFile("disk/small.zfsm", PumpDocument());
+    const RunResult program = Run("generate large.zfsm -o disk/large.zls");
+    const RunResult document = Run("format large.zfsm -o disk/small.zfsm");
+    const std::string left = Listing("disk");
+    const std::string oldProgram = ReadFile("disk/large.zls");
+    const std::string oldDocument = ReadFile("disk/small.zfsm");
+    EXPECT_EQ(std::system(("umount '" + PathText("disk") + "'").c_str()), 0);
+
+    EXPECT_EQ(program.Status, 3);
+    EXPECT_EQ(program.Errors, std::string(kCleanReport) + "orvanec: large.zfsm: disk/large.zls cannot be "
+                                                          "written (No space left on device)\n");
+    EXPECT_EQ(document.Status, 3);
+    EXPECT_EQ(document.Errors,
+              "orvanec: large.zfsm: disk/small.zfsm cannot be written (No space left on device)\n");
+    EXPECT_EQ(left, "large.zls small.zfsm ");
+    EXPECT_EQ(oldProgram, "older program");
+    EXPECT_EQ(oldDocument, PumpDocument());
+}
+
+TEST_F(Files, AFullStandardOutputIsTold) {
+    for (const char* arguments : {"check pump.zfsm", "generate -o - pump.zfsm 2>/dev/null",
+                                  "format -o - pump.zfsm", "--help", "--version"}) {
+        const RunResult run = Run(std::string(arguments) + " >/dev/full");
+        EXPECT_EQ(run.Status, 3) << arguments;
+    }
+    EXPECT_EQ(Run("check pump.zfsm >/dev/full").Errors,
+              "orvanec: standard output: cannot be written (No space left on device)\n");
+}
+
+TEST_F(Files, AClosedStandardOutputIsToldAndNoFileTakesItsPlace) {
+    const RunResult run = Run("check pump.zfsm pump.zfsm >&-");
+    EXPECT_EQ(run.Status, 3);
+    EXPECT_EQ(run.Errors, "orvanec: standard output: cannot be written (Bad file descriptor)\n"
+                          "orvanec: standard output: cannot be written (Bad file descriptor)\n");
+    EXPECT_EQ(Run("generate pump.zfsm 2>&-").Status, 3);
+    EXPECT_EQ(ReadFile("pump.zls"), PumpProgram(PathText("pump.zfsm")));
+}
+
+TEST_F(Files, AnOlderProgramIsReplacedAndKeepsItsPermissions) {
+    WriteFile("pump.zls", std::string(5000, 'x'));
+    fs::permissions(Path("pump.zls"), fs::perms(0640));
+    EXPECT_EQ(Run("generate pump.zfsm").Status, 0);
+    EXPECT_EQ(ReadFile("pump.zls"), PumpProgram(PathText("pump.zfsm")));
+    EXPECT_EQ(fs::status(Path("pump.zls")).permissions(), fs::perms(0640));
+}
+
+TEST_F(Files, ANewProgramHasThePermissionsThatTheUserGivesNewFiles) {
+    EXPECT_EQ(Run("generate pump.zfsm", "umask 027;").Status, 0);
+    EXPECT_EQ(fs::status(Path("pump.zls")).permissions(), fs::perms(0640));
+}
+
+TEST_F(Files, ALinkStaysALink) {
+    fs::create_directory(Path("far"));
+    WriteFile("far/real.zls", "older program");
+    fs::create_symlink("far/middle", Path("pump.zls"));
+    fs::create_symlink("real.zls", Path("far/middle"));
+    EXPECT_EQ(Run("generate pump.zfsm").Status, 0);
+    EXPECT_TRUE(fs::is_symlink(Path("pump.zls")));
+    EXPECT_TRUE(fs::is_symlink(Path("far/middle")));
+    EXPECT_EQ(ReadFile("far/real.zls"), PumpProgram(PathText("pump.zfsm")));
+    EXPECT_EQ(Listing("far"), "middle real.zls ");
+}
+
+TEST_F(Files, ALinkToAFileThatIsNotThereYetStaysALink) {
+    fs::create_symlink("real.zls", Path("pump.zls"));
+    EXPECT_EQ(Run("generate pump.zfsm").Status, 0);
+    EXPECT_TRUE(fs::is_symlink(Path("pump.zls")));
+    EXPECT_EQ(ReadFile("real.zls"), PumpProgram(PathText("pump.zfsm")));
+}
+
+TEST_F(Files, LinksInACircleAreTold) {
+    fs::create_symlink("b", Path("a"));
+    fs::create_symlink("a", Path("b"));
+    ExpectUnwritten("a", "Too many levels of symbolic links");
+    EXPECT_EQ(Listing(), "a b pump.zfsm ");
+}
+
+TEST_F(Files, APipeIsWrittenToAndStaysAPipe) {
+    ASSERT_EQ(mkfifo(Path("pipe").c_str(), 0600), 0);
+    const RunResult run = Run("generate pump.zfsm -o pipe 2>/dev/null; wait", "cat pipe &");
+    EXPECT_EQ(run.Output, PumpProgram(PathText("pump.zfsm")));
+    EXPECT_TRUE(fs::is_fifo(Path("pipe")));
+    EXPECT_EQ(Listing(), "pipe pump.zfsm ");
+}
+
+TEST_F(Files, TheDeviceOfStandardOutputIsWrittenToAndNotReplaced) {
+    if (!fs::exists("/dev/stdout"))
+        GTEST_SKIP() << "no such device here";
+    const RunResult toFile = Run("generate pump.zfsm -o /dev/stdout >captured");
+    EXPECT_EQ(toFile.Status, 0);
+    EXPECT_EQ(ReadFile("captured"), PumpProgram(PathText("pump.zfsm")));
+    const RunResult toPipe = Run("generate pump.zfsm -o /dev/stdout 2>/dev/null | cat");
+    EXPECT_EQ(toPipe.Output, PumpProgram(PathText("pump.zfsm")));
+}
+
+TEST_F(Files, AVeryLongNameIsStillWritten) {
+    const std::string name(250, 'n');
+    WriteFile(name + ".zfs", PumpDocument());
+    EXPECT_EQ(Run("generate " + name + ".zfs").Status, 0);
+    EXPECT_EQ(ReadFile(name + ".zls"), PumpProgram(PathText(name + ".zfs")));
+}
+
+} // namespace
+} // namespace orvane
