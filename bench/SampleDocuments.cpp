@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "SampleDocuments.h"
+
+#include "core/NumberText.h"
+#include "core/TimingMode.h"
+
+namespace orvane {
+
+namespace {
+
+void FillGeneral(GeneralCode& general) {
+    general.FsmName = "PLT";
+    general.HeaderComment = "; Control of the plant.\r\n; One machine, made to be measured.";
+    general.CodeSeg = "OpenValve:\r\n\tSet\tvalve\r\n\tReturn\r\nCloseValve:\r\n\tClear\tvalve\r\n\tReturn";
+    general.InitSeg = "\tClear\tvalve";
+    general.NvEm0Data = "plantState:\tdefByte\t0";
+    general.Instances = "1";
+}
+
+void FillEvent(EventRecord& event, int row) {
+    const std::string number = NumberText(row);
+    event.Name = "Input " + number + " rises";
+    event.Code = "\tLoad\tinput" + number + "\r\n\tTest\tinput" + number;
+    event.Tooltip = "The input " + number + " has become true";
+}
+
+void FillTiming(StateRecord& state, int number) {
+    state.TimingMode = number % 2 == 0 ? kStartConstant : kStartVariable;
+    state.TimeConst = NumberText(number * 10);
+    state.TimingVar = "\tfLoad\tlimit" + NumberText(number);
+    state.TimerId = number % 4 == 0 ? "" : "T" + NumberText(number % 4);
+    state.Targets[kTimeoutRow] = 1;
+}
+
+void FillState(StateRecord& state, int number, int states, int events) {
+    const std::string text = NumberText(number);
+    state.Name = "Step" + text;
+    state.Tooltip = "The plant is in step " + text;
+    state.EntryCode = "\tLoad\tstep\r\n\tStore\tdisplay\r\n\tCall\tOpenValve";
+    state.ExitCode = "\tCall\tCloseValve";
+    FillTiming(state, number);
+    for (int row = kFirstEventRow; row < kFirstEventRow + events; ++row) {
+        state.Targets[row] = static_cast<std::int16_t>((number + row) % states + 1);
+        state.Actions[row] =
+            "\tLoad\tvalue" + NumberText(row) + "\r\n\tAdd\tstep" + text + "\r\n\tStore\tresult";
+    }
+}
+
+} // namespace
+
+FsmDocument SampleDocument(int states, int events) {
+    FsmDocument document;
+    document.View.Polytask = true;
+    FillGeneral(document.General);
+    for (int row = kFirstEventRow; row < kFirstEventRow + events; ++row)
+        FillEvent(document.Event(row), row);
+    for (int number = 1; number <= states; ++number)
+        FillState(document.State(number), number, states, events);
+    return document;
+}
+
+FsmDocument MidSizeDocument() { return SampleDocument(20, 15); }
+
+FsmDocument DocumentAtTheLimit() { return SampleDocument(kStateCount, kLastRow - kFirstEventRow + 1); }
+
+} // namespace orvane
