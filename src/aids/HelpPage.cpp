@@ -7,6 +7,4 @@ std::string HelpPageAddress(std::string_view baseAddress, int page) {
     return std::string(baseAddress) + std::to_string(page) + ".htm";
 }
 
-bool IsHelpKey(int keyCode, bool shiftCtrlOrAlt) { return keyCode == kHelpKeyCode && !shiftCtrlOrAlt; }
-
 } // namespace orvane

@@ -10,11 +10,5 @@ TEST(HelpPage, TheAddressIsTheBaseTheNumberAndHtm) {
     EXPECT_EQ(HelpPageAddress("https://help.example/kb/", 4835), "https://help.example/kb/4835.htm");
 }
 
-TEST(HelpPage, OnlyTheBareHelpKeyOpensIt) {
-    EXPECT_TRUE(IsHelpKey(112, false));
-    EXPECT_FALSE(IsHelpKey(112, true));
-    EXPECT_FALSE(IsHelpKey(113, false));
-}
-
 } // namespace
 } // namespace orvane

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The one door to the desktop: everything that the program has opened for it passes here.
+#pragma once
+
+#include <QUrl>
+
+class QWidget;
+
+namespace orvane {
+
+// Opens a page, a file or a folder with what the desktop has for it. False when there is no such thing.
+bool OpenInDesktop(const QUrl& address);
+
+// Where a page of the knowledge base is: at the address that the environment names (ORVANE_HELP_URL), else
+// the one that was set when the program was built, else among the pages that the program brings along.
+QUrl HelpPage(int page);
+
+bool OpenHelpPage(int page);
+
+// F1 with no other key opens the page while this window is the active one, whatever has the focus in it.
+void AddHelpKey(QWidget& window, int page);
+
+} // namespace orvane

@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "table/ui/frmBackTrack.h"
+
+#include "aids/ui/OpenInDesktop.h"
+#include "core/ui/AnsiString.h"
+
+#include <QEvent>
+#include <QHeaderView>
+#include <QTableWidget>
+#include <QVBoxLayout>
+
+#include <utility>
+
+namespace orvane {
+
+namespace {
+
+constexpr QSize kFirstSize{360, 400};
+constexpr int kHelpPage = 4965;
+constexpr int kEventColumn = 0;
+constexpr int kFromColumn = 1;
+constexpr int kEventPercent = 45; // of the grid's width; the other column has the rest
+
+// The grounds are light on every desktop, so the text is dark on every desktop.
+QTableWidgetItem* Cell(const std::string& text, Colour ground) {
+    auto* item = new QTableWidgetItem(FromAnsi(text));
+    item->setBackground(QColor(ground.Red, ground.Green, ground.Blue));
+    item->setForeground(Qt::black);
+    return item;
+}
+
+} // namespace
+
+frmBackTrack::frmBackTrack(QWidget* parent) : QWidget(parent, Qt::Window) {
+    setObjectName(QStringLiteral("frmBackTrack"));
+    BuildGrid();
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(MSFlexGrid1);
+    resize(kFirstSize);
+    AddHelpKey(*this, kHelpPage);
+}
+
+void frmBackTrack::BuildGrid() {
+    MSFlexGrid1 = new QTableWidget(0, 2, this);
+    MSFlexGrid1->setObjectName(QStringLiteral("MSFlexGrid1"));
+    MSFlexGrid1->setAccessibleName(tr("Transitions into the state"));
+    MSFlexGrid1->setHorizontalHeaderLabels({tr("Event"), tr("From state")});
+    MSFlexGrid1->horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    MSFlexGrid1->horizontalHeader()->setHighlightSections(false);
+    MSFlexGrid1->verticalHeader()->hide();
+    MSFlexGrid1->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    MSFlexGrid1->setSelectionMode(QAbstractItemView::NoSelection);
+    MSFlexGrid1->viewport()->installEventFilter(this);
+    connect(MSFlexGrid1, &QTableWidget::cellPressed, this, &frmBackTrack::Choose);
+}
+
+void frmBackTrack::BackTrack(const FsmDocument& document, int state) {
+    backtrackState_ = state;
+    Fill(document);
+    show();
+    raise();
+}
+
+void frmBackTrack::RefreshBackTrack(const FsmDocument& document) {
+    if (isVisible())
+        Fill(document);
+}
+
+// A list that stays the same is left alone, scrolled to where it is.
+void frmBackTrack::Fill(const FsmDocument& document) {
+    setWindowTitle(FromAnsi(BacktrackTitle(document, backtrackState_)));
+    std::vector<BacktrackLine> lines = BacktrackLines(document, backtrackState_);
+    if (lines == lines_)
+        return;
+    lines_ = std::move(lines);
+    MSFlexGrid1->setRowCount(static_cast<int>(lines_.size()));
+    for (int row = 0; const BacktrackLine& line : lines_)
+        AddBacktrackLine(row++, line);
+}
+
+void frmBackTrack::AddBacktrackLine(int row, const BacktrackLine& line) {
+    MSFlexGrid1->setItem(row, kEventColumn, Cell(line.EventText, line.EventColour));
+    MSFlexGrid1->setItem(row, kFromColumn, Cell(line.FromText, kStateHeadColour));
+}
+
+void frmBackTrack::FitColumns() {
+    const int width = MSFlexGrid1->viewport()->width();
+    const int eventWidth = width * kEventPercent / 100;
+    MSFlexGrid1->setColumnWidth(kEventColumn, eventWidth);
+    MSFlexGrid1->setColumnWidth(kFromColumn, width - eventWidth);
+}
+
+bool frmBackTrack::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Resize)
+        FitColumns();
+    return QWidget::eventFilter(watched, event);
+}
+
+void frmBackTrack::Choose(int row, int column) {
+    if (column == kFromColumn)
+        Q_EMIT StateChosen(BacktrackedState(lines_[static_cast<std::size_t>(row)].FromText));
+}
+
+} // namespace orvane
