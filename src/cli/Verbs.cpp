@@ -89,7 +89,7 @@ bool DocumentRun::Read() {
 
 void DocumentRun::Generate() {
     const fs::path document = FullPath(name_);
-    const GeneratedProgram program = GenerateProgram(read_->Document, {PathInProgram(document), bannerDate_});
+    GeneratedProgram program = GenerateProgram(read_->Document, {PathInProgram(document), bannerDate_});
     outcome_.Errors += HeadedReport(program.Findings);
     if (program.Findings.HasErrors())
         outcome_.Raise(kDesignError);
@@ -99,7 +99,7 @@ void DocumentRun::Generate() {
     if (WritesOver(target))
         return Fail("the program would take the place of the document; name another file with -o");
     // Not waiting for the disk: the program can be made again.
-    WriteBytes(target, ProgramFileBytes(program), Durability::Flushed);
+    WriteBytes(target, ProgramFileBytes(std::move(program)), Durability::Flushed);
 }
 
 void DocumentRun::Check(const Report& report) {

@@ -10,6 +10,7 @@
 
 #include <array>
 #include <optional>
+#include <utility>
 
 namespace orvane {
 
@@ -34,6 +35,23 @@ class StateLabels {
     std::array<std::string, kStateCount + 1> entry_;
     std::array<std::string, kStateCount + 1> loop_;
 };
+
+// About as long as the program of a design with long texts gets; only the speed depends on it.
+std::size_t EstimatedSize(const FsmDocument& document) {
+    constexpr std::size_t jumps = 48; // bytes that a cell takes beside its texts
+    std::size_t size = 4096 + document.General.CodeSeg.size() + document.General.TestSeg.size() +
+                       document.General.InitSeg.size() + document.General.NvEm0Data.size();
+    for (const int state : StateNumbers()) {
+        const StateRecord& record = document.State(state);
+        size += record.EntryCode.size();
+        for (const int row : CellRows()) {
+            if (record.Targets[row] != kNoState)
+                size += jumps + 2 * document.General.FsmName.size() + record.Actions[row].size() +
+                        document.Event(row).Code.size();
+        }
+    }
+    return size;
+}
 
 class CodeGenerator {
   public:
@@ -91,6 +109,7 @@ GeneratedProgram CodeGenerator::Run() {
         report_.EndedEarly = true;
         return {text_.Take(), std::move(report_)};
     }
+    text_.Reserve(EstimatedSize(document_));
     EmitBanner();
     EmitTestSegment();
     EmitInitSegment();
@@ -269,7 +288,7 @@ GeneratedProgram GenerateProgram(const FsmDocument& document, const GenerationCo
     return CodeGenerator(document, context).Run();
 }
 
-std::string ProgramFileBytes(const GeneratedProgram& program) { return program.Text + std::string(kLineEnd); }
+std::string ProgramFileBytes(GeneratedProgram program) { return std::move(program.Text.append(kLineEnd)); }
 
 std::string ProgramFilePath(std::string_view documentPath) {
     return std::string(StripExtension(documentPath)) + ".zls";

@@ -25,7 +25,7 @@ struct GeneratedProgram {
 GeneratedProgram GenerateProgram(const FsmDocument& document, const GenerationContext& context);
 
 // The bytes of the .zls file of a program without errors.
-std::string ProgramFileBytes(const GeneratedProgram& program);
+std::string ProgramFileBytes(GeneratedProgram program);
 
 // The program's file: beside the document, with the extension replaced.
 std::string ProgramFilePath(std::string_view documentPath);

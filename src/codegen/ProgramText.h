@@ -3,6 +3,7 @@
 
 #include "core/AnsiText.h"
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -30,6 +31,9 @@ class ProgramText {
     void EmitInstruction(std::string_view word, const Pieces&... operand) {
         EmitLine("\t", word, "\t", operand...);
     }
+
+    // Room for that many bytes, so that the text need not move while it grows.
+    void Reserve(std::size_t size) { text_.reserve(size); }
 
     std::string Take() { return std::move(text_); }
 
