@@ -64,6 +64,9 @@ frmTable::frmTable(QWidget* parent)
     grid_->View().setFocus();
 }
 
+// The table goes while the document it shows, and we, who listen to it, are still there.
+frmTable::~frmTable() { delete grid_; }
+
 void frmTable::BuildStatusBar() {
     statusBar()->setObjectName(QStringLiteral("StatusBar1"));
     Panel1 = new QLabel(this);

@@ -26,6 +26,7 @@ class frmTable : public QMainWindow {
 
   public:
     explicit frmTable(QWidget* parent = nullptr);
+    ~frmTable() override;
 
     // Opens what the program was started with, or the settings document.
     void Start(const CommandLine& commandLine);
