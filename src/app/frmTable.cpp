@@ -1,7 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/frmTable.h"
 
+#include "aids/ui/OpenInDesktop.h"
+#include "aids/ui/VocabularyFile.h"
+#include "aids/ui/frmMyToolTip.h"
 #include "app/DocumentLifecycle.h"
+#include "app/Greeting.h"
+#include "app/SideWindows.h"
 #include "app/TableMenus.h"
 #include "app/Trace.h"
 #include "app/WindowTitle.h"
@@ -16,8 +21,8 @@
 #include "table/ui/TableGrid.h"
 
 #include <QAction>
-#include <QApplication>
 #include <QCloseEvent>
+#include <QCursor>
 #include <QDateTime>
 #include <QDir>
 #include <QLabel>
@@ -30,6 +35,7 @@ namespace orvane {
 
 namespace {
 
+constexpr int kHelpPage = 4835;
 constexpr int kStartWidth = 1100; // pixels
 constexpr int kStartHeight = 700;
 
@@ -50,22 +56,30 @@ frmTable::frmTable(QWidget* parent)
       menus_(new TableMenus(this)),
       commands_(new TableCommands(session_.Document, pressed_, *menus_, this)),
       lifecycle_(new DocumentLifecycle(session_, this, &Trace)),
-      grid_(new TableGrid(session_.Document, this)) {
+      windows_(std::make_unique<SideWindows>(session_,
+                                             [this] {
+                                                 RefreshGenerators();
+                                                 return generator_.GeneratedOk();
+                                             })),
+      grid_(std::make_unique<TableGrid>(session_.Document, this)),
+      frmMyToolTip_(new frmMyToolTip(this)) {
     setObjectName(QStringLiteral("frmTable"));
     resize(kStartWidth, kStartHeight);
-    setCentralWidget(grid_);
+    setCentralWidget(grid_.get());
     BuildStatusBar();
     ConnectDocument();
     ConnectFileMenu();
     ConnectMenus();
     ConnectGrid();
+    ConnectHints();
+    AddHelpKey(*this, kHelpPage);
     Trace("Start at " + QDateTime::currentDateTime().toString(Qt::ISODate).toStdString());
+    LoadWords();
     lifecycle_->NewGrid();
     grid_->View().setFocus();
 }
 
-// The table goes while the document it shows, and we, who listen to it, are still there.
-frmTable::~frmTable() { delete grid_; }
+frmTable::~frmTable() = default;
 
 void frmTable::BuildStatusBar() {
     statusBar()->setObjectName(QStringLiteral("StatusBar1"));
@@ -86,12 +100,15 @@ void frmTable::BuildStatusBar() {
 
 void frmTable::ConnectDocument() {
     connect(lifecycle_, &DocumentLifecycle::Replaced, this, &frmTable::ShowReplacedDocument);
-    connect(lifecycle_, &DocumentLifecycle::Saved, this, &frmTable::ShowDocumentState);
+    connect(lifecycle_, &DocumentLifecycle::Saved, this, [this] {
+        ShowDocumentState();
+        windows_->DocumentRenamed();
+    });
     connect(&generator_, &GeneratorRun::WriteFailed, this, [this](const QString& path, const QString& why) {
         Tell(this, QStringLiteral("The generated program could not be written to\r\n%1\r\n%2.")
                        .arg(QDir::toNativeSeparators(path), why));
     });
-    connect(grid_, &TableGrid::RowsForced, this, &frmTable::ShowViewMarks);
+    connect(grid_.get(), &TableGrid::RowsForced, this, &frmTable::ShowViewMarks);
 }
 
 // What is being typed in a cell belongs to the document by now.
@@ -115,6 +132,9 @@ void frmTable::ConnectMenus() {
         menus_->Connect(item.Name, [this, row = item.Row] { ToggleView(row); });
     menus_->Connect("mnuPolytask", [this] { TogglePolytask(); });
     menus_->Connect("mnuCurrentState", [this] { SetCurrentState(pressed_.Column); });
+    menus_->Connect("mnuBacktrack", [this] { windows_->BackTrack(pressed_.Column); });
+    menus_->Connect("mnuBuilder", [this] { windows_->ShowBuilder(); });
+    menus_->Connect("mnuBuildAndTest", [this] { windows_->BuildAndTest(); });
     commands_->Connect([this](const Change& change) { RunCommand(change); });
 }
 
@@ -127,22 +147,43 @@ void frmTable::ConnectGrid() {
     connect(&grid_->Editor(), &CellEditor::CommitWanted, this, &frmTable::CommitCellEdit);
 }
 
+void frmTable::ConnectHints() {
+    connect(&grid_->Hints(), &HoverHints::HintWanted, this,
+            [this](const QString& text, bool wrap) { frmMyToolTip_->Display(text, wrap, QCursor::pos()); });
+    connect(&grid_->Hints(), &HoverHints::HintGone, frmMyToolTip_, &frmMyToolTip::UnDisplay);
+}
+
+// Without the words of the language the code panes are plain, and the user can see why.
+void frmTable::LoadWords() {
+    LoadedVocabulary loaded = LoadVocabulary();
+    vocabulary_ = std::move(loaded.Words);
+    Panel3->setText(loaded.Problem);
+}
+
 void frmTable::Start(const CommandLine& commandLine) {
-    if (!commandLine.DocumentPath.isEmpty())
+    if (!commandLine.DocumentPath.isEmpty()) {
         lifecycle_->Load(commandLine.DocumentPath);
-    else
+    } else {
         lifecycle_->LoadSettings();
+        if (!commandLine.NoSplash)
+            ShowSplash(this);
+    }
     Trace("");
     Trace("a");
     ShowDocumentState();
     Trace("b");
+    CheckForUpdate(this);
+    Trace("c");
+    Trace("d");
 }
 
 void frmTable::closeEvent(QCloseEvent* event) {
     CommitOpenEdit();
     event->setAccepted(lifecycle_->MayClose());
-    if (event->isAccepted())
-        QApplication::quit();
+    if (!event->isAccepted())
+        return;
+    windows_->HideAll();
+    Q_EMIT Closed();
 }
 
 void frmTable::RunCommand(const Change& change) {
@@ -171,8 +212,10 @@ void frmTable::DrawAgain(const Redraw& redraw) {
 }
 
 void frmTable::CommitChange() {
-    if (session_.Undo.Commit(Pack(session_.Document)))
-        ShowDocumentState();
+    if (!session_.Undo.Commit(Pack(session_.Document)))
+        return;
+    ShowDocumentState();
+    windows_->DocumentChanged();
 }
 
 void frmTable::RefreshGenerators() { generator_.Run(session_.Document, session_.CurrentFileName); }
@@ -185,6 +228,7 @@ void frmTable::UndoOrRedo(const std::string* (UndoRing::*step)()) {
         grid_->RefreshGrid();
     }
     ShowDocumentState();
+    windows_->DocumentChanged();
     RefreshGenerators();
 }
 
@@ -195,6 +239,7 @@ void frmTable::ShowReplacedDocument() {
     grid_->RefreshGrid();
     ShowViewMarks();
     ShowDocumentState();
+    windows_->DocumentReplaced();
     generator_.RunWithoutFile(session_.Document, session_.CurrentFileName);
 }
 

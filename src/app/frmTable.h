@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "aids/Vocabulary.h"
 #include "app/CommandLine.h"
 #include "app/DocumentSession.h"
 #include "app/Redraw.h"
@@ -10,13 +11,17 @@
 
 #include <QMainWindow>
 
+#include <memory>
+
 class QLabel;
 
 namespace orvane {
 
 class DocumentLifecycle;
+class SideWindows;
 class TableGrid;
 class TableMenus;
+class frmMyToolTip;
 struct GridPress;
 
 // The main window: the document as a table. It owns the document, its history and the other windows, and runs
@@ -34,6 +39,10 @@ class frmTable : public QMainWindow {
     // Generates the program anew and writes it.
     void RefreshGenerators();
 
+  Q_SIGNALS:
+    // The program ends with its main window.
+    void Closed();
+
   protected:
     void closeEvent(QCloseEvent* event) override;
 
@@ -44,6 +53,8 @@ class frmTable : public QMainWindow {
     void ConnectFileMenu();
     void ConnectMenus();
     void ConnectGrid();
+    void ConnectHints();
+    void LoadWords();
 
     // Every change of the document comes through here: change, redraw, CommitChange, RefreshGenerators.
     void RunCommand(const Change& change);
@@ -79,7 +90,10 @@ class frmTable : public QMainWindow {
     TableMenus* menus_;
     TableCommands* commands_;
     DocumentLifecycle* lifecycle_;
-    TableGrid* grid_;
+    std::unique_ptr<SideWindows> windows_;
+    std::unique_ptr<TableGrid> grid_; // goes before what it shows
+    frmMyToolTip* frmMyToolTip_;
+    Vocabulary vocabulary_;
     QLabel* Panel1;
     QLabel* Panel2;
     QLabel* Panel3;

@@ -10,6 +10,7 @@ int main(int argc, char* argv[]) {
     QApplication::setApplicationName(QStringLiteral("Orvane"));
     QApplication::setWindowIcon(orvane::Logo());
     orvane::frmTable window;
+    QObject::connect(&window, &orvane::frmTable::Closed, &application, [] { QApplication::exit(); });
     window.show();
     window.Start(orvane::ParseCommandLine(QApplication::arguments().mid(1)));
     return QApplication::exec();

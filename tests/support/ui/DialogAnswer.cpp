@@ -85,8 +85,7 @@ void DialogAnswer::LookForDialog() {
 void DialogAnswer::Answer(QWidget& dialog) {
     seen_.push_back(Describe(dialog));
     if (answers_.empty()) {
-        ADD_FAILURE() << "unexpected dialog: " << seen_.back().Title << ": "
-                      << seen_.back().Text;
+        ADD_FAILURE() << "unexpected dialog: " << seen_.back().Title << ": " << seen_.back().Text;
         dialog.close();
         return;
     }

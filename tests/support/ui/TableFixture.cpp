@@ -86,8 +86,8 @@ void TableFixture::Click(int row, int column, Qt::MouseButton button, Qt::Keyboa
 
 void TableFixture::MoveTo(int row, int column) {
     const QPoint middle = CellRect(row, column).center();
-    QMouseEvent move(QEvent::MouseMove, middle, Grid()->viewport()->mapToGlobal(QPointF(middle)), Qt::NoButton,
-                     Qt::NoButton, Qt::NoModifier);
+    QMouseEvent move(QEvent::MouseMove, middle, Grid()->viewport()->mapToGlobal(QPointF(middle)),
+                     Qt::NoButton, Qt::NoButton, Qt::NoModifier);
     QApplication::sendEvent(Grid()->viewport(), &move);
 }
 
