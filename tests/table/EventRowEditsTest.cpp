@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/BoundsError.h"
-#include "table/RandomTable.h"
 #include "table/StructuralEdits.h"
 
 #include <gtest/gtest.h>
@@ -179,29 +178,6 @@ TEST(DeleteEvent, TheCopiedStateMovesWithTheRowsAndLosesItsBottomAction) {
     EXPECT_EQ(clipboard.ClipState.Actions[53], ";act");
     EXPECT_EQ(clipboard.ClipState.Targets[54], 0);
     EXPECT_EQ(clipboard.ClipState.Actions[54], "");
-}
-
-TEST(InsertEvent, ThenDeletingTheRowGivesTheTableBackWhenTheBottomRowsWereEmpty) {
-    for (unsigned seed = 1; seed <= 60; ++seed) {
-        RandomTable random(seed);
-        FsmDocument document = random.Document();
-        document.Event(kLastRow) = {};
-        for (const int state : StateNumbers()) {
-            document.State(state).Targets[kLastRow] = kNoState;
-            // The row above drops its action into the bottom row, where it would stay.
-            document.State(state).Actions[kLastRow - 1].clear();
-            document.State(state).Actions[kLastRow].clear();
-        }
-        TableClipboard clipboard;
-        CopyState(document, clipboard, random.Number(1, kStateCount));
-        const FsmDocument original = document;
-        const TableClipboard copied = clipboard;
-        const int row = random.Number(kFirstEventRow, kLastRow);
-        ASSERT_EQ(InsertEvent(document, clipboard, row), std::nullopt);
-        ASSERT_TRUE(DeleteEvent(document, clipboard, row, NeverAsked));
-        ASSERT_EQ(document, original) << seed;
-        ASSERT_EQ(clipboard, copied) << seed;
-    }
 }
 
 } // namespace

@@ -1,135 +1,133 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/Property.h"
+#include "support/RandomDocument.h"
 #include "table/BacktrackList.h"
 #include "table/CellEdit.h"
-#include "table/RandomTable.h"
 #include "table/StructuralEdits.h"
-
-#include <gtest/gtest.h>
 
 namespace orvane {
 namespace {
 
-// A user who works on one table without rest, and who pastes only what the menus offer.
-class RestlessUser {
-  public:
-    explicit RestlessUser(unsigned seed) : random_(seed) { Document = random_.Document(); }
+using namespace test;
 
-    void RunOneCommand() {
-        const int state = random_.Number(1, kStateCount);
-        const int row = random_.Number(kFirstCellRow, kLastRow);
-        const int eventRow = random_.Number(kFirstEventRow, kLastRow);
-        switch (random_.Number(0, 4)) {
-        case 0:
-            return MoveSomething(state, eventRow);
-        case 1:
-            return CopySomething(state, row, eventRow);
-        case 2:
-            return CutSomething(state, row);
-        case 3:
-            return PasteSomething(state, row, eventRow);
-        default:
-            StoreTypedTarget(Document, row, state, std::to_string(random_.Number(-5, 110)));
-        }
-    }
-
+// A user at work on one table, who pastes only what the menus offer.
+struct User {
     FsmDocument Document;
     TableClipboard Clipboard;
-
-  private:
-    void MoveSomething(int state, int eventRow) {
-        const auto answer = [this](const UserMessage&) { return random_.OneIn(2); };
-        switch (random_.Number(0, 3)) {
-        case 0:
-            InsertState(Document, Clipboard, state);
-            break;
-        case 1:
-            DeleteState(Document, Clipboard, state);
-            break;
-        case 2:
-            InsertEvent(Document, Clipboard, eventRow);
-            break;
-        default:
-            DeleteEvent(Document, Clipboard, eventRow, answer);
-        }
-    }
-
-    void CopySomething(int state, int row, int eventRow) {
-        switch (random_.Number(0, 4)) {
-        case 0:
-            return CopyState(Document, Clipboard, state);
-        case 1:
-            return CopyEvent(Document, Clipboard, eventRow);
-        case 2:
-            return CopyEntryAction(Document, Clipboard, state);
-        case 3:
-            return CopyTransition(Document, Clipboard, row, state);
-        default:
-            return CopyTransitionAction(Document, Clipboard, row, state);
-        }
-    }
-
-    void CutSomething(int state, int row) {
-        switch (random_.Number(0, 2)) {
-        case 0:
-            return CutEntryAction(Document, Clipboard, state);
-        case 1:
-            return CutTransition(Document, Clipboard, row, state);
-        default:
-            return CutTransitionAction(Document, Clipboard, row, state);
-        }
-    }
-
-    void PasteSomething(int state, int row, int eventRow) {
-        offered_ = EnablePasteItems(Clipboard.Kind, offered_);
-        if (offered_.State)
-            PasteState(Document, Clipboard, state);
-        if (offered_.Event)
-            PasteEvent(Document, Clipboard, eventRow);
-        if (offered_.EntryAction)
-            PasteEntryAction(Document, Clipboard, state);
-        if (offered_.Transition)
-            PasteTransition(Document, Clipboard, row, state);
-        if (offered_.TransitionAction)
-            PasteTransitionAction(Document, Clipboard, row, state);
-    }
-
-    RandomTable random_;
-    PasteItems offered_;
+    PasteItems Offered;
 };
 
-bool AllTargetsAreStatesOrNone(const FsmDocument& document) {
+struct Place {
+    int State;
+    int Row;      // of any cell
+    int EventRow; // of an event
+    int Number;   // that is typed; its parity is the answer to a question
+};
+
+struct Command {
+    const char* What;
+    void (*Run)(User& user, const Place& at);
+};
+
+constexpr std::array kCommands = {
+    Command{"insert state",
+            [](User& user, const Place& at) { InsertState(user.Document, user.Clipboard, at.State); }},
+    Command{"delete state",
+            [](User& user, const Place& at) { DeleteState(user.Document, user.Clipboard, at.State); }},
+    Command{"insert event",
+            [](User& user, const Place& at) { InsertEvent(user.Document, user.Clipboard, at.EventRow); }},
+    Command{"delete event",
+            [](User& user, const Place& at) {
+                const auto answer = [&at](const UserMessage&) { return at.Number % 2 == 0; };
+                DeleteEvent(user.Document, user.Clipboard, at.EventRow, answer);
+            }},
+    Command{"type",
+            [](User& user, const Place& at) {
+                StoreTypedTarget(user.Document, at.Row, at.State, std::to_string(at.Number));
+            }},
+    Command{"copy state",
+            [](User& user, const Place& at) { CopyState(user.Document, user.Clipboard, at.State); }},
+    Command{"copy event",
+            [](User& user, const Place& at) { CopyEvent(user.Document, user.Clipboard, at.EventRow); }},
+    Command{"cut entry action",
+            [](User& user, const Place& at) { CutEntryAction(user.Document, user.Clipboard, at.State); }},
+    Command{
+        "copy transition",
+        [](User& user, const Place& at) { CopyTransition(user.Document, user.Clipboard, at.Row, at.State); }},
+    Command{
+        "cut transition",
+        [](User& user, const Place& at) { CutTransition(user.Document, user.Clipboard, at.Row, at.State); }},
+    Command{"cut action",
+            [](User& user, const Place& at) {
+                CutTransitionAction(user.Document, user.Clipboard, at.Row, at.State);
+            }},
+    Command{"paste",
+            [](User& user, const Place& at) {
+                user.Offered = EnablePasteItems(user.Clipboard.Kind, user.Offered);
+                if (user.Offered.State)
+                    PasteState(user.Document, user.Clipboard, at.State);
+                if (user.Offered.Event)
+                    PasteEvent(user.Document, user.Clipboard, at.EventRow);
+                if (user.Offered.EntryAction)
+                    PasteEntryAction(user.Document, user.Clipboard, at.State);
+                if (user.Offered.Transition)
+                    PasteTransition(user.Document, user.Clipboard, at.Row, at.State);
+                if (user.Offered.TransitionAction)
+                    PasteTransitionAction(user.Document, user.Clipboard, at.Row, at.State);
+            }},
+};
+
+struct Step {
+    Command Do;
+    Place At;
+};
+
+void showValue(const Step& step, std::ostream& out) {
+    out << step.Do.What << " at state " << step.At.State << ", row " << step.At.Row << ", event row "
+        << step.At.EventRow << ", number " << step.At.Number;
+}
+
+rc::Gen<Step> AnyStep() {
+    const auto place =
+        rc::gen::build<Place>(rc::gen::set(&Place::State, rc::gen::inRange(1, kStateCount + 1)),
+                              rc::gen::set(&Place::Row, rc::gen::inRange(kFirstCellRow, kLastRow + 1)),
+                              rc::gen::set(&Place::EventRow, rc::gen::inRange(kFirstEventRow, kLastRow + 1)),
+                              rc::gen::set(&Place::Number, rc::gen::inRange(-5, 111)));
+    return rc::gen::apply(
+        [](const Command& command, const Place& at) {
+            return Step{command, at};
+        },
+        rc::gen::elementOf(kCommands), place);
+}
+
+void RequireValid(const User& user) {
     for (const int state : StateNumbers())
         for (const int row : CellRows())
-            if (!TargetNumbers().Contains(document.State(state).Targets[row]))
-                return false;
-    return true;
+            RC_ASSERT(TargetNumbers().Contains(user.Document.State(state).Targets[row]));
+    RC_ASSERT(TargetNumbers().Contains(user.Clipboard.ClipTarget));
+}
+
+// Each transition stands in the list of exactly one state.
+void RequireEveryTransitionInOneList(const FsmDocument& document) {
+    std::size_t transitions = 0;
+    std::size_t listed = 0;
+    for (const int state : StateNumbers()) {
+        listed += BacktrackLines(document, state).size();
+        for (const int row : CellRows())
+            transitions += document.State(state).Targets[row] != kNoState;
+    }
+    RC_ASSERT(listed == transitions);
 }
 
 TEST(RandomCommands, FiveHundredOfThemLeaveAValidTable) {
-    for (unsigned seed = 1; seed <= 4; ++seed) {
-        RestlessUser user(seed);
-        for (int command = 0; command < 500; ++command) {
-            user.RunOneCommand();
-            ASSERT_TRUE(AllTargetsAreStatesOrNone(user.Document)) << seed << ' ' << command;
-            ASSERT_TRUE(TargetNumbers().Contains(user.Clipboard.ClipTarget)) << seed << ' ' << command;
+    ExpectProperty({.Cases = 20}, [] {
+        User user{.Document = *AnyDocument(), .Clipboard = {}, .Offered = {}};
+        for (const Step& step : *rc::gen::container<std::vector<Step>>(500, AnyStep())) {
+            step.Do.Run(user, step.At);
+            RequireValid(user);
         }
-    }
-}
-
-TEST(RandomCommands, TheBacktrackListAgreesWithCountingTransitions) {
-    RestlessUser user(9);
-    for (int round = 0; round < 20; ++round) {
-        for (int command = 0; command < 20; ++command)
-            user.RunOneCommand();
-        std::size_t transitions = 0;
-        for (const int state : StateNumbers())
-            for (const int row : CellRows())
-                transitions += user.Document.State(state).Targets[row] != kNoState;
-        std::size_t listed = 0;
-        for (const int state : StateNumbers())
-            listed += BacktrackLines(user.Document, state).size();
-        ASSERT_EQ(listed, transitions) << round;
-    }
+        RequireEveryTransitionInOneList(user.Document);
+    });
 }
 
 } // namespace

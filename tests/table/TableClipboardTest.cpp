@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "table/TableClipboard.h"
 
-#include "table/RandomTable.h"
-
-#include <gtest/gtest.h>
+#include "support/Property.h"
+#include "support/RandomDocument.h"
 
 namespace orvane {
 namespace {
@@ -120,17 +119,19 @@ TEST_F(TableClipboardTest, CopyingChangesNothingInTheDocument) {
     EXPECT_EQ(Document, Original);
 }
 
-TEST(TableClipboard, ACopiedEventPastedBackChangesNothing) {
-    for (unsigned seed = 1; seed <= 20; ++seed) {
-        RandomTable random(seed);
-        const FsmDocument original = random.Document();
+TEST(TableClipboard, ACopiedEventOrStatePastedBackChangesNothing) {
+    test::ExpectProperty({}, [] {
+        const FsmDocument original = *test::AnyDocument();
         FsmDocument document = original;
         TableClipboard clipboard;
-        const int row = random.Number(kFirstEventRow, kLastRow);
+        const int row = *rc::gen::inRange(kFirstEventRow, kLastRow + 1);
         CopyEvent(document, clipboard, row);
         PasteEvent(document, clipboard, row);
-        EXPECT_EQ(document, original) << seed;
-    }
+        const int state = *rc::gen::inRange(1, kStateCount + 1);
+        CopyState(document, clipboard, state);
+        PasteState(document, clipboard, state);
+        RC_ASSERT(document == original);
+    });
 }
 
 constexpr PasteItems kAllOff{};
