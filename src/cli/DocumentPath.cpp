@@ -2,7 +2,7 @@
 #include "cli/DocumentPath.h"
 
 #include "codegen/CodeGenerator.h"
-#include "core/AnsiText.h"
+#include "codegen/PathInProgram.h"
 
 #include <algorithm>
 
@@ -11,8 +11,6 @@ namespace orvane::cli {
 namespace fs = std::filesystem;
 
 namespace {
-
-constexpr char kSubstitute = '?';
 
 std::string Utf8(const fs::path& path) {
     const std::u8string utf8 = path.u8string();
@@ -41,13 +39,7 @@ fs::path ProgramPath(const fs::path& fullPath) {
 }
 
 std::string PathInProgram(const fs::path& fullPath) {
-    std::string path = FromUtf8(Utf8(fullPath), kSubstitute);
-    const auto breaksComment = [](char byte) {
-        const char32_t character = ToUnicode(byte);
-        return character < 0x20 || (character >= 0x7F && character < 0xA0);
-    };
-    std::replace_if(path.begin(), path.end(), breaksComment, kSubstitute);
-    return path;
+    return orvane::PathInProgram(Utf8(fullPath));
 }
 
 } // namespace orvane::cli

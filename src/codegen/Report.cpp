@@ -24,6 +24,17 @@ std::string_view Prefix(Severity severity) {
 
 void AppendLine(std::string& text, std::string_view line) { text.append(line).append(kLineEnd); }
 
+// A message from a foreign file may hold line ends of any kind.
+std::size_t LineCount(std::string_view message) {
+    std::size_t lines = 1;
+    for (std::size_t i = 0; i < message.size(); ++i) {
+        const bool insidePair = message[i] == '\n' && i > 0 && message[i - 1] == '\r';
+        if ((message[i] == '\r' || message[i] == '\n') && !insidePair)
+            ++lines;
+    }
+    return lines;
+}
+
 std::string CountText(const Report& report, Severity severity) {
     return SignedNumberText(static_cast<std::int64_t>(report.Count(severity)));
 }
@@ -62,6 +73,17 @@ std::string ReportText(const Report& report) {
     if (report.Count(Severity::Error) != 0)
         AppendLine(text, "****" + CountText(report, Severity::Error) + " Errors ****");
     return text;
+}
+
+const Finding* FindingAtLine(const Report& report, std::size_t line) {
+    std::size_t next = report.EndedEarly ? 0 : 1; // the first line of the finding looked at
+    for (const Finding& finding : report.Findings) {
+        const std::size_t lines = LineCount(finding.Message);
+        if (line >= next && line < next + lines)
+            return &finding;
+        next += lines;
+    }
+    return nullptr;
 }
 
 } // namespace orvane

@@ -35,4 +35,8 @@ struct Report {
 // The report as the error pane shows it, CR LF line ends: the heading, a line for each finding, the counts.
 std::string ReportText(const Report& report);
 
+// The finding that a line of that text tells of, lines counted from 0; null for the heading and the counts.
+// The report must outlive the pointer.
+const Finding* FindingAtLine(const Report& report, std::size_t line);
+
 } // namespace orvane

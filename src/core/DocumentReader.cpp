@@ -305,6 +305,7 @@ void Reader::TellUnknown(std::string text) {
 ReadResult Refused(std::string why) {
     ReadResult refused;
     refused.Messages.push_back({std::move(why), 0});
+    refused.Refused = true;
     refused.BrokeOff = true;
     return refused;
 }

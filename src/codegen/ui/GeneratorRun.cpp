@@ -2,7 +2,7 @@
 #include "codegen/ui/GeneratorRun.h"
 
 #include "codegen/BannerDate.h"
-#include "core/ui/AnsiString.h"
+#include "codegen/PathInProgram.h"
 #include "core/ui/DocumentFile.h"
 
 #include <cstdlib>
@@ -24,7 +24,7 @@ void GeneratorRun::RunWithoutFile(const FsmDocument& document, const QString& do
 
 void GeneratorRun::Generate(const FsmDocument& document, const QString& documentPath) {
     generatedOk_ = false;
-    latest_ = GenerateProgram(document, {ToAnsi(documentPath).Text,
+    latest_ = GenerateProgram(document, {PathInProgram(documentPath.toStdString()),
                                          BannerDate(std::time(nullptr), std::getenv("SOURCE_DATE_EPOCH"))});
 }
 

@@ -14,11 +14,6 @@ namespace {
 
 DocumentFile Failed(const QString& why) { return {std::nullopt, why}; }
 
-// The reader refuses a file as a whole without naming a line.
-bool IsRefused(const ReadResult& result) {
-    return result.BrokeOff && result.Messages.size() == 1 && result.Messages.front().Line == 0;
-}
-
 } // namespace
 
 DocumentFile ReadDocumentFile(const QString& path) {
@@ -32,7 +27,7 @@ DocumentFile ReadDocumentFile(const QString& path) {
     if (file.error() != QFileDevice::NoError)
         return Failed(file.errorString());
     ReadResult result = ReadDocument({bytes.constData(), static_cast<std::size_t>(bytes.size())});
-    if (IsRefused(result))
+    if (result.Refused)
         return Failed(FromAnsi(result.Messages.front().Text));
     return {std::move(result), {}};
 }

@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "codegen/ui/TextReplacement.h"
+
+#include "core/AnsiText.h"
+#include "editors/ui/CodePane.h"
+
+#include <algorithm>
+#include <string>
+
+namespace orvane {
+
+namespace {
+
+using Sci = QsciScintilla;
+
+// The pane keeps its text as UTF-8 and counts in its bytes.
+std::string_view PaneBytes(CodePane& pane) {
+    const auto* bytes = static_cast<const char*>(pane.SendScintillaPtrResult(Sci::SCI_GETCHARACTERPOINTER));
+    return {bytes, static_cast<std::size_t>(pane.SendScintilla(Sci::SCI_GETLENGTH))};
+}
+
+std::size_t FirstLineLength(std::string_view text) { return std::min(text.find('\n'), text.size() - 1) + 1; }
+
+bool IsInsideCharacter(std::string_view text, std::size_t place) {
+    return place < text.size() && (static_cast<unsigned char>(text[place]) & 0xC0) == 0x80;
+}
+
+std::size_t CommonBeginning(std::string_view a, std::string_view b) {
+    auto length = static_cast<std::size_t>(
+        std::mismatch(a.begin(), a.begin() + static_cast<std::ptrdiff_t>(std::min(a.size(), b.size())),
+                      b.begin())
+            .first -
+        a.begin());
+    while (length > 0 && (IsInsideCharacter(a, length) || IsInsideCharacter(b, length)))
+        --length;
+    return length;
+}
+
+std::size_t CommonEnd(std::string_view a, std::string_view b) {
+    const std::size_t most = std::min(a.size(), b.size());
+    std::size_t length = 0;
+    while (length < most && a[a.size() - 1 - length] == b[b.size() - 1 - length])
+        ++length;
+    while (length > 0 && IsInsideCharacter(a, a.size() - length))
+        --length;
+    return length;
+}
+
+// Replaces the bytes of the pane from `start` on that stand in for `before` by `after`, as few as possible.
+void ReplaceStretch(CodePane& pane, std::size_t start, std::string_view before, std::string_view after) {
+    const std::size_t beginning = CommonBeginning(before, after);
+    before.remove_prefix(beginning);
+    after.remove_prefix(beginning);
+    const std::size_t end = CommonEnd(before, after);
+    before.remove_suffix(end);
+    after.remove_suffix(end);
+    if (before.empty() && after.empty())
+        return;
+    const auto from = static_cast<unsigned long>(start + beginning);
+    pane.SendScintilla(Sci::SCI_SETTARGETRANGE, from, static_cast<long>(from + before.size()));
+    pane.SendScintilla(Sci::SCI_REPLACETARGET, static_cast<unsigned long>(after.size()), after.data());
+}
+
+} // namespace
+
+void ReplaceText(CodePane& pane, std::string_view text) {
+    const std::string after = ToUtf8(text);
+    const std::string before(PaneBytes(pane));
+    const std::size_t lineBefore = before.empty() ? 0 : FirstLineLength(before);
+    const std::size_t lineAfter = after.empty() ? 0 : FirstLineLength(after);
+    const bool readOnly = pane.isReadOnly();
+    pane.setReadOnly(false);
+    // From the back, so that the places in front stay where they are.
+    ReplaceStretch(pane, lineBefore, std::string_view(before).substr(lineBefore),
+                   std::string_view(after).substr(lineAfter));
+    ReplaceStretch(pane, 0, std::string_view(before).substr(0, lineBefore),
+                   std::string_view(after).substr(0, lineAfter));
+    pane.setReadOnly(readOnly);
+}
+
+} // namespace orvane

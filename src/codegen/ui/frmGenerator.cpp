@@ -1,0 +1,134 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "codegen/ui/frmGenerator.h"
+
+#include "codegen/ui/TextReplacement.h"
+#include "core/ui/AnsiString.h"
+#include "editors/ui/CodePane.h"
+
+#include <QKeyEvent>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QPlainTextEdit>
+#include <QStatusBar>
+
+namespace orvane {
+
+namespace {
+
+constexpr int kHelpPage = 4947;
+constexpr double kErrorShare = 0.3;    // of the window's height
+constexpr int kGap = 50 / 15;          // pixels: 50 twips between the panes
+constexpr int kQuietWhileHidden = 200; // milliseconds; a hidden window can wait for a pause in the typing
+constexpr QSize kFirstSize{760, 640};
+
+} // namespace
+
+frmGenerator::frmGenerator(QWidget* parent) : QWidget(parent, Qt::Window) {
+    setObjectName(QStringLiteral("frmGenerator"));
+    setWindowTitle(tr("Generated code"));
+    BuildCodePane();
+    BuildErrorPane();
+    BuildStatusBar();
+    runDue_.setSingleShot(true);
+    connect(&runDue_, &QTimer::timeout, this, &frmGenerator::ShowRun);
+    resize(kFirstSize);
+}
+
+void frmGenerator::BuildCodePane() {
+    txtCode = new CodePane({}, this);
+    txtCode->setObjectName(QStringLiteral("txtCode"));
+    txtCode->setAccessibleName(tr("Generated program"));
+    txtCode->setReadOnly(true);
+    txtCode->SendScintilla(QsciScintilla::SCI_SETUNDOCOLLECTION, 0L);
+    connect(txtCode, &QsciScintilla::cursorPositionChanged, this, &frmGenerator::ShowCaret);
+    connect(txtCode, &QsciScintilla::selectionChanged, this, &frmGenerator::ShowCaret);
+}
+
+void frmGenerator::BuildErrorPane() {
+    txtErrors = new QPlainTextEdit(this);
+    txtErrors->setObjectName(QStringLiteral("txtErrors"));
+    txtErrors->setAccessibleName(tr("Report"));
+    txtErrors->setReadOnly(true);
+    txtErrors->setToolTip(tr("Double-click a line to see the place in the table"));
+    txtErrors->viewport()->installEventFilter(this);
+}
+
+void frmGenerator::BuildStatusBar() {
+    StatusBar1 = new QStatusBar(this);
+    StatusBar1->setObjectName(QStringLiteral("StatusBar1"));
+    Panel1 = new QLabel(StatusBar1);
+    Panel1->setObjectName(QStringLiteral("Panel1"));
+    Panel2 = new QLabel(txtCode->CaretReadOut(), StatusBar1);
+    Panel2->setObjectName(QStringLiteral("Panel2"));
+    StatusBar1->addWidget(Panel1, 1);
+    StatusBar1->addPermanentWidget(Panel2);
+}
+
+void frmGenerator::SetVocabulary(const Vocabulary& vocabulary) { txtCode->SetVocabulary(vocabulary); }
+
+void frmGenerator::TakeRun(const GeneratedProgram& program, const QString& status) {
+    run_ = program;
+    Panel1->setText(status);
+    runDue_.start(isVisible() ? 0 : kQuietWhileHidden);
+}
+
+void frmGenerator::Present() {
+    if (runDue_.isActive())
+        ShowRun();
+    show();
+    raise();
+    activateWindow();
+}
+
+void frmGenerator::ShowRun() {
+    runDue_.stop();
+    ReplaceText(*txtCode, run_.Text);
+    txtErrors->setPlainText(FromAnsi(ReportText(run_.Findings)));
+    ShowCaret();
+}
+
+void frmGenerator::ShowCaret() { Panel2->setText(txtCode->CaretReadOut()); }
+
+void frmGenerator::ChoosePlace(int reportLine) {
+    const Finding* finding = FindingAtLine(run_.Findings, static_cast<std::size_t>(reportLine));
+    if (finding && finding->State != kNoState)
+        Q_EMIT PlaceChosen(finding->State, finding->Row);
+}
+
+void frmGenerator::resizeEvent(QResizeEvent* event) {
+    LayOut();
+    QWidget::resizeEvent(event);
+}
+
+void frmGenerator::LayOut() {
+    const int status = StatusBar1->sizeHint().height();
+    const int errors = static_cast<int>(height() * kErrorShare);
+    const int code = qMax(0, height() - errors - status - kGap);
+    txtCode->setGeometry(0, 0, width(), code);
+    txtErrors->setGeometry(0, code + kGap, width(), errors);
+    StatusBar1->setGeometry(0, height() - status, width(), status);
+}
+
+// Keys are seen here before the panes see them.
+bool frmGenerator::event(QEvent* event) {
+    if (event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride) {
+        auto* key = static_cast<QKeyEvent*>(event);
+        if (key->key() == Qt::Key_F1 && key->modifiers() == Qt::NoModifier) {
+            if (event->type() == QEvent::KeyPress)
+                Q_EMIT HelpRequested(kHelpPage);
+            event->accept();
+            return true;
+        }
+    }
+    return QWidget::event(event);
+}
+
+bool frmGenerator::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == txtErrors->viewport() && event->type() == QEvent::MouseButtonDblClick) {
+        const QPoint place = static_cast<QMouseEvent*>(event)->position().toPoint();
+        ChoosePlace(txtErrors->cursorForPosition(place).blockNumber());
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+} // namespace orvane

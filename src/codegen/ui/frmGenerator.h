@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "aids/Vocabulary.h"
+#include "codegen/CodeGenerator.h"
+
+#include <QTimer>
+#include <QWidget>
+
+class QLabel;
+class QPlainTextEdit;
+class QStatusBar;
+
+namespace orvane {
+
+class CodePane;
+
+// Shows the latest generation run: the program above, its report below.
+//
+// A run is taken over at once and shown as soon as the windows have nothing more urgent to do, so that typing
+// does not wait for a large program to be laid out; only what differs from the program shown before is
+// replaced, which also leaves the reader where he was.
+class frmGenerator : public QWidget {
+    Q_OBJECT
+
+  public:
+    explicit frmGenerator(QWidget* parent = nullptr);
+
+    void SetVocabulary(const Vocabulary& vocabulary);
+
+    // Takes over the run; the status says what became of its file.
+    void TakeRun(const GeneratedProgram& program, const QString& status);
+
+    // Shows the window with the latest run in it.
+    void Present();
+
+  Q_SIGNALS:
+    // A line of the report that has a place in the table was double-clicked: state 1..100, row 0..54.
+    void PlaceChosen(int state, int row);
+    void HelpRequested(int page);
+
+  protected:
+    bool event(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    void BuildCodePane();
+    void BuildErrorPane();
+    void BuildStatusBar();
+    void LayOut();
+    void ShowRun();
+    void ShowCaret();
+    void ChoosePlace(int reportLine);
+
+    CodePane* txtCode = nullptr;
+    QPlainTextEdit* txtErrors = nullptr;
+    QStatusBar* StatusBar1 = nullptr;
+    QLabel* Panel1 = nullptr;
+    QLabel* Panel2 = nullptr;
+
+    GeneratedProgram run_;
+    QTimer runDue_; // started while a run waits to be shown
+};
+
+} // namespace orvane
