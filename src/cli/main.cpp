@@ -10,10 +10,6 @@
 #include <cstdlib>
 #include <ctime>
 
-#ifdef __GLIBC__
-#include <malloc.h>
-#endif
-
 namespace orvane::cli {
 
 namespace {
@@ -32,24 +28,12 @@ int Run(const Arguments& arguments) {
     return status;
 }
 
-// Memory that a document gave back is used again for its program: asking the system for fresh pages is what a
-// run would spend most of its time with.
-void KeepFreedMemory() {
-#ifdef __GLIBC__
-    constexpr int large = 32 << 20; // bytes, the most that the library takes
-    mallopt(M_MMAP_THRESHOLD, large);
-    mallopt(M_TRIM_THRESHOLD, large);
-    mallopt(M_TOP_PAD, 1 << 20);
-#endif
-}
-
 } // namespace
 
 } // namespace orvane::cli
 
 int main(int argc, char* argv[]) {
     using namespace orvane::cli;
-    KeepFreedMemory();
     PrepareStandardStreams();
     const std::variant<Arguments, Outcome> parsed = ParseArguments(argc, argv);
     const auto* arguments = std::get_if<Arguments>(&parsed);
