@@ -14,6 +14,7 @@ BEGIN {
     # The controls that any ui folder may take from another one. Windows meet in src/app.
     shared["editors/ui/CodePane.h"]
     shared["aids/ui/frmMyToolTip.h"]
+    shared["aids/ui/OpenInDesktop.h"]
 }
 
 function complain(why) {

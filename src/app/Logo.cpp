@@ -5,9 +5,7 @@
 
 // The pictures are linked into a library, which registers them only when asked. Outside the namespace, as the
 // generated function is.
-static void RegisterPictures() {
-    Q_INIT_RESOURCE(orvane);
-}
+static void RegisterPictures() { Q_INIT_RESOURCE(orvane); }
 
 namespace orvane {
 
