@@ -8,6 +8,7 @@
 #include "codegen/TimerList.h"
 #include "core/TimingMode.h"
 
+#include <algorithm>
 #include <array>
 #include <optional>
 #include <utility>
@@ -36,9 +37,11 @@ class StateLabels {
     std::array<std::string, kStateCount + 1> loop_;
 };
 
-// About as long as the program of a design with long texts gets; only the speed depends on it.
+// About as long as the program of a design with long texts gets; only the speed depends on it. Bounded,
+// because states that are not reached count here too, and long texts of theirs are not worth the memory.
 std::size_t EstimatedSize(const FsmDocument& document) {
-    constexpr std::size_t jumps = 48; // bytes that a cell takes beside its texts
+    constexpr std::size_t largest = 8u << 20; // bytes
+    constexpr std::size_t jumps = 48;         // bytes that a cell takes beside its texts
     std::size_t size = 4096 + document.General.CodeSeg.size() + document.General.TestSeg.size() +
                        document.General.InitSeg.size() + document.General.NvEm0Data.size();
     for (const int state : StateNumbers()) {
@@ -50,7 +53,7 @@ std::size_t EstimatedSize(const FsmDocument& document) {
                         document.Event(row).Code.size();
         }
     }
-    return size;
+    return std::min(size, largest);
 }
 
 class CodeGenerator {
