@@ -56,22 +56,29 @@ TimingChoice ChooseTimingMode(TimingOptions options, std::string_view timeConst,
     return {std::nullopt, TimingProblem::NoTimingOption};
 }
 
-std::string_view TextOf(TimingProblem problem) {
+UserMessage MessageOf(TimingProblem problem) {
+    constexpr const char* limitMissing = "This won't do!";
     switch (problem) {
     case TimingProblem::None:
-        return "";
+        break;
     case TimingProblem::NoConstantLimit:
-        return "You must provide a constant time limit";
+        return {"You must provide a constant time limit", limitMissing, MessageIcon::Warning};
     case TimingProblem::NoVariableLimit:
-        return "You must provide code for the variable time limit";
+        return {"You must provide code for the variable time limit", limitMissing, MessageIcon::Critical};
     case TimingProblem::StartWithoutLimitOption:
-        return "Unparsed timing mode options in frmStateEdit.cmdOK_Click [1]";
+        return {"Unparsed timing mode options in frmStateEdit.cmdOK_Click [1]"};
     case TimingProblem::ContinueWithoutLimitOption:
-        return "Unparsed timing mode options in frmStateEdit.cmdOK_Click [2]";
+        return {"Unparsed timing mode options in frmStateEdit.cmdOK_Click [2]"};
     case TimingProblem::NoTimingOption:
-        return "Unparsed timing mode options in frmStateEdit.cmdOK_Click [3]";
+        return {"Unparsed timing mode options in frmStateEdit.cmdOK_Click [3]"};
     }
-    return "";
+    return {};
+}
+
+UserMessage UnknownTimingModeMessage() {
+    UserMessage message{"Unknown timeout state in frmStateEdit.Execute"};
+    message.Icon = MessageIcon::Critical;
+    return message;
 }
 
 } // namespace orvane

@@ -2,6 +2,8 @@
 // The timing mode of a state as the two groups of options that the state editor offers for it.
 #pragma once
 
+#include "core/UserMessage.h"
+
 #include <cstdint>
 #include <optional>
 #include <string_view>
@@ -41,8 +43,11 @@ struct TimingChoice {
 // The mode that the options stand for. A limit is missing only when its text is empty; blanks will do.
 TimingChoice ChooseTimingMode(TimingOptions options, std::string_view timeConst, std::string_view timingVar);
 
-// What the user is told about a problem; empty for none.
-std::string_view TextOf(TimingProblem problem);
+// What the user is told about a problem.
+UserMessage MessageOf(TimingProblem problem);
+
+// What the user is told when a state with a mode that nobody knows is opened.
+UserMessage UnknownTimingModeMessage();
 
 // The user has to give a limit before the state can be taken. Any other problem keeps the former mode.
 constexpr bool IsLimitMissing(TimingProblem problem) {

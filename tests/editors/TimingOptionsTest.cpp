@@ -45,26 +45,34 @@ TEST(TimingOptions, OnlyTheEmptyTextIsAMissingLimit) {
 }
 
 TEST(TimingOptions, GroupsWithoutAnOptionAreToldApart) {
-    const auto textOf = [](TimingOptions options) {
+    const auto messageOf = [](TimingOptions options) {
         const TimingChoice choice = ChooseTimingMode(options, "5", "code");
         EXPECT_FALSE(choice.Mode);
         EXPECT_FALSE(IsLimitMissing(choice.Problem));
-        return TextOf(choice.Problem);
+        return MessageOf(choice.Problem);
     };
-    EXPECT_EQ(textOf({TimingOption::Start, LimitOption::None}),
-              "Unparsed timing mode options in frmStateEdit.cmdOK_Click [1]");
-    EXPECT_EQ(textOf({TimingOption::Continue, LimitOption::None}),
-              "Unparsed timing mode options in frmStateEdit.cmdOK_Click [2]");
-    EXPECT_EQ(textOf({TimingOption::None, LimitOption::Constant}),
-              "Unparsed timing mode options in frmStateEdit.cmdOK_Click [3]");
+    EXPECT_EQ(messageOf({TimingOption::Start, LimitOption::None}),
+              (UserMessage{"Unparsed timing mode options in frmStateEdit.cmdOK_Click [1]"}));
+    EXPECT_EQ(messageOf({TimingOption::Continue, LimitOption::None}),
+              (UserMessage{"Unparsed timing mode options in frmStateEdit.cmdOK_Click [2]"}));
+    EXPECT_EQ(messageOf({TimingOption::None, LimitOption::Constant}),
+              (UserMessage{"Unparsed timing mode options in frmStateEdit.cmdOK_Click [3]"}));
 }
 
 TEST(TimingOptions, MissingLimitsSayWhatToProvide) {
     EXPECT_TRUE(IsLimitMissing(TimingProblem::NoConstantLimit));
     EXPECT_TRUE(IsLimitMissing(TimingProblem::NoVariableLimit));
-    EXPECT_EQ(TextOf(TimingProblem::NoConstantLimit), "You must provide a constant time limit");
-    EXPECT_EQ(TextOf(TimingProblem::NoVariableLimit), "You must provide code for the variable time limit");
-    EXPECT_EQ(TextOf(TimingProblem::None), "");
+    EXPECT_EQ(
+        MessageOf(TimingProblem::NoConstantLimit),
+        (UserMessage{"You must provide a constant time limit", "This won't do!", MessageIcon::Warning}));
+    EXPECT_EQ(MessageOf(TimingProblem::NoVariableLimit),
+              (UserMessage{"You must provide code for the variable time limit", "This won't do!",
+                           MessageIcon::Critical}));
+}
+
+TEST(TimingOptions, AModeThatNobodyKnowsIsToldAsAnError) {
+    EXPECT_EQ(UnknownTimingModeMessage(), (UserMessage{"Unknown timeout state in frmStateEdit.Execute",
+                                                       "Orvane", MessageIcon::Critical}));
 }
 
 } // namespace

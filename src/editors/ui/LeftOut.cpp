@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editors/ui/LeftOut.h"
 
+#include "core/AnsiText.h"
 #include "core/ui/AnsiString.h"
 
 namespace orvane {
@@ -23,6 +24,15 @@ QString LeftOutMessage(const QString& characters) {
     const QString shown =
         characters.size() > kMostShown ? characters.left(kMostShown) + QChar(0x2026) : characters;
     return QStringLiteral("Left out, because a document cannot hold it: %1").arg(shown);
+}
+
+std::string FieldText(const QString& shown) {
+    std::string text;
+    text.reserve(static_cast<std::size_t>(shown.size()));
+    for (const QChar character : shown)
+        if (const std::optional<char> byte = ToAnsi(char32_t{character.unicode()}))
+            text += *byte;
+    return text;
 }
 
 } // namespace orvane

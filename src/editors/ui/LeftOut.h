@@ -4,6 +4,8 @@
 
 #include <QString>
 
+#include <string>
+
 namespace orvane {
 
 // The characters of the text outside Windows-1252, and the delimiter, in their order.
@@ -11,5 +13,8 @@ QString CharactersOutsideDocuments(const QString& text);
 
 // What the window says about them.
 QString LeftOutMessage(const QString& characters);
+
+// What stands in a field as document text. A delimiter stays: a field has one only when its document had.
+std::string FieldText(const QString& shown);
 
 } // namespace orvane

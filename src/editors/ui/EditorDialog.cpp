@@ -1,0 +1,136 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "editors/ui/EditorDialog.h"
+
+#include "editors/ui/CodePane.h"
+#include "editors/ui/DocumentLineEdit.h"
+#include "editors/ui/DocumentTextEdit.h"
+#include "editors/ui/EditorStatusBar.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QShortcut>
+#include <QShowEvent>
+#include <QStyle>
+#include <QVBoxLayout>
+
+namespace orvane {
+
+EditorDialog::EditorDialog(const QString& name, int helpPage, QWidget* parent) : QDialog(parent) {
+    setObjectName(name);
+    setWindowFlag(Qt::WindowMaximizeButtonHint);
+    auto* help = new QShortcut(Qt::Key_F1, this);
+    help->setContext(Qt::WindowShortcut);
+    connect(help, &QShortcut::activated, this, [this, helpPage] { Q_EMIT HelpRequested(helpPage); });
+}
+
+void EditorDialog::reject() {
+    Cancel();
+    QDialog::reject();
+}
+
+QHBoxLayout* EditorDialog::BuildButtons() {
+    cmdOK = new QPushButton(QStringLiteral("OK"), this);
+    cmdOK->setObjectName(QStringLiteral("cmdOK"));
+    cmdOK->setDefault(true);
+    cmdCancel = new QPushButton(QStringLiteral("Cancel"), this);
+    cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
+    cmdCancel->setAutoDefault(false);
+    connect(cmdCancel, &QPushButton::clicked, this, &EditorDialog::reject);
+    auto* row = new QHBoxLayout;
+    row->addStretch();
+    row->addWidget(cmdOK);
+    row->addWidget(cmdCancel);
+    return row;
+}
+
+QHBoxLayout* EditorDialog::BuildNameRow(DocumentLineEdit*& txtName) {
+    txtName = new DocumentLineEdit(this);
+    txtName->setObjectName(QStringLiteral("txtName"));
+    auto* lblName = new QLabel(QStringLiteral("Name"), this);
+    lblName->setObjectName(QStringLiteral("lblName"));
+    lblName->setBuddy(txtName);
+    auto* row = new QHBoxLayout;
+    row->addWidget(lblName);
+    row->addWidget(txtName);
+    return row;
+}
+
+QLabel* EditorDialog::BuildPrompt(const char* name, const QString& text) {
+    auto* prompt = new QLabel(text, this);
+    prompt->setObjectName(QString::fromLatin1(name));
+    prompt->setTextFormat(Qt::PlainText);
+    prompt->setWordWrap(true);
+    return prompt;
+}
+
+QWidget* EditorDialog::BuildPage(QLabel* prompt, QWidget* field) {
+    auto* page = new QWidget(this);
+    auto* layout = new QVBoxLayout(page);
+    layout->addWidget(prompt);
+    layout->addWidget(field, 1);
+    return page;
+}
+
+void EditorDialog::LayOut(const std::function<void(QVBoxLayout&)>& fill, EditorStatusBar* statusBar) {
+    auto* outer = new QVBoxLayout(this);
+    outer->setContentsMargins({});
+    outer->setSpacing(0);
+    auto* content = new QVBoxLayout;
+    const QStyle& look = *style();
+    content->setContentsMargins(
+        look.pixelMetric(QStyle::PM_LayoutLeftMargin), look.pixelMetric(QStyle::PM_LayoutTopMargin),
+        look.pixelMetric(QStyle::PM_LayoutRightMargin), look.pixelMetric(QStyle::PM_LayoutBottomMargin));
+    content->setSpacing(look.pixelMetric(QStyle::PM_LayoutVerticalSpacing));
+    fill(*content);
+    outer->addLayout(content, 1);
+    if (statusBar != nullptr)
+        outer->addWidget(statusBar);
+}
+
+void EditorDialog::ConnectLine(DocumentLineEdit& field, const std::function<void()>& changed) {
+    connect(&field, &QLineEdit::textChanged, this, WhenChanged(changed));
+    connect(&field, &DocumentLineEdit::CharactersLeftOut, this, &EditorDialog::ShowLeftOut);
+}
+
+void EditorDialog::ConnectText(DocumentTextEdit& field, const std::function<void()>& changed) {
+    connect(&field, &QPlainTextEdit::textChanged, this, WhenChanged(changed));
+    connect(&field, &DocumentTextEdit::CharactersLeftOut, this, &EditorDialog::ShowLeftOut);
+}
+
+void EditorDialog::ConnectPane(CodePane& pane, const std::function<void()>& changed) {
+    connect(&pane, &CodePane::TextEdited, this, WhenChanged(changed));
+    connect(&pane, &CodePane::GotFocus, this, &EditorDialog::SuspendTabStops);
+    connect(&pane, &CodePane::CharactersLeftOut, this, &EditorDialog::ShowLeftOut);
+}
+
+std::function<void()> EditorDialog::WhenChanged(const std::function<void()>& changed) {
+    return [this, changed] {
+        if (changed && !filling_)
+            changed();
+        TellEdited();
+    };
+}
+
+void EditorDialog::Fill(const std::function<void()>& setFields) {
+    filling_ = true;
+    setFields();
+    filling_ = false;
+}
+
+void EditorDialog::TellEdited() {
+    if (!filling_)
+        Q_EMIT Edited();
+}
+
+void EditorDialog::showEvent(QShowEvent* event) {
+    QDialog::showEvent(event);
+    if (!event->spontaneous())
+        Activate();
+}
+
+bool EditorDialog::focusNextPrevChild(bool next) {
+    return !tabStopsSuspended_ && QDialog::focusNextPrevChild(next);
+}
+
+} // namespace orvane

@@ -1,0 +1,115 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "editors/ui/frmEventEdit.h"
+
+#include "editors/ui/CodePane.h"
+#include "editors/ui/DocumentLineEdit.h"
+#include "editors/ui/DocumentTextEdit.h"
+#include "editors/ui/EditorStatusBar.h"
+#include "editors/ui/LeftOut.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+namespace orvane {
+
+namespace {
+
+constexpr int kHelpPage = 4943;
+constexpr QSize kStartSize = {560, 420}; // pixels
+constexpr int kCodeTab = 0;
+constexpr PaneHandlers kEventCode = {
+    .GotFocus = true, .TextChanged = true, .FindKey = true, .MouseReleased = true, .OvertypeChanged = true};
+
+} // namespace
+
+frmEventEdit::frmEventEdit(QWidget* parent)
+    : EditorDialog(QStringLiteral("frmEventEdit"), kHelpPage, parent) {
+    setWindowTitle(QStringLiteral("Event Definition"));
+    StatusBar1 = new EditorStatusBar(this);
+    StatusBar1->ShowOvertype(false);
+    LayOut(
+        [this](QVBoxLayout& content) {
+            content.addLayout(BuildNameRow(txtName));
+            BuildTabs();
+            content.addWidget(SSTab1, 1);
+            content.addLayout(BuildButtons());
+        },
+        StatusBar1);
+    ConnectFields();
+    resize(kStartSize);
+}
+
+void frmEventEdit::BuildTabs() {
+    txtEventCode = new CodePane(kEventCode, this);
+    txtEventCode->setObjectName(QStringLiteral("txtEventCode"));
+    txtComment = new DocumentTextEdit(this);
+    txtComment->setObjectName(QStringLiteral("txtComment"));
+    SSTab1 = new QTabWidget(this);
+    SSTab1->setObjectName(QStringLiteral("SSTab1"));
+    SSTab1->addTab(
+        BuildPage(
+            BuildPrompt("lblCodePrompt",
+                        QStringLiteral("Enter code here that evaluates to TRUE when the event happens")),
+            txtEventCode),
+        QStringLiteral("Code"));
+    SSTab1->addTab(BuildPage(BuildPrompt("lblTooltipPrompt",
+                                         QStringLiteral("This text become a tooltip style comment for the "
+                                                        "event. It has no effect on the program")),
+                             txtComment),
+                   QStringLiteral("ToolTip"));
+}
+
+void frmEventEdit::ConnectFields() {
+    ConnectLine(*txtName);
+    ConnectText(*txtComment);
+    ConnectPane(*txtEventCode);
+    connect(txtComment, &DocumentTextEdit::GotFocus, this, &frmEventEdit::SuspendTabStops);
+    connect(txtEventCode, &CodePane::CaretReadOutDue, this, &frmEventEdit::RefreshCaretReadOut);
+    connect(txtEventCode, &CodePane::OvertypeSet, StatusBar1, &EditorStatusBar::ShowOvertype);
+    connect(cmdOK, &QPushButton::clicked, this, &frmEventEdit::Accept);
+    // Whichever tab was chosen; a pane that is covered takes no keys.
+    const auto focusCode = [this] { txtEventCode->setFocus(); };
+    connect(SSTab1, &QTabWidget::currentChanged, this, focusCode);
+    connect(SSTab1, &QTabWidget::tabBarClicked, this, focusCode);
+}
+
+void frmEventEdit::SetVocabulary(const Vocabulary& vocabulary) { txtEventCode->SetVocabulary(vocabulary); }
+
+void frmEventEdit::Execute(EventRecord& editEvent) {
+    workingEvent_ = editEvent;
+    Fill([this] { ShowEventRecord(); });
+    exec();
+    editEvent = workingEvent_;
+}
+
+void frmEventEdit::ShowEventRecord() {
+    txtName->SetText(workingEvent_.Name);
+    txtEventCode->SetText(workingEvent_.Code);
+    txtComment->SetText(workingEvent_.Tooltip);
+    SSTab1->setCurrentIndex(workingEvent_.LastTab);
+}
+
+void frmEventEdit::Activate() {
+    SSTab1->setCurrentIndex(kCodeTab);
+    txtEventCode->setFocus();
+}
+
+void frmEventEdit::Accept() {
+    workingEvent_.Name = txtName->Text();
+    workingEvent_.Tooltip = txtComment->Text();
+    workingEvent_.Code = txtEventCode->Text();
+    workingEvent_.LastTab = static_cast<std::int16_t>(SSTab1->currentIndex());
+    accept();
+}
+
+void frmEventEdit::RefreshCaretReadOut() { StatusBar1->ShowCaret(txtEventCode->CaretReadOut()); }
+
+void frmEventEdit::ShowLeftOut(const QString& characters) {
+    StatusBar1->showMessage(LeftOutMessage(characters));
+}
+
+} // namespace orvane

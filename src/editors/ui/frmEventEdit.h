@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "aids/Vocabulary.h"
+#include "core/EventRecord.h"
+#include "editors/ui/EditorDialog.h"
+
+class QTabWidget;
+
+namespace orvane {
+
+// Edits one event: its name, the code that tests for it, and its comment. Any contents will do.
+class frmEventEdit : public EditorDialog {
+    Q_OBJECT
+
+  public:
+    explicit frmEventEdit(QWidget* parent = nullptr);
+
+    void SetVocabulary(const Vocabulary& vocabulary);
+
+    // Shows the event until the dialog closes. Cancel leaves it as it is.
+    void Execute(EventRecord& editEvent);
+
+  protected:
+    void Activate() override;
+    void ShowLeftOut(const QString& characters) override;
+
+  private:
+    void BuildTabs();
+    void ConnectFields();
+    void ShowEventRecord();
+    void Accept();
+    void RefreshCaretReadOut();
+
+    DocumentLineEdit* txtName;
+    QTabWidget* SSTab1;
+    CodePane* txtEventCode;
+    DocumentTextEdit* txtComment;
+    EditorStatusBar* StatusBar1;
+    EventRecord workingEvent_;
+};
+
+} // namespace orvane

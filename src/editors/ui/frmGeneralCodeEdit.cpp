@@ -1,0 +1,256 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "editors/ui/frmGeneralCodeEdit.h"
+
+#include "editors/CodeSuggestions.h"
+#include "editors/ui/CodePane.h"
+#include "editors/ui/DocumentLineEdit.h"
+#include "editors/ui/EditorStatusBar.h"
+#include "editors/ui/LeftOut.h"
+#include "editors/ui/PaneLook.h"
+#include "editors/ui/SuggestionFrame.h"
+
+#include <QCheckBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+namespace orvane {
+
+namespace {
+
+constexpr int kHelpPage = 4942;
+constexpr QSize kStartSize = {680, 500}; // pixels
+constexpr int kCodeTab = 0;
+constexpr int kTabCount = 7;
+
+const QString kPolytaskPrompt =
+    QStringLiteral("Enter code here that supports your FSM, such as GET/SET routines. This also must include "
+                   "any code required to launch the actual FSM task.");
+const QString kStartupPrompt =
+    QStringLiteral("Here you can enter any code needed at startup, before the main task gets under way.");
+
+} // namespace
+
+frmGeneralCodeEdit::frmGeneralCodeEdit(GeneralCode& general, QWidget* parent)
+    : EditorDialog(QStringLiteral("frmGeneralCodeEdit"), kHelpPage, parent), general_(general) {
+    setWindowTitle(QStringLiteral("General code"));
+    StatusBar1 = new EditorStatusBar(this);
+    LayOut(
+        [this](QVBoxLayout& content) {
+            content.addLayout(BuildNameRow(txtName));
+            BuildPanes();
+            BuildTabs();
+            content.addWidget(SSTab1, 1);
+            content.addLayout(BuildButtons());
+        },
+        StatusBar1);
+    ConnectFields();
+    ConnectOptions();
+    ShowGeneralCode();
+    resize(kStartSize);
+}
+
+void frmGeneralCodeEdit::BuildPanes() {
+    txtCodeSeg = BuildPane("txtCodeSeg");
+    txtInitSeg = BuildPane("txtInitSeg");
+    txtNV0Data = BuildPane("txtNV0Data");
+    txtTestSeg = BuildPane("txtTestSeg");
+    txtHeader = BuildPane("txtHeader", false);
+    panes_ = {txtCodeSeg, txtInitSeg, txtNV0Data, txtTestSeg, txtHeader};
+}
+
+CodePane* frmGeneralCodeEdit::BuildPane(const char* name, bool findKey) {
+    auto* pane = new CodePane(
+        {.GotFocus = true, .TextChanged = true, .FindKey = findKey, .MouseReleased = true}, this);
+    pane->setObjectName(QString::fromLatin1(name));
+    return pane;
+}
+
+void frmGeneralCodeEdit::BuildTabs() {
+    SSTab1 = new QTabWidget(this);
+    SSTab1->setObjectName(QStringLiteral("SSTab1"));
+    lblCodePrompt = BuildPrompt("lblCodePrompt", {});
+    QLabel* initPrompt = BuildPrompt(
+        "lblInitPrompt", QStringLiteral("Enter here any code required to execute once on program "
+                                        "startup to initialise your FSM. This will generally be a "
+                                        "call to the initialise function."));
+    QLabel* dataPrompt = BuildPrompt("lblNV0Prompt", QStringLiteral("Enter NVEM0 data here"));
+    QLabel* testPrompt =
+        BuildPrompt("lblTestPrompt", QStringLiteral("Code that is used for testing your FSM (excluded from "
+                                                    "production builds)"));
+    QLabel* headPrompt =
+        BuildPrompt("lblHeadPrompt", QStringLiteral("Use this for a comment to describe your FSM. Appears "
+                                                    "just before the main code"));
+    fraCodeSuggestion =
+        new SuggestionFrame({"fraCodeSuggestion", "lblSuggestCodeSeg", "cmdAcceptCodeSuggestion"}, this);
+    fraInitSuggestion =
+        new SuggestionFrame({"fraInitSuggestion", "lblSuggestInitSeg", "cmdAcceptInitSuggestion"}, this);
+    SSTab1->addTab(BuildSuggestingPage(lblCodePrompt, fraCodeSuggestion, txtCodeSeg), {});
+    SSTab1->addTab(BuildSuggestingPage(initPrompt, fraInitSuggestion, txtInitSeg), QStringLiteral("INITSEG"));
+    SSTab1->addTab(BuildPage(dataPrompt, txtNV0Data), QStringLiteral("NVEM0DATA"));
+    SSTab1->addTab(BuildPage(testPrompt, txtTestSeg), QStringLiteral("TESTSEG"));
+    SSTab1->addTab(BuildPage(headPrompt, txtHeader), QStringLiteral("Header"));
+    SSTab1->addTab(BuildLaunchPage(), QStringLiteral("LAUNCHSEG"));
+    SSTab1->addTab(BuildInstancesPage(), QStringLiteral("Instances"));
+}
+
+QWidget* frmGeneralCodeEdit::BuildSuggestingPage(QLabel* prompt, SuggestionFrame* frame, CodePane* pane) {
+    QWidget* page = BuildPage(prompt, pane);
+    static_cast<QVBoxLayout*>(page->layout())->insertWidget(1, frame);
+    return page;
+}
+
+QWidget* frmGeneralCodeEdit::BuildLaunchPage() {
+    chkLAUNCHSEG = new QCheckBox(QStringLiteral("Include ;<LAUNCHSEG> containing RunTasksForever"), this);
+    chkLAUNCHSEG->setObjectName(QStringLiteral("chkLAUNCHSEG"));
+    auto* page = new QWidget(this);
+    auto* column = new QVBoxLayout(page);
+    column->addWidget(chkLAUNCHSEG);
+    column->addStretch();
+    return page;
+}
+
+QWidget* frmGeneralCodeEdit::BuildInstancesPage() {
+    txtInstanceCount = new DocumentLineEdit(this);
+    txtInstanceCount->setObjectName(QStringLiteral("txtInstanceCount"));
+    txtInstanceCount->setFont(FieldFont());
+    auto* page = new QWidget(this);
+    auto* column = new QVBoxLayout(page);
+    column->addWidget(BuildPrompt("lblInstancePrompt",
+                                  QStringLiteral("If you are using Polytask you may be launching multiple "
+                                                 "instances of this task. In that case the Instance Count "
+                                                 "setting will force the creation of that many automaticlly "
+                                                 "generated variables, such as timers.")));
+    column->addWidget(BuildPrompt("Label1", QStringLiteral("InstanceCount = Number of Polytask instances of "
+                                                           "this task (you can use a symbol defined "
+                                                           "elsewhere, or a number 1 to 32)")));
+    column->addWidget(txtInstanceCount);
+    column->addStretch();
+    return page;
+}
+
+void frmGeneralCodeEdit::ConnectFields() {
+    ConnectLine(*txtName, [this] {
+        general_.FsmName = txtName->Text();
+        RefreshSuggestions();
+    });
+    ConnectSegment(*txtCodeSeg, &GeneralCode::CodeSeg, &frmGeneralCodeEdit::RefreshCodeSuggestion);
+    ConnectSegment(*txtInitSeg, &GeneralCode::InitSeg, &frmGeneralCodeEdit::RefreshInitSuggestion);
+    ConnectSegment(*txtNV0Data, &GeneralCode::NvEm0Data, &frmGeneralCodeEdit::RefreshInitSuggestion);
+    ConnectSegment(*txtTestSeg, &GeneralCode::TestSeg, nullptr);
+    ConnectSegment(*txtHeader, &GeneralCode::HeaderComment, nullptr);
+    connect(txtHeader, &CodePane::GotFocus, this, &frmGeneralCodeEdit::TellEdited);
+    connect(fraCodeSuggestion, &SuggestionFrame::Accepted, this,
+            [this] { txtCodeSeg->SetText(CodeSuggestion(general_.FsmName)); });
+    connect(fraInitSuggestion, &SuggestionFrame::Accepted, this,
+            [this] { txtInitSeg->SetText(InitSuggestion(general_.FsmName)); });
+}
+
+void frmGeneralCodeEdit::ConnectSegment(CodePane& pane, std::string GeneralCode::*segment,
+                                        void (frmGeneralCodeEdit::*suggest)()) {
+    ConnectPane(pane, [this, &pane, segment, suggest] {
+        general_.*segment = pane.Text();
+        if (suggest != nullptr)
+            (this->*suggest)();
+    });
+    connect(&pane, &CodePane::CaretReadOutDue, this, &frmGeneralCodeEdit::RefreshCaretReadOut);
+}
+
+void frmGeneralCodeEdit::ConnectOptions() {
+    connect(chkLAUNCHSEG, &QCheckBox::toggled, this, [this](bool checked) {
+        general_.LaunchSeg = checked;
+        TellEdited();
+    });
+    // The instance count is stored as it is typed, but nothing is generated for it.
+    connect(txtInstanceCount, &QLineEdit::textChanged, this,
+            [this] { general_.Instances = txtInstanceCount->Text(); });
+    connect(txtInstanceCount, &DocumentLineEdit::CharactersLeftOut, this, &frmGeneralCodeEdit::ShowLeftOut);
+    connect(SSTab1, &QTabWidget::currentChanged, this, &frmGeneralCodeEdit::FocusPaneOfTab);
+    connect(SSTab1, &QTabWidget::tabBarClicked, this, &frmGeneralCodeEdit::FocusPaneOfTab);
+    connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
+}
+
+void frmGeneralCodeEdit::SetVocabulary(const Vocabulary& vocabulary) {
+    for (CodePane* pane : panes_)
+        pane->SetVocabulary(vocabulary);
+}
+
+void frmGeneralCodeEdit::ShowGeneralCode() {
+    Fill([this] { FillFields(); });
+    ShowPolytask();
+    RefreshSuggestions();
+}
+
+void frmGeneralCodeEdit::FillFields() {
+    txtName->SetText(general_.FsmName);
+    txtCodeSeg->SetText(general_.CodeSeg);
+    txtInitSeg->SetText(general_.InitSeg);
+    txtNV0Data->SetText(general_.NvEm0Data);
+    txtTestSeg->SetText(general_.TestSeg);
+    txtHeader->SetText(general_.HeaderComment);
+    chkLAUNCHSEG->setChecked(general_.LaunchSeg);
+    txtInstanceCount->SetText(general_.Instances);
+}
+
+void frmGeneralCodeEdit::Execute(bool polytask) {
+    snapshot_ = general_;
+    polytask_ = polytask;
+    exec();
+    TellEdited();
+}
+
+void frmGeneralCodeEdit::Activate() {
+    ShowPolytask();
+    RefreshSuggestions();
+    SSTab1->setCurrentIndex(kCodeTab);
+    txtCodeSeg->setFocus();
+}
+
+void frmGeneralCodeEdit::ShowPolytask() {
+    lblCodePrompt->setText(polytask_ ? kPolytaskPrompt : kStartupPrompt);
+    SSTab1->setTabText(kCodeTab, polytask_ ? QStringLiteral("CODESEG") : QStringLiteral("Startup code"));
+    for (int tab = kCodeTab + 1; tab < kTabCount; ++tab)
+        SSTab1->setTabVisible(tab, polytask_);
+}
+
+void frmGeneralCodeEdit::RefreshSuggestions() {
+    RefreshCodeSuggestion();
+    RefreshInitSuggestion();
+}
+
+void frmGeneralCodeEdit::RefreshCodeSuggestion() {
+    fraCodeSuggestion->Offer(polytask_ && general_.CodeSeg.empty(), CodeSuggestion(general_.FsmName));
+}
+
+void frmGeneralCodeEdit::RefreshInitSuggestion() {
+    fraInitSuggestion->Offer(polytask_ && general_.InitSeg.empty(), InitSuggestion(general_.FsmName));
+}
+
+void frmGeneralCodeEdit::Cancel() {
+    general_.FsmName = snapshot_.FsmName;
+    general_.CodeSeg = snapshot_.CodeSeg;
+    general_.InitSeg = snapshot_.InitSeg;
+    general_.NvEm0Data = snapshot_.NvEm0Data;
+    general_.TestSeg = snapshot_.TestSeg;
+    general_.HeaderComment = snapshot_.HeaderComment;
+    ShowGeneralCode();
+}
+
+void frmGeneralCodeEdit::FocusPaneOfTab() {
+    const auto tab = static_cast<std::size_t>(SSTab1->currentIndex());
+    if (tab < panes_.size())
+        panes_[tab]->setFocus();
+}
+
+void frmGeneralCodeEdit::RefreshCaretReadOut() {
+    const auto tab = static_cast<std::size_t>(SSTab1->currentIndex());
+    StatusBar1->ShowCaret(tab < panes_.size() ? panes_[tab]->CaretReadOut() : QString());
+}
+
+void frmGeneralCodeEdit::ShowLeftOut(const QString& characters) {
+    StatusBar1->showMessage(LeftOutMessage(characters));
+}
+
+} // namespace orvane

@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "aids/Vocabulary.h"
+#include "core/GeneralCode.h"
+#include "editors/ui/EditorDialog.h"
+
+#include <array>
+
+class QCheckBox;
+class QTabWidget;
+
+namespace orvane {
+
+class SuggestionFrame;
+
+// Edits what belongs to the machine as a whole. Each edit is in the general code at once, so that the program
+// generated meanwhile shows it; Cancel puts back the texts, but neither the instance count nor the launch
+// mark.
+class frmGeneralCodeEdit : public EditorDialog {
+    Q_OBJECT
+
+  public:
+    // The general code has to outlive the dialog.
+    explicit frmGeneralCodeEdit(GeneralCode& general, QWidget* parent = nullptr);
+
+    void SetVocabulary(const Vocabulary& vocabulary);
+
+    // Shows the general code after something else has changed it.
+    void ShowGeneralCode();
+
+    // Comes up until OK or Cancel. Without Polytask only the start-up code is offered.
+    void Execute(bool polytask);
+
+  protected:
+    void Activate() override;
+    void Cancel() override;
+    void ShowLeftOut(const QString& characters) override;
+
+  private:
+    void BuildPanes();
+    CodePane* BuildPane(const char* name, bool findKey = true);
+    void BuildTabs();
+    QWidget* BuildSuggestingPage(QLabel* prompt, SuggestionFrame* frame, CodePane* pane);
+    QWidget* BuildLaunchPage();
+    QWidget* BuildInstancesPage();
+    void ConnectFields();
+    void ConnectSegment(CodePane& pane, std::string GeneralCode::*segment,
+                        void (frmGeneralCodeEdit::*suggest)());
+    void ConnectOptions();
+
+    void FillFields();
+    void ShowPolytask();
+    void RefreshSuggestions();
+    void RefreshCodeSuggestion();
+    void RefreshInitSuggestion();
+    void FocusPaneOfTab();
+    void RefreshCaretReadOut();
+
+    GeneralCode& general_;
+    GeneralCode snapshot_; // as it was when the dialog was opened
+    bool polytask_ = false;
+
+    DocumentLineEdit* txtName;
+    QTabWidget* SSTab1;
+    QLabel* lblCodePrompt;
+    CodePane* txtCodeSeg;
+    CodePane* txtInitSeg;
+    CodePane* txtNV0Data;
+    CodePane* txtTestSeg;
+    CodePane* txtHeader;
+    std::array<CodePane*, 5> panes_; // in the order of their tabs
+    SuggestionFrame* fraCodeSuggestion;
+    SuggestionFrame* fraInitSuggestion;
+    QCheckBox* chkLAUNCHSEG;
+    DocumentLineEdit* txtInstanceCount;
+    EditorStatusBar* StatusBar1;
+};
+
+} // namespace orvane

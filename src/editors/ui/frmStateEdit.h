@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "aids/Vocabulary.h"
+#include "core/StateRecord.h"
+#include "editors/TimingOptions.h"
+#include "editors/ui/EditorDialog.h"
+
+class QTabWidget;
+
+namespace orvane {
+
+class TimeoutPage;
+
+// Edits one state: its name, comment, entry and exit action, and its timeout. A timeout without a limit is
+// refused.
+class frmStateEdit : public EditorDialog {
+    Q_OBJECT
+
+  public:
+    explicit frmStateEdit(QWidget* parent = nullptr);
+
+    void SetVocabulary(const Vocabulary& vocabulary);
+    void SetTimeoutTabVisible(bool visible);
+    void SetExitTabVisible(bool visible);
+
+    // Shows the state until the dialog closes. Cancel leaves it as it is. The row of the table, 0..3, that
+    // was pressed chooses a tab, which the first tab takes over from as soon as the dialog is up.
+    void Execute(int row, StateRecord& editState);
+
+  protected:
+    void Activate() override;
+    void ShowLeftOut(const QString& characters) override;
+
+  private:
+    void BuildTabs();
+    void ConnectFields();
+    void ChooseTab(int row);
+    void ShowState();
+    void ShowTimingMode();
+    void Accept();
+    bool StoreTimingMode(StateRecord& state);
+    void FocusPaneOfTab();
+    void RefreshCaretReadOut();
+
+    DocumentLineEdit* txtName;
+    QTabWidget* SSTab1;
+    CodePane* txtEntryCode;
+    DocumentTextEdit* txtComment;
+    TimeoutPage* timeout_;
+    CodePane* txtExitCode;
+    EditorStatusBar* StatusBar1;
+    StateRecord workingState_;
+};
+
+} // namespace orvane

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "editors/ui/frmTransitionAction.h"
+
+#include "editors/ui/DocumentTextEdit.h"
+#include "editors/ui/LeftOut.h"
+#include "editors/ui/PaneLook.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace orvane {
+
+namespace {
+
+constexpr int kHelpPage = 4943;
+constexpr QSize kStartSize = {480, 300}; // pixels
+
+} // namespace
+
+frmTransitionAction::frmTransitionAction(QWidget* parent)
+    : EditorDialog(QStringLiteral("frmTransitionAction"), kHelpPage, parent) {
+    setWindowTitle(QStringLiteral("Transition action"));
+    txtCode = new DocumentTextEdit(this);
+    txtCode->setObjectName(QStringLiteral("txtCode"));
+    txtCode->setFont(FieldFont());
+    lblLeftOut = BuildPrompt("lblLeftOut", {});
+    lblLeftOut->hide();
+    LayOut(
+        [this](QVBoxLayout& content) {
+            content.addWidget(
+                BuildPrompt("lblPrompt", QStringLiteral("This code will be executed during the transition "
+                                                        "from the current state to the target state")));
+            content.addWidget(txtCode, 1);
+            content.addWidget(lblLeftOut);
+            content.addLayout(BuildButtons());
+        },
+        nullptr);
+    ConnectText(*txtCode);
+    connect(txtCode, &DocumentTextEdit::GotFocus, this, &frmTransitionAction::SuspendTabStops);
+    connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
+    resize(kStartSize);
+}
+
+void frmTransitionAction::SetCode(std::string_view ansi) {
+    Fill([&] { txtCode->SetText(ansi); });
+}
+
+std::string frmTransitionAction::Code() const { return txtCode->Text(); }
+
+void frmTransitionAction::Execute() { exec(); }
+
+void frmTransitionAction::Activate() {
+    textOnEntry_ = Code();
+    lblLeftOut->hide();
+    txtCode->setFocus();
+}
+
+void frmTransitionAction::Cancel() { SetCode(textOnEntry_); }
+
+void frmTransitionAction::ShowLeftOut(const QString& characters) {
+    lblLeftOut->setText(LeftOutMessage(characters));
+    lblLeftOut->show();
+}
+
+} // namespace orvane
