@@ -2,11 +2,11 @@
 #include "app/Greeting.h"
 
 #include "aids/ui/OpenInDesktop.h"
+#include "aids/ui/WebAddresses.h"
 #include "app/Logo.h"
 #include "core/ProgramVersion.h"
 #include "core/UpdatePage.h"
 #include "core/ui/UpdateCheck.h"
-#include "core/ui/WebAddresses.h"
 #include "core/ui/frmSplash.h"
 
 #include <QMessageBox>

@@ -56,11 +56,7 @@ frmTable::frmTable(QWidget* parent)
       menus_(new TableMenus(this)),
       commands_(new TableCommands(session_.Document, pressed_, *menus_, this)),
       lifecycle_(new DocumentLifecycle(session_, this, &Trace)),
-      windows_(std::make_unique<SideWindows>(session_,
-                                             [this] {
-                                                 RefreshGenerators();
-                                                 return generator_.GeneratedOk();
-                                             })),
+      windows_(std::make_unique<SideWindows>(session_, generator_, [this] { RefreshGenerators(); })),
       grid_(std::make_unique<TableGrid>(session_.Document, this)),
       frmMyToolTip_(new frmMyToolTip(this)) {
     setObjectName(QStringLiteral("frmTable"));
@@ -109,6 +105,7 @@ void frmTable::ConnectDocument() {
                        .arg(QDir::toNativeSeparators(path), why));
     });
     connect(grid_.get(), &TableGrid::RowsForced, this, &frmTable::ShowViewMarks);
+    connect(windows_.get(), &SideWindows::PlaceChosen, this, &frmTable::SelectCell);
 }
 
 // What is being typed in a cell belongs to the document by now.
@@ -133,6 +130,11 @@ void frmTable::ConnectMenus() {
     menus_->Connect("mnuPolytask", [this] { TogglePolytask(); });
     menus_->Connect("mnuCurrentState", [this] { SetCurrentState(pressed_.Column); });
     menus_->Connect("mnuBacktrack", [this] { windows_->BackTrack(pressed_.Column); });
+    menus_->Connect("mnuCodeGenerate", [this] {
+        CommitOpenEdit();
+        RefreshGenerators();
+        windows_->ShowGenerator();
+    });
     menus_->Connect("mnuBuilder", [this] { windows_->ShowBuilder(); });
     menus_->Connect("mnuBuildAndTest", [this] { windows_->BuildAndTest(); });
     commands_->Connect([this](const Change& change) { RunCommand(change); });
@@ -157,6 +159,7 @@ void frmTable::ConnectHints() {
 void frmTable::LoadWords() {
     LoadedVocabulary loaded = LoadVocabulary();
     vocabulary_ = std::move(loaded.Words);
+    windows_->SetVocabulary(vocabulary_);
     Panel3->setText(loaded.Problem);
 }
 
@@ -348,6 +351,14 @@ void frmTable::TogglePolytask() {
     session_.Document.View.Polytask = !session_.Document.View.Polytask;
     ShowViewMarks();
     RefreshGenerators();
+}
+
+void frmTable::SelectCell(int state, int row) {
+    grid_->View().CellRect(row, state); // brings the cell into view
+    grid_->View().setCurrentIndex(grid_->Model().index(row, state));
+    raise();
+    activateWindow();
+    grid_->View().setFocus();
 }
 
 void frmTable::SetCurrentState(int state) { grid_->Model().SetCurrentState(state); }

@@ -81,6 +81,7 @@ class frmTable : public QMainWindow {
 
     void ToggleView(SpecialRow row);
     void TogglePolytask();
+    void SelectCell(int state, int row);
     void SetCurrentState(int state);
     void SetShiftHeld(bool held);
 

@@ -11,10 +11,7 @@ namespace orvane {
 // Opens a page, a file or a folder with what the desktop has for it. False when there is no such thing.
 bool OpenInDesktop(const QUrl& address);
 
-// Where a page of the knowledge base is: at the address that the environment names (ORVANE_HELP_URL), else
-// the one that was set when the program was built, else among the pages that the program brings along.
-QUrl HelpPage(int page);
-
+// Opens a page of the knowledge base.
 bool OpenHelpPage(int page);
 
 // F1 with no other key opens the page while this window is the active one, whatever has the focus in it.

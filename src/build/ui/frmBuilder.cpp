@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "build/ui/frmBuilder.h"
 
+#include "aids/ui/OpenInDesktop.h"
 #include "build/BuilderScript.h"
 #include "build/ui/ScriptFile.h"
 #include "core/ui/AnsiString.h"
+#include "core/ui/UserMessageBox.h"
 
 #include <QEvent>
 #include <QFileDialog>
@@ -141,7 +143,7 @@ void frmBuilder::Load(const QString& path) {
     const std::optional<QString> script = ReadScript(path);
     if (!script) {
         MakeInitialScript();
-        Tell(tr(
+        Warn(tr(
             "Unable to open the previous Builder file. Perhaps you deleted it. A new one will be generated"));
         return;
     }
@@ -176,7 +178,7 @@ bool frmBuilder::Save() {
     if (!MayReplace(path))
         return false;
     if (!WriteScript(path, ScriptText())) {
-        Tell(tr("Save failed. Check the path/filename is valid"));
+        Warn(tr("Save failed. Check the path/filename is valid"));
         return false;
     }
     knownFile_ = path;
@@ -218,17 +220,17 @@ void frmBuilder::GoGoGo() {
     Settle();
     const bool generated = generate_();
     if (!Save()) {
-        Tell(tr("Sorry, the Build file failed to save. Check the file name / path."));
+        Warn(tr("Sorry, the Build file failed to save. Check the file name / path."));
         return;
     }
     if (!generated) {
-        Tell(tr("Sorry, unable to do that right now. The generated *.zls file contains errors.\r\n\r\n"
+        Warn(tr("Sorry, unable to do that right now. The generated *.zls file contains errors.\r\n\r\n"
                 "Hint: Check the error listing in the code generation window"));
         return;
     }
     const QString path = QFileInfo(txtFileName->text()).absoluteFilePath();
-    if (!open_(QUrl::fromLocalFile(path)))
-        Tell(tr("No program is registered to open the builder script %1. Install the build tool, or open the "
+    if (!OpenInDesktop(QUrl::fromLocalFile(path)))
+        Warn(tr("No program is registered to open the builder script %1. Install the build tool, or open the "
                 "script "
                 "with it by hand.")
                  .arg(path));
@@ -248,11 +250,9 @@ void frmBuilder::CheckForChangeOnDisk() {
         return;
     lastSavedScript_ = *script; // seen: asked once, whatever the answer
     const auto answer =
-        QMessageBox(
-            QMessageBox::Warning, tr("Changed script"),
-            tr("The Builder script has been changed on disk. Do you want to load the new version from disk?"),
-            QMessageBox::Yes | QMessageBox::No, this)
-            .exec();
+        Show(this, {"The Builder script has been changed on disk. Do you want to load the new "
+                    "version from disk?",
+                    "Changed script", MessageIcon::Warning, MessageButtons::YesNo});
     if (answer == QMessageBox::Yes)
         ShowScript(*script);
 }
@@ -262,8 +262,6 @@ void frmBuilder::showEvent(QShowEvent* event) {
     Settle();
 }
 
-void frmBuilder::Tell(const QString& text) {
-    QMessageBox(QMessageBox::Warning, QStringLiteral("Orvane"), text, QMessageBox::Ok, this).exec();
-}
+void frmBuilder::Warn(const QString& text) { Tell(this, text, QMessageBox::Warning); }
 
 } // namespace orvane

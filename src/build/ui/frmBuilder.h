@@ -9,7 +9,6 @@
 class QLineEdit;
 class QPlainTextEdit;
 class QPushButton;
-class QUrl;
 
 namespace orvane {
 
@@ -43,10 +42,6 @@ class frmBuilder : public QWidget {
     // Appends a line to the script.
     void AddSource(const QString& text);
 
-    // Opens a file with what the desktop has registered for it; returns whether there is such a thing.
-    using Opener = std::function<bool(const QUrl&)>;
-    void SetOpener(Opener opener) { open_ = std::move(opener); }
-
     // Runs the generator and returns whether it wrote its program.
     using Generator = std::function<bool()>;
     void SetGenerator(Generator generate) { generate_ = std::move(generate); }
@@ -69,7 +64,7 @@ class frmBuilder : public QWidget {
     void SetFileName(const QString& path);
     QString ScriptText() const;
     QString DefaultName() const;
-    void Tell(const QString& text);
+    void Warn(const QString& text);
 
     QPlainTextEdit* txtBuildScript = nullptr;
     QPlainTextEdit* txtPrompt = nullptr;
@@ -83,7 +78,6 @@ class frmBuilder : public QWidget {
     QString knownFile_;       // the file that LastSavedScript was read from or written to
     QString lastSavedScript_; // as read back from disk
     bool settled_ = false;
-    Opener open_;
     Generator generate_;
 };
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "codegen/ui/frmGenerator.h"
 
+#include "aids/ui/OpenInDesktop.h"
 #include "codegen/ui/TextReplacement.h"
 #include "core/ui/AnsiString.h"
 #include "editors/ui/CodePane.h"
 
-#include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPlainTextEdit>
@@ -29,6 +29,7 @@ frmGenerator::frmGenerator(QWidget* parent) : QWidget(parent, Qt::Window) {
     BuildCodePane();
     BuildErrorPane();
     BuildStatusBar();
+    AddHelpKey(*this, kHelpPage);
     runDue_.setSingleShot(true);
     connect(&runDue_, &QTimer::timeout, this, &frmGenerator::ShowRun);
     resize(kFirstSize);
@@ -107,20 +108,6 @@ void frmGenerator::LayOut() {
     txtCode->setGeometry(0, 0, width(), code);
     txtErrors->setGeometry(0, code + kGap, width(), errors);
     StatusBar1->setGeometry(0, height() - status, width(), status);
-}
-
-// Keys are seen here before the panes see them.
-bool frmGenerator::event(QEvent* event) {
-    if (event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride) {
-        auto* key = static_cast<QKeyEvent*>(event);
-        if (key->key() == Qt::Key_F1 && key->modifiers() == Qt::NoModifier) {
-            if (event->type() == QEvent::KeyPress)
-                Q_EMIT HelpRequested(kHelpPage);
-            event->accept();
-            return true;
-        }
-    }
-    return QWidget::event(event);
 }
 
 bool frmGenerator::eventFilter(QObject* watched, QEvent* event) {

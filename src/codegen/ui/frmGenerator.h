@@ -37,10 +37,8 @@ class frmGenerator : public QWidget {
   Q_SIGNALS:
     // A line of the report that has a place in the table was double-clicked: state 1..100, row 0..54.
     void PlaceChosen(int state, int row);
-    void HelpRequested(int page);
 
   protected:
-    bool event(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 

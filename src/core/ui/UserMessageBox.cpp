@@ -34,8 +34,8 @@ QMessageBox::StandardButton Show(QWidget* parent, const UserMessage& message) {
     return Run(box);
 }
 
-void Tell(QWidget* parent, const QString& text) {
-    QMessageBox box(QMessageBox::NoIcon, QStringLiteral("Orvane"), text, QMessageBox::Ok, parent);
+void Tell(QWidget* parent, const QString& text, QMessageBox::Icon icon) {
+    QMessageBox box(icon, QStringLiteral("Orvane"), text, QMessageBox::Ok, parent);
     Run(box);
 }
 

@@ -12,7 +12,7 @@ namespace orvane {
 QMessageBox::StandardButton Show(QWidget* parent, const UserMessage& message);
 
 // Tells something with the program's name as the title.
-void Tell(QWidget* parent, const QString& text);
+void Tell(QWidget* parent, const QString& text, QMessageBox::Icon icon = QMessageBox::NoIcon);
 
 // Asks with the buttons Yes, No and Cancel; closing the box is Cancel.
 QMessageBox::StandardButton AskYesNoCancel(QWidget* parent, const QString& title, const QString& text);

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "aids/ui/OpenInDesktop.h"
 
-#include <QDesktopServices>
+#include "support/ui/OpenedAddresses.h"
+
 #include <QLineEdit>
 #include <QTest>
 #include <QVBoxLayout>
@@ -10,29 +11,6 @@
 #include <gtest/gtest.h>
 
 namespace orvane {
-
-// Stands in for the desktop.
-class OpenedAddresses : public QObject {
-    Q_OBJECT
-
-  public:
-    OpenedAddresses() {
-        for (const QString& scheme : schemes_)
-            QDesktopServices::setUrlHandler(scheme, this, "Open");
-    }
-    ~OpenedAddresses() override {
-        for (const QString& scheme : schemes_)
-            QDesktopServices::unsetUrlHandler(scheme);
-    }
-
-    QList<QUrl> Addresses;
-
-  public Q_SLOTS:
-    void Open(const QUrl& address) { Addresses += address; }
-
-  private:
-    const QStringList schemes_{QStringLiteral("https"), QStringLiteral("file")};
-};
 
 namespace {
 
@@ -85,5 +63,3 @@ TEST_F(OpenInDesktopTest, F1OpensThePageOfTheWindowWhateverHasTheFocus) {
 
 } // namespace
 } // namespace orvane
-
-#include "OpenInDesktopTest.moc"

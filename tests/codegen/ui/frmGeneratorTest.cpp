@@ -3,6 +3,7 @@
 
 #include "core/ui/AnsiString.h"
 #include "editors/ui/CodePane.h"
+#include "support/ui/OpenedAddresses.h"
 
 #include <QLabel>
 #include <QPlainTextEdit>
@@ -132,8 +133,8 @@ TEST_F(frmGeneratorTest, TheReportTakesThreeTenthsOfTheHeight) {
 TEST_F(frmGeneratorTest, ADoubleClickOnAFindingChoosesItsPlace) {
     QSignalSpy chosen(&window_, &frmGenerator::PlaceChosen);
     window_.TakeRun(ARun("", {{Severity::Error, 3, 7, "Missing event test code in row 7"},
-                             {Severity::Warning, 5, 0, "State 5:Odd\r\nname is a dead end"},
-                             {Severity::Note, 6, 4, "State 6: has"}}),
+                              {Severity::Warning, 5, 0, "State 5:Odd\r\nname is a dead end"},
+                              {Severity::Note, 6, 4, "State 6: has"}}),
                     QString());
     Show();
     QWidget* report = Find<QPlainTextEdit>("txtErrors").viewport();
@@ -147,14 +148,16 @@ TEST_F(frmGeneratorTest, ADoubleClickOnAFindingChoosesItsPlace) {
     EXPECT_EQ(place(3), std::pair(6, 4));
 }
 
-TEST_F(frmGeneratorTest, F1AsksForTheHelpPageFromBothPanes) {
-    const QSignalSpy asked(&window_, &frmGenerator::HelpRequested);
+TEST_F(frmGeneratorTest, F1OpensTheHelpPageFromBothPanes) {
+    const OpenedAddresses opened;
+    qputenv("ORVANE_HELP_URL", "https://help.example/");
     Show();
     QTest::keyClick(&Find<CodePane>("txtCode"), Qt::Key_F1);
     QTest::keyClick(&Find<QPlainTextEdit>("txtErrors"), Qt::Key_F1);
     QTest::keyClick(&Find<QPlainTextEdit>("txtErrors"), Qt::Key_F1, Qt::ShiftModifier);
-    ASSERT_EQ(asked.count(), 2);
-    EXPECT_EQ(asked[0][0].toInt(), 4947);
+    qunsetenv("ORVANE_HELP_URL");
+    const QUrl page(QStringLiteral("https://help.example/4947.htm"));
+    EXPECT_EQ(opened.Addresses, (QList<QUrl>{page, page}));
 }
 
 } // namespace
