@@ -3,11 +3,25 @@
 
 #include "aids/ui/WebAddresses.h"
 
+#include <QCoreApplication>
 #include <QDesktopServices>
 #include <QShortcut>
+#include <QToolTip>
 #include <QWidget>
 
 namespace orvane {
+
+namespace {
+
+// In passing: whoever pressed a key too many has nothing to close.
+void TellThatNothingOpened(QWidget& window, int page) {
+    const QString text =
+        QCoreApplication::translate("OpenInDesktop", "The help page could not be opened: %1");
+    QToolTip::showText(window.mapToGlobal(window.rect().center()),
+                       text.arg(HelpPage(page).toDisplayString(QUrl::PreferLocalFile)), &window);
+}
+
+} // namespace
 
 bool OpenInDesktop(const QUrl& address) { return QDesktopServices::openUrl(address); }
 
@@ -15,7 +29,10 @@ bool OpenHelpPage(int page) { return OpenInDesktop(HelpPage(page)); }
 
 void AddHelpKey(QWidget& window, int page) {
     auto* key = new QShortcut(QKeySequence(Qt::Key_F1), &window);
-    QObject::connect(key, &QShortcut::activated, &window, [page] { OpenHelpPage(page); });
+    QObject::connect(key, &QShortcut::activated, &window, [&window, page] {
+        if (!OpenHelpPage(page))
+            TellThatNothingOpened(window, page);
+    });
 }
 
 } // namespace orvane

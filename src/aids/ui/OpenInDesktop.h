@@ -15,6 +15,7 @@ bool OpenInDesktop(const QUrl& address);
 bool OpenHelpPage(int page);
 
 // F1 with no other key opens the page while this window is the active one, whatever has the focus in it.
+// When nothing opens, a note on the window says which page it would have been.
 void AddHelpKey(QWidget& window, int page);
 
 } // namespace orvane

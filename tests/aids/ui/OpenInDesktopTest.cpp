@@ -5,6 +5,7 @@
 
 #include <QLineEdit>
 #include <QTest>
+#include <QToolTip>
 #include <QVBoxLayout>
 #include <QWidget>
 
@@ -59,6 +60,18 @@ TEST_F(OpenInDesktopTest, F1OpensThePageOfTheWindowWhateverHasTheFocus) {
     EXPECT_TRUE(Opened.Addresses.isEmpty());
     QTest::keyClick(field, Qt::Key_F1);
     EXPECT_EQ(Opened.Addresses, QList{QUrl(QStringLiteral("https://help.example/kb/1234.htm"))});
+}
+
+TEST_F(OpenInDesktopTest, AHelpPageThatDoesNotOpenIsNamed) {
+    qputenv("ORVANE_HELP_URL", "nobodyknows:kb/");
+    QWidget window;
+    AddHelpKey(window, 1234);
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    QTest::keyClick(&window, Qt::Key_F1);
+    EXPECT_TRUE(QToolTip::isVisible());
+    EXPECT_EQ(QToolTip::text(), QStringLiteral("The help page could not be opened: nobodyknows:kb/1234.htm"));
+    QToolTip::hideText();
 }
 
 } // namespace
