@@ -4,6 +4,8 @@
 #include "app/frmTable.h"
 #include "support/ui/DialogAnswer.h"
 
+#include <QAction>
+#include <QLineEdit>
 #include <QTableView>
 #include <QTemporaryDir>
 
@@ -11,9 +13,6 @@
 
 #include <memory>
 #include <string>
-
-class QAction;
-class QLineEdit;
 
 namespace orvane {
 

@@ -1,0 +1,258 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/ui/TableFixture.h"
+
+#include "core/DocumentWriter.h"
+#include "core/ProgramVersion.h"
+
+#include <QAction>
+#include <QDir>
+#include <QFile>
+#include <QTest>
+
+namespace orvane {
+namespace {
+
+constexpr auto kYesNoCancel = QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+
+class Lifecycle : public TableFixture {
+  protected:
+    void StartModified() {
+        StartOn(PumpDocument());
+        TypeTarget(7, 1, QStringLiteral("2"));
+        ASSERT_EQ(Title(), "*machine.zfsm" + TitleEnd());
+    }
+    void StartUntitledModified() {
+        Start({QStringLiteral("/nosplash")});
+        Trigger("mnuShowElse");
+        TypeTarget(kElseRow, 1, QStringLiteral("2"));
+        ASSERT_EQ(Title(), "*[Untitled]" + TitleEnd());
+    }
+    static std::string TitleEnd() { return " - Orvane " + ProgramVersion(); }
+    bool IsModified() { return Title().starts_with('*'); }
+};
+
+TEST_F(Lifecycle, TheTitleNamesTheFileAndTheVersionAndMarksChanges) {
+    StartOn(PumpDocument());
+    EXPECT_EQ(Title(), "machine.zfsm" + TitleEnd());
+    TypeTarget(7, 1, QStringLiteral("2"));
+    EXPECT_EQ(Title(), "*machine.zfsm" + TitleEnd());
+    Trigger("mnuFSave");
+    EXPECT_EQ(Title(), "machine.zfsm" + TitleEnd());
+    Trigger("mnuFNew");
+    EXPECT_EQ(Title(), "[Untitled]" + TitleEnd());
+}
+
+TEST_F(Lifecycle, NewOfAnUnchangedDocumentAsksNothing) {
+    StartOn(PumpDocument());
+    Trigger("mnuFNew");
+    EXPECT_EQ(Text(0, 0), "");
+    EXPECT_EQ(Text(0, 1), "1:");
+    EXPECT_EQ(Text(6, 0), " ");
+    EXPECT_EQ(Panel("Panel2"), "[Un-named]");
+    EXPECT_TRUE(Answers.Seen().empty());
+}
+
+TEST_F(Lifecycle, NewOfAChangedDocumentAsksAndCancelLeavesEverything) {
+    StartModified();
+    Answers.Press(QMessageBox::Cancel);
+    Trigger("mnuFNew");
+    ASSERT_EQ(Answers.Seen().size(), 1u);
+    EXPECT_EQ(Answers.Seen()[0].Text, "Save changes?");
+    EXPECT_EQ(Answers.Seen()[0].Title, "Orvane");
+    EXPECT_EQ(Answers.Seen()[0].Buttons, kYesNoCancel);
+    EXPECT_EQ(Title(), "*machine.zfsm" + TitleEnd());
+    EXPECT_EQ(Text(7, 1), "2:Run");
+}
+
+TEST_F(Lifecycle, NewWithNoDropsTheChanges) {
+    StartModified();
+    const std::string before = ReadFile(QStringLiteral("machine.zfsm"));
+    Answers.Press(QMessageBox::No);
+    Trigger("mnuFNew");
+    EXPECT_EQ(Title(), "[Untitled]" + TitleEnd());
+    EXPECT_EQ(ReadFile(QStringLiteral("machine.zfsm")), before);
+}
+
+TEST_F(Lifecycle, NewWithYesSavesFirst) {
+    StartModified();
+    const std::string before = ReadFile(QStringLiteral("machine.zfsm"));
+    Answers.Press(QMessageBox::Yes);
+    Trigger("mnuFNew");
+    EXPECT_EQ(Title(), "[Untitled]" + TitleEnd());
+    EXPECT_NE(ReadFile(QStringLiteral("machine.zfsm")), before);
+}
+
+TEST_F(Lifecycle, NewIsDroppedWhenTheSaveItAskedForIsCancelled) {
+    StartUntitledModified();
+    Answers.Press(QMessageBox::Yes).CancelFile();
+    Trigger("mnuFNew");
+    EXPECT_EQ(Title(), "*[Untitled]" + TitleEnd());
+    EXPECT_EQ(Text(kElseRow, 1), "2:");
+}
+
+TEST_F(Lifecycle, OpenAsksInItsOwnWordsAndCancelOpensNothing) {
+    StartModified();
+    Answers.Press(QMessageBox::Cancel);
+    Trigger("mnuFOpen");
+    ASSERT_EQ(Answers.Seen().size(), 1u);
+    EXPECT_EQ(Answers.Seen()[0].Text, "Save current file?");
+    EXPECT_EQ(Answers.Seen()[0].Title, "Save?");
+    EXPECT_EQ(Answers.Seen()[0].Buttons, kYesNoCancel);
+    EXPECT_TRUE(IsModified());
+}
+
+TEST_F(Lifecycle, OpenShowsTheChosenDocumentAndNothingOfTheOneBefore) {
+    FsmDocument shown = PumpDocument();
+    shown.View.Polytask = true;
+    shown.State(1).ColWidth = 3000;
+    shown.State(1).Targets[kElseRow] = 2;
+    StartOn(shown);
+    FsmDocument other;
+    other.State(1).Name = "Other";
+    WriteFile(QStringLiteral("other.zfsm"), WriteDocument(other));
+    Answers.ChooseFile(Path(QStringLiteral("other.zfsm")));
+    Trigger("mnuFOpen");
+    EXPECT_EQ(Title(), "other.zfsm" + TitleEnd());
+    EXPECT_EQ(Text(0, 1), "1:Other");
+    EXPECT_EQ(Text(0, 2), "2:");
+    EXPECT_EQ(Text(6, 0), " ");
+    EXPECT_FALSE(Item("mnuPolytask")->isChecked());
+    EXPECT_FALSE(Item("mnuShowElse")->isChecked());
+    EXPECT_TRUE(CellRect(kElseRow, 1).isEmpty());
+    EXPECT_EQ(Grid()->columnWidth(1), 945 / 15);
+    EXPECT_FALSE(Item("mnuUndo")->isEnabled());
+}
+
+TEST_F(Lifecycle, OpenOffersAllFilesAndDocuments) {
+    StartOn(PumpDocument());
+    Answers.CancelFile();
+    Trigger("mnuFOpen");
+    ASSERT_EQ(Answers.Seen().size(), 1u);
+    ASSERT_EQ(Answers.Seen()[0].NameFilters.size(), 2);
+    EXPECT_TRUE(Answers.Seen()[0].NameFilters[0].startsWith(QStringLiteral("All Files (*.*)")));
+    EXPECT_TRUE(Answers.Seen()[0].NameFilters[1].startsWith(QStringLiteral("Config file (*.zfsm)")));
+    EXPECT_EQ(Title(), "machine.zfsm" + TitleEnd());
+}
+
+TEST_F(Lifecycle, AFileThatCannotBeReadIsToldAndTheOpenDocumentStays) {
+    StartOn(PumpDocument());
+    WriteFile(QStringLiteral("picture.zfsm"), std::string("\x89PNG\0\0\0", 7));
+    Answers.ChooseFile(Path(QStringLiteral("picture.zfsm"))).Press(QMessageBox::Ok);
+    Trigger("mnuFOpen");
+    EXPECT_NE(Answers.Seen().back().Text.find("picture.zfsm"), std::string::npos);
+    EXPECT_NE(Answers.Seen().back().Text.find("The file is not a document"), std::string::npos);
+    EXPECT_EQ(Title(), "machine.zfsm" + TitleEnd());
+    EXPECT_EQ(Text(0, 1), "1:Idle");
+}
+
+TEST_F(Lifecycle, AFailedSaveSaysWhyKeepsTheOldFileAndTheMark) {
+    StartModified();
+    const std::string before = ReadFile(QStringLiteral("machine.zfsm"));
+    QFile::rename(Path(QStringLiteral("machine.zfsm")), Path(QStringLiteral("kept")));
+    QDir().mkpath(Path(QStringLiteral("machine.zfsm"))); // a folder cannot be replaced by a file
+    Answers.Press(QMessageBox::Ok);
+    Trigger("mnuFSave");
+    ASSERT_EQ(Answers.Seen().size(), 1u);
+    EXPECT_NE(Answers.Seen()[0].Text.find("could not be saved"), std::string::npos);
+    EXPECT_NE(Answers.Seen()[0].Text.find("machine.zfsm"), std::string::npos);
+    EXPECT_TRUE(IsModified());
+    EXPECT_EQ(ReadFile(QStringLiteral("kept")), before);
+    Answers.Press(QMessageBox::Yes).Press(QMessageBox::Ok); // a new document would lose it
+    Trigger("mnuFNew");
+    EXPECT_EQ(Title(), "*machine.zfsm" + TitleEnd());
+}
+
+TEST_F(Lifecycle, ADocumentWithoutAFileIsSavedUnderAChosenName) {
+    StartUntitledModified();
+    Answers.ChooseFile(Path(QStringLiteral("fresh")));
+    Trigger("mnuFSave");
+    EXPECT_EQ(Title(), "fresh.zfsm" + TitleEnd());
+    EXPECT_NE(ReadFile(QStringLiteral("fresh.zfsm")).find("<TRANS>5:2"), std::string::npos);
+}
+
+TEST_F(Lifecycle, SaveAsWritesAndNamesTheDocument) {
+    StartModified();
+    const std::string before = ReadFile(QStringLiteral("machine.zfsm"));
+    Answers.ChooseFile(Path(QStringLiteral("copy.zfsm")));
+    Trigger("mnuFSaveAs");
+    EXPECT_EQ(Title(), "copy.zfsm" + TitleEnd());
+    EXPECT_FALSE(ReadFile(QStringLiteral("copy.zfsm")).empty());
+    EXPECT_EQ(ReadFile(QStringLiteral("machine.zfsm")), before);
+}
+
+TEST_F(Lifecycle, ACancelledSaveAsLeavesTheDocumentModified) {
+    StartModified();
+    Answers.CancelFile();
+    Trigger("mnuFSaveAs");
+    EXPECT_EQ(Title(), "*machine.zfsm" + TitleEnd());
+}
+
+TEST_F(Lifecycle, ClosingAsksAndCancelKeepsTheWindow) {
+    StartModified();
+    Answers.Press(QMessageBox::Cancel);
+    EXPECT_FALSE(Window().close());
+    EXPECT_EQ(Answers.Seen().back().Text, "Save changes?");
+    EXPECT_EQ(Answers.Seen().back().Buttons, kYesNoCancel);
+    EXPECT_TRUE(Window().isVisible());
+}
+
+TEST_F(Lifecycle, ClosingWithYesSavesWithNoDoesNot) {
+    StartModified();
+    const std::string before = ReadFile(QStringLiteral("machine.zfsm"));
+    Answers.Press(QMessageBox::No);
+    EXPECT_TRUE(Window().close());
+    EXPECT_EQ(ReadFile(QStringLiteral("machine.zfsm")), before);
+    Window().show();
+    Answers.Press(QMessageBox::Yes);
+    EXPECT_TRUE(Window().close());
+    EXPECT_NE(ReadFile(QStringLiteral("machine.zfsm")), before);
+}
+
+TEST_F(Lifecycle, ClosingStaysOpenWhenTheSaveDoesNotComplete) {
+    StartModified();
+    QFile::remove(Path(QStringLiteral("machine.zfsm")));
+    QDir().mkpath(Path(QStringLiteral("machine.zfsm")));
+    Answers.Press(QMessageBox::Yes).Press(QMessageBox::Ok);
+    EXPECT_FALSE(Window().close());
+    EXPECT_TRUE(IsModified());
+}
+
+TEST_F(Lifecycle, UndoBackToWhatWasSavedTakesTheMarkAway) {
+    StartModified();
+    Trigger("mnuUndo");
+    EXPECT_EQ(Title(), "machine.zfsm" + TitleEnd());
+    EXPECT_EQ(Text(7, 1), "");
+    Trigger("mnuRedo");
+    EXPECT_EQ(Title(), "*machine.zfsm" + TitleEnd());
+    EXPECT_EQ(Text(7, 1), "2:Run");
+}
+
+TEST_F(Lifecycle, AnUnchangedSaveGivesTheSameBytes) {
+    StartOn(PumpDocument());
+    const std::string before = ReadFile(QStringLiteral("machine.zfsm"));
+    Trigger("mnuFSave");
+    EXPECT_EQ(ReadFile(QStringLiteral("machine.zfsm")), before);
+}
+
+TEST_F(Lifecycle, EveryChangeWritesTheProgramBesideTheDocument) {
+    StartOn(PumpDocument());
+    EXPECT_EQ(ReadFile(QStringLiteral("machine.zls")), ""); // opening alone touches nothing
+    TypeTarget(7, 1, QStringLiteral("2"));
+    EXPECT_NE(ReadFile(QStringLiteral("machine.zls")).find("PMP_Idle_Set1:"), std::string::npos);
+}
+
+TEST_F(Lifecycle, AProgramThatCannotBeWrittenIsToldOnce) {
+    StartOn(PumpDocument());
+    QDir().mkpath(Path(QStringLiteral("machine.zls")));
+    Answers.Press(QMessageBox::Ok);
+    TypeTarget(7, 1, QStringLiteral("2"));
+    EXPECT_NE(Answers.Seen().back().Text.find("machine.zls"), std::string::npos);
+    TypeTarget(7, 1, QStringLiteral("1"));
+    EXPECT_EQ(Answers.Seen().size(), 1u);
+    QDir().rmdir(Path(QStringLiteral("machine.zls")));
+    TypeTarget(7, 1, QStringLiteral("2"));
+    EXPECT_FALSE(ReadFile(QStringLiteral("machine.zls")).empty());
+}
+
+} // namespace
+} // namespace orvane

@@ -1,0 +1,151 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/ui/TableFixture.h"
+
+#include "app/CommandLine.h"
+#include "core/DocumentWriter.h"
+#include "core/ProgramVersion.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QDir>
+
+namespace orvane {
+namespace {
+
+class StartUp : public TableFixture {
+  protected:
+    static bool SplashIsShown() {
+        for (const QWidget* window : QApplication::topLevelWidgets()) {
+            if (window->objectName() == QStringLiteral("frmSplash") && window->isVisible())
+                return true;
+        }
+        return false;
+    }
+};
+
+FsmDocument Settings() {
+    FsmDocument document;
+    document.General.FsmName = "SET";
+    document.View.Polytask = true;
+    return document;
+}
+
+TEST_F(StartUp, WithoutSettingsTheTableIsEmptyAndNothingIsTold) {
+    Start();
+    EXPECT_EQ(Title(), "[Untitled] - Orvane " + ProgramVersion());
+    EXPECT_EQ(Text(0, 1), "1:");
+    EXPECT_EQ(Panel("Panel2"), "[Un-named]");
+    EXPECT_TRUE(SplashIsShown());
+}
+
+TEST_F(StartUp, TheSettingsAreTakenOverWithoutTheirName) {
+    WriteFile(QStringLiteral("ORVANE_INI.zfsm"), WriteDocument(Settings()));
+    Start({QStringLiteral("/nosplash")});
+    EXPECT_EQ(Title(), "[Untitled] - Orvane " + ProgramVersion());
+    EXPECT_EQ(Text(0, 0), "SET");
+    EXPECT_EQ(Panel("Panel2"), "SET");
+    EXPECT_TRUE(Item("mnuPolytask")->isChecked());
+    EXPECT_FALSE(SplashIsShown());
+    Answers.CancelFile(); // a save asks for a name
+    Trigger("mnuFSave");
+}
+
+TEST_F(StartUp, ADocumentOnTheCommandLineIsOpenedWithoutSplash) {
+    WriteFile(QStringLiteral("ORVANE_INI.zfsm"), WriteDocument(Settings()));
+    StartOn(PumpDocument());
+    EXPECT_EQ(Title(), "machine.zfsm - Orvane " + ProgramVersion());
+    EXPECT_EQ(Text(0, 0), "PMP");
+    EXPECT_FALSE(SplashIsShown());
+}
+
+TEST_F(StartUp, BrokenSettingsAreToldAndTheProgramGoesOn) {
+    WriteFile(QStringLiteral("ORVANE_INI.zfsm"), "\xA4<FSM_NAME>SET\xA4/\r\n\xA4<STATE>200:\xA4/\r\n");
+    Answers.Press(QMessageBox::Ok).Press(QMessageBox::Ok);
+    Start({QStringLiteral("/nosplash")});
+    EXPECT_EQ(Text(0, 0), "SET");
+    EXPECT_TRUE(Item("mnuFNew")->isEnabled());
+}
+
+TEST_F(StartUp, SettingsThatAreAFolderAreToldAndTheProgramGoesOn) {
+    QDir().mkpath(Path(QStringLiteral("ORVANE_INI.zfsm")));
+    Answers.Press(QMessageBox::Ok);
+    Start({QStringLiteral("/nosplash")});
+    EXPECT_NE(Answers.Seen()[0].Text.find("ORVANE_INI.zfsm"), std::string::npos);
+    EXPECT_EQ(Text(0, 1), "1:");
+}
+
+TEST_F(StartUp, AFileThatDoesNotExistIsToldWithItsName) {
+    Answers.Press(QMessageBox::Ok);
+    Start({Path(QStringLiteral("missing.zfsm"))});
+    EXPECT_NE(Answers.Seen()[0].Text.find("missing.zfsm"), std::string::npos);
+    EXPECT_EQ(Title(), "[Untitled] - Orvane " + ProgramVersion());
+}
+
+TEST_F(StartUp, AMissingVocabularyIsToldInTheStatusBarWithItsPlace) {
+    Start({QStringLiteral("/nosplash")});
+    EXPECT_NE(Panel("Panel3").find("vocab.txt"), std::string::npos);
+}
+
+TEST_F(StartUp, AVocabularyThatIsThereLeavesTheStatusBarEmpty) {
+    QDir().mkpath(Path(QStringLiteral("Zorlan32/vocab")));
+    WriteFile(QStringLiteral("Zorlan32/vocab/vocab.txt"), "Inst=GoTo\r\nDirective=EQU\r\n");
+    Start({QStringLiteral("/nosplash")});
+    EXPECT_EQ(Panel("Panel3"), "");
+}
+
+TEST_F(StartUp, ABoundsErrorSaysWhatAndWhereAndKeepsTheFileFromBeingOverwritten) {
+    Answers.Press(QMessageBox::Ok).Press(QMessageBox::Ok);
+    StartOnBytes("\xA4<FSM_NAME>PMP\xA4/\r\n\xA4<STATE>101:\xA4/\r\n\r\n");
+    EXPECT_EQ(Answers.Seen()[0].Text,
+              "The number \"101\" of STATE is outside 1..100; reading stopped there\r\n(line 2)");
+    EXPECT_EQ(Text(0, 0), "PMP");
+    EXPECT_EQ(Title(), "[Untitled] - Orvane " + ProgramVersion());
+}
+
+TEST_F(StartUp, EachUnknownTagShowsItsMessage) {
+    Answers.Press(QMessageBox::Ok).Press(QMessageBox::Ok);
+    StartOnBytes("\xA4<FOO>1\xA4/\r\n\xA4<BAR>2\xA4/\r\n\xA4<FSM_NAME>PMP\xA4/\r\n\r\n");
+    ASSERT_EQ(Answers.Seen().size(), 2u);
+    EXPECT_EQ(Answers.Seen()[0].Text, "Unknown tag FOO");
+    EXPECT_EQ(Answers.Seen()[1].Text, "Unknown tag BAR");
+    EXPECT_EQ(Title(), "machine.zfsm - Orvane " + ProgramVersion());
+}
+
+TEST_F(StartUp, ManyUnknownTagsShareTheLastBox) {
+    std::string bytes;
+    for (int i = 0; i < 200; ++i)
+        bytes += "\xA4<TAG" + std::to_string(i) + ">1\xA4/\r\n";
+    for (int i = 0; i < 5; ++i)
+        Answers.Press(QMessageBox::Ok);
+    StartOnBytes(bytes + "\xA4<FSM_NAME>PMP\xA4/\r\n\r\n");
+    ASSERT_EQ(Answers.Seen().size(), 5u);
+    EXPECT_EQ(Answers.Seen()[3].Text, "Unknown tag TAG3");
+    EXPECT_TRUE(Answers.Seen()[4].Text.starts_with("Unknown tag TAG4\r\nUnknown tag TAG5\r\n"));
+    EXPECT_TRUE(Answers.Seen()[4].Text.ends_with("... and 176 more"));
+}
+
+TEST(CommandLineText, APathIsTheWholeLine) {
+    EXPECT_EQ(ParseCommandLine({QStringLiteral("C:\\my"), QStringLiteral("files\\a.zfsm")}).DocumentPath,
+              QStringLiteral("C:\\my files\\a.zfsm"));
+    const CommandLine network =
+        ParseCommandLine({QStringLiteral("\\\\server\\a.zfsm"), QStringLiteral("/nosplash")});
+    EXPECT_EQ(network.DocumentPath, QStringLiteral("\\\\server\\a.zfsm /nosplash"));
+    EXPECT_TRUE(network.NoSplash);
+}
+
+TEST(CommandLineText, NoSplashIsNoPath) {
+    const CommandLine line = ParseCommandLine({QStringLiteral("/nosplash")});
+    EXPECT_TRUE(line.DocumentPath.isEmpty());
+    EXPECT_TRUE(line.NoSplash);
+    EXPECT_FALSE(ParseCommandLine({}).NoSplash);
+}
+
+TEST(CommandLineText, AnyOtherArgumentIsAPathOfThisSystem) {
+    EXPECT_EQ(ParseCommandLine({QStringLiteral("/home/me/a b.zfsm")}).DocumentPath,
+              QStringLiteral("/home/me/a b.zfsm"));
+    EXPECT_EQ(ParseCommandLine({QStringLiteral("/nosplash"), QStringLiteral("a.zfsm")}).DocumentPath,
+              QStringLiteral("a.zfsm"));
+}
+
+} // namespace
+} // namespace orvane
