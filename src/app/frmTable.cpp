@@ -5,6 +5,7 @@
 #include "aids/ui/VocabularyFile.h"
 #include "aids/ui/frmMyToolTip.h"
 #include "app/DocumentLifecycle.h"
+#include "app/EditorWindows.h"
 #include "app/Greeting.h"
 #include "app/SideWindows.h"
 #include "app/TableMenus.h"
@@ -56,6 +57,7 @@ frmTable::frmTable(QWidget* parent)
       menus_(new TableMenus(this)),
       commands_(new TableCommands(session_.Document, pressed_, *menus_, this)),
       lifecycle_(new DocumentLifecycle(session_, this, &Trace)),
+      editors_(new EditorWindows(session_.Document, vocabulary_, this)),
       windows_(std::make_unique<SideWindows>(session_, generator_, [this] { RefreshGenerators(); })),
       grid_(std::make_unique<TableGrid>(session_.Document, this)),
       frmMyToolTip_(new frmMyToolTip(this)) {
@@ -67,6 +69,7 @@ frmTable::frmTable(QWidget* parent)
     ConnectFileMenu();
     ConnectMenus();
     ConnectGrid();
+    ConnectEditors();
     ConnectHints();
     AddHelpKey(*this, kHelpPage);
     Trace("Start at " + QDateTime::currentDateTime().toString(Qt::ISODate).toStdString());
@@ -104,7 +107,11 @@ void frmTable::ConnectDocument() {
         Tell(this, QStringLiteral("The generated program could not be written to\r\n%1\r\n%2.")
                        .arg(QDir::toNativeSeparators(path), why));
     });
-    connect(grid_.get(), &TableGrid::RowsForced, this, &frmTable::ShowViewMarks);
+    connect(grid_.get(), &TableGrid::RowsForced, this, [this] {
+        ShowViewMarks();
+        if (session_.Document.View.ShowTimingMode)
+            editors_->ShowTimeoutTab(true);
+    });
     connect(windows_.get(), &SideWindows::PlaceChosen, this, &frmTable::SelectCell);
 }
 
@@ -147,6 +154,15 @@ void frmTable::ConnectGrid() {
     connect(&view, &FsmGridView::EnterPressed, this,
             [this] { BeginCellEdit(pressed_.Row, pressed_.Column); });
     connect(&grid_->Editor(), &CellEditor::CommitWanted, this, &frmTable::CommitCellEdit);
+}
+
+void frmTable::ConnectEditors() {
+    menus_->Connect("mnuGeneralCode", [this] { EditGeneralCode(); });
+    menus_->Connect("mnuEditTransAct", [this] { EditTransitionAction(); });
+    connect(editors_, &EditorWindows::Edited, this, [this] {
+        ShowMachineName();
+        RefreshGenerators();
+    });
 }
 
 void frmTable::ConnectHints() {
@@ -239,6 +255,8 @@ void frmTable::ShowReplacedDocument() {
     grid_->Editor().Abandon();
     grid_->Hints().ClearHoverEffects();
     grid_->Model().SetCurrentState(kNoState);
+    editors_->ShowExitTab(true);
+    editors_->ShowTimeoutTab(true);
     grid_->RefreshGrid();
     ShowViewMarks();
     ShowDocumentState();
@@ -250,6 +268,12 @@ void frmTable::ShowDocumentState() {
     setWindowTitle(WindowTitle(session_.CurrentFileName, session_.IsModified()));
     menus_->Item("mnuUndo")->setEnabled(session_.Undo.CanUndo());
     menus_->Item("mnuRedo")->setEnabled(session_.Undo.CanRedo());
+    ShowMachineName();
+}
+
+// In the corner of the table and in the status bar.
+void frmTable::ShowMachineName() {
+    grid_->PopulateRowHeaders();
     const std::string& name = session_.Document.General.FsmName;
     Panel2->setText(name.empty() ? QStringLiteral("[Un-named]") : FromAnsi(name));
 }
@@ -275,7 +299,7 @@ void frmTable::PressState(const GridPress& press) {
         if (press.Row >= kFirstCellRow)
             BeginCellEdit(press.Row, press.Column);
         else
-            grid_->Editor().Abandon();
+            EditState(press.Row, press.Column);
     } else if (press.Button == Qt::RightButton) {
         if (press.Row == kHeadRow) {
             const Reachability reachability = ComputeReachability(session_.Document);
@@ -292,8 +316,13 @@ void frmTable::PressState(const GridPress& press) {
 void frmTable::PressRowHead(const GridPress& press) {
     grid_->Editor().Abandon();
     const bool isEvent = press.Row >= kFirstEventRow;
+    const bool isPlainLeft = press.Button == Qt::LeftButton && press.Modifiers == Qt::NoModifier;
     if (press.Button == Qt::LeftButton && press.Modifiers == Qt::ShiftModifier)
         StepMachine(press.Row);
+    else if (isPlainLeft && press.Row == kHeadRow)
+        EditGeneralCode();
+    else if (isPlainLeft && isEvent)
+        EditEvent(press.Row);
     else if (press.Button == Qt::RightButton && isEvent)
         PopUp("mnuEventLabel", press.GlobalPosition);
 }
@@ -341,10 +370,42 @@ void frmTable::CommitOpenEdit() {
         CommitCellEdit();
 }
 
+void frmTable::EditState(int row, int state) {
+    grid_->Editor().Abandon();
+    RunCommand([&] {
+        editors_->EditState(row, state);
+        return Redraw{Redraw::Extent::AllColumns};
+    });
+}
+
+void frmTable::EditEvent(int row) {
+    RunCommand([&] {
+        editors_->EditEvent(row);
+        return Redraw{Redraw::Extent::RowHeads};
+    });
+}
+
+void frmTable::EditGeneralCode() {
+    RunCommand([&] {
+        editors_->EditGeneralCode();
+        return Redraw{Redraw::Extent::RowHeads};
+    });
+}
+
+void frmTable::EditTransitionAction() {
+    RunCommand([&] {
+        editors_->EditTransitionAction(pressed_.Row, pressed_.Column);
+        return Redraw{Redraw::Extent::Column, pressed_.Column};
+    });
+}
+
 void frmTable::ToggleView(SpecialRow row) {
     ToggleRow(session_.Document.View, row, grid_->StandardHeight());
     grid_->ApplyRowVisibility();
     ShowViewMarks();
+    const ViewOptions& view = session_.Document.View;
+    editors_->ShowExitTab(IsMarked(view, SpecialRow::ExitAction));
+    editors_->ShowTimeoutTab(view.ShowTimingMode || view.ShowTimeTarget);
 }
 
 void frmTable::TogglePolytask() {

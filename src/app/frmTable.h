@@ -18,6 +18,7 @@ class QLabel;
 namespace orvane {
 
 class DocumentLifecycle;
+class EditorWindows;
 class SideWindows;
 class TableGrid;
 class TableMenus;
@@ -53,6 +54,7 @@ class frmTable : public QMainWindow {
     void ConnectFileMenu();
     void ConnectMenus();
     void ConnectGrid();
+    void ConnectEditors();
     void ConnectHints();
     void LoadWords();
 
@@ -65,6 +67,7 @@ class frmTable : public QMainWindow {
     // Showing what is the case.
     void ShowReplacedDocument();
     void ShowDocumentState();
+    void ShowMachineName();
     void ShowViewMarks();
 
     // A press on the table.
@@ -79,6 +82,11 @@ class frmTable : public QMainWindow {
     void CommitCellEdit();
     void CommitOpenEdit();
 
+    void EditState(int row, int state);
+    void EditEvent(int row);
+    void EditGeneralCode();
+    void EditTransitionAction();
+
     void ToggleView(SpecialRow row);
     void TogglePolytask();
     void SelectCell(int state, int row);
@@ -91,6 +99,7 @@ class frmTable : public QMainWindow {
     TableMenus* menus_;
     TableCommands* commands_;
     DocumentLifecycle* lifecycle_;
+    EditorWindows* editors_;
     std::unique_ptr<SideWindows> windows_;
     std::unique_ptr<TableGrid> grid_; // goes before what it shows
     frmMyToolTip* frmMyToolTip_;
