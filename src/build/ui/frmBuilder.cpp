@@ -24,6 +24,7 @@ namespace orvane {
 namespace {
 
 constexpr QSize kFirstSize{720, 620};
+constexpr int kPromptLines = 10; // the explanation at the first width, and some room for a narrower window
 
 const QString kSaveFilter = QStringLiteral("All Files (*.*);;Config file (*.b1d)");
 const QString kOpenFilter = QStringLiteral("All Files (*.*);;Builder script (*.b1d)");
@@ -57,6 +58,7 @@ void frmBuilder::BuildControls() {
     txtPrompt->setObjectName(QStringLiteral("txtPrompt"));
     txtPrompt->setAccessibleName(tr("Explanation"));
     txtPrompt->setReadOnly(true);
+    txtPrompt->setFixedHeight(kPromptLines * txtPrompt->fontMetrics().lineSpacing());
 
     txtFileName = new QLineEdit(this);
     txtFileName->setObjectName(QStringLiteral("txtFileName"));
@@ -82,8 +84,8 @@ void frmBuilder::LayOut() {
     actions->addWidget(cmdSave);
     actions->addWidget(cmdRun);
     auto* all = new QVBoxLayout(this);
-    all->addWidget(txtBuildScript, 3);
-    all->addWidget(txtPrompt, 2);
+    all->addWidget(txtBuildScript, 1);
+    all->addWidget(txtPrompt);
     all->addLayout(file);
     all->addLayout(actions);
 }

@@ -14,7 +14,7 @@ namespace {
 
 constexpr qint16 kLastTick = 200;
 constexpr int kTickInterval = 50; // milliseconds: the window stays for about ten seconds
-constexpr QSize kTextSize{420, 230};
+constexpr QSize kTextSize{420, 170};
 
 QString Blurb() {
     return QStringLiteral("Orvane is free to use for commercial and non-commercial "
