@@ -53,6 +53,7 @@ void frmBuilder::BuildControls() {
     QFont fixed(QStringLiteral("Courier New"));
     fixed.setStyleHint(QFont::Monospace);
     txtBuildScript->setFont(fixed);
+    txtBuildScript->installEventFilter(this);
 
     txtPrompt = new QPlainTextEdit(FromAnsi(BuilderExplanation()), this);
     txtPrompt->setObjectName(QStringLiteral("txtPrompt"));
@@ -242,6 +243,16 @@ bool frmBuilder::event(QEvent* event) {
     if (event->type() == QEvent::WindowActivate)
         CheckForChangeOnDisk();
     return QWidget::event(event);
+}
+
+bool frmBuilder::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::FocusIn)
+        tabStopsSuspended_ = true;
+    return QWidget::eventFilter(watched, event);
+}
+
+bool frmBuilder::focusNextPrevChild(bool next) {
+    return !tabStopsSuspended_ && QWidget::focusNextPrevChild(next);
 }
 
 void frmBuilder::CheckForChangeOnDisk() {

@@ -49,6 +49,8 @@ class frmBuilder : public QWidget {
   protected:
     bool event(QEvent* event) override;
     void showEvent(QShowEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
 
   private:
     void BuildControls();
@@ -78,6 +80,7 @@ class frmBuilder : public QWidget {
     QString knownFile_;       // the file that LastSavedScript was read from or written to
     QString lastSavedScript_; // as read back from disk
     bool settled_ = false;
+    bool tabStopsSuspended_ = false; // from the script's first focus on, so that Tab can be typed in it
     Generator generate_;
 };
 

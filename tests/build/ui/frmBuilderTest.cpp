@@ -313,6 +313,19 @@ TEST_F(frmBuilderTest, AnotherDocumentBringsItsOwnScript) {
     EXPECT_EQ(FileName(), Path(QStringLiteral("valve.b1d")));
 }
 
+TEST_F(frmBuilderTest, AfterTheScriptHadTheFocusTabIsTypedAndDoesNotMoveIt) {
+    Open({});
+    Show();
+    auto& script = Find<QPlainTextEdit>("txtBuildScript");
+    auto& name = Find<QLineEdit>("txtFileName");
+    script.setFocus();
+    QTest::keyClick(&script, Qt::Key_Tab);
+    EXPECT_TRUE(Script().starts_with("\t") || Script().ends_with("\t"));
+    name.setFocus();
+    QTest::keyClick(&name, Qt::Key_Tab);
+    EXPECT_TRUE(name.hasFocus());
+}
+
 TEST_F(frmBuilderTest, TypingInTheExplanationIsDiscarded) {
     Open({});
     Show();
