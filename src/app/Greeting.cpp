@@ -37,6 +37,7 @@ void ShowSplash(QWidget* window) {
 
 void CheckForUpdate(QWidget* window) {
     auto* check = new UpdateCheck(window);
+    check->setObjectName(QStringLiteral("Inet1"));
     QObject::connect(check, &UpdateCheck::NewerVersionFound, window,
                      [window](const std::string& latestVersion) { OfferUpdate(window, latestVersion); });
     check->Start(DownloadPage());
