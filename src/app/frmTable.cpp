@@ -207,6 +207,7 @@ void frmTable::closeEvent(QCloseEvent* event) {
 
 void frmTable::RunCommand(const Change& change) {
     DrawAgain(change());
+    grid_->View().ShowChangesNow(); // before the program is written, which the disk can take its time for
     CommitChange();
     RefreshGenerators();
 }
@@ -273,9 +274,12 @@ void frmTable::ShowDocumentState() {
 
 // In the corner of the table and in the status bar.
 void frmTable::ShowMachineName() {
-    grid_->PopulateRowHeaders();
     const std::string& name = session_.Document.General.FsmName;
-    Panel2->setText(name.empty() ? QStringLiteral("[Un-named]") : FromAnsi(name));
+    const QString shown = name.empty() ? QStringLiteral("[Un-named]") : FromAnsi(name);
+    if (shown == Panel2->text())
+        return;
+    Panel2->setText(shown);
+    grid_->PopulateRowHeaders();
 }
 
 void frmTable::ShowViewMarks() {
@@ -360,9 +364,9 @@ void frmTable::CommitCellEdit() {
     RunCommand([&] {
         if (const auto refusal = StoreTypedTarget(session_.Document, editor.EditRow(), column, typed))
             Show(this, *refusal);
+        editor.Abandon();
         return Redraw{Redraw::Extent::Column, column};
     });
-    editor.Abandon();
 }
 
 void frmTable::CommitOpenEdit() {

@@ -40,11 +40,6 @@ QSize FsmGridView::FrozenSize() const {
     return {std::min(columnWidth(0), viewport()->width() * 3 / 4), rowHeight(0)};
 }
 
-QRect FsmGridView::BodyRect() const {
-    const QSize frozen = FrozenSize();
-    return viewport()->rect().adjusted(frozen.width(), frozen.height(), 0, 0);
-}
-
 QRect FsmGridView::visualRect(const QModelIndex& index) const {
     if (!index.isValid() || isRowHidden(index.row()) || isColumnHidden(index.column()))
         return {};
@@ -112,6 +107,8 @@ void FsmGridView::scrollTo(const QModelIndex& index, ScrollHint) {
                        viewport()->height());
 }
 
+void FsmGridView::ShowChangesNow() { QCoreApplication::sendPostedEvents(window(), QEvent::UpdateRequest); }
+
 void FsmGridView::scrollContentsBy(int dx, int dy) {
     QTableView::scrollContentsBy(dx, dy);
     viewport()->update(); // The heads do not scroll along.
@@ -134,14 +131,9 @@ void FsmGridView::dataChanged(const QModelIndex& topLeft, const QModelIndex& bot
 }
 
 void FsmGridView::paintEvent(QPaintEvent* event) {
-    GridPainter painter(*this, event->rect());
-    const QRect whole = viewport()->rect();
-    const QSize frozen = FrozenSize();
-    painter.PaintOutside();
-    painter.PaintCells(BodyRect());
-    painter.PaintCells({frozen.width(), 0, whole.width() - frozen.width(), frozen.height()});
-    painter.PaintCells({0, frozen.height(), frozen.width(), whole.height() - frozen.height()});
-    painter.PaintCells({0, 0, frozen.width(), frozen.height()});
+    GridPainter painter(*this);
+    for (const QRect& dirty : event->region())
+        painter.Paint(dirty);
 }
 
 bool FsmGridView::event(QEvent* event) {
@@ -250,10 +242,14 @@ void FsmGridView::keyReleaseEvent(QKeyEvent* event) {
     QTableView::keyReleaseEvent(event);
 }
 
+// The focus shows in the frame of the current cell alone. The base class would paint the whole table anew
+// each time the in-place editor closes.
+void FsmGridView::focusInEvent(QFocusEvent*) { update(currentIndex()); }
+
 // The key may be released where nobody tells us.
-void FsmGridView::focusOutEvent(QFocusEvent* event) {
+void FsmGridView::focusOutEvent(QFocusEvent*) {
     Q_EMIT ShiftChanged(false);
-    QTableView::focusOutEvent(event);
+    update(currentIndex());
 }
 
 } // namespace orvane

@@ -44,6 +44,9 @@ class FsmGridView : public QTableView {
     // A letter typed in the table looks for nothing.
     void keyboardSearch(const QString&) override {}
 
+    // Paints what has changed without waiting for the event loop.
+    void ShowChangesNow();
+
     // How much the heads cover of the viewport.
     QSize FrozenSize() const;
 
@@ -72,10 +75,10 @@ class FsmGridView : public QTableView {
     void mouseReleaseEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
 
   private:
-    QRect BodyRect() const;
     bool DragBorder(const QMouseEvent& event);
     void PressCell(const QMouseEvent& event);
 

@@ -15,25 +15,33 @@ constexpr QRgb kCursorColour = qRgb(0, 0, 0);
 
 } // namespace
 
-GridPainter::GridPainter(FsmGridView& view, const QRect& dirty)
-    : view_(view), dirty_(dirty), painter_(view.viewport()) {
+GridPainter::GridPainter(FsmGridView& view) : view_(view), painter_(view.viewport()) {
     painter_.setFont(view.font());
 }
 
-void GridPainter::PaintOutside() { painter_.fillRect(dirty_, view_.palette().color(QPalette::Window)); }
+void GridPainter::Paint(const QRect& dirty) {
+    painter_.setClipRect(dirty);
+    painter_.fillRect(dirty, view_.palette().color(QPalette::Window));
+    const QRect whole = view_.viewport()->rect();
+    const QSize frozen = view_.FrozenSize();
+    const QRect corner(QPoint(0, 0), frozen);
+    const QRect stateHeads(frozen.width(), 0, whole.width() - frozen.width(), frozen.height());
+    const QRect rowHeads(0, frozen.height(), frozen.width(), whole.height() - frozen.height());
+    const QRect body = whole.adjusted(frozen.width(), frozen.height(), 0, 0);
+    for (const QRect& part : {corner, stateHeads, rowHeads, body})
+        PaintCells(part.intersected(dirty));
+}
 
-void GridPainter::PaintCells(const QRect& part) {
-    const QRect area = part.intersected(dirty_);
-    if (area.isEmpty())
-        return;
-    painter_.setClipRect(area);
-    const QModelIndex first = view_.indexAt(area.topLeft());
+// The area lies in one of the four parts: the corner, a strip of heads, or the body.
+void GridPainter::PaintCells(const QRect& area) {
+    const QModelIndex first = area.isEmpty() ? QModelIndex() : view_.indexAt(area.topLeft());
     if (!first.isValid())
         return;
+    painter_.setClipRect(area);
     const QAbstractItemModel& model = *view_.model();
     const QSize frozen = view_.FrozenSize();
-    const int lastRow = part.top() < frozen.height() ? 0 : kLastRow;
-    const int lastColumn = part.left() < frozen.width() ? 0 : kStateCount;
+    const int lastRow = area.top() < frozen.height() ? 0 : kLastRow;
+    const int lastColumn = area.left() < frozen.width() ? 0 : kStateCount;
     for (int row = first.row(); row <= lastRow; ++row) {
         for (int column = first.column(); column <= lastColumn; ++column) {
             const QRect rect = view_.visualRect(model.index(row, column));

@@ -8,22 +8,19 @@ namespace orvane {
 
 class FsmGridView;
 
-// Paints one rectangle of the table.
+// Paints the table: the cells that have scrolled, and over them the heads that have not.
 class GridPainter {
   public:
-    // `dirty` is what has to be painted, in the viewport.
-    GridPainter(FsmGridView& view, const QRect& dirty);
+    explicit GridPainter(FsmGridView& view);
 
-    // The ground on which the cells lie.
-    void PaintOutside();
-    // The cells in this part of the viewport, as far as they are dirty.
-    void PaintCells(const QRect& part);
+    // What lies in this rectangle of the viewport.
+    void Paint(const QRect& dirty);
 
   private:
+    void PaintCells(const QRect& area);
     void PaintCell(const QModelIndex& cell, const QRect& area);
 
     FsmGridView& view_;
-    QRect dirty_;
     QPainter painter_;
 };
 

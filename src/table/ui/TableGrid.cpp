@@ -25,6 +25,7 @@ TableGrid::TableGrid(FsmDocument& document, QWidget* parent)
       MSFlexGrid1(new FsmGridView(this)),
       model_(new FsmGridModel(document, GridMeasurer(MSFlexGrid1->font()), this)) {
     MSFlexGrid1->setModel(model_);
+    MSFlexGrid1->setCurrentIndex(model_->index(kEntryActionRow, StateNumbers().First()));
     geometry_ = std::make_unique<GridGeometry>(document, *MSFlexGrid1);
     txtCellEdit = new CellEditor(*MSFlexGrid1);
     hints_ = new HoverHints(document, *model_, *MSFlexGrid1);
