@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/EditorWindows.h"
 
-#include "aids/ui/OpenInDesktop.h"
 #include "editors/ui/frmEventEdit.h"
 #include "editors/ui/frmGeneralCodeEdit.h"
 #include "editors/ui/frmStateEdit.h"
@@ -58,7 +57,6 @@ void EditorWindows::EditTransitionAction(int row, int state) {
 
 void EditorWindows::Connect(EditorDialog& dialog) {
     connect(&dialog, &EditorDialog::Edited, this, &EditorWindows::Edited);
-    connect(&dialog, &EditorDialog::HelpRequested, this, &OpenHelpPage);
 }
 
 } // namespace orvane

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editors/ui/EditorDialog.h"
 
+#include "aids/ui/OpenInDesktop.h"
 #include "editors/ui/CodePane.h"
 #include "editors/ui/DocumentLineEdit.h"
 #include "editors/ui/DocumentTextEdit.h"
@@ -9,7 +10,6 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QShortcut>
 #include <QShowEvent>
 #include <QStyle>
 #include <QVBoxLayout>
@@ -19,9 +19,7 @@ namespace orvane {
 EditorDialog::EditorDialog(const QString& name, int helpPage, QWidget* parent) : QDialog(parent) {
     setObjectName(name);
     setWindowFlag(Qt::WindowMaximizeButtonHint);
-    auto* help = new QShortcut(Qt::Key_F1, this);
-    help->setContext(Qt::WindowShortcut);
-    connect(help, &QShortcut::activated, this, [this, helpPage] { Q_EMIT HelpRequested(helpPage); });
+    AddHelpKey(*this, helpPage);
 }
 
 void EditorDialog::reject() {

@@ -29,7 +29,6 @@ class EditorDialog : public QDialog {
   Q_SIGNALS:
     // Something was edited that the generated program may show.
     void Edited();
-    void HelpRequested(int page);
 
   protected:
     EditorDialog(const QString& name, int helpPage, QWidget* parent);

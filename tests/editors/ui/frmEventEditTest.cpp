@@ -2,7 +2,8 @@
 #include "editors/ui/frmEventEdit.h"
 
 #include "editors/ui/CodePane.h"
-#include "support/ui/ModalDriver.h"
+#include "support/ui/Controls.h"
+#include "support/ui/OpenedAddresses.h"
 #include "support/ui/Typing.h"
 
 #include <QLabel>
@@ -21,7 +22,7 @@ namespace {
 class EventEditTest : public testing::Test {
   protected:
     void Open(const std::function<void()>& script) {
-        DriveNextModal([&](QDialog&) { script(); });
+        InNextDialog(Answers, [&](QWidget&) { script(); });
         dialog.Execute(event);
     }
 
@@ -35,6 +36,7 @@ class EventEditTest : public testing::Test {
     }
 
     EventRecord event{"Full", "\tTest\r\n", "tank is full", 0};
+    DialogAnswer Answers;
     frmEventEdit dialog;
 };
 
@@ -182,14 +184,14 @@ TEST_F(EventEditTest, TabNeverMovesTheFocus) {
 }
 
 TEST_F(EventEditTest, F1OpensTheHelpPage) {
-    QSignalSpy help(&dialog, &frmEventEdit::HelpRequested);
+    OpenedAddresses opened;
     Open([&] {
         QTest::keyClick(&Code(), Qt::Key_F1);
         QTest::keyClick(&Name(), Qt::Key_F1, Qt::ControlModifier);
         Press(dialog, "cmdCancel");
     });
-    ASSERT_EQ(help.size(), 1);
-    EXPECT_EQ(help[0][0].toInt(), 4943);
+    ASSERT_EQ(opened.Addresses.size(), 1);
+    EXPECT_EQ(opened.Addresses[0].fileName(), QStringLiteral("4943.htm"));
 }
 
 TEST_F(EventEditTest, CtrlHOpensFindAndReplaceForTheCode) {

@@ -2,7 +2,8 @@
 #include "editors/ui/frmGeneralCodeEdit.h"
 
 #include "editors/ui/CodePane.h"
-#include "support/ui/ModalDriver.h"
+#include "support/ui/Controls.h"
+#include "support/ui/OpenedAddresses.h"
 #include "support/ui/Typing.h"
 
 #include <QCheckBox>
@@ -36,7 +37,7 @@ constexpr std::array<PaneOfTab, 5> kPanes = {{{0, "txtCodeSeg", &GeneralCode::Co
 class GeneralCodeEditTest : public testing::Test {
   protected:
     void Open(bool polytask, const std::function<void()>& script) {
-        DriveNextModal([&](QDialog&) { script(); });
+        InNextDialog(Answers, [&](QWidget&) { script(); });
         dialog.Execute(polytask);
     }
 
@@ -56,6 +57,7 @@ class GeneralCodeEditTest : public testing::Test {
     void Cancel() { Press(dialog, "cmdCancel"); }
 
     GeneralCode general{"Pump", "header", "code", "init", "data", "test", "3", true, "pump.b1d"};
+    DialogAnswer Answers;
     frmGeneralCodeEdit dialog{general};
 };
 
@@ -299,14 +301,14 @@ TEST_F(GeneralCodeEditTest, CtrlHOpensFindAndReplaceInEveryPaneButTheHeader) {
 }
 
 TEST_F(GeneralCodeEditTest, F1OpensTheHelpPage) {
-    QSignalSpy help(&dialog, &frmGeneralCodeEdit::HelpRequested);
+    OpenedAddresses opened;
     Open(true, [&] {
         QTest::keyClick(&Pane("txtCodeSeg"), Qt::Key_F1);
         QTest::keyClick(&Pane("txtCodeSeg"), Qt::Key_F1, Qt::AltModifier);
         OK();
     });
-    ASSERT_EQ(help.size(), 1);
-    EXPECT_EQ(help[0][0].toInt(), 4942);
+    ASSERT_EQ(opened.Addresses.size(), 1);
+    EXPECT_EQ(opened.Addresses[0].fileName(), QStringLiteral("4942.htm"));
 }
 
 TEST_F(GeneralCodeEditTest, TabNeverMovesTheFocus) {

@@ -4,7 +4,8 @@
 #include "core/TimingMode.h"
 #include "editors/TimingHelp.h"
 #include "editors/ui/CodePane.h"
-#include "support/ui/ModalDriver.h"
+#include "support/ui/Controls.h"
+#include "support/ui/OpenedAddresses.h"
 #include "support/ui/Typing.h"
 
 #include <QGroupBox>
@@ -39,7 +40,7 @@ class StateEditTest : public testing::Test {
 
     // Opens the state, runs the script while the dialog is up and returns when it has closed.
     void Open(const std::function<void()>& script, int row = 0) {
-        DriveNextModal([&](QDialog&) { script(); });
+        InNextDialog(Answers, [&](QWidget&) { script(); });
         dialog.Execute(row, state);
     }
 
@@ -66,6 +67,7 @@ class StateEditTest : public testing::Test {
     void Cancel() { Press(dialog, "cmdCancel"); }
 
     StateRecord state;
+    DialogAnswer Answers;
     frmStateEdit dialog;
 };
 
@@ -206,11 +208,11 @@ TEST_F(StateEditTest, AMissingConstantIsRefusedAndCancelThenKeepsTheName) {
         Choose("optStartTiming");
         Choose("optTimeCONST");
         ClickTab(0);
-        const auto message = AnswerNextMessage();
+        Answers.Press(QMessageBox::Ok);
         OK();
-        EXPECT_EQ(message->Title, QStringLiteral("This won't do!"));
-        EXPECT_EQ(message->Text, QStringLiteral("You must provide a constant time limit"));
-        EXPECT_EQ(message->Icon, QMessageBox::Warning);
+        EXPECT_EQ(Answers.Seen().back().Title, std::string("This won't do!"));
+        EXPECT_EQ(Answers.Seen().back().Text, std::string("You must provide a constant time limit"));
+        EXPECT_EQ(Answers.Seen().back().Icon, QMessageBox::Warning);
         EXPECT_TRUE(dialog.isVisible());
         EXPECT_EQ(Tabs().currentIndex(), 2);
         EXPECT_EQ(Control<QLineEdit>("txtName").text(), QStringLiteral("Busy"));
@@ -225,11 +227,12 @@ TEST_F(StateEditTest, AMissingVariableLimitIsRefusedWithItsOwnIcon) {
         ClickTab(2);
         Choose("optContinueTiming");
         Choose("optTimeVAR");
-        const auto message = AnswerNextMessage();
+        Answers.Press(QMessageBox::Ok);
         OK();
-        EXPECT_EQ(message->Title, QStringLiteral("This won't do!"));
-        EXPECT_EQ(message->Text, QStringLiteral("You must provide code for the variable time limit"));
-        EXPECT_EQ(message->Icon, QMessageBox::Critical);
+        EXPECT_EQ(Answers.Seen().back().Title, std::string("This won't do!"));
+        EXPECT_EQ(Answers.Seen().back().Text,
+                  std::string("You must provide code for the variable time limit"));
+        EXPECT_EQ(Answers.Seen().back().Icon, QMessageBox::Critical);
         EXPECT_EQ(Tabs().currentIndex(), 2);
         QTest::keyClicks(&Control<QPlainTextEdit>("txtTimeVAR"), QStringLiteral(" "));
         OK();
@@ -246,12 +249,12 @@ TEST_F(StateEditTest, TimingWithoutALimitOptionIsToldAndKeepsTheMode) {
         EXPECT_TRUE(IsShown("fraTimeLimit"));
         EXPECT_FALSE(IsShown("fraTimeCONST"));
         EXPECT_FALSE(IsShown("fraTimeVAR"));
-        const auto message = AnswerNextMessage();
+        Answers.Press(QMessageBox::Ok);
         OK();
-        EXPECT_EQ(message->Text,
-                  QStringLiteral("Unparsed timing mode options in frmStateEdit.cmdOK_Click [1]"));
-        EXPECT_EQ(message->Icon, QMessageBox::NoIcon);
-        EXPECT_EQ(message->Title, QStringLiteral("Orvane"));
+        EXPECT_EQ(Answers.Seen().back().Text,
+                  std::string("Unparsed timing mode options in frmStateEdit.cmdOK_Click [1]"));
+        EXPECT_EQ(Answers.Seen().back().Icon, QMessageBox::NoIcon);
+        EXPECT_EQ(Answers.Seen().back().Title, std::string("Orvane"));
     });
     EXPECT_EQ(state.TimingMode, kNoTiming);
     EXPECT_EQ(state.Name, "Busy") << "OK went on";
@@ -261,10 +264,10 @@ TEST_F(StateEditTest, ContinuingWithoutALimitOptionIsToldApart) {
     Open([&] {
         ClickTab(2);
         Choose("optContinueTiming");
-        const auto message = AnswerNextMessage();
+        Answers.Press(QMessageBox::Ok);
         OK();
-        EXPECT_EQ(message->Text,
-                  QStringLiteral("Unparsed timing mode options in frmStateEdit.cmdOK_Click [2]"));
+        EXPECT_EQ(Answers.Seen().back().Text,
+                  std::string("Unparsed timing mode options in frmStateEdit.cmdOK_Click [2]"));
     });
 }
 
@@ -272,23 +275,15 @@ TEST_F(StateEditTest, AnUnknownModeIsToldOnOpeningAndSurvivesOk) {
     for (const std::int32_t mode : {5, -1}) {
         frmStateEdit fresh;
         state.TimingMode = mode;
-        const auto opening = std::make_shared<SeenMessage>();
-        const auto closing = std::make_shared<SeenMessage>();
-        DriveNextModal([&](QDialog& box) {
-            *opening = {true, box.windowTitle(), static_cast<QMessageBox&>(box).text(),
-                        static_cast<QMessageBox&>(box).icon()};
-            DriveNextModal([&](QDialog& editor) {
-                const auto message = AnswerNextMessage();
-                Press(editor, "cmdOK");
-                *closing = *message;
-            });
-            box.accept();
+        Answers.Press(QMessageBox::Ok);
+        InNextDialog(Answers, [&](QWidget& editor) {
+            EXPECT_EQ(Answers.Seen()[0].Text, "Unknown timeout state in frmStateEdit.Execute");
+            EXPECT_EQ(Answers.Seen()[0].Icon, QMessageBox::Critical);
+            Answers.Press(QMessageBox::Ok);
+            Press(editor, "cmdOK");
         });
         fresh.Execute(0, state);
-        EXPECT_EQ(opening->Text, QStringLiteral("Unknown timeout state in frmStateEdit.Execute"));
-        EXPECT_EQ(opening->Icon, QMessageBox::Critical);
-        EXPECT_EQ(closing->Text,
-                  QStringLiteral("Unparsed timing mode options in frmStateEdit.cmdOK_Click [3]"));
+        EXPECT_EQ(Answers.Seen().back().Text, "Unparsed timing mode options in frmStateEdit.cmdOK_Click [3]");
         EXPECT_EQ(state.TimingMode, mode);
     }
 }
@@ -484,7 +479,7 @@ TEST_F(StateEditTest, TabTypesATabCharacterInPanesAndTextFields) {
 }
 
 TEST_F(StateEditTest, F1OpensTheHelpPageAndTypesNothing) {
-    QSignalSpy help(&dialog, &frmStateEdit::HelpRequested);
+    OpenedAddresses opened;
     Open([&] {
         auto& pane = Control<CodePane>("txtEntryCode");
         QTest::keyClick(&pane, Qt::Key_F1);
@@ -493,8 +488,8 @@ TEST_F(StateEditTest, F1OpensTheHelpPageAndTypesNothing) {
         EXPECT_EQ(pane.Text(), "\tNop\r\n");
         Cancel();
     });
-    ASSERT_EQ(help.size(), 1);
-    EXPECT_EQ(help[0][0].toInt(), 4944);
+    ASSERT_EQ(opened.Addresses.size(), 1);
+    EXPECT_EQ(opened.Addresses[0].fileName(), QStringLiteral("4944.htm"));
 }
 
 TEST_F(StateEditTest, CtrlHFindsInTheEntryPaneAndDoesNothingInPlainFields) {

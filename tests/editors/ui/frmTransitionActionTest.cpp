@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editors/ui/frmTransitionAction.h"
 
-#include "support/ui/ModalDriver.h"
+#include "support/ui/Controls.h"
+#include "support/ui/OpenedAddresses.h"
 #include "support/ui/Typing.h"
 
 #include <QLabel>
@@ -16,12 +17,13 @@ namespace {
 class TransitionActionTest : public testing::Test {
   protected:
     void Open(const std::function<void()>& script) {
-        DriveNextModal([&](QDialog&) { script(); });
+        InNextDialog(Answers, [&](QWidget&) { script(); });
         dialog.Execute();
     }
     QPlainTextEdit& Code() { return Named<QPlainTextEdit>(dialog, "txtCode"); }
     void Type(const QString& text) { QTest::keyClicks(&Code(), text); }
 
+    DialogAnswer Answers;
     frmTransitionAction dialog;
 };
 
@@ -113,7 +115,7 @@ TEST_F(TransitionActionTest, TabNeverMovesTheFocus) {
 }
 
 TEST_F(TransitionActionTest, F1OpensTheEventEditorsHelpPage) {
-    QSignalSpy help(&dialog, &frmTransitionAction::HelpRequested);
+    OpenedAddresses opened;
     Open([&] {
         QTest::keyClick(&Code(), Qt::Key_F1);
         QTest::keyClick(&Code(), Qt::Key_F1, Qt::ShiftModifier);
@@ -121,8 +123,8 @@ TEST_F(TransitionActionTest, F1OpensTheEventEditorsHelpPage) {
         EXPECT_EQ(dialog.findChild<QDialog*>(), nullptr);
         Press(dialog, "cmdCancel");
     });
-    ASSERT_EQ(help.size(), 1);
-    EXPECT_EQ(help[0][0].toInt(), 4943);
+    ASSERT_EQ(opened.Addresses.size(), 1);
+    EXPECT_EQ(opened.Addresses[0].fileName(), QStringLiteral("4943.htm"));
 }
 
 TEST_F(TransitionActionTest, CharactersLeftOutAreNamedBelowTheField) {

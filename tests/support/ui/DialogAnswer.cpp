@@ -4,8 +4,11 @@
 #include <QApplication>
 #include <QFileDialog>
 #include <QPushButton>
+#include <QTimer>
 
 #include <gtest/gtest.h>
+
+#include <utility>
 
 namespace orvane {
 
@@ -27,10 +30,7 @@ SeenDialog Describe(QWidget& dialog) {
 
 } // namespace
 
-DialogAnswer::DialogAnswer() {
-    connect(&timer_, &QTimer::timeout, this, &DialogAnswer::LookForDialog);
-    timer_.start(kLookAgain);
-}
+DialogAnswer::DialogAnswer() { LookAgain(); }
 
 DialogAnswer::~DialogAnswer() { EXPECT_TRUE(answers_.empty()) << "a dialog that was expected did not come"; }
 
@@ -75,11 +75,18 @@ DialogAnswer& DialogAnswer::Do(const std::function<void(QWidget&)>& action) {
     return *this;
 }
 
-// An answer may open a dialog of its own, which is then looked for while the first one is being dealt with.
+// A new timer each time, because one timer does not fire while its own slot runs: an answer may open a dialog
+// of its own, which has to be looked for while the first one is being dealt with.
+void DialogAnswer::LookAgain() { QTimer::singleShot(kLookAgain, this, &DialogAnswer::LookForDialog); }
+
 void DialogAnswer::LookForDialog() {
+    LookAgain();
     QWidget* dialog = QApplication::activeModalWidget();
-    if (dialog != nullptr && dialog->isVisible())
-        Answer(*dialog);
+    if (dialog == nullptr || !dialog->isVisible() || dialog == beingAnswered_)
+        return;
+    QWidget* before = std::exchange(beingAnswered_, dialog);
+    Answer(*dialog);
+    beingAnswered_ = before;
 }
 
 void DialogAnswer::Answer(QWidget& dialog) {

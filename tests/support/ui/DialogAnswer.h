@@ -2,7 +2,7 @@
 #pragma once
 
 #include <QMessageBox>
-#include <QTimer>
+#include <QObject>
 
 #include <deque>
 #include <functional>
@@ -37,12 +37,13 @@ class DialogAnswer : public QObject {
     const std::vector<SeenDialog>& Seen() const { return seen_; }
 
   private:
+    void LookAgain();
     void LookForDialog();
     void Answer(QWidget& dialog);
 
-    QTimer timer_;
     std::deque<std::function<bool(QWidget&)>> answers_; // each returns whether the dialog was of its kind
     std::vector<SeenDialog> seen_;
+    QWidget* beingAnswered_ = nullptr;
 };
 
 } // namespace orvane
