@@ -8,6 +8,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QDir>
+#include <QLoggingCategory>
 
 namespace orvane {
 namespace {
@@ -122,6 +123,26 @@ TEST_F(StartUp, ManyUnknownTagsShareTheLastBox) {
     EXPECT_EQ(Answers.Seen()[3].Text, "Unknown tag TAG3");
     EXPECT_TRUE(Answers.Seen()[4].Text.starts_with("Unknown tag TAG4\r\nUnknown tag TAG5\r\n"));
     EXPECT_TRUE(Answers.Seen()[4].Text.ends_with("... and 176 more"));
+}
+
+QStringList traced;
+
+TEST_F(StartUp, TheTraceMarksTheStepsOfTheStart) {
+    traced.clear();
+    QLoggingCategory::setFilterRules(QStringLiteral("orvane.trace=true"));
+    const QtMessageHandler former =
+        qInstallMessageHandler([](QtMsgType, const QMessageLogContext& context, const QString& text) {
+            if (qstrcmp(context.category, "orvane.trace") == 0)
+                traced += text.trimmed();
+        });
+    Start({QStringLiteral("/nosplash")});
+    qInstallMessageHandler(former);
+    QLoggingCategory::setFilterRules(QString());
+    ASSERT_FALSE(traced.isEmpty());
+    EXPECT_TRUE(traced.takeFirst().startsWith(QStringLiteral("Start at 2")));
+    EXPECT_EQ(traced.join(QLatin1Char(' ')).toStdString(),
+              "In ClearDataBase CDBb CDBc CDBd CDBe CDBe1 CDBe2 CDBe3 CDBe4 CDBe5 CDBe6 CDBe7 CDBe8 CDBf "
+              "In NewGrid NGa NGb NGc NGd NGe NGf  a b c d");
 }
 
 TEST(CommandLineText, APathIsTheWholeLine) {

@@ -4,6 +4,7 @@
 #include "table/ui/FsmGridView.h"
 
 #include <QKeyEvent>
+#include <QPainter>
 #include <QRegularExpressionValidator>
 
 namespace orvane {
@@ -64,6 +65,12 @@ bool CellEditor::event(QEvent* event) {
         return false;
     }
     return QLineEdit::event(event);
+}
+
+// A frame of its own, because it lies over the lines of the table.
+void CellEditor::paintEvent(QPaintEvent* event) {
+    QLineEdit::paintEvent(event);
+    QPainter(this).drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
 void CellEditor::keyPressEvent(QKeyEvent* event) {

@@ -55,7 +55,7 @@ void GridPainter::PaintCells(const QRect& area) {
 
 void GridPainter::PaintCell(const QModelIndex& cell, const QRect& area) {
     painter_.fillRect(area, cell.data(Qt::BackgroundRole).value<QColor>());
-    painter_.setPen(QColor(kLineColour));
+    painter_.setPen(QPen(QColor(kLineColour), 0)); // one pixel of the screen, so that all are equal at 150 %
     painter_.drawLine(area.topRight(), area.bottomRight());
     painter_.drawLine(area.bottomLeft(), area.bottomRight());
     const QString text = CellLine(cell.data().toString());
