@@ -17,7 +17,8 @@ namespace orvane {
 namespace {
 
 constexpr int kNumberMargin = 0;
-constexpr int kTabWidth = 8; // columns
+constexpr int kTabWidth = 8;   // columns
+constexpr int kTextIndent = 4; // pixels between the margin and the text
 constexpr char kListSeparator = '\n';
 
 // What a key types. A key with Ctrl is a command and types nothing, but Ctrl+Alt is how Windows says AltGr.
@@ -52,6 +53,7 @@ void CodePane::SetUpEditing() {
     setBackspaceUnindents(false);
     setAutoIndent(false);
     setBraceMatching(SloppyBraceMatch);
+    SendScintilla(SCI_SETMARGINLEFT, 0L, long{kTextIndent});
     SendScintilla(SCI_SETSCROLLWIDTH, 1);
     SendScintilla(SCI_SETSCROLLWIDTHTRACKING, 1);
     SendScintilla(SCI_AUTOCSETSEPARATOR, kListSeparator);

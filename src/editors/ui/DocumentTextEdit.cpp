@@ -11,7 +11,13 @@
 
 namespace orvane {
 
-DocumentTextEdit::DocumentTextEdit(QWidget* parent) : QPlainTextEdit(parent) {}
+namespace {
+
+constexpr int kTabWidth = 8; // blanks
+
+} // namespace
+
+DocumentTextEdit::DocumentTextEdit(QWidget* parent) : QPlainTextEdit(parent) { SetTabWidth(); }
 
 void DocumentTextEdit::SetText(std::string_view ansi) {
     set_ = ansi;
@@ -27,6 +33,17 @@ std::string DocumentTextEdit::Text() const {
     shown.replace(QChar::ParagraphSeparator, QStringLiteral("\r\n"));
     shown.replace(QChar::LineSeparator, QStringLiteral("\r\n")); // Shift+Return
     return FieldText(shown);
+}
+
+// Tabs stand where they stand in a code pane.
+void DocumentTextEdit::SetTabWidth() {
+    setTabStopDistance(kTabWidth * fontMetrics().horizontalAdvance(QLatin1Char(' ')));
+}
+
+void DocumentTextEdit::changeEvent(QEvent* event) {
+    QPlainTextEdit::changeEvent(event);
+    if (event->type() == QEvent::FontChange)
+        SetTabWidth();
 }
 
 void DocumentTextEdit::focusInEvent(QFocusEvent* event) {

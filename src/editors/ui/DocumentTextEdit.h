@@ -25,12 +25,14 @@ class DocumentTextEdit : public QPlainTextEdit {
     void CharactersLeftOut(const QString& characters);
 
   protected:
+    void changeEvent(QEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
     void insertFromMimeData(const QMimeData* source) override;
 
   private:
+    void SetTabWidth();
     QString KeepDocumentCharacters(const QString& text);
 
     std::string set_;   // as it was set

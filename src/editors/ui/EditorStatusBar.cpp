@@ -46,6 +46,7 @@ bool EditorStatusBar::eventFilter(QObject* watched, QEvent* event) {
 
 void EditorStatusBar::showEvent(QShowEvent* event) {
     QStatusBar::showEvent(event);
+    clearMessage(); // it was about another piece of the document
     QApplication::instance()->installEventFilter(this);
 }
 

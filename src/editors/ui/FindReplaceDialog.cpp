@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editors/ui/FindReplaceDialog.h"
+#include "editors/ui/DocumentLineEdit.h"
+#include "editors/ui/LeftOut.h"
 #include "editors/ui/QScintilla.h"
 
 #include <QCheckBox>
@@ -35,8 +37,10 @@ FindReplaceDialog::FindReplaceDialog(QsciScintilla* editor) : QDialog(editor), e
 void FindReplaceDialog::BuildFields(QGridLayout& grid) {
     txtFind = new QLineEdit(this);
     txtFind->setObjectName(QStringLiteral("txtFind"));
-    txtReplace = new QLineEdit(this);
+    txtReplace = new DocumentLineEdit(this);
     txtReplace->setObjectName(QStringLiteral("txtReplace"));
+    connect(txtReplace, &DocumentLineEdit::CharactersLeftOut, this,
+            [this](const QString& characters) { Say(LeftOutMessage(characters)); });
     auto* findPrompt = new QLabel(tr("&Find"), this);
     findPrompt->setBuddy(txtFind);
     auto* replacePrompt = new QLabel(tr("Replace &with"), this);
@@ -110,7 +114,7 @@ bool FindReplaceDialog::Find(bool forward) {
     if (!found && chkWrap->isChecked())
         found = forward ? FindInTarget(0, length) : FindInTarget(length, 0);
     if (!found) {
-        Say(tr("Not found"));
+        SayNotFound();
         return false;
     }
     const long matchStart = editor_->SendScintilla(Sci::SCI_GETTARGETSTART);
@@ -145,7 +149,10 @@ void FindReplaceDialog::ReplaceAll() {
             break;
     }
     editor_->endUndoAction();
-    Say(count == 0 ? tr("Not found") : tr("Replaced: %1").arg(count));
+    if (count == 0)
+        SayNotFound();
+    else
+        Say(tr("Replaced: %1").arg(count));
 }
 
 // Whether the selection is what Find would select, and if so makes it the target.
@@ -179,6 +186,12 @@ void FindReplaceDialog::ReplaceTarget() const {
     const QByteArray text = txtReplace->text().toUtf8();
     const unsigned message = chkRegExp->isChecked() ? Sci::SCI_REPLACETARGETRE : Sci::SCI_REPLACETARGET;
     editor_->SendScintilla(message, static_cast<unsigned long>(text.size()), text.constData());
+}
+
+void FindReplaceDialog::SayNotFound() {
+    const bool broken = editor_->SendScintilla(Sci::SCI_GETSTATUS) == Sci::SC_STATUS_WARNREGEX;
+    editor_->SendScintilla(Sci::SCI_SETSTATUS, Sci::SC_STATUS_OK);
+    Say(broken ? tr("This is not a complete regular expression") : tr("Not found"));
 }
 
 void FindReplaceDialog::Say(const QString& text) { lblResult->setText(text); }

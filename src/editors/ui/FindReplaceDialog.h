@@ -12,6 +12,8 @@ class QsciScintilla;
 
 namespace orvane {
 
+class DocumentLineEdit;
+
 // Find and replace for one editor; stays open beside it while text is edited.
 class FindReplaceDialog : public QDialog {
     Q_OBJECT
@@ -34,11 +36,12 @@ class FindReplaceDialog : public QDialog {
     bool SelectionIsFound() const;
     bool FindInTarget(long from, long to) const;
     void ReplaceTarget() const;
+    void SayNotFound();
     void Say(const QString& text);
 
     QsciScintilla* editor_;
     QLineEdit* txtFind;
-    QLineEdit* txtReplace;
+    DocumentLineEdit* txtReplace;
     QCheckBox* chkWholeWord;
     QCheckBox* chkMatchCase;
     QCheckBox* chkRegExp;

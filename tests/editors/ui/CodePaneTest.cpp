@@ -278,12 +278,24 @@ TEST_F(CodePaneTest, ReplaceGoesOnToTheNextMatch) {
     EXPECT_EQ(pane.Text(), "aab aab aa");
 }
 
-TEST_F(CodePaneTest, ABrokenExpressionFindsNothing) {
+TEST_F(CodePaneTest, AReplacementTakesNoCharacterThatADocumentCannotHold) {
+    pane.SetText("a");
+    Search(QStringLiteral("a"), QStringLiteral("b\u03A9"));
+    Click("cmdReplaceAll");
+    EXPECT_EQ(pane.Text(), "b");
+}
+
+TEST_F(CodePaneTest, ABrokenExpressionIsTold) {
     pane.SetText("a(b");
     Search(QStringLiteral("(b"), QStringLiteral("x"));
     Child<QCheckBox>("chkRegExp")->setChecked(true);
     Click("cmdReplaceAll");
     EXPECT_EQ(pane.Text(), "a(b");
+    EXPECT_EQ(Child<QLabel>("lblResult")->text(),
+              QStringLiteral("This is not a complete regular expression"));
+    Child<QCheckBox>("chkRegExp")->setChecked(false);
+    Click("cmdFindNext");
+    EXPECT_EQ(Child<QLabel>("lblResult")->text(), QString());
 }
 
 } // namespace

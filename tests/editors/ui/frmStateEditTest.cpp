@@ -539,6 +539,10 @@ TEST_F(StateEditTest, EveryFieldSaysWhatItLeavesOut) {
     EXPECT_EQ(state.Name, "ab cIdle");
     EXPECT_EQ(state.TimerId, "T9");
     EXPECT_EQ(state.Tooltip, "waits\r\nfor work");
+    Open([&] {
+        EXPECT_EQ(Control<QStatusBar>("StatusBar1").currentMessage(), QString());
+        Cancel();
+    });
 }
 
 TEST_F(StateEditTest, PanesGrowWithTheDialog) {
