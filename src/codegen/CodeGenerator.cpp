@@ -31,7 +31,10 @@ class StateLabels {
     const std::string& Loop(int state) const { return loop_[Index(state)]; }
 
   private:
-    static std::size_t Index(int state) { return static_cast<std::size_t>(state); }
+    static std::size_t Index(int state) {
+        RequireInRange(state, StateNumbers(), "state");
+        return static_cast<std::size_t>(state);
+    }
 
     std::array<std::string, kStateCount + 1> entry_;
     std::array<std::string, kStateCount + 1> loop_;

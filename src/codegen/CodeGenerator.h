@@ -21,7 +21,8 @@ struct GeneratedProgram {
     Report Findings;
 };
 
-// Checks the design and turns it into the text of a controller program. Same input, same bytes.
+// Checks the design and turns it into the text of a controller program. Same input, same bytes. Throws
+// BoundsError when a transition leads to a state that the table does not have.
 GeneratedProgram GenerateProgram(const FsmDocument& document, const GenerationContext& context);
 
 // The bytes of the .zls file of a program without errors.

@@ -10,10 +10,14 @@ namespace orvane {
 // Which states a walk from state 1 enters. Derived from the document whenever it is asked for, never stored.
 class Reachability {
   public:
+    // Throws BoundsError when a transition leads to a state that the table does not have.
     explicit Reachability(const FsmDocument& document);
 
-    // State 1..100.
-    bool Reached(int state) const { return reached_.test(static_cast<std::size_t>(state)); }
+    // State 1..100; anything else throws BoundsError.
+    bool Reached(int state) const {
+        RequireInRange(state, StateNumbers(), "state");
+        return reached_.test(static_cast<std::size_t>(state));
+    }
 
     // Some transition of a reached state leads to state 1.
     bool ReturnsToStart() const { return returnsToStart_; }

@@ -50,6 +50,14 @@ TEST(Reachability, CyclesAndTransitionsToItselfEnd) {
     EXPECT_THAT(ReachedBy({{1, 6, 2}, {2, 6, 2}, {2, 7, 3}, {3, 6, 2}}), ElementsAre(2, 3));
 }
 
+TEST(Reachability, ATargetThatTheTableDoesNotHaveIsABoundsError) {
+    for (const int target : {-1, 101, 32767, -32768})
+        EXPECT_THROW(ReachedBy({{1, 6, 2}, {2, kElseRow, target}}), BoundsError) << target;
+    const Reachability reachability{FsmDocument()};
+    EXPECT_THROW(static_cast<void>(reachability.Reached(0)), BoundsError);
+    EXPECT_THROW(static_cast<void>(reachability.Reached(101)), BoundsError);
+}
+
 TEST(Reachability, AChainOfAllStatesIsReachedToItsEnd) {
     FsmDocument document;
     for (const int state : StateNumbers())
