@@ -199,7 +199,8 @@ int Unpacker::NumberOrEnd(NumberRange range, std::string_view what) {
 void Unpacker::Text(std::string& text) {
     const std::size_t end = delimiters_.Next(position_);
     if (end == std::string_view::npos) {
-        messages_.emplace_back(kMissingTerminator);
+        if (messages_.empty()) // no text behind it finds one either: once is enough
+            messages_.emplace_back(kMissingTerminator);
         text.clear();
         return;
     }

@@ -34,7 +34,8 @@ std::string Pack(const FsmDocument& document);
 
 // Makes the document's events, states and general code those of the image and leaves everything else as it
 // is. Returns what went wrong, empty for an image that Pack made. An image of another format changes nothing;
-// a text without its delimiter reads as empty; a number out of bounds ends the unpacking where it stands.
+// a text without its delimiter reads as empty, which is told once; a number out of bounds ends the unpacking
+// where it stands.
 [[nodiscard]] std::vector<std::string> Unpack(std::string_view image, FsmDocument& document);
 
 // Takes the text before the first delimiter off the buffer, and the delimiter with it. When there is none the
