@@ -46,7 +46,6 @@ class CommandLine {
         app_.footer(kProgramNotes);
         app_.require_subcommand(1);
         app_.get_formatter()->label("SUBCOMMAND", "VERB");
-        app_.get_formatter()->label("Subcommands", "Verbs");
         app_.allow_windows_style_options(false);
         AddGenerate();
         AddCheck();
@@ -79,6 +78,7 @@ class CommandLine {
 
     CLI::App& AddVerb(const char* name, const char* purpose, const char* notes) {
         CLI::App* verb = app_.add_subcommand(name, purpose);
+        verb->group("Verbs");
         verb->footer(notes);
         return *verb;
     }

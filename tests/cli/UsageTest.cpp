@@ -42,6 +42,12 @@ TEST_F(Usage, HelpOfTheProgramAndOfEachVerbHasAnExample) {
     }
 }
 
+TEST_F(Usage, HelpOfTheProgramListsTheVerbs) {
+    const std::string help = Run("--help").Output;
+    EXPECT_THAT(help, HasSubstr("Usage: orvanec [OPTIONS] VERB\n"));
+    EXPECT_THAT(help, testing::ContainsRegex("Verbs:\n  generate .*\n  check .*\n  format "));
+}
+
 TEST_F(Usage, WrongUsageIsSaidOnStandardError) {
     ExpectWrong("", "No verb is given; the verbs are generate, check and format");
     ExpectWrong("frobnicate a", "There is no verb frobnicate; the verbs are generate, check and format");
@@ -53,6 +59,8 @@ TEST_F(Usage, WrongUsageIsSaidOnStandardError) {
     ExpectWrong("format a b", "The following argument was not expected: b");
     ExpectWrong("check -o out a", "The following argument was not expected: -o");
     ExpectWrong("check --format=xml a", "--format: xml not in {text,json}");
+    ExpectWrong("check a --format", "--format: 1 required FORMAT:{text,json} missing");
+    ExpectWrong("generate a -o", "--output: 1 required FILE missing");
     ExpectWrong("generate --frob a", "The following argument was not expected: --frob");
 }
 
