@@ -8,8 +8,6 @@ namespace orvane::cli {
 
 namespace {
 
-constexpr std::size_t kLongestMessage = 300; // bytes of the message as the reader gave it
-
 void AppendEscaped(std::string& shown, char byte) {
     constexpr std::string_view digits = "0123456789ABCDEF";
     const auto code = static_cast<unsigned char>(byte);
@@ -36,13 +34,13 @@ std::string ShownName(std::string_view name) {
 
 std::string ShownMessage(const ReaderMessage& message) {
     std::string shown;
-    for (const char byte : std::string_view(message.Text).substr(0, kLongestMessage)) {
+    for (const char byte : message.Text) {
         if (IsControl(ToUnicode(byte)))
             AppendEscaped(shown, byte);
         else
             shown += ToUtf8({&byte, 1});
     }
-    return message.Text.size() > kLongestMessage ? shown + "..." : shown;
+    return shown;
 }
 
 std::string MessageLine(std::string_view document, const ReaderMessage& message) {

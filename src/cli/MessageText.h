@@ -14,7 +14,7 @@ namespace orvane::cli {
 // A name from the command line for use within a line: control characters shown as \xNN.
 std::string ShownName(std::string_view name);
 
-// A reader message on one line: control characters shown as \xNN, cut with "..." where it gets too long.
+// A reader message on one line: control characters shown as \xNN.
 std::string ShownMessage(const ReaderMessage& message);
 
 // "DOC:LINE: message", without the line for a message that concerns the file as a whole.

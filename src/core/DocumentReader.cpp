@@ -101,6 +101,12 @@ std::string Quoted(std::string_view number) {
            "\"";
 }
 
+// A tag as it stands in the file, cut where it is too long for a message.
+std::string ShownTag(std::string_view tag) {
+    constexpr std::size_t longest = 200;
+    return std::string(tag.substr(0, longest)) + (tag.size() > longest ? "..." : "");
+}
+
 class Reader {
   public:
     explicit Reader(std::string_view bytes) : scanner_(bytes) {}
@@ -162,6 +168,8 @@ ReadResult Reader::Read() {
 void Reader::ReadTopLevel() {
     while (!scanner_.AtEnd()) {
         const std::optional<std::string_view> found = scanner_.NextTag();
+        if (scanner_.TagWasCut())
+            throw BreakOff{"The file ends inside a tag"};
         if (!found)
             return;
         tag_ = *found;
@@ -250,7 +258,7 @@ void Reader::ReadState() {
 void Reader::ReadTransitions(StateRecord& state) {
     ReadBlock(tag::kTransitionsEnd, [&](std::string_view tag) {
         if (tag != tag::kTarget && tag != tag::kAction) {
-            TellUnknown("Unkown tag " + std::string(tag) + " in Transitions section");
+            TellUnknown("Unkown tag " + ShownTag(tag) + " in Transitions section");
             return;
         }
         const IndexedValue value = SplitIndex(scanner_.NextValue());
@@ -287,6 +295,7 @@ std::int64_t Reader::Number(std::string_view text, std::int64_t first, std::int6
     const std::int64_t number = ParseNumber(text);
     if (number >= first && number <= last)
         return number;
+    RequireWholeValue(); // else the file's end is what is wrong with the number
     throw BreakOff{"The number " + Quoted(text) + " of " + std::string(tag_) + block_ + " is outside " +
                    NumberText(first) + ".." + NumberText(last)};
 }
@@ -294,7 +303,7 @@ std::int64_t Reader::Number(std::string_view text, std::int64_t first, std::int6
 // The last line of a file may hold anything: an unknown tag there is not told.
 void Reader::TellUnknownTag(std::string_view tag) {
     if (!scanner_.AtEnd())
-        TellUnknown("Unknown tag " + std::string(tag));
+        TellUnknown("Unknown tag " + ShownTag(tag));
 }
 
 void Reader::TellUnknown(std::string text) {

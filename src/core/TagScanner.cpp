@@ -59,14 +59,19 @@ std::optional<std::string_view> TagScanner::NextTag() {
     const std::size_t open = tagOpens_.Next(position_);
     TakeLinesUpTo(open);
     if (open == std::string_view::npos) {
+        tagWasCut_ = position_ < text_.size() && text_.back() == kDelimiter;
+        if (tagWasCut_)
+            tagStart_ = text_.size() - 1;
         position_ = text_.size();
         return std::nullopt;
     }
     tagStart_ = open;
     position_ = open + kTagOpen.size();
     const std::size_t close = tagCloses_.Next(position_);
-    if (close >= linesEnd_)
-        return AtEnd() ? std::nullopt : std::optional(std::string_view());
+    if (close >= linesEnd_) {
+        tagWasCut_ = AtEnd();
+        return tagWasCut_ ? std::nullopt : std::optional(std::string_view());
+    }
     const std::string_view tag = text_.substr(position_, close - position_);
     position_ = close + kTagClose.size();
     return tag;
@@ -78,9 +83,19 @@ std::string_view TagScanner::NextValue() {
     if (AtEnd())
         return {};
     TakeLinesUpTo(end);
-    const std::string_view value = text_.substr(position_, valueWasCut_ ? end : end - position_);
-    position_ = valueWasCut_ ? text_.size() : end + kValueEnd.size();
+    if (valueWasCut_)
+        return TakeRest();
+    const std::string_view value = text_.substr(position_, end - position_);
+    position_ = end + kValueEnd.size();
     return value;
+}
+
+std::string_view TagScanner::TakeRest() {
+    std::string_view rest = text_.substr(position_);
+    position_ = text_.size();
+    if (rest.ends_with(kDelimiter)) // half of the terminator
+        rest.remove_suffix(1);
+    return rest;
 }
 
 std::size_t TagScanner::TagLine() {

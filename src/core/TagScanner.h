@@ -29,6 +29,9 @@ class TagScanner {
     // The next tag; empty when its line ends before the ">"; none when no whole tag is left.
     std::optional<std::string_view> NextTag();
 
+    // The file ended inside the tag that was last asked for.
+    bool TagWasCut() const { return tagWasCut_; }
+
     // The value up to the next terminator; empty when all lines have been taken in before. The views live as
     // long as the scanner.
     std::string_view NextValue();
@@ -41,6 +44,7 @@ class TagScanner {
 
   private:
     void TakeLinesUpTo(std::size_t place);
+    std::string_view TakeRest();
 
     std::string normalised_; // before text_, which may be a view of it
     std::string_view text_;
@@ -52,6 +56,7 @@ class TagScanner {
     std::size_t position_ = 0;
     std::size_t linesEnd_ = 0;
     std::size_t tagStart_ = 0;
+    bool tagWasCut_ = false;
     bool valueWasCut_ = false;
     std::size_t lineStart_ = 0; // where line_ begins
     std::size_t line_ = 1;

@@ -139,11 +139,33 @@ TEST(DocumentReader, UnknownTagsAreToldAndPassedOver) {
 
 TEST(DocumentReader, AnUnknownTagAtTheVeryEndIsNotTold) {
     for (const char* text : {"$<FSM_NAME>P$/\r\n$<COLOUR>red$/", "$<FSM_NAME>P$/\r\n$<COLOUR>red$/\r\n",
-                             "$<FSM_NAME>P$/\r\nrest", "$<FSM_NAME>P$/\r\n$<half"}) {
+                             "$<FSM_NAME>P$/\r\nrest"}) {
         const ReadResult read = Read(text);
         EXPECT_THAT(read.Messages, IsEmpty()) << text;
         EXPECT_FALSE(read.BrokeOff) << text;
     }
+}
+
+TEST(DocumentReader, AFileThatEndsInsideATagIsTold) {
+    for (const char* text : {"$<FSM_NAME>P$/\r\n$<half", "$<FSM_NAME>P$/\r\n$<", "$<FSM_NAME>P$/\r\n$"}) {
+        const ReadResult read = Read(text);
+        EXPECT_EQ(read.Document.General.FsmName, "P") << text;
+        EXPECT_TRUE(read.BrokeOff) << text;
+        EXPECT_THAT(read.Messages,
+                    ElementsAre(ReaderMessage{"The file ends inside a tag; reading stopped there", 2}))
+            << text;
+    }
+}
+
+TEST(DocumentReader, AnAbsurdlyLongTagIsQuotedInPart) {
+    const std::string longest(200, 'x');
+    const ReadResult read =
+        Read("$<" + longest + ">$/\r\n$<" + longest + "y>$/\r\n$<STATE>1:$/\r\n" + "$<TRANSITIONS>\r\n$<" +
+             longest + "y>$/\r\n" + "$</TRANSITIONS>$/\r\n$</STATE>\r\n\r\n");
+    EXPECT_THAT(read.Messages,
+                ElementsAre(ReaderMessage{"Unknown tag " + longest, 1},
+                            ReaderMessage{"Unknown tag " + longest + "...", 2},
+                            ReaderMessage{"Unkown tag " + longest + "... in Transitions section", 5}));
 }
 
 TEST(DocumentReader, ATagWithoutCloseInItsLineIsAnUnknownEmptyTag) {
@@ -294,6 +316,19 @@ TEST(DocumentReader, AFileThatEndsInsideAValueKeepsAllThatIsLeft) {
     EXPECT_THAT(Read("$<STATE>7:$/\r\n$<ENTRY>;a\r\n").Messages,
                 ElementsAre(ReaderMessage{
                     "The file ends inside the value of ENTRY in state 7; reading stopped there", 2}));
+}
+
+TEST(DocumentReader, HalfATerminatorAtTheEndIsNoneOfTheText) {
+    const ReadResult read = Read("$<CODESEG>;a\r\n;b$");
+    EXPECT_EQ(read.Document.General.CodeSeg, ";a\r\n;b");
+    EXPECT_THAT(read.Messages, ElementsAre(ReaderMessage{
+                                   "The file ends inside the value of CODESEG; reading stopped there", 1}));
+}
+
+TEST(DocumentReader, AFileThatEndsInsideANumberIsToldAsThat) {
+    EXPECT_THAT(Read("$<STATE>7:$/\r\n$<TRANSITIONS>\r\n$<TACT>").Messages,
+                ElementsAre(ReaderMessage{
+                    "The file ends inside the value of TACT in state 7; reading stopped there", 3}));
 }
 
 TEST(DocumentReader, ASectionHeadWithoutTerminatorIsNotTakenForANumber) {
