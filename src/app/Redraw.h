@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 
 namespace orvane {
 
@@ -13,8 +14,8 @@ struct Redraw {
     int Column = 0; // for Extent::Column
 };
 
-// Changes the document.
-using Change = std::function<Redraw()>;
+// Changes the document. Nothing comes back when it was refused and left as it was.
+using Change = std::function<std::optional<Redraw>()>;
 
 // Runs a change with everything that goes with it.
 using CommandRunner = std::function<void(const Change&)>;

@@ -23,14 +23,17 @@ void TableCommands::Connect(const CommandRunner& run) {
 }
 
 void TableCommands::ConnectStructure() {
-    ConnectChange("mnuInsertEvent", [this] { Refuse(InsertEvent(document_, clipboard_, pressed_.Row)); });
-    ConnectChange("mnuDeleteEvent", [this] {
-        DeleteEvent(document_, clipboard_, pressed_.Row, [this](const UserMessage& question) {
+    ConnectRefusable("mnuInsertEvent", Redraw::Extent::Everything,
+                     [this] { return Done(InsertEvent(document_, clipboard_, pressed_.Row)); });
+    ConnectRefusable("mnuDeleteEvent", Redraw::Extent::Everything, [this] {
+        return DeleteEvent(document_, clipboard_, pressed_.Row, [this](const UserMessage& question) {
             return Show(window_, question) == QMessageBox::Yes;
         });
     });
-    ConnectChange("mnuInsertState", [this] { Refuse(InsertState(document_, clipboard_, pressed_.Column)); });
-    ConnectChange("mnuDeleteState", [this] { DeleteState(document_, clipboard_, pressed_.Column); });
+    ConnectRefusable("mnuInsertState", Redraw::Extent::AllColumns,
+                     [this] { return Done(InsertState(document_, clipboard_, pressed_.Column)); });
+    ConnectChange("mnuDeleteState", Redraw::Extent::AllColumns,
+                  [this] { DeleteState(document_, clipboard_, pressed_.Column); });
 }
 
 void TableCommands::ConnectCopies() {
@@ -44,38 +47,51 @@ void TableCommands::ConnectCopies() {
 }
 
 void TableCommands::ConnectCuts() {
-    ConnectChange("mnuCutEntryAction", [this] { CutEntryAction(document_, clipboard_, pressed_.Column); });
-    ConnectChange("mnuDeleteEntryAction", [this] { DeleteEntryAction(document_, pressed_.Column); });
-    ConnectChange("mnuCutTransAct",
+    // The cell shows that its action is gone when its column is next drawn.
+    ConnectChange("mnuCutEntryAction", Redraw::Extent::Nothing,
+                  [this] { CutEntryAction(document_, clipboard_, pressed_.Column); });
+    ConnectChange("mnuDeleteEntryAction", Redraw::Extent::Everything,
+                  [this] { DeleteEntryAction(document_, pressed_.Column); });
+    ConnectChange("mnuCutTransAct", Redraw::Extent::Everything,
                   [this] { CutTransitionAction(document_, clipboard_, pressed_.Row, pressed_.Column); });
-    ConnectChange("mnuCutTransition",
+    ConnectChange("mnuCutTransition", Redraw::Extent::Everything,
                   [this] { CutTransition(document_, clipboard_, pressed_.Row, pressed_.Column); });
 }
 
 void TableCommands::ConnectPastes() {
-    ConnectChange("mnuPasteState", [this] { PasteState(document_, clipboard_, pressed_.Column); });
-    ConnectChange("mnuPasteEvent", [this] { PasteEvent(document_, clipboard_, pressed_.Row); });
-    ConnectChange("mnuPasteEntryAction",
+    ConnectChange("mnuPasteState", Redraw::Extent::Everything,
+                  [this] { PasteState(document_, clipboard_, pressed_.Column); });
+    ConnectChange("mnuPasteEvent", Redraw::Extent::Everything,
+                  [this] { PasteEvent(document_, clipboard_, pressed_.Row); });
+    ConnectChange("mnuPasteEntryAction", Redraw::Extent::Everything,
                   [this] { PasteEntryAction(document_, clipboard_, pressed_.Column); });
-    ConnectChange("mnuPasteTransAct",
+    ConnectChange("mnuPasteTransAct", Redraw::Extent::Everything,
                   [this] { PasteTransitionAction(document_, clipboard_, pressed_.Row, pressed_.Column); });
-    ConnectChange("mnuPasteTransition",
+    // The cell shows its new content when its column is next drawn.
+    ConnectChange("mnuPasteTransition", Redraw::Extent::Nothing,
                   [this] { PasteTransition(document_, clipboard_, pressed_.Row, pressed_.Column); });
 }
 
-void TableCommands::ConnectChange(const char* item, const std::function<void()>& change) {
-    menus_.Connect(item, [this, change] {
-        run_([&change] {
-            change();
-            return Redraw{Redraw::Extent::Everything};
-        });
-        EnablePasteItems();
+void TableCommands::ConnectChange(const char* item, Redraw::Extent drawn,
+                                  const std::function<void()>& change) {
+    ConnectRefusable(item, drawn, [change] {
+        change();
+        return true;
     });
 }
 
-void TableCommands::Refuse(const std::optional<UserMessage>& message) {
-    if (message)
-        Show(window_, *message);
+void TableCommands::ConnectRefusable(const char* item, Redraw::Extent drawn,
+                                     const std::function<bool()>& change) {
+    menus_.Connect(item, [this, drawn, change] {
+        run_([drawn, &change] { return change() ? std::optional(Redraw{drawn}) : std::nullopt; });
+        EnablePasteItems(); // a cut fills the clipboard, a column that moves can empty it
+    });
+}
+
+bool TableCommands::Done(const std::optional<UserMessage>& refusal) {
+    if (refusal)
+        Show(window_, *refusal);
+    return !refusal;
 }
 
 void TableCommands::EnablePasteItems() {

@@ -42,9 +42,11 @@ class TableCommands : public QObject {
     void ConnectCopies();
     void ConnectCuts();
     void ConnectPastes();
-    // An item whose command changes the document and needs everything drawn again.
-    void ConnectChange(const char* item, const std::function<void()>& change);
-    void Refuse(const std::optional<UserMessage>& message);
+    // An item whose command changes the document and then has this drawn again.
+    void ConnectChange(const char* item, Redraw::Extent drawn, const std::function<void()>& change);
+    // The same for a command that may be refused; it returns whether it was done.
+    void ConnectRefusable(const char* item, Redraw::Extent drawn, const std::function<bool()>& change);
+    bool Done(const std::optional<UserMessage>& refusal);
 
     FsmDocument& document_;
     const GridCell& pressed_;

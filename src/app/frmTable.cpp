@@ -144,7 +144,10 @@ void frmTable::ConnectMenus() {
     });
     menus_->Connect("mnuBuilder", [this] { windows_->ShowBuilder(); });
     menus_->Connect("mnuBuildAndTest", [this] { windows_->BuildAndTest(); });
-    commands_->Connect([this](const Change& change) { RunCommand(change); });
+    commands_->Connect([this](const Change& change) {
+        FinishCellEdit();
+        RunCommand(change);
+    });
 }
 
 void frmTable::ConnectGrid() {
@@ -206,7 +209,10 @@ void frmTable::closeEvent(QCloseEvent* event) {
 }
 
 void frmTable::RunCommand(const Change& change) {
-    DrawAgain(change());
+    const std::optional<Redraw> redraw = change();
+    if (!redraw)
+        return;
+    DrawAgain(*redraw);
     grid_->View().ShowChangesNow(); // before the program is written, which the disk can take its time for
     CommitChange();
     RefreshGenerators();
@@ -374,6 +380,15 @@ void frmTable::CommitOpenEdit() {
         CommitCellEdit();
 }
 
+// Before another command changes or moves the cell: what was typed there is stored, and a cell that was only
+// opened stays as it is.
+void frmTable::FinishCellEdit() {
+    if (grid_->Editor().isModified())
+        CommitOpenEdit();
+    else
+        grid_->Editor().Abandon();
+}
+
 void frmTable::EditState(int row, int state) {
     grid_->Editor().Abandon();
     RunCommand([&] {
@@ -397,6 +412,7 @@ void frmTable::EditGeneralCode() {
 }
 
 void frmTable::EditTransitionAction() {
+    FinishCellEdit();
     RunCommand([&] {
         editors_->EditTransitionAction(pressed_.Row, pressed_.Column);
         return Redraw{Redraw::Extent::Column, pressed_.Column};

@@ -81,6 +81,7 @@ class frmTable : public QMainWindow {
     void BeginCellEdit(int row, int column);
     void CommitCellEdit();
     void CommitOpenEdit();
+    void FinishCellEdit();
 
     void EditState(int row, int state);
     void EditEvent(int row);
