@@ -58,6 +58,7 @@ void frmBackTrack::BuildGrid() {
 void frmBackTrack::BackTrack(const FsmDocument& document, int state) {
     backtrackState_ = state;
     Fill(document);
+    MSFlexGrid1->scrollToTop();
     show();
     raise();
 }
