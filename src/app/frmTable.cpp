@@ -39,6 +39,7 @@ namespace {
 constexpr int kHelpPage = 4835;
 constexpr int kStartWidth = 1100; // pixels
 constexpr int kStartHeight = 700;
+constexpr int kWidestName = 400; // pixels in the status bar
 
 struct ViewItem {
     const char* Name;
@@ -90,6 +91,7 @@ void frmTable::BuildStatusBar() {
     Panel3->setObjectName(QStringLiteral("Panel3"));
     for (QLabel* panel : {Panel1, Panel2, Panel3})
         panel->setTextFormat(Qt::PlainText);
+    Panel2->setMaximumWidth(kWidestName);
     Panel1->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("***")));
     Panel1->setAlignment(Qt::AlignCenter);
     statusBar()->addWidget(Panel1);

@@ -19,12 +19,14 @@ constexpr std::string_view kActionHead = "Action";
 // A blank behind the name marks an event that has no code yet.
 std::string EventHead(const EventRecord& event) { return event.Code.empty() ? event.Name + " " : event.Name; }
 
+int ShownWidth(std::int32_t twips) { return std::clamp(twips, 0, kWidestColumn); }
+
 std::string RowHead(const FsmDocument& document, int row, const TextMeasurer& measure) {
     switch (row) {
     case kHeadRow:
         return document.General.FsmName;
     case kEntryActionRow:
-        return ForceLREventAction(document.View.Col0Width, measure);
+        return ForceLREventAction(ShownWidth(document.View.Col0Width), measure);
     case kExitActionRow:
         return "Exit Action";
     case kTimingModeRow:
@@ -63,10 +65,11 @@ std::string StateCell(const FsmDocument& document, int row, int column) {
 std::string CellText(const FsmDocument& document, int row, int column, const TextMeasurer& measure) {
     RequireInRange(row, {kHeadRow, kLastRow}, "row");
     if (column != 0)
-        return FitTextToColumn(StateCell(document, row, column), document.State(column).ColWidth, measure);
+        return FitTextToColumn(StateCell(document, row, column), ShownWidth(document.State(column).ColWidth),
+                               measure);
     if (row > kElseRow)
         return EventHead(document.Event(row));
-    return FitTextToColumn(RowHead(document, row, measure), document.View.Col0Width, measure);
+    return FitTextToColumn(RowHead(document, row, measure), ShownWidth(document.View.Col0Width), measure);
 }
 
 std::string ForceLREventAction(int column0Width, const TextMeasurer& measure) {

@@ -13,6 +13,10 @@ using TextMeasurer = std::function<int(std::string_view text)>;
 // What a column keeps free of text, in twips.
 inline constexpr int kColumnMargin = 200;
 
+// A document may give a column any 32-bit width. None is shown wider than this, in twips, and no text is made
+// longer than that takes.
+inline constexpr int kWidestColumn = 300000;
+
 // The text when it is narrower than the column (in twips) less its margin; else the longest beginning that
 // is, at least one character, with ".." behind it, which may make it slightly wider; else nothing.
 //

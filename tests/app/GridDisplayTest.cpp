@@ -7,6 +7,8 @@
 #include <QScrollBar>
 #include <QTest>
 
+#include <limits>
+
 namespace orvane {
 namespace {
 
@@ -188,6 +190,19 @@ TEST_F(GridDisplay, AHugeColumnZeroLeavesRoomForTheTableAndCanBeDraggedSmaller) 
     const int border = CellRect(0, 0).right() + 1;
     DragBorder({border, 5}, 150 - border);
     EXPECT_EQ(Grid()->columnWidth(0), 150);
+}
+
+TEST_F(GridDisplay, WidthsFromAForeignFileDoNotMakeTextsAsLong) {
+    for (const std::int32_t width :
+         {std::numeric_limits<std::int32_t>::max(), std::numeric_limits<std::int32_t>::min()}) {
+        FsmDocument document = PumpDocument();
+        document.View.Col0Width = width;
+        document.State(1).ColWidth = width;
+        document.State(1).EntryCode = std::string(1'000'000, 'x');
+        StartOn(document);
+        EXPECT_LT(Text(1, 0).size(), 30'000u);
+        EXPECT_LT(Text(1, 1).size(), 30'000u);
+    }
 }
 
 TEST_F(GridDisplay, ALoadedHeightIsShownAndKept) {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "table/ui/GridGeometry.h"
 
+#include "table/TextFitting.h"
+
 #include <QApplication>
 #include <QFontMetrics>
 #include <QHeaderView>
@@ -12,13 +14,11 @@ namespace orvane {
 
 namespace {
 
-// A document may ask for any 32-bit number of twips. More than this many pixels are of no use to anyone, and
-// a hundred such columns still fit the scroll bar's range.
-constexpr int kLargestPixels = 20000;
+constexpr int kLargestPixels = kWidestColumn / kTwipsPerPixel;
 constexpr int kRowPadding = 6; // pixels above and below the text together
 
 int PixelsFromTwips(std::int32_t twips) {
-    return std::clamp((std::max(twips, 0) + kTwipsPerPixel / 2) / kTwipsPerPixel, 0, kLargestPixels);
+    return (std::clamp(twips, 0, kWidestColumn) + kTwipsPerPixel / 2) / kTwipsPerPixel;
 }
 
 } // namespace

@@ -58,7 +58,7 @@ void GridPainter::PaintCell(const QModelIndex& cell, const QRect& area) {
     painter_.setPen(QPen(QColor(kLineColour), 0)); // one pixel of the screen, so that all are equal at 150 %
     painter_.drawLine(area.topRight(), area.bottomRight());
     painter_.drawLine(area.bottomLeft(), area.bottomRight());
-    const QString text = CellLine(cell.data().toString());
+    const QString text = CellLine(cell.data().toString().left(area.width())); // no character takes no pixel
     if (!text.isEmpty()) {
         painter_.setPen(cell.data(Qt::ForegroundRole).value<QColor>());
         const QRect textArea = area.adjusted(kTextMargin, 0, -1, -1);
