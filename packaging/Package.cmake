@@ -2,7 +2,7 @@
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME orvane)
 set(CPACK_PACKAGE_VENDOR "The Orvane developers")
-set(CPACK_PACKAGE_CONTACT "The Orvane developers <orvane@localhost.localdomain>")
+set(CPACK_PACKAGE_CONTACT "The Orvane developers <maintainers@orvane.example>")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "design state machines for Zorlan controllers as tables")
 set(CPACK_PACKAGE_DESCRIPTION
 "Orvane is for control engineers. A machine is one table: each column is a
