@@ -40,11 +40,12 @@ class StateLabels {
     std::array<std::string, kStateCount + 1> loop_;
 };
 
-// About as long as the program of a design with long texts gets; only the speed depends on it. Bounded,
-// because states that are not reached count here too, and long texts of theirs are not worth the memory.
+// At least as long as the program of most designs gets, so that its text need not move while it grows; only
+// the speed depends on it, and room that is not used costs nothing. Bounded, because states that are not
+// reached count here too, and long texts of theirs are not worth the memory.
 std::size_t EstimatedSize(const FsmDocument& document) {
     constexpr std::size_t largest = 8u << 20; // bytes
-    constexpr std::size_t jumps = 48;         // bytes that a cell takes beside its texts
+    constexpr std::size_t jumps = 80;         // bytes that a cell takes beside its texts
     std::size_t size = 4096 + document.General.CodeSeg.size() + document.General.TestSeg.size() +
                        document.General.InitSeg.size() + document.General.NvEm0Data.size();
     for (const int state : StateNumbers()) {
@@ -52,7 +53,7 @@ std::size_t EstimatedSize(const FsmDocument& document) {
         size += record.EntryCode.size();
         for (const int row : CellRows()) {
             if (record.Targets[row] != kNoState)
-                size += jumps + 2 * document.General.FsmName.size() + record.Actions[row].size() +
+                size += jumps + 3 * document.General.FsmName.size() + record.Actions[row].size() +
                         document.Event(row).Code.size();
         }
     }
