@@ -74,7 +74,8 @@ std::string CellText(const FsmDocument& document, int row, int column, const Tex
 
 std::string ForceLREventAction(int column0Width, const TextMeasurer& measure) {
     const int words = measure(kEventHead) + measure(kActionHead);
-    const int spare = std::max(column0Width - kColumnMargin - words, 1);
+    const int spare =
+        std::max(std::max(column0Width, 0) - kColumnMargin - words, 1); // widths may be negative
     const int blank = std::max(measure(" "), 1);
     // lrint rounds to the nearest number and halves to the even one.
     const long blanks = std::lrint(static_cast<double>(spare) / blank);

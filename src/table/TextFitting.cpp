@@ -13,7 +13,7 @@ constexpr std::size_t kFirstTrial = 32; // characters; more than most columns ho
 
 std::string FitTextToColumn(std::string_view text, int columnWidth, const TextMeasurer& measure) {
     const auto fits = [&](std::size_t length) {
-        return measure(text.substr(0, length)) < columnWidth - kColumnMargin;
+        return measure(text.substr(0, length)) + kColumnMargin < columnWidth;
     };
     std::size_t shortest = 0; // of the beginnings, one that fits or none at all
     std::size_t longest = std::min(kFirstTrial, text.size());

@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 namespace orvane {
 namespace {
 
@@ -127,6 +129,24 @@ TEST(CellText, TheStarIsCutOffWithTheRest) {
     document.State(1).Targets[6] = 5;
     document.State(1).Actions[6] = ";act";
     EXPECT_EQ(Cell(document, 6, 1), "5:Bottl..");
+}
+
+// Such widths come in foreign documents.
+TEST(CellText, TheSmallestAndTheLargestWidthsAreTakenAsTheyAre) {
+    FsmDocument document;
+    document.General.FsmName = "PMP";
+    document.State(1).Name = "Idle";
+    for (const std::int32_t width : {std::numeric_limits<std::int32_t>::min(), -1, 0}) {
+        document.View.Col0Width = width;
+        document.State(1).ColWidth = width;
+        EXPECT_EQ(CellText(document, 0, 0, WidthOf), "");
+        EXPECT_EQ(CellText(document, 1, 0, WidthOf), "");
+        EXPECT_EQ(CellText(document, 0, 1, WidthOf), "");
+    }
+    document.View.Col0Width = 100'000;
+    document.State(1).ColWidth = std::numeric_limits<std::int32_t>::max();
+    EXPECT_EQ(CellText(document, 0, 0, WidthOf), "PMP");
+    EXPECT_EQ(CellText(document, 0, 1, WidthOf), "1:Idle");
 }
 
 TEST(CellText, CellsOutsideTheTableAreRefused) {
