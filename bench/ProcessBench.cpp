@@ -2,52 +2,22 @@
 // A whole run of `orvanec generate` on the document at the limit beside `cat` of the program it writes, both
 // into a file of their own. The runs alternate, and the least time of each counts: what disturbs a run only
 // ever adds to it.
+#include "ChildProcess.h"
 #include "SampleDocuments.h"
 #include "core/DocumentWriter.h"
 
 #include <algorithm>
-#include <chrono>
-#include <fcntl.h>
 #include <filesystem>
 #include <fstream>
 #include <iomanip>
 #include <iostream>
-#include <spawn.h>
-#include <stdexcept>
 #include <string>
-#include <sys/wait.h>
 #include <unistd.h>
 #include <vector>
 
 namespace {
 
 constexpr int kRuns = 300;
-
-// Runs the command with its standard output in the file and its standard error nowhere. Milliseconds; ends
-// the program when the command fails.
-double Run(std::vector<std::string> command, const std::string& output) {
-    std::vector<char*> arguments;
-    for (std::string& word : command)
-        arguments.push_back(word.data());
-    arguments.push_back(nullptr);
-    posix_spawn_file_actions_t files;
-    posix_spawn_file_actions_init(&files);
-    posix_spawn_file_actions_addopen(&files, STDOUT_FILENO, output.c_str(), O_WRONLY | O_CREAT | O_TRUNC,
-                                     0644);
-    posix_spawn_file_actions_addopen(&files, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
-
-    const auto start = std::chrono::steady_clock::now();
-    pid_t process = 0;
-    int status = -1;
-    if (posix_spawnp(&process, arguments[0], &files, nullptr, arguments.data(), environ) == 0)
-        waitpid(process, &status, 0);
-    const std::chrono::duration<double, std::milli> time = std::chrono::steady_clock::now() - start;
-    posix_spawn_file_actions_destroy(&files);
-    if (status != 0) {
-        throw std::runtime_error(command[0] + " failed");
-    }
-    return time.count();
-}
 
 class TemporaryFolder {
   public:
@@ -67,6 +37,7 @@ class TemporaryFolder {
 
 // Arguments are those of the other benchmarks and mean nothing here.
 int main(int, char** argv) {
+    using orvane::TimeOfCommand;
     const TemporaryFolder folder;
     const std::string document = folder.Path / "limit.zfsm";
     const std::string program = folder.Path / "limit.zls";
@@ -76,11 +47,11 @@ int main(int, char** argv) {
     const std::vector<std::string> generate = {orvanec, "generate", document, "-o", "-"};
     const std::vector<std::string> cat = {"cat", program};
 
-    double generated = Run(generate, program);
-    double copied = Run(cat, copy);
+    double generated = TimeOfCommand(generate, program);
+    double copied = TimeOfCommand(cat, copy);
     for (int run = 0; run < kRuns; ++run) {
-        generated = std::min(generated, Run(generate, program));
-        copied = std::min(copied, Run(cat, copy));
+        generated = std::min(generated, TimeOfCommand(generate, program));
+        copied = std::min(copied, TimeOfCommand(cat, copy));
     }
     std::cout << std::fixed << "| program | document | bytes | time (ms) | cat (ms) | ratio | aim |\n"
               << "| --- | --- | ---: | ---: | ---: | ---: | ---: |\n"

@@ -295,7 +295,9 @@ GeneratedProgram GenerateProgram(const FsmDocument& document, const GenerationCo
     return CodeGenerator(document, context).Run();
 }
 
-std::string ProgramFileBytes(GeneratedProgram program) { return std::move(program.Text.append(kLineEnd)); }
+std::string ProgramFileBytes(GeneratedProgram program) {
+    return std::move(program.Text.append(kProgramFileEnd));
+}
 
 std::string ProgramFilePath(std::string_view documentPath) {
     return std::string(StripExtension(documentPath)) + ".zls";

@@ -25,6 +25,9 @@ struct GeneratedProgram {
 // BoundsError when a transition leads to a state that the table does not have.
 GeneratedProgram GenerateProgram(const FsmDocument& document, const GenerationContext& context);
 
+// What stands behind the text in the .zls file.
+inline constexpr std::string_view kProgramFileEnd = "\r\n";
+
 // The bytes of the .zls file of a program without errors.
 std::string ProgramFileBytes(GeneratedProgram program);
 

@@ -3,7 +3,7 @@
 
 #include "codegen/BannerDate.h"
 #include "codegen/PathInProgram.h"
-#include "core/ui/DocumentFile.h"
+#include "core/ui/RenewableFile.h"
 
 #include <cstdlib>
 #include <ctime>
@@ -29,7 +29,7 @@ void GeneratorRun::Generate(const FsmDocument& document, const QString& document
 }
 
 void GeneratorRun::WriteProgram(const QString& path) {
-    const std::optional<QString> failure = WriteWholeFile(path, ProgramFileBytes(latest_));
+    const std::optional<QString> failure = WriteRenewableFile(path, {latest_.Text, kProgramFileEnd});
     generatedOk_ = !failure;
     if (!failure) {
         toldPath_.clear();

@@ -1,0 +1,152 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What the user waits for, on the document at the limit, beside the engine's own part in it; and the start of
+// the program beside that of a program with an empty window. The document has a file, so every change writes
+// the program beside it. Everything is painted when the clock stops.
+#include "ChildProcess.h"
+#include "SampleDocuments.h"
+#include "codegen/CodeGenerator.h"
+#include "core/DocumentReader.h"
+#include "core/DocumentWriter.h"
+#include "core/TightPacked.h"
+#include "ui/MedianTable.h"
+#include "ui/TableDriver.h"
+
+#include <QAction>
+#include <QApplication>
+
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <memory>
+
+namespace orvane {
+namespace {
+
+constexpr int kRounds = 51;
+constexpr int kStarts = 15;
+
+// Keeps results alive that nothing looks at.
+std::size_t sink = 0;
+
+Timed Generating(const FsmDocument& document) {
+    return [&document] {
+        return TimeOf([&] { sink += GenerateProgram(document, {"/plant.zfsm", "now"}).Text.size(); });
+    };
+}
+
+Timed PackingAndGenerating(const FsmDocument& document) {
+    return [&document] {
+        return TimeOf([&] {
+            sink += Pack(document).size();
+            sink += GenerateProgram(document, {"/plant.zfsm", "now"}).Text.size();
+        });
+    };
+}
+
+Timed Reading(const std::string& bytes) {
+    return [bytes] { return TimeOf([&] { sink += ReadDocument(bytes).Messages.size(); }); };
+}
+
+void AddTyping(MedianTable& table, TableDriver& driver, const FsmDocument& document) {
+    constexpr int row = 20;
+    constexpr int column = 50;
+    auto target = std::make_shared<int>(1);
+    const auto type = [&driver, target] {
+        *target = *target % kStateCount + 1;
+        driver.BeginTarget(row, column, QString::number(*target));
+        return TimeOf([&] { driver.CommitTarget(); });
+    };
+    const std::string engine = "pack + generate";
+    table.Add("typed transition", engine, 3, type, PackingAndGenerating(document));
+    table.Add(
+        "undo", engine, 6, [&driver] { return TimeOf([&] { driver.Trigger("mnuUndo"); }); },
+        PackingAndGenerating(document));
+    table.Add(
+        "letter in the code segment", "generate", 3,
+        [&driver] {
+            double time = 0;
+            driver.UseGeneralCodeEditor([&] { time = TimeOf([&] { driver.TypeLetter("txtCodeSeg"); }); });
+            return time;
+        },
+        Generating(document));
+    table.Add(
+        "open", "read", 5, [&driver] { return TimeOf([&] { driver.Open(); }); },
+        Reading(WriteDocument(document)));
+}
+
+struct StructuralEdit {
+    const char* Name;
+    const char* Item;
+    const char* Before; // makes room for it, unmeasured; null when there is room
+    int Row;
+    int Column;
+};
+
+// Structural edits need room: a state and an event less than the limit. Each is undone, so that there is room
+// again.
+void AddStructure(MedianTable& table, TableDriver& driver, const FsmDocument& document) {
+    for (const StructuralEdit& edit :
+         {StructuralEdit{"insert state", "mnuInsertState", nullptr, kHeadRow, 50},
+          StructuralEdit{"delete state", "mnuDeleteState", "mnuInsertState", kHeadRow, 50},
+          StructuralEdit{"insert event", "mnuInsertEvent", nullptr, 20, 0},
+          StructuralEdit{"delete event", "mnuDeleteEvent", "mnuInsertEvent", 20, 0}}) {
+        const auto run = [&driver, edit] {
+            if (edit.Before != nullptr) {
+                driver.PressForMenu(edit.Row, edit.Column);
+                driver.Trigger(edit.Before);
+            }
+            driver.PressForMenu(edit.Row, edit.Column);
+            const double time = TimeOf([&] { driver.Trigger(edit.Item); });
+            while (driver.Item("mnuUndo")->isEnabled())
+                driver.Trigger("mnuUndo");
+            return time;
+        };
+        table.Add(edit.Name, "pack + generate", 4, run, PackingAndGenerating(document));
+    }
+}
+
+void MeasureWindow() {
+    const FsmDocument limit = DocumentAtTheLimit();
+    const FsmDocument roomy = SampleDocument(kStateCount - 1, kLastRow - kFirstEventRow);
+    TableDriver atTheLimit(limit);
+    TableDriver withRoom(roomy);
+    MedianTable table;
+    AddTyping(table, atTheLimit, limit);
+    AddStructure(table, withRoom, roomy);
+    table.Measure(kRounds);
+    if (atTheLimit.ProgramSize() == 0 || withRoom.ProgramSize() == 0)
+        throw std::runtime_error("no program was written");
+    table.Print(std::cout);
+}
+
+void MeasureStart(const std::filesystem::path& programs) {
+    const QTemporaryDir folder;
+    const std::string document = folder.filePath(QStringLiteral("limit.zfsm")).toStdString();
+    std::ofstream(document, std::ios::binary) << WriteDocument(DocumentAtTheLimit());
+    const auto start = [&](std::vector<std::string> command) -> Timed {
+        command.front() = programs / command.front();
+        return [command] { return TimeOfCommand(command, "/dev/null"); };
+    };
+    MedianTable table;
+    table.Add("start", "empty window", 1.5, start({"orvane_start"}), start({"empty_start"}));
+    table.Add("start on a document", "empty window", 1.5, start({"orvane_start", document}),
+              start({"empty_start"}));
+    table.Measure(kStarts);
+    table.Print(std::cout);
+}
+
+} // namespace
+} // namespace orvane
+
+// Arguments are those of the other benchmarks and mean nothing here.
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QTemporaryDir applicationData;
+    qputenv("APPDATA", applicationData.path().toLocal8Bit());
+    const QApplication application(argc, argv);
+    std::cout << "| operation | time (ms) | floor | floor (ms) | ratio | aim |\n"
+              << "| --- | ---: | --- | ---: | ---: | ---: |\n";
+    orvane::MeasureWindow();
+    orvane::MeasureStart(std::filesystem::path(argv[0]).parent_path());
+    return 0;
+}
