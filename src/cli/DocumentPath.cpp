@@ -38,8 +38,6 @@ fs::path ProgramPath(const fs::path& fullPath) {
     return std::u8string(program.begin(), program.end());
 }
 
-std::string PathInProgram(const fs::path& fullPath) {
-    return orvane::PathInProgram(Utf8(fullPath));
-}
+std::string PathInProgram(const fs::path& fullPath) { return orvane::PathInProgram(Utf8(fullPath)); }
 
 } // namespace orvane::cli

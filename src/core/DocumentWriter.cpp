@@ -36,6 +36,7 @@ class Writer {
     void WriteRowHeights();
     void WriteEvent(int row);
     void WriteState(int state);
+    void WriteCells(const StateRecord& state);
     bool IsStored(const StateRecord& record) const {
         return !IsEmpty(record) || record.ColWidth != document_.DefaultColumnWidth();
     }
@@ -118,7 +119,11 @@ void Writer::WriteState(int number) {
     FieldUnlessEmpty(tag::kTimingVar, state.TimingVar);
     FieldUnlessEmpty(tag::kTimerId, state.TimerId);
     Field(kInSection, tag::kColWidth, NumberText(state.ColWidth));
+    WriteCells(state);
+    Marker(kTopLevel, tag::kStateEnd);
+}
 
+void Writer::WriteCells(const StateRecord& state) {
     bool listOpen = false;
     const auto cellField = [&](std::string_view tag, int row, std::string_view value) {
         if (!listOpen)
@@ -134,7 +139,6 @@ void Writer::WriteState(int number) {
     }
     if (listOpen)
         Field(kInSection, tag::kTransitionsEnd);
-    Marker(kTopLevel, tag::kStateEnd);
 }
 
 } // namespace
