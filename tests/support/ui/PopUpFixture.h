@@ -3,6 +3,7 @@
 
 #include "support/ui/TableFixture.h"
 
+#include <functional>
 #include <map>
 
 class QMenu;
@@ -27,8 +28,7 @@ class PopUpFixture : public TableFixture {
     // The document has changed and can be changed back by this many undo steps.
     int UndoSteps();
 
-  private:
-    // The item in the menu that comes up, which stays open.
+    // The item in the menu that comes up by a right press on the cell, and stays open; null when it has none.
     QAction* PopUpWith(int row, int column, const char* item);
 };
 

@@ -1,0 +1,200 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Five hundred commands in a row through the pop-up menus, beside the same commands on a document of our own.
+#include "support/ui/PopUpFixture.h"
+
+#include "codegen/Reachability.h"
+#include "core/TightPacked.h"
+#include "support/Property.h"
+#include "table/StructuralEdits.h"
+
+namespace orvane {
+namespace {
+
+constexpr std::size_t kInReach = 99; // undo steps
+
+// What the window should hold: document, clipboard, and the images that the commands have left behind.
+struct Twin {
+    FsmDocument Document;
+    TableClipboard Clipboard;
+    PasteItems Offered;
+    std::vector<std::string> Images;
+    bool Yes = false; // to a question that comes up
+
+    // What a refused command has told, or asked.
+    std::optional<UserMessage> Told;
+
+    bool Ask(const UserMessage& question) {
+        Told = question;
+        return Yes;
+    }
+};
+
+struct Place {
+    int Row;
+    int Column;
+};
+
+struct Command {
+    const char* Item;
+    enum { StateHead, EventHead, EntryCell, TransitionCell } Where;
+    void (*Run)(Twin& twin, const Place& at);
+    bool PasteItems::*Needs = nullptr;
+};
+
+constexpr std::array kCommands = {
+    Command{"mnuInsertState", Command::StateHead,
+            [](Twin& t, const Place& at) { t.Told = InsertState(t.Document, t.Clipboard, at.Column); }},
+    Command{"mnuDeleteState", Command::StateHead,
+            [](Twin& t, const Place& at) { DeleteState(t.Document, t.Clipboard, at.Column); }},
+    Command{"mnuCopyState", Command::StateHead,
+            [](Twin& t, const Place& at) { CopyState(t.Document, t.Clipboard, at.Column); }},
+    Command{"mnuPasteState", Command::StateHead,
+            [](Twin& t, const Place& at) { PasteState(t.Document, t.Clipboard, at.Column); },
+            &PasteItems::State},
+    Command{"mnuInsertEvent", Command::EventHead,
+            [](Twin& t, const Place& at) { t.Told = InsertEvent(t.Document, t.Clipboard, at.Row); }},
+    Command{"mnuDeleteEvent", Command::EventHead,
+            [](Twin& t, const Place& at) {
+                DeleteEvent(t.Document, t.Clipboard, at.Row, [&t](const UserMessage& m) { return t.Ask(m); });
+            }},
+    Command{"mnuCopyEvent", Command::EventHead,
+            [](Twin& t, const Place& at) { CopyEvent(t.Document, t.Clipboard, at.Row); }},
+    Command{"mnuPasteEvent", Command::EventHead,
+            [](Twin& t, const Place& at) { PasteEvent(t.Document, t.Clipboard, at.Row); },
+            &PasteItems::Event},
+    Command{"mnuCopyEntryAction", Command::EntryCell,
+            [](Twin& t, const Place& at) { CopyEntryAction(t.Document, t.Clipboard, at.Column); }},
+    Command{"mnuCutEntryAction", Command::EntryCell,
+            [](Twin& t, const Place& at) { CutEntryAction(t.Document, t.Clipboard, at.Column); }},
+    Command{"mnuDeleteEntryAction", Command::EntryCell,
+            [](Twin& t, const Place& at) { DeleteEntryAction(t.Document, at.Column); }},
+    Command{"mnuPasteEntryAction", Command::EntryCell,
+            [](Twin& t, const Place& at) { PasteEntryAction(t.Document, t.Clipboard, at.Column); },
+            &PasteItems::EntryAction},
+    Command{"mnuCopyTransition", Command::TransitionCell,
+            [](Twin& t, const Place& at) { CopyTransition(t.Document, t.Clipboard, at.Row, at.Column); }},
+    Command{"mnuCutTransition", Command::TransitionCell,
+            [](Twin& t, const Place& at) { CutTransition(t.Document, t.Clipboard, at.Row, at.Column); }},
+    Command{"mnuPasteTransition", Command::TransitionCell,
+            [](Twin& t, const Place& at) { PasteTransition(t.Document, t.Clipboard, at.Row, at.Column); },
+            &PasteItems::Transition},
+    Command{
+        "mnuCopyTransAct", Command::TransitionCell,
+        [](Twin& t, const Place& at) { CopyTransitionAction(t.Document, t.Clipboard, at.Row, at.Column); }},
+    Command{
+        "mnuCutTransAct", Command::TransitionCell,
+        [](Twin& t, const Place& at) { CutTransitionAction(t.Document, t.Clipboard, at.Row, at.Column); }},
+    Command{
+        "mnuPasteTransAct", Command::TransitionCell,
+        [](Twin& t, const Place& at) { PasteTransitionAction(t.Document, t.Clipboard, at.Row, at.Column); },
+        &PasteItems::TransitionAction},
+};
+
+struct Step {
+    Command Do;
+    Place At;
+    bool Yes;
+};
+
+void showValue(const Step& step, std::ostream& out) {
+    out << step.Do.Item << " at row " << step.At.Row << ", column " << step.At.Column
+        << (step.Yes ? ", yes" : ", no");
+}
+
+// Most steps meet in one corner of the table, where they have something to do with each other.
+rc::Gen<Step> AnyStep() {
+    const auto number = [](int first, int corner, int last) {
+        return rc::gen::weightedOneOf<int>(
+            {{4, rc::gen::inRange(first, corner + 1)}, {1, rc::gen::inRange(first, last + 1)}});
+    };
+    return rc::gen::apply(
+        [](const Command& command, int row, int column, bool yes) {
+            switch (command.Where) {
+            case Command::StateHead:
+                return Step{command, {kHeadRow, column}, yes};
+            case Command::EventHead:
+                return Step{command, {row, 0}, yes};
+            case Command::EntryCell:
+                return Step{command, {kEntryActionRow, column}, yes};
+            default:
+                return Step{command, {row, column}, yes};
+            }
+        },
+        rc::gen::elementOf(kCommands), number(kFirstEventRow, 12, kLastRow), number(1, 8, kStateCount),
+        rc::gen::arbitrary<bool>());
+}
+
+class RandomMenuCommands : public PopUpFixture {
+  protected:
+    void Begin(const FsmDocument& document) {
+        StartOn(document);
+        twin_ = {
+            .Document = document, .Clipboard = {}, .Offered = {}, .Images = {Pack(document)}, .Told = {}};
+    }
+
+    // The command in the window and on the twin; the window must offer it exactly when it should.
+    void Take(const Step& step) {
+        QAction* item = PopUpWith(step.At.Row, step.At.Column, step.Do.Item);
+        PoppedUp();
+        twin_.Offered = EnablePasteItems(twin_.Clipboard.Kind, twin_.Offered);
+        RC_ASSERT(item != nullptr);
+        RC_ASSERT(item->isEnabled() == ShouldBeOffered(step));
+        if (!item->isEnabled())
+            return;
+        twin_.Yes = step.Yes;
+        twin_.Told.reset();
+        step.Do.Run(twin_, step.At);
+        const std::size_t seen = Answers.Seen().size();
+        if (twin_.Told)
+            Answers.Press(twin_.Told->Buttons == MessageButtons::Ok ? QMessageBox::Ok
+                          : step.Yes                                ? QMessageBox::Yes
+                                                                    : QMessageBox::No);
+        item->trigger();
+        RC_ASSERT(Answers.Seen().size() == seen + (twin_.Told ? 1 : 0));
+        if (std::string image = Pack(twin_.Document); image != twin_.Images.back())
+            twin_.Images.push_back(std::move(image));
+    }
+
+    bool ShouldBeOffered(const Step& step) const {
+        if (step.Do.Needs != nullptr)
+            return twin_.Offered.*step.Do.Needs;
+        if (std::string_view(step.Do.Item) == "mnuDeleteState")
+            return !ComputeReachability(twin_.Document).Reached(step.At.Column);
+        return true;
+    }
+
+    void RequireWindowHolds(const std::string& image) {
+        const FsmDocument saved = SavedDocument();
+        RC_ASSERT(Pack(saved) == image);
+        for (const int state : StateNumbers())
+            for (const int row : CellRows())
+                RC_ASSERT(TargetNumbers().Contains(saved.State(state).Targets[row]));
+    }
+
+    void RequireWidthsTravelled() {
+        const FsmDocument saved = SavedDocument();
+        for (const int state : StateNumbers())
+            RC_ASSERT(saved.State(state).ColWidth == twin_.Document.State(state).ColWidth);
+    }
+
+    Twin twin_;
+};
+
+TEST_F(RandomMenuCommands, FiveHundredOfThemKeepTheTableValidAndAreUndoneAndRedoneAsFarAsTheyReach) {
+    test::ExpectProperty({.Cases = 2}, [this] {
+        Begin(PumpDocument());
+        for (const Step& step : *rc::gen::container<std::vector<Step>>(500, AnyStep()))
+            Take(step);
+        RequireWindowHolds(twin_.Images.back());
+        RequireWidthsTravelled();
+        const std::size_t steps = std::min(twin_.Images.size() - 1, kInReach);
+        RC_ASSERT(static_cast<std::size_t>(UndoSteps()) == steps);
+        RequireWindowHolds(twin_.Images[twin_.Images.size() - 1 - steps]);
+        while (Item("mnuRedo")->isEnabled())
+            Trigger("mnuRedo");
+        RequireWindowHolds(twin_.Images.back());
+    });
+}
+
+} // namespace
+} // namespace orvane
