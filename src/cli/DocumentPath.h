@@ -3,8 +3,13 @@
 
 #include <filesystem>
 #include <string>
+#include <string_view>
 
 namespace orvane::cli {
+
+// Names on the command line and in messages are UTF-8, whatever the system's own encoding is.
+std::filesystem::path PathOf(std::string_view utf8);
+std::string Utf8(const std::filesystem::path& path);
 
 // The absolute path of a file named on the command line, without "." and "..": a dot in the path is the dot
 // of an extension. Links keep their names.

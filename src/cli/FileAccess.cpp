@@ -4,10 +4,13 @@
 #include "core/NumberText.h"
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
+#include <chrono>
 #include <cstdio>
 #include <memory>
 #include <random>
+#include <thread>
 
 #ifdef _WIN32
 #include <io.h>
@@ -21,21 +24,34 @@ namespace fs = std::filesystem;
 
 namespace {
 
-#ifdef _WIN32
-constexpr const char* kCreateNew = "wb"; // the runtime has no exclusive mode
-#else
-constexpr const char* kCreateNew = "wbx";
-#endif
+enum class Mode { Read, Change, Write, CreateNew };
 
 struct Closer {
     void operator()(std::FILE* file) const { std::fclose(file); }
 };
 using File = std::unique_ptr<std::FILE, Closer>;
 
+#ifdef _WIN32
+// Names of any language, which the narrow function does not know.
+std::FILE* OpenNative(const fs::path& path, Mode mode) {
+    constexpr std::array names{L"rb", L"r+b", L"wb", L"wb"};
+    if (mode == Mode::CreateNew && fs::exists(path)) { // the runtime has no exclusive mode
+        errno = EEXIST;
+        return nullptr;
+    }
+    return _wfopen(path.c_str(), names[static_cast<std::size_t>(mode)]);
+}
+#else
+std::FILE* OpenNative(const fs::path& path, Mode mode) {
+    constexpr std::array names{"rb", "r+b", "wb", "wbx"};
+    return std::fopen(path.c_str(), names[static_cast<std::size_t>(mode)]);
+}
+#endif
+
 // Reads and writes here are few and large: a buffer would only copy.
-File Open(const fs::path& path, const char* mode) {
+File Open(const fs::path& path, Mode mode) {
     errno = 0;
-    File file(std::fopen(path.string().c_str(), mode));
+    File file(OpenNative(path, mode));
     if (file)
         std::setvbuf(file.get(), nullptr, _IONBF, 0);
     return file;
@@ -67,7 +83,7 @@ std::error_code Close(File file) {
 }
 
 std::error_code WriteDirectly(const fs::path& path, std::string_view bytes) {
-    File file = Open(path, "wb");
+    File file = Open(path, Mode::Write);
     if (!file)
         return LastError();
     if (const std::error_code failure = Write(file.get(), bytes))
@@ -82,7 +98,7 @@ class TemporaryFile {
         std::random_device random;
         for (int attempt = 0; attempt < 100 && !file_; ++attempt) {
             path_ = folder / (".orvanec-" + HexText(random()) + ".tmp");
-            file_ = Open(path_, kCreateNew);
+            file_ = Open(path_, Mode::CreateNew);
             if (!file_ && errno != EEXIST)
                 break;
         }
@@ -150,6 +166,36 @@ bool NamesOpenFile(const fs::path& path) {
            name.starts_with("/proc/self/fd/");
 }
 
+std::error_code Replace(const fs::path& path, fs::file_status older, std::string_view bytes,
+                        Durability durability) {
+    // A file that may not be changed is not replaced either.
+    if (fs::exists(older) && !Open(path, Mode::Change))
+        return LastError();
+
+    const fs::path target = LinkTarget(path);
+    TemporaryFile temporary(target.parent_path());
+    if (temporary.Failure())
+        return temporary.Failure();
+    if (const std::error_code failure = temporary.Fill(bytes, durability))
+        return failure;
+    return temporary.TakePlaceOf(target, older);
+}
+
+// Windows refuses to replace a file that someone has open, if only for a moment: a virus scanner, or this
+// program when a document is named twice.
+template <typename Attempt>
+std::error_code Patiently(Attempt attempt) {
+    std::error_code failure = attempt();
+#ifdef _WIN32
+    constexpr int mostAttempts = 50;
+    for (int i = 1; i < mostAttempts && failure == std::errc::permission_denied; ++i) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+        failure = attempt();
+    }
+#endif
+    return failure;
+}
+
 } // namespace
 
 FileBytes ReadWholeFile(const fs::path& path, std::size_t limit) {
@@ -157,7 +203,7 @@ FileBytes ReadWholeFile(const fs::path& path, std::size_t limit) {
     const fs::file_status status = fs::status(path, noSize);
     if (fs::is_directory(status)) // not every system says so by itself
         return Failed(make_error_code(std::errc::is_a_directory));
-    const File file = Open(path, "rb");
+    const File file = Open(path, Mode::Read);
     if (!file)
         return Failed(LastError());
     const std::uintmax_t size = fs::is_regular_file(status) ? fs::file_size(path, noSize) : 0;
@@ -193,17 +239,7 @@ std::error_code WriteWholeFile(const fs::path& path, std::string_view bytes, Dur
         return make_error_code(std::errc::is_a_directory);
     if ((fs::exists(older) && !fs::is_regular_file(older)) || NamesOpenFile(path))
         return WriteDirectly(path, bytes);
-    // A file that may not be changed is not replaced either.
-    if (fs::exists(older) && !Open(path, "r+b"))
-        return LastError();
-
-    const fs::path target = LinkTarget(path);
-    TemporaryFile temporary(target.parent_path());
-    if (temporary.Failure())
-        return temporary.Failure();
-    if ((failure = temporary.Fill(bytes, durability)))
-        return failure;
-    return temporary.TakePlaceOf(target, older);
+    return Patiently([&] { return Replace(path, older, bytes, durability); });
 }
 
 } // namespace orvane::cli

@@ -20,6 +20,9 @@ std::string ShownMessage(const ReaderMessage& message);
 // "DOC:LINE: message", without the line for a message that concerns the file as a whole.
 std::string MessageLine(std::string_view document, const ReaderMessage& message);
 
+// Why something failed, in the words that all systems share: a system's own may be in another encoding.
+std::string ReasonText(std::error_code reason);
+
 // "orvanec: DOC: what (reason)".
 std::string FailureLine(std::string_view document, std::string_view what, std::error_code reason = {});
 

@@ -5,12 +5,14 @@
 
 #include <cerrno>
 #include <cstdio>
+#include <cstdlib>
 #include <string_view>
 #include <system_error>
 
 #include <fcntl.h>
 #ifdef _WIN32
 #include <io.h>
+#include <windows.h>
 #endif
 
 namespace orvane::cli {
@@ -27,12 +29,22 @@ std::error_code Write(std::FILE* stream, std::string_view bytes) {
     return {errno, std::generic_category()};
 }
 
+#ifdef _WIN32
+// Until the program ends, because the console outlives it.
+void ShowUtf8InConsole() {
+    static const UINT before = GetConsoleOutputCP();
+    if (before != 0 && SetConsoleOutputCP(CP_UTF8) != 0)
+        std::atexit([] { SetConsoleOutputCP(before); });
+}
+#endif
+
 } // namespace
 
 void PrepareStandardStreams() {
 #ifdef _WIN32
     _setmode(_fileno(stdout), _O_BINARY);
     _setmode(_fileno(stderr), _O_BINARY);
+    ShowUtf8InConsole();
 #else
     // Open the wrong way round, so that its use fails as that of a closed stream does.
     for (int stream = 0; stream <= 2; ++stream) {

@@ -35,7 +35,7 @@ class DocumentRun {
     void WriteBytes(const fs::path& target, std::string bytes, Durability durability);
     bool WritesOver(const fs::path& target) const {
         std::error_code none;
-        return fs::equivalent(target, name_, none);
+        return fs::equivalent(target, PathOf(name_), none);
     }
     std::string HeadedReport(const Report& report) const {
         const std::string head = arguments_.Documents.size() > 1 ? ShownName(name_) + ":\n" : "";
@@ -68,14 +68,14 @@ Outcome DocumentRun::Run() {
 }
 
 bool DocumentRun::Read() {
-    const FileBytes file = ReadWholeFile(name_, kLargestDocument);
+    const FileBytes file = ReadWholeFile(PathOf(name_), kLargestDocument);
     if (file.Failure) {
         const bool tooLarge = file.Failure == std::errc::file_too_large;
         const std::string what = tooLarge ? "is larger than 64 MiB, which no document is" : "cannot be read";
         const std::error_code reason = tooLarge ? std::error_code() : file.Failure;
         Fail(what, reason);
         read_.emplace().BrokeOff = true;
-        read_->Messages.push_back({"The file " + what + (reason ? " (" + reason.message() + ")" : ""), 0});
+        read_->Messages.push_back({"The file " + what + (reason ? " (" + ReasonText(reason) + ")" : ""), 0});
         return false;
     }
     read_ = ReadDocument(file.Bytes());
@@ -95,7 +95,7 @@ void DocumentRun::Generate() {
         outcome_.Raise(kDesignError);
     if (program.Findings.HasErrors() || read_->BrokeOff)
         return;
-    const fs::path target = arguments_.Output ? fs::path(*arguments_.Output) : ProgramPath(document);
+    const fs::path target = arguments_.Output ? PathOf(*arguments_.Output) : ProgramPath(document);
     if (WritesOver(target))
         return Fail("the program would take the place of the document; name another file with -o");
     // Not waiting for the disk: the program can be made again.
@@ -110,7 +110,7 @@ void DocumentRun::Check(const Report& report) {
 }
 
 void DocumentRun::Format() {
-    const fs::path target = arguments_.Output.value_or(name_);
+    const fs::path target = PathOf(arguments_.Output.value_or(name_));
     if (read_->BrokeOff && WritesOver(target))
         return Fail("is not written over, because it was not read to its end");
     WriteBytes(target, WriteDocument(read_->Document), Durability::Synced);
@@ -122,7 +122,7 @@ void DocumentRun::WriteBytes(const fs::path& target, std::string bytes, Durabili
         return;
     }
     if (const std::error_code failure = WriteWholeFile(target, bytes, durability))
-        Fail(ShownName(target.string()) + " cannot be written", failure);
+        Fail(ShownName(Utf8(target)) + " cannot be written", failure);
 }
 
 } // namespace
@@ -136,7 +136,7 @@ std::optional<Outcome> ProgramClash(const Arguments& arguments) {
         const auto [first, isNew] = firstOf.emplace(program, &name);
         if (!isNew && FullPath(*first->second) != FullPath(name))
             return WrongUsage(ShownName(*first->second) + " and " + ShownName(name) +
-                              " would have the same program, " + ShownName(program.string()));
+                              " would have the same program, " + ShownName(Utf8(program)));
     }
     return std::nullopt;
 }

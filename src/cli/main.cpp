@@ -10,6 +10,13 @@
 #include <cstdlib>
 #include <ctime>
 
+#ifdef _WIN32
+#include <functional>
+#include <iterator>
+
+#include <windows.h>
+#endif
+
 namespace orvane::cli {
 
 namespace {
@@ -28,14 +35,45 @@ int Run(const Arguments& arguments) {
     return status;
 }
 
+int Main(int count, const char* const* values) {
+    PrepareStandardStreams();
+    const std::variant<Arguments, Outcome> parsed = ParseArguments(count, values);
+    const auto* arguments = std::get_if<Arguments>(&parsed);
+    return arguments ? Run(*arguments) : Deliver(std::get<Outcome>(parsed));
+}
+
+#ifdef _WIN32
+std::string Utf8Argument(const wchar_t* argument) {
+    const int size = WideCharToMultiByte(CP_UTF8, 0, argument, -1, nullptr, 0, nullptr, nullptr);
+    std::string utf8(static_cast<std::size_t>(size), '\0');
+    WideCharToMultiByte(CP_UTF8, 0, argument, -1, utf8.data(), size, nullptr, nullptr);
+    utf8.pop_back(); // the NUL
+    return utf8;
+}
+#endif
+
 } // namespace
 
 } // namespace orvane::cli
 
-int main(int argc, char* argv[]) {
+#ifdef _WIN32
+
+// The runtime expands * and ? itself, as the shells of other systems do.
+extern "C" int _dowildcard;
+int _dowildcard = -1;
+
+// The narrow arguments lack what the system's code page does not have.
+int wmain(int argc, wchar_t* argv[]) {
     using namespace orvane::cli;
-    PrepareStandardStreams();
-    const std::variant<Arguments, Outcome> parsed = ParseArguments(argc, argv);
-    const auto* arguments = std::get_if<Arguments>(&parsed);
-    return arguments ? Run(*arguments) : Deliver(std::get<Outcome>(parsed));
+    std::vector<std::string> utf8;
+    std::transform(argv, argv + argc, std::back_inserter(utf8), Utf8Argument);
+    std::vector<const char*> values;
+    std::transform(utf8.begin(), utf8.end(), std::back_inserter(values), std::mem_fn(&std::string::c_str));
+    return Main(argc, values.data());
 }
+
+#else
+
+int main(int argc, char* argv[]) { return orvane::cli::Main(argc, argv); }
+
+#endif

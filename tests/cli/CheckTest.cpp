@@ -154,7 +154,7 @@ TEST_F(Check, JsonStaysValidWhateverDocumentAndPathHold) {
                           "name = ''.join(bytes([c]).decode('cp1252', 'replace') if c not in "
                           "(0x81, 0x8D, 0x8F, 0x90, 0x9D) else chr(c) for c in name)\n"
                           "assert d['findings'][0]['stateName'] == name, d['findings'][0]\n");
-    EXPECT_EQ(std::system(("cd '" + PathText("") + "' && python3 judge.py").c_str()), 0);
+    EXPECT_EQ(std::system(("cd '" + Path("").string() + "' && python3 judge.py").c_str()), 0);
 }
 
 } // namespace

@@ -114,7 +114,7 @@ TEST_F(Files, AFullDeviceIsToldAndStaysADevice) {
 
 TEST_F(Files, AFullDiskLeavesTheOlderFileWhole) {
     fs::create_directory(Path("disk"));
-    const std::string mount = "mount -t tmpfs -o size=64k tmpfs '" + PathText("disk") + "' 2>/dev/null";
+    const std::string mount = "mount -t tmpfs -o size=64k tmpfs '" + Path("disk").string() + "' 2>/dev/null";
     if (!IsRoot() || std::system(mount.c_str()) != 0)
         GTEST_SKIP() << "a disk to fill cannot be mounted here";
     std::string large = PumpDocument();
@@ -127,7 +127,7 @@ TEST_F(Files, AFullDiskLeavesTheOlderFileWhole) {
     const std::string left = Listing("disk");
     const std::string oldProgram = ReadFile("disk/large.zls");
     const std::string oldDocument = ReadFile("disk/small.zfsm");
-    EXPECT_EQ(std::system(("umount '" + PathText("disk") + "'").c_str()), 0);
+    EXPECT_EQ(std::system(("umount '" + Path("disk").string() + "'").c_str()), 0);
 
     EXPECT_EQ(program.Status, 3);
     EXPECT_EQ(program.Errors, std::string(kCleanReport) + "orvanec: large.zfsm: disk/large.zls cannot be "

@@ -21,6 +21,11 @@ std::string Bytes(const fs::path& path) {
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
+std::string Program() {
+    const char* other = std::getenv("ORVANEC_PROGRAM");
+    return other ? other : ORVANEC;
+}
+
 } // namespace
 
 Orvanec::Orvanec() {
@@ -35,11 +40,20 @@ Orvanec::~Orvanec() {
     fs::remove_all(folder_.parent_path(), ignored);
 }
 
+std::string Orvanec::PathText(std::string_view name) const {
+    std::string path = Path(name).string();
+    if (Program().ends_with(".exe")) {
+        std::replace(path.begin(), path.end(), '/', '\\');
+        path.insert(0, "Z:");
+    }
+    return path;
+}
+
 RunResult Orvanec::Run(const std::string& arguments, const std::string& before) const {
     const std::string streams = folder_.parent_path().string();
     const std::string command = "cd '" + folder_.string() + "' && export SOURCE_DATE_EPOCH=0 LC_ALL=C && (" +
-                                before + " " ORVANEC " " + arguments + ") >" + streams + "/out 2>" + streams +
-                                "/err </dev/null";
+                                before + " " + Program() + " " + arguments + ") >" + streams + "/out 2>" +
+                                streams + "/err </dev/null";
     const int ended = std::system(command.c_str());
     return {WIFEXITED(ended) ? WEXITSTATUS(ended) : -1, Bytes(streams + "/out"), Bytes(streams + "/err")};
 }

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Runs the real program in a folder of its own.
+// Runs the real program in a folder of its own. ORVANEC_PROGRAM, when set, is the command that runs it; one
+// whose name ends in ".exe" sees this machine's files as its drive Z.
 #pragma once
 
 #include <chrono>
@@ -28,7 +29,8 @@ class Orvanec : public testing::Test {
     RunResult Run(const std::string& arguments, const std::string& before = {}) const;
 
     std::filesystem::path Path(std::string_view name) const { return folder_ / name; }
-    std::string PathText(std::string_view name) const { return Path(name).string(); }
+    // The path as the program itself names it.
+    std::string PathText(std::string_view name) const;
     void WriteFile(std::string_view name, std::string_view bytes) const;
     std::string ReadFile(std::string_view name) const;
     bool Exists(std::string_view name) const { return std::filesystem::exists(Path(name)); }
