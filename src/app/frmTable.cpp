@@ -340,6 +340,7 @@ void frmTable::PressRowHead(const GridPress& press) {
 }
 
 void frmTable::PopUp(const char* menu, const QPoint& position) {
+    frmMyToolTip_->UnDisplay(); // it would lie under the menu
     commands_->EnablePasteItems();
     menus_->Menu(menu)->popup(position);
 }
