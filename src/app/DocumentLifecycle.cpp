@@ -68,12 +68,21 @@ void DocumentLifecycle::New() {
 }
 
 void DocumentLifecycle::Open() {
-    if (!GuardUnsavedWork(QStringLiteral("Save?"), QStringLiteral("Save current file?")))
+    if (!GuardBeforeOpen())
         return;
     const QString path =
         QFileDialog::getOpenFileName(window_, QStringLiteral("Open"), StartFolder(), FileFilter());
     if (!path.isEmpty())
         Load(path);
+}
+
+void DocumentLifecycle::OpenFile(const QString& path) {
+    if (GuardBeforeOpen())
+        Load(path);
+}
+
+bool DocumentLifecycle::GuardBeforeOpen() {
+    return GuardUnsavedWork(QStringLiteral("Save?"), QStringLiteral("Save current file?"));
 }
 
 bool DocumentLifecycle::Save() {

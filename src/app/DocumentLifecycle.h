@@ -24,6 +24,8 @@ class DocumentLifecycle : public QObject {
 
     void New();
     void Open();
+    // The same without a file dialog.
+    void OpenFile(const QString& path);
     // These return whether the document is saved now.
     bool Save();
     bool SaveAs();
@@ -47,6 +49,7 @@ class DocumentLifecycle : public QObject {
     void TellMessages(const QString& path, const ReadResult& result);
     // Whether the command that would lose unsaved work may go on.
     bool GuardUnsavedWork(const QString& title, const QString& question);
+    bool GuardBeforeOpen();
     bool WriteTo(const QString& path);
     QString StartFolder() const;
 

@@ -7,8 +7,11 @@
 #include "app/DocumentLifecycle.h"
 #include "app/EditorWindows.h"
 #include "app/Greeting.h"
+#include "app/HelpMenu.h"
+#include "app/Remembered.h"
 #include "app/SideWindows.h"
 #include "app/TableMenus.h"
+#include "app/TableStatusBar.h"
 #include "app/Trace.h"
 #include "app/WindowTitle.h"
 #include "codegen/Reachability.h"
@@ -26,9 +29,7 @@
 #include <QCursor>
 #include <QDateTime>
 #include <QDir>
-#include <QLabel>
 #include <QMenu>
-#include <QStatusBar>
 
 #include <array>
 
@@ -39,7 +40,6 @@ namespace {
 constexpr int kHelpPage = 4835;
 constexpr int kStartWidth = 1100; // pixels
 constexpr int kStartHeight = 700;
-constexpr int kWidestName = 400; // pixels in the status bar
 
 struct ViewItem {
     const char* Name;
@@ -61,11 +61,12 @@ frmTable::frmTable(QWidget* parent)
       editors_(new EditorWindows(session_.Document, vocabulary_, this)),
       windows_(std::make_unique<SideWindows>(session_, generator_, [this] { RefreshGenerators(); })),
       grid_(std::make_unique<TableGrid>(session_.Document, this)),
-      frmMyToolTip_(new frmMyToolTip(this)) {
+      frmMyToolTip_(new frmMyToolTip(this)),
+      status_(new TableStatusBar(this)) {
     setObjectName(QStringLiteral("frmTable"));
     resize(kStartWidth, kStartHeight);
     setCentralWidget(grid_.get());
-    BuildStatusBar();
+    setStatusBar(status_);
     ConnectDocument();
     ConnectFileMenu();
     ConnectMenus();
@@ -81,29 +82,12 @@ frmTable::frmTable(QWidget* parent)
 
 frmTable::~frmTable() = default;
 
-void frmTable::BuildStatusBar() {
-    statusBar()->setObjectName(QStringLiteral("StatusBar1"));
-    Panel1 = new QLabel(this);
-    Panel2 = new QLabel(this);
-    Panel3 = new QLabel(this);
-    Panel1->setObjectName(QStringLiteral("Panel1"));
-    Panel2->setObjectName(QStringLiteral("Panel2"));
-    Panel3->setObjectName(QStringLiteral("Panel3"));
-    for (QLabel* panel : {Panel1, Panel2, Panel3})
-        panel->setTextFormat(Qt::PlainText);
-    Panel2->setMaximumWidth(kWidestName);
-    Panel1->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("***")));
-    Panel1->setAlignment(Qt::AlignCenter);
-    statusBar()->addWidget(Panel1);
-    statusBar()->addWidget(Panel2);
-    statusBar()->addWidget(Panel3, 1);
-}
-
 void frmTable::ConnectDocument() {
     connect(lifecycle_, &DocumentLifecycle::Replaced, this, &frmTable::ShowReplacedDocument);
     connect(lifecycle_, &DocumentLifecycle::Saved, this, [this] {
         ShowDocumentState();
         windows_->DocumentRenamed();
+        RememberFile(session_.CurrentFileName);
     });
     connect(&generator_, &GeneratorRun::WriteFailed, this, [this](const QString& path, const QString& why) {
         Tell(this, QStringLiteral("The generated program could not be written to\r\n%1\r\n%2.")
@@ -129,6 +113,10 @@ void frmTable::ConnectFileMenu() {
     connectFile("mnuFOpen", [this] { lifecycle_->Open(); });
     connectFile("mnuFSave", [this] { lifecycle_->Save(); });
     connectFile("mnuFSaveAs", [this] { lifecycle_->SaveAs(); });
+    connect(new HelpMenu(this), &HelpMenu::OpenWanted, this, [this](const QString& path) {
+        CommitOpenEdit();
+        lifecycle_->OpenFile(path);
+    });
 }
 
 void frmTable::ConnectMenus() {
@@ -181,7 +169,7 @@ void frmTable::LoadWords() {
     LoadedVocabulary loaded = LoadVocabulary();
     vocabulary_ = std::move(loaded.Words);
     windows_->SetVocabulary(vocabulary_);
-    Panel3->setText(loaded.Problem);
+    status_->ShowProblem(loaded.Problem);
 }
 
 void frmTable::Start(const CommandLine& commandLine) {
@@ -271,23 +259,22 @@ void frmTable::ShowReplacedDocument() {
     ShowDocumentState();
     windows_->DocumentReplaced();
     generator_.RunWithoutFile(session_.Document, session_.CurrentFileName);
+    if (!session_.CurrentFileName.isEmpty())
+        RememberFile(session_.CurrentFileName);
 }
 
 void frmTable::ShowDocumentState() {
     setWindowTitle(WindowTitle(session_.CurrentFileName, session_.IsModified()));
     menus_->Item("mnuUndo")->setEnabled(session_.Undo.CanUndo());
     menus_->Item("mnuRedo")->setEnabled(session_.Undo.CanRedo());
+    status_->ShowHowToBegin(session_.CurrentFileName.isEmpty() && !session_.IsModified());
     ShowMachineName();
 }
 
 // In the corner of the table and in the status bar.
 void frmTable::ShowMachineName() {
-    const std::string& name = session_.Document.General.FsmName;
-    const QString shown = name.empty() ? QStringLiteral("[Un-named]") : FromAnsi(name);
-    if (shown == Panel2->text())
-        return;
-    Panel2->setText(shown);
-    grid_->PopulateRowHeaders();
+    if (status_->ShowName(FromAnsi(session_.Document.General.FsmName)))
+        grid_->PopulateRowHeaders();
 }
 
 void frmTable::ShowViewMarks() {
@@ -449,7 +436,7 @@ void frmTable::SetCurrentState(int state) { grid_->Model().SetCurrentState(state
 
 void frmTable::SetShiftHeld(bool held) {
     grid_->Hints().SetShiftHeld(held);
-    Panel1->setText(held ? QStringLiteral("*") : QString());
+    status_->ShowShift(held);
 }
 
 } // namespace orvane

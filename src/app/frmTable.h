@@ -13,8 +13,6 @@
 
 #include <memory>
 
-class QLabel;
-
 namespace orvane {
 
 class DocumentLifecycle;
@@ -22,6 +20,7 @@ class EditorWindows;
 class SideWindows;
 class TableGrid;
 class TableMenus;
+class TableStatusBar;
 class frmMyToolTip;
 struct GridPress;
 
@@ -49,7 +48,6 @@ class frmTable : public QMainWindow {
 
   private:
     // Building the window.
-    void BuildStatusBar();
     void ConnectDocument();
     void ConnectFileMenu();
     void ConnectMenus();
@@ -104,10 +102,8 @@ class frmTable : public QMainWindow {
     std::unique_ptr<SideWindows> windows_;
     std::unique_ptr<TableGrid> grid_; // goes before what it shows
     frmMyToolTip* frmMyToolTip_;
+    TableStatusBar* status_;
     Vocabulary vocabulary_;
-    QLabel* Panel1;
-    QLabel* Panel2;
-    QLabel* Panel3;
 };
 
 } // namespace orvane

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/CommandLine.h"
 #include "app/Logo.h"
+#include "app/Remembered.h"
 #include "app/frmTable.h"
 
 #include <QApplication>
@@ -9,8 +10,13 @@ int main(int argc, char* argv[]) {
     const QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Orvane"));
     QApplication::setWindowIcon(orvane::Logo());
+    QGuiApplication::setDesktopFileName(QStringLiteral("org.orvane.Orvane"));
     orvane::frmTable window;
-    QObject::connect(&window, &orvane::frmTable::Closed, &application, [] { QApplication::exit(); });
+    orvane::RestorePlace(window);
+    QObject::connect(&window, &orvane::frmTable::Closed, &application, [&window] {
+        orvane::RememberPlace(window);
+        QApplication::exit();
+    });
     window.show();
     window.Start(orvane::ParseCommandLine(QApplication::arguments().mid(1)));
     return QApplication::exec();

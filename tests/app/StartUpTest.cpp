@@ -90,7 +90,7 @@ TEST_F(StartUp, AMissingVocabularyIsToldInTheStatusBarWithItsPlace) {
 TEST_F(StartUp, AVocabularyThatIsThereLeavesTheStatusBarEmpty) {
     QDir().mkpath(Path(QStringLiteral("Zorlan32/vocab")));
     WriteFile(QStringLiteral("Zorlan32/vocab/vocab.txt"), "Inst=GoTo\r\nDirective=EQU\r\n");
-    Start({QStringLiteral("/nosplash")});
+    StartOn(PumpDocument());
     EXPECT_EQ(Panel("Panel3"), "");
 }
 

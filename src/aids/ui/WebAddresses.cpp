@@ -29,6 +29,12 @@ QUrl DownloadPage() { return QUrl(Address("ORVANE_DOWNLOAD_URL", ORVANE_DOWNLOAD
 
 QUrl HomePage() { return QUrl(Address("ORVANE_HOME_URL", ORVANE_HOME_URL)); }
 
+QUrl HelpStart() {
+    const QString onTheWeb = Address("ORVANE_HELP_URL", ORVANE_HELP_URL);
+    return onTheWeb.isEmpty() ? QUrl::fromLocalFile(HelpFolder() + QStringLiteral("/index.htm"))
+                              : QUrl(onTheWeb);
+}
+
 QUrl HelpPage(int page) {
     const QString onTheWeb = Address("ORVANE_HELP_URL", ORVANE_HELP_URL);
     if (!onTheWeb.isEmpty())

@@ -67,6 +67,7 @@ QWidget* EditorDialog::BuildPage(QLabel* prompt, QWidget* field) {
     auto* layout = new QVBoxLayout(page);
     layout->addWidget(prompt);
     layout->addWidget(field, 1);
+    field->setAccessibleName(prompt->text());
     return page;
 }
 

@@ -50,6 +50,7 @@ void frmEventEdit::BuildTabs() {
     txtComment->setObjectName(QStringLiteral("txtComment"));
     SSTab1 = new QTabWidget(this);
     SSTab1->setObjectName(QStringLiteral("SSTab1"));
+    SSTab1->setAccessibleName(tr("Parts of the event"));
     SSTab1->addTab(
         BuildPage(
             BuildPrompt("lblCodePrompt",

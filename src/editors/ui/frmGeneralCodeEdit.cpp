@@ -71,6 +71,7 @@ CodePane* frmGeneralCodeEdit::BuildPane(const char* name, bool findKey) {
 void frmGeneralCodeEdit::BuildTabs() {
     SSTab1 = new QTabWidget(this);
     SSTab1->setObjectName(QStringLiteral("SSTab1"));
+    SSTab1->setAccessibleName(tr("Segments"));
     lblCodePrompt = BuildPrompt("lblCodePrompt", {});
     QLabel* initPrompt = BuildPrompt(
         "lblInitPrompt", QStringLiteral("Enter here any code required to execute once on program "
@@ -88,6 +89,8 @@ void frmGeneralCodeEdit::BuildTabs() {
     fraInitSuggestion =
         new SuggestionFrame({"fraInitSuggestion", "lblSuggestInitSeg", "cmdAcceptInitSuggestion"}, this);
     SSTab1->addTab(BuildSuggestingPage(lblCodePrompt, fraCodeSuggestion, txtCodeSeg), {});
+    txtCodeSeg->setAccessibleName(
+        tr("Startup and supporting code")); // its prompt comes and goes with Polytask
     SSTab1->addTab(BuildSuggestingPage(initPrompt, fraInitSuggestion, txtInitSeg), QStringLiteral("INITSEG"));
     SSTab1->addTab(BuildPage(dataPrompt, txtNV0Data), QStringLiteral("NVEM0DATA"));
     SSTab1->addTab(BuildPage(testPrompt, txtTestSeg), QStringLiteral("TESTSEG"));
@@ -115,6 +118,7 @@ QWidget* frmGeneralCodeEdit::BuildLaunchPage() {
 QWidget* frmGeneralCodeEdit::BuildInstancesPage() {
     txtInstanceCount = new DocumentLineEdit(this);
     txtInstanceCount->setObjectName(QStringLiteral("txtInstanceCount"));
+    txtInstanceCount->setAccessibleName(tr("Number of instances"));
     txtInstanceCount->setFont(FieldFont());
     auto* page = new QWidget(this);
     auto* column = new QVBoxLayout(page);

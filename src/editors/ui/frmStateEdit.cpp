@@ -51,6 +51,7 @@ frmStateEdit::frmStateEdit(QWidget* parent)
 void frmStateEdit::BuildTabs() {
     SSTab1 = new QTabWidget(this);
     SSTab1->setObjectName(QStringLiteral("SSTab1"));
+    SSTab1->setAccessibleName(tr("Parts of the state"));
     txtEntryCode = new CodePane(kEntryCode, this);
     txtEntryCode->setObjectName(QStringLiteral("txtEntryCode"));
     txtComment = new DocumentTextEdit(this);

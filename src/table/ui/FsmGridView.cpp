@@ -16,6 +16,7 @@ namespace orvane {
 
 FsmGridView::FsmGridView(QWidget* parent) : QTableView(parent), borderDrag_(*this) {
     setObjectName(QStringLiteral("MSFlexGrid1"));
+    setAccessibleName(tr("State machine table"));
     setFrameShape(NoFrame);
     for (QHeaderView* header : {horizontalHeader(), verticalHeader()}) {
         header->hide();
@@ -230,10 +231,30 @@ void FsmGridView::keyPressEvent(QKeyEvent* event) {
         event->accept();
         Q_EMIT EnterPressed();
         return;
+    case Qt::Key_F2:
+        PressCurrentCell(Qt::LeftButton, event->modifiers());
+        return;
+    case Qt::Key_Menu:
+        PressCurrentCell(Qt::RightButton, Qt::NoModifier);
+        return;
+    case Qt::Key_F10:
+        if (event->modifiers() != Qt::ShiftModifier)
+            break;
+        PressCurrentCell(Qt::RightButton, Qt::NoModifier);
+        return;
     default:
         break;
     }
     QTableView::keyPressEvent(event);
+}
+
+void FsmGridView::PressCurrentCell(Qt::MouseButton button, Qt::KeyboardModifiers modifiers) {
+    const QModelIndex cell = currentIndex();
+    if (!cell.isValid())
+        return;
+    scrollTo(cell);
+    const QPoint middle = VisibleRect(cell).center();
+    Q_EMIT CellPressed({cell.row(), cell.column(), button, modifiers, viewport()->mapToGlobal(middle)});
 }
 
 void FsmGridView::keyReleaseEvent(QKeyEvent* event) {

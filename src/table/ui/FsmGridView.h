@@ -79,6 +79,8 @@ class FsmGridView : public QTableView {
     void focusOutEvent(QFocusEvent* event) override;
 
   private:
+    // What a mouse button does on the cell under the pointer, done on the current cell.
+    void PressCurrentCell(Qt::MouseButton button, Qt::KeyboardModifiers modifiers);
     bool DragBorder(const QMouseEvent& event);
     void PressCell(const QMouseEvent& event);
 

@@ -23,6 +23,7 @@ constexpr int kHighlightGap = 1;                      // pixels at its right
 QLineEdit* MakeRowHeader(QWidget* parent) {
     auto* box = new QLineEdit(parent);
     box->setObjectName(QStringLiteral("txtRowheader"));
+    box->setAccessibleName(HoverHints::tr("Head of the row under the pointer"));
     box->setReadOnly(true);
     box->setFrame(false);
     box->setMouseTracking(true);

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/TableStatusBar.h"
+
+#include <QLabel>
+
+namespace orvane {
+
+namespace {
+
+constexpr int kWidestName = 400; // pixels
+
+} // namespace
+
+TableStatusBar::TableStatusBar(QWidget* parent)
+    : QStatusBar(parent),
+      Panel1(AddPanel(QStringLiteral("Panel1"), 0)),
+      Panel2(AddPanel(QStringLiteral("Panel2"), 0)),
+      Panel3(AddPanel(QStringLiteral("Panel3"), 1)) {
+    setObjectName(QStringLiteral("StatusBar1"));
+    setAccessibleName(tr("Status"));
+    Panel1->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("***")));
+    Panel1->setAlignment(Qt::AlignCenter);
+    Panel2->setMaximumWidth(kWidestName);
+    Panel3->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+}
+
+QLabel* TableStatusBar::AddPanel(const QString& name, int stretch) {
+    auto* panel = new QLabel(this);
+    panel->setObjectName(name);
+    panel->setTextFormat(Qt::PlainText);
+    addWidget(panel, stretch);
+    return panel;
+}
+
+void TableStatusBar::ShowShift(bool held) { Panel1->setText(held ? QStringLiteral("*") : QString()); }
+
+bool TableStatusBar::ShowName(const QString& name) {
+    const QString shown = name.isEmpty() ? QStringLiteral("[Un-named]") : name;
+    if (shown == Panel2->text())
+        return false;
+    Panel2->setText(shown);
+    return true;
+}
+
+void TableStatusBar::ShowProblem(const QString& problem) {
+    problem_ = problem;
+    ShowMessages();
+}
+
+void TableStatusBar::ShowHowToBegin(bool show) {
+    saysHowToBegin_ = show;
+    ShowMessages();
+}
+
+// Where the line is cut off, the whole of it shows under the pointer.
+void TableStatusBar::ShowMessages() {
+    QStringList messages;
+    if (saysHowToBegin_)
+        messages += tr("To begin, click the white corner and name the machine; then a column's head for a "
+                       "state, a pink cell for an event.");
+    if (!problem_.isEmpty())
+        messages += problem_;
+    Panel3->setText(messages.join(QStringLiteral("  ")));
+    Panel3->setToolTip(messages.join(QLatin1Char('\n')));
+}
+
+} // namespace orvane

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QStatusBar>
+
+class QLabel;
+
+namespace orvane {
+
+// The main window's status bar: the Shift mark, the machine's name, and what there is to say. Nothing in it
+// makes the window wider.
+class TableStatusBar : public QStatusBar {
+    Q_OBJECT
+
+  public:
+    explicit TableStatusBar(QWidget* parent);
+
+    void ShowShift(bool held);
+    // Whether the name is another one than before; an empty one shows as "[Un-named]".
+    bool ShowName(const QString& name);
+    // What stays wrong while the program runs; empty when nothing is.
+    void ShowProblem(const QString& problem);
+    // Whether to say how to begin a machine.
+    void ShowHowToBegin(bool show);
+
+  private:
+    QLabel* AddPanel(const QString& name, int stretch);
+    void ShowMessages();
+
+    QLabel* Panel1;
+    QLabel* Panel2;
+    QLabel* Panel3;
+    QString problem_;
+    bool saysHowToBegin_ = false;
+};
+
+} // namespace orvane
