@@ -18,6 +18,7 @@
 #include "core/ui/AnsiString.h"
 #include "core/ui/UserMessageBox.h"
 #include "table/CellEdit.h"
+#include "table/PressTable.h"
 #include "table/ui/CellEditor.h"
 #include "table/ui/FsmGridModel.h"
 #include "table/ui/FsmGridView.h"
@@ -287,43 +288,32 @@ void frmTable::ShowViewMarks() {
 void frmTable::PressGrid(const GridPress& press) {
     grid_->TestForColumWidthChange();
     pressed_ = {press.Row, press.Column};
-    if (press.Column > 0)
-        PressState(press);
-    else
-        PressRowHead(press);
-}
-
-void frmTable::PressState(const GridPress& press) {
-    if (press.Button == Qt::LeftButton && press.Modifiers == Qt::NoModifier) {
-        if (press.Row >= kFirstCellRow)
-            BeginCellEdit(press.Row, press.Column);
-        else
-            EditState(press.Row, press.Column);
-    } else if (press.Button == Qt::RightButton) {
-        if (press.Row == kHeadRow) {
-            const Reachability reachability = ComputeReachability(session_.Document);
-            menus_->Item("mnuDeleteState")->setEnabled(!reachability.Reached(press.Column));
-            PopUp("mnuColumnHead", press.GlobalPosition);
-        } else if (press.Row == kEntryActionRow) {
-            PopUp("mnuEntryAction", press.GlobalPosition);
-        } else if (press.Row >= kFirstCellRow) {
-            PopUp("mnuTranCell", press.GlobalPosition);
-        }
+    if (press.Column == 0)
+        grid_->Editor().Abandon();
+    switch (ActionOfPress(press.Row, press.Column, press.Button, press.Modifiers)) {
+    case PressAction::Nothing:
+        return;
+    case PressAction::EditState:
+        return EditState(press.Row, press.Column);
+    case PressAction::EditTarget:
+        return BeginCellEdit(press.Row, press.Column);
+    case PressAction::EditEvent:
+        return EditEvent(press.Row);
+    case PressAction::EditGeneralCode:
+        return EditGeneralCode();
+    case PressAction::StepMachine:
+        return StepMachine(press.Row);
+    case PressAction::StateMenu:
+        menus_->Item("mnuDeleteState")
+            ->setEnabled(!ComputeReachability(session_.Document).Reached(press.Column));
+        return PopUp("mnuColumnHead", press.GlobalPosition);
+    case PressAction::EntryActionMenu:
+        return PopUp("mnuEntryAction", press.GlobalPosition);
+    case PressAction::TransitionMenu:
+        return PopUp("mnuTranCell", press.GlobalPosition);
+    case PressAction::EventMenu:
+        return PopUp("mnuEventLabel", press.GlobalPosition);
     }
-}
-
-void frmTable::PressRowHead(const GridPress& press) {
-    grid_->Editor().Abandon();
-    const bool isEvent = press.Row >= kFirstEventRow;
-    const bool isPlainLeft = press.Button == Qt::LeftButton && press.Modifiers == Qt::NoModifier;
-    if (press.Button == Qt::LeftButton && press.Modifiers == Qt::ShiftModifier)
-        StepMachine(press.Row);
-    else if (isPlainLeft && press.Row == kHeadRow)
-        EditGeneralCode();
-    else if (isPlainLeft && isEvent)
-        EditEvent(press.Row);
-    else if (press.Button == Qt::RightButton && isEvent)
-        PopUp("mnuEventLabel", press.GlobalPosition);
 }
 
 void frmTable::PopUp(const char* menu, const QPoint& position) {

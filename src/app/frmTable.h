@@ -70,8 +70,6 @@ class frmTable : public QMainWindow {
 
     // A press on the table.
     void PressGrid(const GridPress& press);
-    void PressState(const GridPress& press);
-    void PressRowHead(const GridPress& press);
     void PopUp(const char* menu, const QPoint& position);
     void StepMachine(int row);
 

@@ -14,6 +14,22 @@
 
 namespace orvane {
 
+namespace {
+
+PressButton ButtonOf(const QMouseEvent& event) {
+    if (event.button() == Qt::LeftButton)
+        return PressButton::Left;
+    return event.button() == Qt::RightButton ? PressButton::Right : PressButton::Other;
+}
+
+PressModifiers ModifiersOf(const QMouseEvent& event) {
+    if (event.modifiers() == Qt::NoModifier)
+        return PressModifiers::None;
+    return event.modifiers() == Qt::ShiftModifier ? PressModifiers::Shift : PressModifiers::Other;
+}
+
+} // namespace
+
 FsmGridView::FsmGridView(QWidget* parent) : QTableView(parent), borderDrag_(*this) {
     setObjectName(QStringLiteral("MSFlexGrid1"));
     setAccessibleName(tr("State machine table"));
@@ -191,7 +207,7 @@ void FsmGridView::PressCell(const QMouseEvent& event) {
     if (event.button() == Qt::LeftButton)
         setCurrentIndex(cell);
     Q_EMIT CellPressed(
-        {cell.row(), cell.column(), event.button(), event.modifiers(), event.globalPosition().toPoint()});
+        {cell.row(), cell.column(), ButtonOf(event), ModifiersOf(event), event.globalPosition().toPoint()});
 }
 
 void FsmGridView::mouseMoveEvent(QMouseEvent* event) {

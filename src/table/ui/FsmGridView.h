@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "table/PressTable.h"
 #include "table/ui/BorderDrag.h"
 
 #include <QElapsedTimer>
@@ -12,8 +13,8 @@ namespace orvane {
 struct GridPress {
     int Row = 0;
     int Column = 0;
-    Qt::MouseButton Button = Qt::NoButton;
-    Qt::KeyboardModifiers Modifiers;
+    PressButton Button = PressButton::Other;
+    PressModifiers Modifiers = PressModifiers::None;
     QPoint GlobalPosition;
 };
 

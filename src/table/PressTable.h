@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+namespace orvane {
+
+enum class PressButton { Left, Right, Other };
+enum class PressModifiers { None, Shift, Other }; // Shift: just this one
+
+// What a press of a mouse button on the table asks for.
+enum class PressAction {
+    Nothing,
+    EditState,
+    EditTarget,
+    EditEvent,
+    EditGeneralCode,
+    StepMachine,
+    StateMenu,
+    EntryActionMenu,
+    TransitionMenu,
+    EventMenu,
+};
+
+// The press table: rows 0..54, columns 0..100, heads included.
+PressAction ActionOfPress(int row, int column, PressButton button, PressModifiers modifiers);
+
+} // namespace orvane
