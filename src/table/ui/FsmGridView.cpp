@@ -16,16 +16,16 @@ namespace orvane {
 
 namespace {
 
-PressButton ButtonOf(const QMouseEvent& event) {
-    if (event.button() == Qt::LeftButton)
+PressButton ButtonOf(Qt::MouseButton button) {
+    if (button == Qt::LeftButton)
         return PressButton::Left;
-    return event.button() == Qt::RightButton ? PressButton::Right : PressButton::Other;
+    return button == Qt::RightButton ? PressButton::Right : PressButton::Other;
 }
 
-PressModifiers ModifiersOf(const QMouseEvent& event) {
-    if (event.modifiers() == Qt::NoModifier)
+PressModifiers ModifiersOf(Qt::KeyboardModifiers modifiers) {
+    if (modifiers == Qt::NoModifier)
         return PressModifiers::None;
-    return event.modifiers() == Qt::ShiftModifier ? PressModifiers::Shift : PressModifiers::Other;
+    return modifiers == Qt::ShiftModifier ? PressModifiers::Shift : PressModifiers::Other;
 }
 
 } // namespace
@@ -206,8 +206,8 @@ void FsmGridView::PressCell(const QMouseEvent& event) {
         return;
     if (event.button() == Qt::LeftButton)
         setCurrentIndex(cell);
-    Q_EMIT CellPressed(
-        {cell.row(), cell.column(), ButtonOf(event), ModifiersOf(event), event.globalPosition().toPoint()});
+    Q_EMIT CellPressed({cell.row(), cell.column(), ButtonOf(event.button()), ModifiersOf(event.modifiers()),
+                        event.globalPosition().toPoint()});
 }
 
 void FsmGridView::mouseMoveEvent(QMouseEvent* event) {
@@ -270,7 +270,8 @@ void FsmGridView::PressCurrentCell(Qt::MouseButton button, Qt::KeyboardModifiers
         return;
     scrollTo(cell);
     const QPoint middle = VisibleRect(cell).center();
-    Q_EMIT CellPressed({cell.row(), cell.column(), button, modifiers, viewport()->mapToGlobal(middle)});
+    Q_EMIT CellPressed({cell.row(), cell.column(), ButtonOf(button), ModifiersOf(modifiers),
+                        viewport()->mapToGlobal(middle)});
 }
 
 void FsmGridView::keyReleaseEvent(QKeyEvent* event) {
