@@ -27,7 +27,8 @@ bool IsSettingsFile(const QString& path) {
 
 QString FileFilter() { return QStringLiteral("All Files (*.*) (*);;Config file (*.zfsm) (*.zfsm)"); }
 
-QString Shown(const QString& path) { return QDir::toNativeSeparators(path); }
+// As the system writes paths, because the program's comments and the builder script name the document by it.
+QString FullPath(const QString& path) { return QDir::toNativeSeparators(QFileInfo(path).absoluteFilePath()); }
 
 // Messages about a whole block of a file say where; the plain ones about unknown tags need not.
 QString MessageText(const ReaderMessage& message, bool withLine) {
@@ -117,12 +118,12 @@ bool DocumentLifecycle::GuardUnsavedWork(const QString& title, const QString& qu
 }
 
 bool DocumentLifecycle::WriteTo(const QString& path) {
-    const QString fullPath = QFileInfo(path).absoluteFilePath();
+    const QString fullPath = FullPath(path);
     if (const std::optional<QString> failure = WriteDocumentFile(fullPath, session_.Document)) {
         Tell(window_,
              QStringLiteral("The document could not be saved as\r\n%1\r\n%2.\r\n\r\nIt is still open here, "
                             "with all changes. You can save it under another name.")
-                 .arg(Shown(fullPath), *failure));
+                 .arg(fullPath, *failure));
         return false;
     }
     session_.CurrentFileName = fullPath;
@@ -132,11 +133,10 @@ bool DocumentLifecycle::WriteTo(const QString& path) {
 }
 
 void DocumentLifecycle::Load(const QString& path) {
-    const QString fullPath = QFileInfo(path).absoluteFilePath();
+    const QString fullPath = FullPath(path);
     DocumentFile file = ReadDocumentFile(fullPath);
     if (!file.Content) {
-        Tell(window_,
-             QStringLiteral("The file\r\n%1\r\ncould not be opened: %2.").arg(Shown(fullPath), file.Error));
+        Tell(window_, QStringLiteral("The file\r\n%1\r\ncould not be opened: %2.").arg(fullPath, file.Error));
         return;
     }
     const bool hasName = !file.Content->BrokeOff && !IsSettingsFile(fullPath);
@@ -175,7 +175,7 @@ void DocumentLifecycle::TellMessages(const QString& path, const ReadResult& resu
         rest += QStringLiteral("Only what stands before that in\r\n%1\r\nwas read. It has no file name here, "
                                "so that saving it "
                                "does not replace the file.")
-                    .arg(Shown(path));
+                    .arg(path);
     Tell(window_, rest.join(QStringLiteral("\r\n")));
 }
 

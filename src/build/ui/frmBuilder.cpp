@@ -7,6 +7,7 @@
 #include "core/ui/AnsiString.h"
 #include "core/ui/UserMessageBox.h"
 
+#include <QDir>
 #include <QEvent>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -191,8 +192,8 @@ bool frmBuilder::Save() {
 }
 
 bool frmBuilder::ChooseNameToSave() {
-    const QString path =
-        QFileDialog::getSaveFileName(this, tr("Save builder script"), DefaultName(), kSaveFilter);
+    const QString path = QDir::toNativeSeparators(
+        QFileDialog::getSaveFileName(this, tr("Save builder script"), DefaultName(), kSaveFilter));
     if (path.isEmpty())
         return false;
     SetFileName(path);
@@ -211,8 +212,8 @@ bool frmBuilder::MayReplace(const QString& path) {
 }
 
 void frmBuilder::SelectFile() {
-    const QString path =
-        QFileDialog::getOpenFileName(this, tr("Choose builder script"), txtFileName->text(), kOpenFilter);
+    const QString path = QDir::toNativeSeparators(
+        QFileDialog::getOpenFileName(this, tr("Choose builder script"), txtFileName->text(), kOpenFilter));
     if (path.isEmpty())
         return;
     settled_ = true;
