@@ -27,4 +27,4 @@ target_link_libraries(orvane_desktop
 add_executable(orvane ${CMAKE_CURRENT_LIST_DIR}/app/main.cpp)
 target_link_libraries(orvane PRIVATE orvane_desktop orvane_warnings)
 set_target_properties(orvane PROPERTIES WIN32_EXECUTABLE ON)
-orvane_windows_resources(orvane "Orvane, state machine tables for Zorlan controllers")
+orvane_windows_program(orvane "Orvane, state machine tables for Zorlan controllers")

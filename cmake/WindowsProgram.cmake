@@ -1,6 +1,6 @@
 # What Windows shows of a program: icon, version, description; and what it has to know to start it.
-# orvane_windows_resources(TARGET DESCRIPTION): nothing for other systems.
-function(orvane_windows_resources target description)
+# orvane_windows_program(TARGET DESCRIPTION): nothing for other systems.
+function(orvane_windows_program target description)
   if(NOT WIN32)
     return()
   endif()
@@ -12,6 +12,8 @@ function(orvane_windows_resources target description)
   set_source_files_properties(${script} PROPERTIES
     OBJECT_DEPENDS "${RESOURCE_FOLDER}/orvane.ico;${RESOURCE_FOLDER}/program.manifest")
   target_sources(${target} PRIVATE ${script})
+  # Without symbols, and the same sources give the same bytes at any time.
+  target_link_options(${target} PRIVATE -s LINKER:--no-insert-timestamp)
 endfunction()
 
 if(WIN32)
