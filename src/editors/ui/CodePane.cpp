@@ -137,6 +137,18 @@ void CodePane::CompleteWord() {
         SendScintilla(SCI_AUTOCSHOW, prefix.size(), list.c_str());
 }
 
+// Ctrl+Return is the window's, not the editor's.
+bool CodePane::event(QEvent* event) {
+    if (event->type() == QEvent::ShortcutOverride) {
+        const auto* key = static_cast<QKeyEvent*>(event);
+        if (key->key() == Qt::Key_Return && key->modifiers() == Qt::ControlModifier) {
+            event->ignore();
+            return true;
+        }
+    }
+    return QsciScintilla::event(event);
+}
+
 void CodePane::focusInEvent(QFocusEvent* event) {
     QsciScintilla::focusInEvent(event);
     if (!handlers_.GotFocus)

@@ -55,6 +55,7 @@ class CodePane : public QsciScintilla {
     void CharactersLeftOut(const QString& characters) const;
 
   protected:
+    bool event(QEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;

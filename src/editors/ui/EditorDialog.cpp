@@ -10,6 +10,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QShortcut>
 #include <QShowEvent>
 #include <QStyle>
 #include <QVBoxLayout>
@@ -31,6 +32,10 @@ QHBoxLayout* EditorDialog::BuildButtons() {
     cmdOK = new QPushButton(QStringLiteral("OK"), this);
     cmdOK->setObjectName(QStringLiteral("cmdOK"));
     cmdOK->setDefault(true);
+    // A pane and a field of several lines keep Return and Tab for their text: this is the way out of them by
+    // key.
+    auto* accept = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_Return), this);
+    connect(accept, &QShortcut::activated, cmdOK, &QPushButton::click);
     cmdCancel = new QPushButton(QStringLiteral("Cancel"), this);
     cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
     cmdCancel->setAutoDefault(false);

@@ -73,6 +73,17 @@ TEST_F(EventEditTest, OkOnTheTooltipTabStoresItButTheNextOpeningIsOnCode) {
     EXPECT_EQ(event.LastTab, 1);
 }
 
+TEST_F(EventEditTest, CtrlReturnInTheCodeIsOkAndTypesNothing) {
+    Open([&] {
+        Name().setText(QStringLiteral("Empty"));
+        Code().setFocus();
+        QTest::keyClick(&Code(), Qt::Key_Return, Qt::ControlModifier);
+    });
+    EXPECT_FALSE(dialog.isVisible());
+    EXPECT_EQ(event.Name, "Empty");
+    EXPECT_EQ(event.Code, "\tTest\r\n");
+}
+
 TEST_F(EventEditTest, CancelAfterEditingEverythingLeavesTheEventAsItWas) {
     const EventRecord before = event;
     const auto edit = [&] {
