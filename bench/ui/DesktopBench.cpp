@@ -65,7 +65,10 @@ void AddTyping(MedianTable& table, TableDriver& driver, const FsmDocument& docum
         "letter in the code segment", "generate", 3,
         [&driver] {
             double time = 0;
-            driver.UseGeneralCodeEditor([&] { time = TimeOf([&] { driver.TypeLetter("txtCodeSeg"); }); });
+            driver.UseGeneralCodeEditor([&] {
+                driver.TypeLetter("txtCodeSeg"); // the dialog has only just come up
+                time = TimeOf([&] { driver.TypeLetter("txtCodeSeg"); });
+            });
             return time;
         },
         Generating(document));

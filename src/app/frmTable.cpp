@@ -31,6 +31,7 @@
 #include <QDateTime>
 #include <QDir>
 #include <QMenu>
+#include <QTimer>
 
 #include <array>
 
@@ -179,7 +180,7 @@ void frmTable::Start(const CommandLine& commandLine) {
     } else {
         lifecycle_->LoadSettings();
         if (!commandLine.NoSplash)
-            ShowSplash(this);
+            QTimer::singleShot(0, this, [this] { ShowSplash(this); }); // once the table is to be seen
     }
     Trace("");
     Trace("a");

@@ -148,7 +148,7 @@ void FsmGridView::dataChanged(const QModelIndex& topLeft, const QModelIndex& bot
 }
 
 void FsmGridView::paintEvent(QPaintEvent* event) {
-    GridPainter painter(*this);
+    GridPainter painter(*this, paintedTexts_);
     for (const QRect& dirty : event->region())
         painter.Paint(dirty);
 }

@@ -3,6 +3,7 @@
 
 #include "table/PressTable.h"
 #include "table/ui/BorderDrag.h"
+#include "table/ui/PaintedTexts.h"
 
 #include <QElapsedTimer>
 #include <QTableView>
@@ -86,6 +87,7 @@ class FsmGridView : public QTableView {
     void PressCell(const QMouseEvent& event);
 
     BorderDrag borderDrag_;
+    PaintedTexts paintedTexts_;
     QModelIndex lastPressed_; // what the first half of a double click has pressed
     QElapsedTimer sinceLastPress_;
 };

@@ -4,6 +4,7 @@
 #include "core/TableGeometry.h"
 #include "table/ui/FsmGridView.h"
 #include "table/ui/GridMeasurer.h"
+#include "table/ui/PaintedTexts.h"
 
 namespace orvane {
 
@@ -15,7 +16,8 @@ constexpr QRgb kCursorColour = qRgb(0, 0, 0);
 
 } // namespace
 
-GridPainter::GridPainter(FsmGridView& view) : view_(view), painter_(view.viewport()) {
+GridPainter::GridPainter(FsmGridView& view, PaintedTexts& texts)
+    : view_(view), texts_(texts), painter_(view.viewport()) {
     painter_.setFont(view.font());
 }
 
@@ -62,7 +64,7 @@ void GridPainter::PaintCell(const QModelIndex& cell, const QRect& area) {
     if (!text.isEmpty()) {
         painter_.setPen(cell.data(Qt::ForegroundRole).value<QColor>());
         const QRect textArea = area.adjusted(kTextMargin, 0, -1, -1);
-        painter_.drawText(textArea, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, text);
+        texts_.Draw(painter_, textArea, text);
     }
     if (cell == view_.currentIndex()) {
         painter_.setPen(QPen(QColor(kCursorColour), 1, view_.hasFocus() ? Qt::SolidLine : Qt::DotLine));

@@ -7,11 +7,12 @@
 namespace orvane {
 
 class FsmGridView;
+class PaintedTexts;
 
 // Paints the table: the cells that have scrolled, and over them the heads that have not.
 class GridPainter {
   public:
-    explicit GridPainter(FsmGridView& view);
+    GridPainter(FsmGridView& view, PaintedTexts& texts);
 
     // What lies in this rectangle of the viewport.
     void Paint(const QRect& dirty);
@@ -21,6 +22,7 @@ class GridPainter {
     void PaintCell(const QModelIndex& cell, const QRect& area);
 
     FsmGridView& view_;
+    PaintedTexts& texts_;
     QPainter painter_;
 };
 
