@@ -27,7 +27,10 @@ QString PlaceKey() { return QStringLiteral("WindowPlace"); }
 QStringList RememberedFiles() { return Settings().value(FilesKey()).toStringList(); }
 
 void RememberFile(const QString& path) {
-    QStringList files = RememberedFiles();
+    const QStringList former = RememberedFiles();
+    if (former.value(0) == path)
+        return; // writing the settings waits for the disk
+    QStringList files = former;
     files.removeAll(path);
     files.prepend(path);
     Settings().setValue(FilesKey(), QStringList(files.mid(0, kMostFiles)));

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QFont>
+#include <QFontMetricsF>
 #include <QHash>
 #include <QRect>
 #include <QStaticText>
@@ -22,7 +23,8 @@ class PaintedTexts {
   private:
     static constexpr qsizetype kMostKept = 8000; // a full table has 5555
 
-    QFont font_;
+    QFont font_; // what is kept is laid out in this one
+    qreal lineHeight_ = QFontMetricsF(font_).height();
     QHash<QString, QStaticText> texts_;
 };
 

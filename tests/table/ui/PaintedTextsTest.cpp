@@ -44,7 +44,7 @@ class PaintedTextsTest : public testing::TestWithParam<const char*> {};
 TEST_P(PaintedTextsTest, LookAsThePainterDrawsThem) {
     const QString text = QString::fromUtf8(GetParam());
     PaintedTexts texts;
-    for (const int pixels : {12, 13, 15, 12}) {
+    for (const int pixels : {12, 13, 15, 18, 30, 12}) {
         EXPECT_EQ(Drawn(texts, text, FontOfSize(pixels)), Plain(text, FontOfSize(pixels))) << pixels;
         EXPECT_EQ(Drawn(texts, text, FontOfSize(pixels)), Plain(text, FontOfSize(pixels))) << "again";
     }
