@@ -8,6 +8,11 @@
 #include <filesystem>
 #include <system_error>
 
+#ifdef __linux__
+#include <cstdio>
+#include <fcntl.h>
+#endif
+
 namespace orvane {
 
 namespace {
@@ -23,11 +28,26 @@ bool WritePieces(QFile& file, std::initializer_list<std::string_view> pieces) {
     return true;
 }
 
-// Takes the place of the old file in one step. QFile::rename would refuse to.
-std::optional<QString> Rename(const QString& from, const QString& to) {
+// Swaps two files in one step, where the system can. Unlike a replacing rename it does not make the file
+// system start writing the new bytes to the disk, which takes longer than all the rest.
+bool Swap([[maybe_unused]] const std::filesystem::path& one,
+          [[maybe_unused]] const std::filesystem::path& other) {
+#ifdef __linux__
+    return renameat2(AT_FDCWD, one.c_str(), AT_FDCWD, other.c_str(), RENAME_EXCHANGE) == 0;
+#else
+    return false;
+#endif
+}
+
+// The fresh file takes the place of the old one, if there is one, in one step. QFile::rename would refuse to.
+std::optional<QString> TakePlace(const QString& from, const QString& to, bool replaces) {
+    const std::filesystem::path fresh = QFileInfo(from).filesystemFilePath();
+    const std::filesystem::path target = QFileInfo(to).filesystemFilePath();
     std::error_code failure;
-    std::filesystem::rename(QFileInfo(from).filesystemFilePath(), QFileInfo(to).filesystemFilePath(),
-                            failure);
+    if (replaces && Swap(fresh, target))
+        std::filesystem::remove(fresh, failure); // by now it is the old one
+    else
+        std::filesystem::rename(fresh, target, failure);
     if (!failure)
         return std::nullopt;
     return QString::fromLocal8Bit(failure.message().c_str());
@@ -50,7 +70,7 @@ std::optional<QString> WriteRenewableFile(const QString& path,
         fresh.setPermissions(old.permissions());
     fresh.close();
     if (!failure)
-        failure = Rename(fresh.fileName(), target);
+        failure = TakePlace(fresh.fileName(), target, replaces);
     if (failure)
         fresh.remove();
     return failure;
