@@ -53,13 +53,19 @@ void GridPainter::PaintCells(const QRect& area) {
                 PaintCell(model.index(row, column), rect);
         }
     }
+    PaintLines();
+}
+
+// All at once, so that the pen is not set anew for every cell.
+void GridPainter::PaintLines() {
+    painter_.setPen(QPen(QColor(kLineColour), 0)); // one pixel of the screen, so that all are equal at 150 %
+    painter_.drawLines(lines_);
+    lines_.clear();
 }
 
 void GridPainter::PaintCell(const QModelIndex& cell, const QRect& area) {
     painter_.fillRect(area, cell.data(Qt::BackgroundRole).value<QColor>());
-    painter_.setPen(QPen(QColor(kLineColour), 0)); // one pixel of the screen, so that all are equal at 150 %
-    painter_.drawLine(area.topRight(), area.bottomRight());
-    painter_.drawLine(area.bottomLeft(), area.bottomRight());
+    lines_ << QLine(area.topRight(), area.bottomRight()) << QLine(area.bottomLeft(), area.bottomRight());
     const QString text = CellLine(cell.data().toString().left(area.width())); // no character takes no pixel
     if (!text.isEmpty()) {
         painter_.setPen(cell.data(Qt::ForegroundRole).value<QColor>());

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QLine>
+#include <QList>
 #include <QPainter>
 #include <QRect>
 
@@ -19,11 +21,13 @@ class GridPainter {
 
   private:
     void PaintCells(const QRect& area);
+    void PaintLines();
     void PaintCell(const QModelIndex& cell, const QRect& area);
 
     FsmGridView& view_;
     PaintedTexts& texts_;
     QPainter painter_;
+    QList<QLine> lines_; // the right and lower borders of the cells painted so far
 };
 
 } // namespace orvane
