@@ -15,6 +15,10 @@ class RowArray {
     T& operator[](int row) { return elements_[Index(row)]; }
     const T& operator[](int row) const { return elements_[Index(row)]; }
 
+    // All elements, from row 4 to row 54.
+    auto begin() { return elements_.begin(); }
+    auto end() { return elements_.end(); }
+
     bool operator==(const RowArray&) const = default;
 
   private:

@@ -11,8 +11,8 @@ void Renumber(std::int16_t& target, TargetChange change) {
 }
 
 void Renumber(StateRecord& state, TargetChange change) {
-    for (const int row : CellRows())
-        Renumber(state.Targets[row], change);
+    for (std::int16_t& target : state.Targets)
+        Renumber(target, change);
 }
 
 } // namespace

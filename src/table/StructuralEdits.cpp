@@ -5,6 +5,7 @@
 #include "table/RenumberTargets.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace orvane {
 
@@ -109,7 +110,7 @@ std::optional<UserMessage> InsertState(FsmDocument& document, TableClipboard& cl
     if (free == kNoState)
         return NoRoomForAState();
     for (int k = free - 1; k >= state; --k) {
-        document.State(k + 1) = document.State(k);
+        document.State(k + 1) = std::move(document.State(k)); // which is given another record next
         RenumberTargets(document, clipboard, StateNumbers(), {k, k + 1});
     }
     document.State(state) = document.StateTemplate();
@@ -123,10 +124,12 @@ void DeleteState(FsmDocument& document, TableClipboard& clipboard, int state) {
     const bool leadsHere = clipboard.Kind == ClipKind::Transition && clipboard.ClipTarget == state;
     if (leadsHere || clipboard.Kind == ClipKind::Event)
         Forget(clipboard);
+    StateRecord last = document.State(kStateCount); // stays as it is
     for (int k = state; k < kStateCount; ++k) {
         RenumberTargets(document, clipboard, {1, kStateCount - 1}, {k + 1, k});
-        document.State(k) = document.State(k + 1);
+        document.State(k) = std::move(document.State(k + 1));
     }
+    document.State(kStateCount) = std::move(last);
 }
 
 } // namespace orvane
