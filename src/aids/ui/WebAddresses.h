@@ -14,7 +14,8 @@ QUrl DownloadPage();
 // The home page; empty when there is none.
 QUrl HomePage();
 
-// The page where the knowledge base begins, and a page of it; without an address for it, one of the pages that the program brings along.
+// The page where the knowledge base begins, and a page of it; without an address for it, one of the pages
+// that the program brings along.
 QUrl HelpStart();
 QUrl HelpPage(int page);
 
