@@ -123,6 +123,7 @@ std::vector<std::string> CompletionWords(std::string_view text, std::string_view
         text.remove_prefix(token.Length);
     }
     std::vector<std::string> sorted;
+    sorted.reserve(found.size());
     for (auto& [capitals, word] : found)
         sorted.push_back(std::move(word));
     return sorted;

@@ -121,7 +121,7 @@ QString CodePane::CaretReadOut() const {
 void CodePane::FindAndReplace() {
     if (find_ == nullptr)
         find_ = new FindReplaceDialog(this);
-    find_->Open();
+    find_->Present();
 }
 
 void CodePane::CompleteWord() {

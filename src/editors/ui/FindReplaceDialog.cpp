@@ -93,7 +93,7 @@ void FindReplaceDialog::BuildButtons(QGridLayout& grid) {
     connect(cmdReplaceAll, &QPushButton::clicked, this, &FindReplaceDialog::ReplaceAll);
 }
 
-void FindReplaceDialog::Open() {
+void FindReplaceDialog::Present() {
     const QString selected = editor_->selectedText();
     if (!selected.isEmpty() && !selected.contains(QLatin1Char('\n')) && !selected.contains(QLatin1Char('\r')))
         txtFind->setText(selected);

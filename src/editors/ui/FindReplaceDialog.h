@@ -22,7 +22,7 @@ class FindReplaceDialog : public QDialog {
     explicit FindReplaceDialog(QsciScintilla* editor);
 
     // Shows the dialog, ready to look for what is selected in the editor.
-    void Open();
+    void Present();
 
   private:
     void BuildFields(QGridLayout& grid);
