@@ -2,10 +2,10 @@
 #include "build/ui/ScriptFile.h"
 
 #include "core/ui/AnsiString.h"
+#include "core/ui/DocumentFile.h"
 
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
 namespace orvane {
 
@@ -31,11 +31,7 @@ std::optional<QString> ReadScript(const QString& path) {
 }
 
 bool WriteScript(const QString& path, const QString& script) {
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return false;
-    file.write(QByteArray::fromStdString(ToAnsi(WithLineEnds(script, QStringLiteral("\r\n"))).Text));
-    return file.commit();
+    return !WriteWholeFile(path, ToAnsi(WithLineEnds(script, QStringLiteral("\r\n"))).Text);
 }
 
 QString AsReadBack(const QString& script) {
