@@ -5,6 +5,7 @@
 #include "editors/ui/CodePane.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <string>
 
 namespace orvane {
@@ -58,7 +59,7 @@ void ReplaceStretch(CodePane& pane, std::size_t start, std::string_view before, 
         return;
     const auto from = static_cast<unsigned long>(start + beginning);
     pane.SendScintilla(Sci::SCI_SETTARGETRANGE, from, static_cast<long>(from + before.size()));
-    pane.SendScintilla(Sci::SCI_REPLACETARGET, static_cast<unsigned long>(after.size()), after.data());
+    pane.SendScintilla(Sci::SCI_REPLACETARGET, static_cast<std::uintptr_t>(after.size()), after.data());
 }
 
 } // namespace

@@ -11,6 +11,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <cstdint>
+
 namespace orvane {
 
 namespace {
@@ -178,14 +180,14 @@ bool FindReplaceDialog::FindInTarget(long from, long to) const {
     editor_->SendScintilla(Sci::SCI_SETSEARCHFLAGS, flags);
     editor_->SendScintilla(Sci::SCI_SETTARGETSTART, from);
     editor_->SendScintilla(Sci::SCI_SETTARGETEND, to);
-    return editor_->SendScintilla(Sci::SCI_SEARCHINTARGET, static_cast<unsigned long>(wanted.size()),
+    return editor_->SendScintilla(Sci::SCI_SEARCHINTARGET, static_cast<std::uintptr_t>(wanted.size()),
                                   wanted.constData()) >= 0;
 }
 
 void FindReplaceDialog::ReplaceTarget() const {
     const QByteArray text = txtReplace->text().toUtf8();
     const unsigned message = chkRegExp->isChecked() ? Sci::SCI_REPLACETARGETRE : Sci::SCI_REPLACETARGET;
-    editor_->SendScintilla(message, static_cast<unsigned long>(text.size()), text.constData());
+    editor_->SendScintilla(message, static_cast<std::uintptr_t>(text.size()), text.constData());
 }
 
 void FindReplaceDialog::SayNotFound() {
