@@ -3,22 +3,29 @@
 
 #include <QApplication>
 #include <QEvent>
-#include <QTimer>
 #include <QWidget>
 
 #include <cstdlib>
 
 namespace orvane {
 
-// Ends the process as soon as the window has been painted for the first time.
+// Ends the process as soon as the window has been painted for the first time, before anything that the
+// program does after that.
 class EndAtFirstPaint : public QObject {
   public:
     explicit EndAtFirstPaint(QWidget& window) : window_(window) { qApp->installEventFilter(this); }
 
     bool eventFilter(QObject* watched, QEvent* event) override {
-        if (event->type() == QEvent::Paint && watched == &window_)
-            QTimer::singleShot(0, [] { std::_Exit(0); }); // the rest of the window is painted in this turn
+        if (event->type() == QEvent::Paint &&
+            watched == &window_) // the rest of the window is painted in this turn
+            QCoreApplication::postEvent(this, new QEvent(QEvent::User), Qt::HighEventPriority);
         return false;
+    }
+
+    bool event(QEvent* event) override {
+        if (event->type() == QEvent::User)
+            std::_Exit(0);
+        return QObject::event(event);
     }
 
   private:

@@ -8,7 +8,7 @@
 int main(int argc, char* argv[]) {
     const QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Orvane"));
-    QApplication::setWindowIcon(orvane::Logo());
+    QApplication::setWindowIcon(orvane::WindowIcon());
     orvane::frmTable window;
     const orvane::EndAtFirstPaint end(window);
     window.show();

@@ -9,13 +9,39 @@
 #include "core/ui/UpdateCheck.h"
 #include "core/ui/frmSplash.h"
 
+#include <QEvent>
 #include <QMessageBox>
+#include <QTimer>
+
+#include <functional>
+#include <utility>
 
 namespace orvane {
 
 namespace {
 
 constexpr int kLogoSize = 128; // pixels
+
+// Does something once, as soon as the window has been painted.
+class OncePainted : public QObject {
+  public:
+    OncePainted(QWidget* window, std::function<void()> act) : QObject(window), act_(std::move(act)) {
+        window->installEventFilter(this);
+        window->update();
+    }
+
+    bool eventFilter(QObject* window, QEvent* event) override {
+        if (event->type() == QEvent::Paint) {
+            window->removeEventFilter(this);
+            QTimer::singleShot(0, window, act_); // the rest of the window is painted in this turn
+            deleteLater();
+        }
+        return false;
+    }
+
+  private:
+    std::function<void()> act_;
+};
 
 void OfferUpdate(QWidget* window, const std::string& latestVersion) {
     QMessageBox box(QMessageBox::Information, QStringLiteral("Update available"),
@@ -29,10 +55,12 @@ void OfferUpdate(QWidget* window, const std::string& latestVersion) {
 } // namespace
 
 void ShowSplash(QWidget* window) {
-    auto* splash = new frmSplash(Logo().pixmap(kLogoSize), window);
-    splash->setAttribute(Qt::WA_DeleteOnClose);
-    QObject::connect(splash, &frmSplash::HomePageRequested, splash, [] { OpenInDesktop(HomePage()); });
-    splash->show();
+    new OncePainted(window, [window] {
+        auto* splash = new frmSplash(Logo().pixmap(kLogoSize), window);
+        splash->setAttribute(Qt::WA_DeleteOnClose);
+        QObject::connect(splash, &frmSplash::HomePageRequested, splash, [] { OpenInDesktop(HomePage()); });
+        splash->show();
+    });
 }
 
 void CheckForUpdate(QWidget* window) {

@@ -6,7 +6,7 @@ class QWidget;
 
 namespace orvane {
 
-// Shows the splash window over the window; it goes by itself.
+// Shows the splash window over the window, once that can be seen; it goes by itself.
 void ShowSplash(QWidget* window);
 
 // Asks the download page, in the background, for the latest version. When that is newer than this one the

@@ -9,11 +9,25 @@ static void RegisterPictures() { Q_INIT_RESOURCE(orvane); }
 
 namespace orvane {
 
-QIcon Logo() {
+namespace {
+
+void AddPictures(QIcon& icon, std::initializer_list<int> sizes) {
     RegisterPictures();
-    QIcon logo;
-    for (const int size : {16, 32, 48, 64, 128, 256})
-        logo.addFile(QStringLiteral(":/icons/orvane-%1.png").arg(size));
+    for (const int size : sizes)
+        icon.addFile(QStringLiteral(":/icons/orvane-%1.png").arg(size));
+}
+
+} // namespace
+
+QIcon WindowIcon() {
+    QIcon icon;
+    AddPictures(icon, {16, 32, 48, 64});
+    return icon;
+}
+
+QIcon Logo() {
+    QIcon logo = WindowIcon();
+    AddPictures(logo, {128, 256});
     return logo;
 }
 

@@ -5,7 +5,11 @@
 
 namespace orvane {
 
-// The program's logo in all the sizes there are, 16 to 256 pixels.
+// What stands at a window's title and in lists of windows: 16 to 64 pixels. Every start waits for these to be
+// read.
+QIcon WindowIcon();
+
+// All the sizes there are, up to 256 pixels.
 QIcon Logo();
 
 } // namespace orvane

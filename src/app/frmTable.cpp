@@ -31,7 +31,6 @@
 #include <QDateTime>
 #include <QDir>
 #include <QMenu>
-#include <QTimer>
 
 #include <array>
 
@@ -180,7 +179,7 @@ void frmTable::Start(const CommandLine& commandLine) {
     } else {
         lifecycle_->LoadSettings();
         if (!commandLine.NoSplash)
-            QTimer::singleShot(0, this, [this] { ShowSplash(this); }); // once the table is to be seen
+            ShowSplash(this);
     }
     Trace("");
     Trace("a");

@@ -9,7 +9,7 @@
 int main(int argc, char* argv[]) {
     const QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Orvane"));
-    QApplication::setWindowIcon(orvane::Logo());
+    QApplication::setWindowIcon(orvane::WindowIcon());
     QGuiApplication::setDesktopFileName(QStringLiteral("org.orvane.Orvane"));
     orvane::frmTable window;
     orvane::RestorePlace(window);

@@ -15,7 +15,10 @@ namespace {
 
 class StartUp : public TableFixture {
   protected:
-    static bool SplashIsShown() {
+    // It comes when the table has been painted.
+    bool SplashIsShown() {
+        Window().repaint();
+        QApplication::processEvents();
         for (const QWidget* window : QApplication::topLevelWidgets()) {
             if (window->objectName() == QStringLiteral("frmSplash") && window->isVisible())
                 return true;

@@ -60,9 +60,8 @@ QSize FsmGridView::FrozenSize() const {
 QRect FsmGridView::visualRect(const QModelIndex& index) const {
     if (!index.isValid() || isRowHidden(index.row()) || isColumnHidden(index.column()))
         return {};
-    const int x = index.column() == 0 ? 0 : columnViewportPosition(index.column());
-    const int y = index.row() == 0 ? 0 : rowViewportPosition(index.row());
-    return {x, y, columnWidth(index.column()), rowHeight(index.row())};
+    return {ColumnLeft(index.column()), RowTop(index.row()), columnWidth(index.column()),
+            rowHeight(index.row())};
 }
 
 QRect FsmGridView::VisibleRect(const QModelIndex& index) const {

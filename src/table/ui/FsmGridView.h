@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "core/TableGeometry.h"
 #include "table/PressTable.h"
 #include "table/ui/BorderDrag.h"
 #include "table/ui/PaintedTexts.h"
@@ -38,6 +39,10 @@ class FsmGridView : public QTableView {
 
     // The part of the cell that can be seen now; empty when nothing can.
     QRect VisibleRect(const QModelIndex& index) const;
+
+    // Where a row and a column begin in the viewport; the heads do not scroll along.
+    int RowTop(int row) const { return row == kHeadRow ? 0 : rowViewportPosition(row); }
+    int ColumnLeft(int column) const { return column == 0 ? 0 : columnViewportPosition(column); }
 
     // Where the cell would be if nothing cut it off.
     QRect visualRect(const QModelIndex& index) const override;

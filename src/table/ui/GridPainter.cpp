@@ -40,32 +40,51 @@ void GridPainter::PaintCells(const QRect& area) {
     if (!first.isValid())
         return;
     painter_.setClipRect(area);
-    const QAbstractItemModel& model = *view_.model();
-    const QSize frozen = view_.FrozenSize();
-    const int lastRow = area.top() < frozen.height() ? 0 : kLastRow;
-    const int lastColumn = area.left() < frozen.width() ? 0 : kStateCount;
-    for (int row = first.row(); row <= lastRow; ++row) {
-        for (int column = first.column(); column <= lastColumn; ++column) {
-            const QRect rect = view_.visualRect(model.index(row, column));
-            if (rect.left() > area.right() || rect.top() > area.bottom())
-                break;
-            if (!rect.isEmpty())
-                PaintCell(model.index(row, column), rect);
-        }
+    const QList<Stretch> rows = RowsIn(area, first.row());
+    const QList<Stretch> columns = ColumnsIn(area, first.column());
+    for (const Stretch& row : rows) {
+        for (const Stretch& column : columns)
+            PaintCell(view_.model()->index(row.Number, column.Number),
+                      {column.Begin, row.Begin, column.Size, row.Size});
     }
-    PaintLines();
+    PaintLines(rows, columns);
 }
 
-// All at once, so that the pen is not set anew for every cell.
-void GridPainter::PaintLines() {
+QList<GridPainter::Stretch> GridPainter::RowsIn(const QRect& area, int first) const {
+    QList<Stretch> rows;
+    const int last = first == kHeadRow ? kHeadRow : kLastRow;
+    for (int row = first; row <= last && view_.RowTop(row) <= area.bottom(); ++row) {
+        if (const int height = view_.rowHeight(row); height > 0)
+            rows << Stretch{row, view_.RowTop(row), height};
+    }
+    return rows;
+}
+
+QList<GridPainter::Stretch> GridPainter::ColumnsIn(const QRect& area, int first) const {
+    QList<Stretch> columns;
+    const int last = first == 0 ? 0 : kStateCount;
+    for (int column = first; column <= last && view_.ColumnLeft(column) <= area.right(); ++column) {
+        if (const int width = view_.columnWidth(column); width > 0)
+            columns << Stretch{column, view_.ColumnLeft(column), width};
+    }
+    return columns;
+}
+
+// The right borders of the columns and the lower ones of the rows.
+void GridPainter::PaintLines(const QList<Stretch>& rows, const QList<Stretch>& columns) {
+    if (rows.isEmpty() || columns.isEmpty())
+        return;
+    QList<QLine> lines;
+    for (const Stretch& column : columns)
+        lines << QLine(column.Last(), rows.first().Begin, column.Last(), rows.last().Last());
+    for (const Stretch& row : rows)
+        lines << QLine(columns.first().Begin, row.Last(), columns.last().Last(), row.Last());
     painter_.setPen(QPen(QColor(kLineColour), 0)); // one pixel of the screen, so that all are equal at 150 %
-    painter_.drawLines(lines_);
-    lines_.clear();
+    painter_.drawLines(lines);
 }
 
 void GridPainter::PaintCell(const QModelIndex& cell, const QRect& area) {
     painter_.fillRect(area, cell.data(Qt::BackgroundRole).value<QColor>());
-    lines_ << QLine(area.topRight(), area.bottomRight()) << QLine(area.bottomLeft(), area.bottomRight());
     const QString text = CellLine(cell.data().toString().left(area.width())); // no character takes no pixel
     if (!text.isEmpty()) {
         painter_.setPen(cell.data(Qt::ForegroundRole).value<QColor>());

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QLine>
 #include <QList>
 #include <QPainter>
 #include <QRect>
@@ -20,14 +19,24 @@ class GridPainter {
     void Paint(const QRect& dirty);
 
   private:
+    // What a row takes of the height, or a column of the width, in pixels of the viewport.
+    struct Stretch {
+        int Number = 0;
+        int Begin = 0;
+        int Size = 0;
+
+        int Last() const { return Begin + Size - 1; }
+    };
+
     void PaintCells(const QRect& area);
-    void PaintLines();
+    QList<Stretch> RowsIn(const QRect& area, int first) const;
+    QList<Stretch> ColumnsIn(const QRect& area, int first) const;
+    void PaintLines(const QList<Stretch>& rows, const QList<Stretch>& columns);
     void PaintCell(const QModelIndex& cell, const QRect& area);
 
     FsmGridView& view_;
     PaintedTexts& texts_;
     QPainter painter_;
-    QList<QLine> lines_; // the right and lower borders of the cells painted so far
 };
 
 } // namespace orvane
