@@ -147,7 +147,7 @@ void FsmGridView::dataChanged(const QModelIndex& topLeft, const QModelIndex& bot
 }
 
 void FsmGridView::paintEvent(QPaintEvent* event) {
-    GridPainter painter(*this, paintedTexts_);
+    GridPainter painter(*this, pictures_);
     for (const QRect& dirty : event->region())
         painter.Paint(dirty);
 }

@@ -4,7 +4,7 @@
 #include "core/TableGeometry.h"
 #include "table/PressTable.h"
 #include "table/ui/BorderDrag.h"
-#include "table/ui/PaintedTexts.h"
+#include "table/ui/CellPictures.h"
 
 #include <QElapsedTimer>
 #include <QTableView>
@@ -92,7 +92,7 @@ class FsmGridView : public QTableView {
     void PressCell(const QMouseEvent& event);
 
     BorderDrag borderDrag_;
-    PaintedTexts paintedTexts_;
+    CellPictures pictures_;
     QModelIndex lastPressed_; // what the first half of a double click has pressed
     QElapsedTimer sinceLastPress_;
 };

@@ -2,22 +2,21 @@
 #include "table/ui/GridPainter.h"
 
 #include "core/TableGeometry.h"
+#include "table/ui/CellPictures.h"
 #include "table/ui/FsmGridView.h"
 #include "table/ui/GridMeasurer.h"
-#include "table/ui/PaintedTexts.h"
 
 namespace orvane {
 
 namespace {
 
-constexpr int kTextMargin = 3; // pixels left of a text
 constexpr QRgb kLineColour = qRgb(176, 176, 176);
 constexpr QRgb kCursorColour = qRgb(0, 0, 0);
 
 } // namespace
 
-GridPainter::GridPainter(FsmGridView& view, PaintedTexts& texts)
-    : view_(view), texts_(texts), painter_(view.viewport()) {
+GridPainter::GridPainter(FsmGridView& view, CellPictures& pictures)
+    : view_(view), pictures_(pictures), painter_(view.viewport()) {
     painter_.setFont(view.font());
 }
 
@@ -84,16 +83,16 @@ void GridPainter::PaintLines(const QList<Stretch>& rows, const QList<Stretch>& c
 }
 
 void GridPainter::PaintCell(const QModelIndex& cell, const QRect& area) {
-    painter_.fillRect(area, cell.data(Qt::BackgroundRole).value<QColor>());
+    const QColor background = cell.data(Qt::BackgroundRole).value<QColor>();
+    painter_.fillRect(area, background);
     const QString text = CellLine(cell.data().toString().left(area.width())); // no character takes no pixel
     if (!text.isEmpty()) {
         painter_.setPen(cell.data(Qt::ForegroundRole).value<QColor>());
-        const QRect textArea = area.adjusted(kTextMargin, 0, -1, -1);
-        texts_.Draw(painter_, textArea, text);
+        pictures_.Draw(painter_, area, text, background.rgb());
     }
     if (cell == view_.currentIndex()) {
         painter_.setPen(QPen(QColor(kCursorColour), 1, view_.hasFocus() ? Qt::SolidLine : Qt::DotLine));
-        painter_.drawRect(area.adjusted(0, 0, -2, -2));
+        painter_.drawRect(QRectF(area).adjusted(0.5, 0.5, -1.5, -1.5)); // the pen stays inside at every scale
     }
 }
 

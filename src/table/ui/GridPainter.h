@@ -8,12 +8,12 @@
 namespace orvane {
 
 class FsmGridView;
-class PaintedTexts;
+class CellPictures;
 
 // Paints the table: the cells that have scrolled, and over them the heads that have not.
 class GridPainter {
   public:
-    GridPainter(FsmGridView& view, PaintedTexts& texts);
+    GridPainter(FsmGridView& view, CellPictures& pictures);
 
     // What lies in this rectangle of the viewport.
     void Paint(const QRect& dirty);
@@ -35,7 +35,7 @@ class GridPainter {
     void PaintCell(const QModelIndex& cell, const QRect& area);
 
     FsmGridView& view_;
-    PaintedTexts& texts_;
+    CellPictures& pictures_;
     QPainter painter_;
 };
 

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QCache>
+#include <QFont>
+#include <QPixmap>
+#include <QRect>
+#include <QString>
+
+class QPainter;
+
+namespace orvane {
+
+// Draws cells with a text and keeps what they look like. The cells of a table are nearly the same from one
+// painting to the next, and to lay out and draw a text takes many times as long as to copy its picture.
+class CellPictures {
+  public:
+    // One line at the left of the area, in the middle of its height, in the painter's font and pen on the
+    // background; what does not fit is cut off.
+    void Draw(QPainter& painter, const QRect& area, const QString& text, QRgb background);
+
+  private:
+    struct Cell {
+        QString Text;
+        QSize Size; // pixels of the screen
+        QRgb Pen = 0;
+        QRgb Background = 0;
+
+        bool operator==(const Cell&) const = default;
+        friend size_t qHash(const Cell& cell, size_t seed) {
+            return qHashMulti(seed, cell.Text, cell.Size.width(), cell.Size.height(), cell.Pen,
+                              cell.Background);
+        }
+    };
+
+    QPixmap Picture(const Cell& cell);
+    QPixmap Painted(const Cell& cell) const;
+
+    static constexpr qsizetype kMostBytes = 64 << 20; // a large screen has 32 million
+
+    QFont font_; // what is kept is drawn in this one, at this scale
+    qreal scale_ = 1;
+    QCache<Cell, QPixmap> pictures_{kMostBytes};
+};
+
+} // namespace orvane
