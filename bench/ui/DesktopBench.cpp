@@ -23,7 +23,7 @@ namespace orvane {
 namespace {
 
 constexpr int kRounds = 51;
-constexpr int kStarts = 15;
+constexpr int kStarts = 31;
 
 // Keeps results alive that nothing looks at.
 std::size_t sink = 0;
@@ -137,6 +137,7 @@ void MeasureStart(const std::filesystem::path& programs) {
     };
     MedianTable table;
     table.Add("start", "empty window", 1.5, start({"orvane_start"}), start({"empty_start"}));
+    table.Add("start", "window with one menu", 1.5, start({"orvane_start"}), start({"empty_start", "File"}));
     table.Add("start on a document", "empty window", 1.5, start({"orvane_start", document}),
               start({"empty_start"}));
     table.Measure(kStarts);

@@ -69,17 +69,20 @@ QList<GridPainter::Stretch> GridPainter::ColumnsIn(const QRect& area, int first)
     return columns;
 }
 
-// The right borders of the columns and the lower ones of the rows.
+// The right borders of the columns and the lower ones of the rows. Each is one pixel of the screen wide, so
+// that all are equal at 150 %.
 void GridPainter::PaintLines(const QList<Stretch>& rows, const QList<Stretch>& columns) {
     if (rows.isEmpty() || columns.isEmpty())
         return;
-    QList<QLine> lines;
+    const qreal pixel = 1 / painter_.device()->devicePixelRatioF();
+    const int top = rows.first().Begin;
+    const int left = columns.first().Begin;
     for (const Stretch& column : columns)
-        lines << QLine(column.Last(), rows.first().Begin, column.Last(), rows.last().Last());
+        painter_.fillRect(QRectF{column.End() - pixel, qreal(top), pixel, qreal(rows.last().End() - top)},
+                          QColor(kLineColour));
     for (const Stretch& row : rows)
-        lines << QLine(columns.first().Begin, row.Last(), columns.last().Last(), row.Last());
-    painter_.setPen(QPen(QColor(kLineColour), 0)); // one pixel of the screen, so that all are equal at 150 %
-    painter_.drawLines(lines);
+        painter_.fillRect(QRectF{qreal(left), row.End() - pixel, qreal(columns.last().End() - left), pixel},
+                          QColor(kLineColour));
 }
 
 void GridPainter::PaintCell(const QModelIndex& cell, const QRect& area) {

@@ -25,7 +25,7 @@ class GridPainter {
         int Begin = 0;
         int Size = 0;
 
-        int Last() const { return Begin + Size - 1; }
+        int End() const { return Begin + Size; }
     };
 
     void PaintCells(const QRect& area);
