@@ -170,11 +170,12 @@ std::string Unnamed(const QWidget& window) {
     for (QWidget* control : window.findChildren<QWidget*>()) {
         const bool isPart = control->objectName().startsWith(QStringLiteral("qt_")) ||
                             qobject_cast<QTabBar*>(control) != nullptr;
-        if (control->focusPolicy() == Qt::NoFocus || isPart || control->objectName().isEmpty())
+        if (control->focusPolicy() == Qt::NoFocus || isPart)
             continue;
         const QAccessibleInterface* told = QAccessible::queryAccessibleInterface(control);
         if (told == nullptr || told->text(QAccessible::Name).isEmpty())
-            unnamed += control->objectName();
+            unnamed +=
+                QLatin1String(control->metaObject()->className()) + QLatin1Char(':') + control->objectName();
     }
     return unnamed.join(QLatin1Char(' ')).toStdString();
 }
@@ -189,7 +190,14 @@ TEST_F(FirstUse, EveryControlTellsAScreenReaderWhatItIs) {
         });
         Click(row, column);
     }
-    for (const char* item : {"mnuCodeGenerate", "mnuBuilder"})
+    Click(6, 1, Qt::RightButton);
+    PoppedUp();
+    InNextDialog(Answers, [](QWidget& dialog) {
+        EXPECT_EQ(Unnamed(dialog), "") << dialog.windowTitle().toStdString();
+        Press(dialog, "cmdCancel");
+    });
+    Trigger("mnuEditTransAct");
+    for (const char* item : {"mnuCodeGenerate", "mnuBuilder", "mnuBacktrack"})
         Trigger(item);
     for (const QWidget* side : QApplication::topLevelWidgets())
         EXPECT_EQ(Unnamed(*side), "") << side->windowTitle().toStdString();

@@ -33,7 +33,7 @@ const QString kOpenFilter = QStringLiteral("All Files (*.*);;Builder script (*.b
 } // namespace
 
 frmBuilder::frmBuilder(std::string& buildFile, QWidget* parent)
-    : QWidget(parent, Qt::Window), buildFile_(buildFile) {
+    : TabStops(parent, Qt::Window), buildFile_(buildFile) {
     setObjectName(QStringLiteral("frmBuilder"));
     setWindowTitle(tr("Builder script"));
     BuildControls();
@@ -234,9 +234,8 @@ void frmBuilder::GoGoGo() {
     }
     const QString path = QFileInfo(txtFileName->text()).absoluteFilePath();
     if (!OpenInDesktop(QUrl::fromLocalFile(path)))
-        Warn(tr("No program is registered to open the builder script %1. Install the build tool, or open the "
-                "script "
-                "with it by hand.")
+        Warn(tr("No program is registered to open the builder script %1. Install the build tool, or open "
+                "the script with it by hand.")
                  .arg(path));
 }
 
@@ -248,12 +247,8 @@ bool frmBuilder::event(QEvent* event) {
 
 bool frmBuilder::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::FocusIn)
-        tabStopsSuspended_ = true;
+        SuspendTabStops();
     return QWidget::eventFilter(watched, event);
-}
-
-bool frmBuilder::focusNextPrevChild(bool next) {
-    return !tabStopsSuspended_ && QWidget::focusNextPrevChild(next);
 }
 
 void frmBuilder::CheckForChangeOnDisk() {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "core/ui/TabStops.h"
+
 #include <QWidget>
 
 #include <functional>
@@ -18,7 +20,7 @@ namespace orvane {
 // Then it is the script that the document names, or one that stands beside the document, and only where there
 // is neither a starter script is made. No script on disk is overwritten before it has been read here, unless
 // the user says so.
-class frmBuilder : public QWidget {
+class frmBuilder : public TabStops<QWidget> {
     Q_OBJECT
 
   public:
@@ -50,7 +52,6 @@ class frmBuilder : public QWidget {
     bool event(QEvent* event) override;
     void showEvent(QShowEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
-    bool focusNextPrevChild(bool next) override;
 
   private:
     void BuildControls();
@@ -80,7 +81,6 @@ class frmBuilder : public QWidget {
     QString knownFile_;       // the file that LastSavedScript was read from or written to
     QString lastSavedScript_; // as read back from disk
     bool settled_ = false;
-    bool tabStopsSuspended_ = false; // from the script's first focus on, so that Tab can be typed in it
     Generator generate_;
 };
 

@@ -17,7 +17,7 @@
 
 namespace orvane {
 
-EditorDialog::EditorDialog(const QString& name, int helpPage, QWidget* parent) : QDialog(parent) {
+EditorDialog::EditorDialog(const QString& name, int helpPage, QWidget* parent) : TabStops(parent) {
     setObjectName(name);
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     AddHelpKey(*this, helpPage);
@@ -32,8 +32,7 @@ QHBoxLayout* EditorDialog::BuildButtons() {
     cmdOK = new QPushButton(QStringLiteral("OK"), this);
     cmdOK->setObjectName(QStringLiteral("cmdOK"));
     cmdOK->setDefault(true);
-    // A pane and a field of several lines keep Return and Tab for their text: this is the way out of them by
-    // key.
+    // A pane and a field of several lines keep Return for their text.
     auto* accept = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_Return), this);
     connect(accept, &QShortcut::activated, cmdOK, &QPushButton::click);
     cmdCancel = new QPushButton(QStringLiteral("Cancel"), this);
@@ -131,10 +130,6 @@ void EditorDialog::showEvent(QShowEvent* event) {
     QDialog::showEvent(event);
     if (!event->spontaneous())
         Activate();
-}
-
-bool EditorDialog::focusNextPrevChild(bool next) {
-    return !tabStopsSuspended_ && QDialog::focusNextPrevChild(next);
 }
 
 } // namespace orvane

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "core/ui/TabStops.h"
+
 #include <QDialog>
 
 #include <functional>
@@ -20,7 +22,7 @@ class EditorStatusBar;
 // What the dialogs that edit a piece of the document have in common: OK and Cancel, the help page on F1, and
 // what their fields do to the dialog. It is hidden when it closes, never destroyed; the close button and
 // Escape are Cancel.
-class EditorDialog : public QDialog {
+class EditorDialog : public TabStops<QDialog> {
     Q_OBJECT
 
   public:
@@ -58,11 +60,7 @@ class EditorDialog : public QDialog {
     void Fill(const std::function<void()>& setFields);
     void TellEdited();
 
-    // From now on, for the life of the dialog, Tab does not move the focus, so that it can be typed.
-    void SuspendTabStops() { tabStopsSuspended_ = true; }
-
     void showEvent(QShowEvent* event) override;
-    bool focusNextPrevChild(bool next) override;
 
     QPushButton* cmdOK = nullptr;
     QPushButton* cmdCancel = nullptr;
@@ -70,7 +68,6 @@ class EditorDialog : public QDialog {
   private:
     std::function<void()> WhenChanged(const std::function<void()>& changed);
 
-    bool tabStopsSuspended_ = false;
     bool filling_ = false;
 };
 

@@ -71,6 +71,7 @@ QGroupBox* TimeoutPage::BuildStartTiming() {
     ConnectOption(optNoTimeOut, &TimeoutPage::HideTimeLimit);
     ConnectOption(optStartTiming, &TimeoutPage::ShowTimeLimit);
     ConnectOption(optContinueTiming, &TimeoutPage::ShowTimeLimit);
+    QHBoxLayout* timerId = BuildTimerId();
     cmdTimeHelp = new QPushButton(QStringLiteral("Help"), frame);
     cmdTimeHelp->setObjectName(QStringLiteral("cmdTimeHelp"));
     cmdTimeHelp->setToolTip(QStringLiteral("Hold down to read about timeouts"));
@@ -78,7 +79,7 @@ QGroupBox* TimeoutPage::BuildStartTiming() {
     auto* column = new QVBoxLayout(frame);
     for (QRadioButton* option : {optNoTimeOut, optStartTiming, optContinueTiming})
         column->addWidget(option);
-    column->addLayout(BuildTimerId());
+    column->addLayout(timerId);
     column->addStretch();
     column->addWidget(cmdTimeHelp, 0, Qt::AlignLeft);
     return frame;

@@ -44,13 +44,13 @@ frmEventEdit::frmEventEdit(QWidget* parent)
 }
 
 void frmEventEdit::BuildTabs() {
+    SSTab1 = new QTabWidget(this);
+    SSTab1->setObjectName(QStringLiteral("SSTab1"));
+    SSTab1->setAccessibleName(tr("Parts of the event"));
     txtEventCode = new CodePane(kEventCode, this);
     txtEventCode->setObjectName(QStringLiteral("txtEventCode"));
     txtComment = new DocumentTextEdit(this);
     txtComment->setObjectName(QStringLiteral("txtComment"));
-    SSTab1 = new QTabWidget(this);
-    SSTab1->setObjectName(QStringLiteral("SSTab1"));
-    SSTab1->setAccessibleName(tr("Parts of the event"));
     SSTab1->addTab(
         BuildPage(
             BuildPrompt("lblCodePrompt",

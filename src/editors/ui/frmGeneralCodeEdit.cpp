@@ -52,7 +52,15 @@ frmGeneralCodeEdit::frmGeneralCodeEdit(GeneralCode& general, QWidget* parent)
     resize(kStartSize);
 }
 
+// In the order in which F6 goes through them.
 void frmGeneralCodeEdit::BuildPanes() {
+    SSTab1 = new QTabWidget(this);
+    SSTab1->setObjectName(QStringLiteral("SSTab1"));
+    SSTab1->setAccessibleName(tr("Segments"));
+    fraCodeSuggestion =
+        new SuggestionFrame({"fraCodeSuggestion", "lblSuggestCodeSeg", "cmdAcceptCodeSuggestion"}, this);
+    fraInitSuggestion =
+        new SuggestionFrame({"fraInitSuggestion", "lblSuggestInitSeg", "cmdAcceptInitSuggestion"}, this);
     txtCodeSeg = BuildPane("txtCodeSeg");
     txtInitSeg = BuildPane("txtInitSeg");
     txtNV0Data = BuildPane("txtNV0Data");
@@ -69,9 +77,6 @@ CodePane* frmGeneralCodeEdit::BuildPane(const char* name, bool findKey) {
 }
 
 void frmGeneralCodeEdit::BuildTabs() {
-    SSTab1 = new QTabWidget(this);
-    SSTab1->setObjectName(QStringLiteral("SSTab1"));
-    SSTab1->setAccessibleName(tr("Segments"));
     lblCodePrompt = BuildPrompt("lblCodePrompt", {});
     QLabel* initPrompt = BuildPrompt(
         "lblInitPrompt", QStringLiteral("Enter here any code required to execute once on program "
@@ -84,10 +89,6 @@ void frmGeneralCodeEdit::BuildTabs() {
     QLabel* headPrompt =
         BuildPrompt("lblHeadPrompt", QStringLiteral("Use this for a comment to describe your FSM. Appears "
                                                     "just before the main code"));
-    fraCodeSuggestion =
-        new SuggestionFrame({"fraCodeSuggestion", "lblSuggestCodeSeg", "cmdAcceptCodeSuggestion"}, this);
-    fraInitSuggestion =
-        new SuggestionFrame({"fraInitSuggestion", "lblSuggestInitSeg", "cmdAcceptInitSuggestion"}, this);
     SSTab1->addTab(BuildSuggestingPage(lblCodePrompt, fraCodeSuggestion, txtCodeSeg), {});
     txtCodeSeg->setAccessibleName(
         tr("Startup and supporting code")); // its prompt comes and goes with Polytask

@@ -27,11 +27,13 @@ frmTransitionAction::frmTransitionAction(QWidget* parent)
     txtCode->setFont(FieldFont());
     lblLeftOut = BuildPrompt("lblLeftOut", {});
     lblLeftOut->hide();
+    QLabel* prompt =
+        BuildPrompt("lblPrompt", QStringLiteral("This code will be executed during the transition "
+                                                "from the current state to the target state"));
+    txtCode->setAccessibleName(prompt->text());
     LayOut(
-        [this](QVBoxLayout& content) {
-            content.addWidget(
-                BuildPrompt("lblPrompt", QStringLiteral("This code will be executed during the transition "
-                                                        "from the current state to the target state")));
+        [this, prompt](QVBoxLayout& content) {
+            content.addWidget(prompt);
             content.addWidget(txtCode, 1);
             content.addWidget(lblLeftOut);
             content.addLayout(BuildButtons());
