@@ -60,8 +60,7 @@ void HelpMenu::FillRecent() {
 void HelpMenu::ShowHelp() {
     const QUrl page = HelpStart();
     if (!OpenInDesktop(page))
-        Tell(window_, tr("The help pages could not be opened. They are at\r\n%1")
-                          .arg(page.toDisplayString(QUrl::PreferLocalFile)));
+        Tell(window_, tr("The help pages could not be opened. They are at\r\n%1").arg(ShownAddress(page)));
 }
 
 void HelpMenu::ShowAbout() {

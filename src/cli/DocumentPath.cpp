@@ -35,6 +35,10 @@ fs::path FullPath(const std::string& name) {
     return full;
 }
 
+bool FileNameOrder::operator()(const fs::path& one, const fs::path& other) const {
+    return CompareStringOrdinal(one.c_str(), -1, other.c_str(), -1, TRUE) == CSTR_LESS_THAN;
+}
+
 #else
 
 fs::path FullPath(const std::string& name) {
@@ -50,6 +54,8 @@ fs::path FullPath(const std::string& name) {
     }
     return full.lexically_normal();
 }
+
+bool FileNameOrder::operator()(const fs::path& one, const fs::path& other) const { return one < other; }
 
 #endif
 

@@ -15,6 +15,11 @@ std::string Utf8(const std::filesystem::path& path);
 // of an extension. Links keep their names.
 std::filesystem::path FullPath(const std::string& name);
 
+// An order in which two names of one file are equal: on Windows capitals make no difference.
+struct FileNameOrder {
+    bool operator()(const std::filesystem::path& one, const std::filesystem::path& other) const;
+};
+
 // The program that belongs to a document.
 std::filesystem::path ProgramPath(const std::filesystem::path& fullPath);
 

@@ -2,6 +2,7 @@
 #include "cli/FileAccess.h"
 
 #include "core/NumberText.h"
+#include "core/Patience.h"
 
 #include <algorithm>
 #include <array>
@@ -10,7 +11,6 @@
 #include <cstdio>
 #include <memory>
 #include <random>
-#include <thread>
 
 #ifdef _WIN32
 #include <io.h>
@@ -23,6 +23,8 @@ namespace orvane::cli {
 namespace fs = std::filesystem;
 
 namespace {
+
+constexpr std::chrono::milliseconds kPatience{500}; // with whoever has a file open that is to be replaced
 
 enum class Mode { Read, Change, Write, CreateNew };
 
@@ -181,21 +183,6 @@ std::error_code Replace(const fs::path& path, fs::file_status older, std::string
     return temporary.TakePlaceOf(target, older);
 }
 
-// Windows refuses to replace a file that someone has open, if only for a moment: a virus scanner, or this
-// program when a document is named twice.
-template <typename Attempt>
-std::error_code Patiently(Attempt attempt) {
-    std::error_code failure = attempt();
-#ifdef _WIN32
-    constexpr int mostAttempts = 50;
-    for (int i = 1; i < mostAttempts && failure == std::errc::permission_denied; ++i) {
-        std::this_thread::sleep_for(std::chrono::milliseconds(10));
-        failure = attempt();
-    }
-#endif
-    return failure;
-}
-
 } // namespace
 
 FileBytes ReadWholeFile(const fs::path& path, std::size_t limit) {
@@ -239,7 +226,7 @@ std::error_code WriteWholeFile(const fs::path& path, std::string_view bytes, Dur
         return make_error_code(std::errc::is_a_directory);
     if ((fs::exists(older) && !fs::is_regular_file(older)) || NamesOpenFile(path))
         return WriteDirectly(path, bytes);
-    return Patiently([&] { return Replace(path, older, bytes, durability); });
+    return Patiently(kPatience, [&] { return Replace(path, older, bytes, durability); });
 }
 
 } // namespace orvane::cli

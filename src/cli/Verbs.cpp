@@ -130,7 +130,7 @@ void DocumentRun::WriteBytes(const fs::path& target, std::string bytes, Durabili
 std::optional<Outcome> ProgramClash(const Arguments& arguments) {
     if (arguments.What != Verb::Generate || arguments.Documents.size() < 2)
         return std::nullopt;
-    std::map<fs::path, const std::string*> firstOf; // by the path of the program
+    std::map<fs::path, const std::string*, FileNameOrder> firstOf; // by the path of the program
     for (const std::string& name : arguments.Documents) {
         const fs::path program = ProgramPath(FullPath(name));
         const auto [first, isNew] = firstOf.emplace(program, &name);

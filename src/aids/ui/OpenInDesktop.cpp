@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 #include <QDesktopServices>
+#include <QDir>
 #include <QShortcut>
 #include <QToolTip>
 #include <QWidget>
@@ -17,13 +18,18 @@ namespace {
 void TellThatNothingOpened(QWidget& window, int page) {
     const QString text =
         QCoreApplication::translate("OpenInDesktop", "The help page could not be opened: %1");
-    QToolTip::showText(window.mapToGlobal(window.rect().center()),
-                       text.arg(HelpPage(page).toDisplayString(QUrl::PreferLocalFile)), &window);
+    QToolTip::showText(window.mapToGlobal(window.rect().center()), text.arg(ShownAddress(HelpPage(page))),
+                       &window);
 }
 
 } // namespace
 
 bool OpenInDesktop(const QUrl& address) { return QDesktopServices::openUrl(address); }
+
+QString ShownAddress(const QUrl& address) {
+    return address.isLocalFile() ? QDir::toNativeSeparators(address.toLocalFile())
+                                 : address.toDisplayString();
+}
 
 bool OpenHelpPage(int page) { return OpenInDesktop(HelpPage(page)); }
 

@@ -11,6 +11,9 @@ namespace orvane {
 // Opens a page, a file or a folder with what the desktop has for it. False when there is no such thing.
 bool OpenInDesktop(const QUrl& address);
 
+// An address as the user is told it: a file's path as the system writes paths.
+QString ShownAddress(const QUrl& address);
+
 // Opens a page of the knowledge base.
 bool OpenHelpPage(int page);
 

@@ -232,11 +232,11 @@ void frmBuilder::GoGoGo() {
                 "Hint: Check the error listing in the code generation window"));
         return;
     }
-    const QString path = QFileInfo(txtFileName->text()).absoluteFilePath();
-    if (!OpenInDesktop(QUrl::fromLocalFile(path)))
+    const QUrl script = QUrl::fromLocalFile(QFileInfo(txtFileName->text()).absoluteFilePath());
+    if (!OpenInDesktop(script))
         Warn(tr("No program is registered to open the builder script %1. Install the build tool, or open "
                 "the script with it by hand.")
-                 .arg(path));
+                 .arg(ShownAddress(script)));
 }
 
 bool frmBuilder::event(QEvent* event) {

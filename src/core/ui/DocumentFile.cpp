@@ -2,6 +2,7 @@
 #include "core/ui/DocumentFile.h"
 
 #include "core/DocumentWriter.h"
+#include "core/Patience.h"
 #include "core/ui/AnsiString.h"
 
 #include <QFile>
@@ -11,6 +12,8 @@
 namespace orvane {
 
 namespace {
+
+constexpr std::chrono::milliseconds kPatience{500}; // with whoever has a file open that is to be replaced
 
 DocumentFile Failed(const QString& why) { return {std::nullopt, why}; }
 
@@ -33,11 +36,17 @@ DocumentFile ReadDocumentFile(const QString& path) {
 }
 
 std::optional<QString> WriteWholeFile(const QString& path, std::string_view bytes) {
-    QSaveFile file(path);
     const auto size = static_cast<qint64>(bytes.size());
-    if (file.open(QIODevice::WriteOnly) && file.write(bytes.data(), size) == size && file.commit())
-        return std::nullopt;
-    return file.errorString();
+    QString why;
+    const std::error_code failure = Patiently(kPatience, [&] {
+        QSaveFile file(path);
+        if (file.open(QIODevice::WriteOnly) && file.write(bytes.data(), size) == size && file.commit())
+            return std::error_code();
+        why = file.errorString();
+        const bool isHeld = file.error() == QFileDevice::RenameError;
+        return make_error_code(isHeld ? std::errc::permission_denied : std::errc::io_error);
+    });
+    return failure ? std::optional(why) : std::nullopt;
 }
 
 std::optional<QString> WriteDocumentFile(const QString& path, const FsmDocument& document) {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/ui/RenewableFile.h"
 
+#include "core/Patience.h"
+
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
@@ -16,6 +18,9 @@
 namespace orvane {
 
 namespace {
+
+// It is written after every change in the table, so that nobody waits longer than he notices.
+constexpr std::chrono::milliseconds kPatience{100};
 
 bool WritePieces(QFile& file, std::initializer_list<std::string_view> pieces) {
     if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
@@ -39,18 +44,31 @@ bool Swap([[maybe_unused]] const std::filesystem::path& one,
 #endif
 }
 
+QString Reason(const std::error_code& failure) {
+#ifdef _WIN32
+    if (failure == std::errc::permission_denied)
+        return QStringLiteral(
+            "Another program has it open. Close it there; the next change is written again");
+#endif
+    return QString::fromLocal8Bit(failure.message().c_str());
+}
+
 // The fresh file takes the place of the old one, if there is one, in one step. QFile::rename would refuse to.
 std::optional<QString> TakePlace(const QString& from, const QString& to, bool replaces) {
     const std::filesystem::path fresh = QFileInfo(from).filesystemFilePath();
     const std::filesystem::path target = QFileInfo(to).filesystemFilePath();
     std::error_code failure;
-    if (replaces && Swap(fresh, target))
+    if (replaces && Swap(fresh, target)) {
         std::filesystem::remove(fresh, failure); // by now it is the old one
-    else
-        std::filesystem::rename(fresh, target, failure);
+    } else {
+        failure = Patiently(kPatience, [&] {
+            std::filesystem::rename(fresh, target, failure);
+            return failure;
+        });
+    }
     if (!failure)
         return std::nullopt;
-    return QString::fromLocal8Bit(failure.message().c_str());
+    return Reason(failure);
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 
 #include "support/ui/OpenedAddresses.h"
 
+#include <QDir>
 #include <QLineEdit>
 #include <QTest>
 #include <QToolTip>
@@ -30,6 +31,13 @@ TEST_F(OpenInDesktopTest, AnAddressReachesTheDesktop) {
 TEST_F(OpenInDesktopTest, WhatTheDesktopDoesNotKnowIsTold) {
     EXPECT_FALSE(OpenInDesktop(QUrl(QStringLiteral("nobodyknows:this"))));
     EXPECT_TRUE(Opened.Addresses.isEmpty());
+}
+
+TEST_F(OpenInDesktopTest, AFileIsToldByItsPathAndAPageByItsAddress) {
+    const QString path = QDir::toNativeSeparators(QStringLiteral("/a b/pump.b1d"));
+    EXPECT_EQ(ShownAddress(QUrl::fromLocalFile(path)), path);
+    EXPECT_EQ(ShownAddress(QUrl(QStringLiteral("https://example.org/a"))),
+              QStringLiteral("https://example.org/a"));
 }
 
 TEST_F(OpenInDesktopTest, TheEnvironmentNamesTheHelpPages) {
