@@ -7,6 +7,12 @@ set(ORVANE_DOWNLOAD_URL "" CACHE STRING "Address of the page that names the late
 set(ORVANE_HOME_URL "" CACHE STRING "Address of the home page")
 set(ORVANE_HELP_URL "" CACHE STRING "Base address of the help pages; NUMBER.htm is added")
 
+# A program that was just built has its pages in the sources; one for another machine only beside itself.
+set(help_folder "${PROJECT_SOURCE_DIR}/docs/help")
+if(CMAKE_CROSSCOMPILING)
+  set(help_folder "docs/help")
+endif()
+
 file(GLOB desktop_sources CONFIGURE_DEPENDS
   ${CMAKE_CURRENT_LIST_DIR}/*/ui/*.h ${CMAKE_CURRENT_LIST_DIR}/*/ui/*.cpp
   ${CMAKE_CURRENT_LIST_DIR}/app/*.h ${CMAKE_CURRENT_LIST_DIR}/app/*.cpp)
@@ -19,7 +25,7 @@ file(REMOVE ${CMAKE_CURRENT_BINARY_DIR}/orvane_desktop_autogen/timestamp)
 target_compile_definitions(orvane_desktop
   PUBLIC QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS
   PRIVATE ORVANE_DOWNLOAD_URL="${ORVANE_DOWNLOAD_URL}" ORVANE_HOME_URL="${ORVANE_HOME_URL}"
-          ORVANE_HELP_URL="${ORVANE_HELP_URL}" ORVANE_HELP_FOLDER="${PROJECT_SOURCE_DIR}/docs/help")
+          ORVANE_HELP_URL="${ORVANE_HELP_URL}" ORVANE_HELP_FOLDER="${help_folder}")
 target_link_libraries(orvane_desktop
   PUBLIC orvane_engine Qt6::Widgets Qt6::Network QScintilla::QScintilla
   PRIVATE $<BUILD_INTERFACE:orvane_warnings>)
