@@ -8,6 +8,8 @@
 #include <QKeyEvent>
 #include <QValidator>
 
+#include <limits>
+
 namespace orvane {
 
 namespace {
@@ -56,6 +58,7 @@ class DocumentLineEdit::Filter : public QValidator {
 
 DocumentLineEdit::DocumentLineEdit(QWidget* parent, Typing typing) : QLineEdit(parent), typing_(typing) {
     setValidator(new Filter(this));
+    setMaxLength(std::numeric_limits<int>::max()); // else a long text of a document would be cut off
 }
 
 void DocumentLineEdit::SetText(std::string_view ansi) {

@@ -33,6 +33,21 @@ TEST_F(StateEditTest, TextsThatOnlyAFileCanHoldComeBackByteForByte) {
     EXPECT_EQ(state, before);
 }
 
+TEST_F(StateEditTest, AVeryLongTextIsNotCutOff) {
+    const std::string longText(40000, 'x');
+    for (std::string* text : {&state.Name, &state.TimeConst, &state.TimerId})
+        *text = longText;
+    Open([&] {
+        auto& name = Control<QLineEdit>("txtName");
+        name.end(false);
+        QTest::keyClicks(&name, QStringLiteral("y"));
+        OK();
+    });
+    EXPECT_EQ(state.Name.size(), longText.size() + 1);
+    EXPECT_EQ(state.TimeConst.size(), longText.size());
+    EXPECT_EQ(state.TimerId.size(), longText.size());
+}
+
 TEST_F(StateEditTest, EditedTextsAreTakenOnOk) {
     Open([&] {
         TypeInto("txtName", QStringLiteral("Busy"));
