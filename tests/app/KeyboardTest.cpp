@@ -74,6 +74,20 @@ TEST_F(Keyboard, F6GoesThroughTheEventEditor) {
     Click(6, 0);
 }
 
+TEST_F(Keyboard, F6LeadsFromTheCoveredCodeOfAnEventToItsComment) {
+    StartOn(PumpDocument());
+    InNextDialog(Answers, [](QWidget& dialog) {
+        dialog.activateWindow();
+        QApplication::processEvents();
+        Tabs(dialog)->tabBar()->setFocus();
+        QTest::keyClick(Tabs(dialog)->tabBar(), Qt::Key_Right);
+        EXPECT_EQ(Tabs(dialog)->currentIndex(), 1);
+        EXPECT_EQ(Round(dialog).at(1), "txtComment");
+        Press(dialog, "cmdCancel");
+    });
+    Click(6, 0);
+}
+
 TEST_F(Keyboard, F6GoesThroughTheTimeoutOfAState) {
     StartOn(PumpDocument());
     InNextDialog(Answers, [](QWidget& dialog) {

@@ -147,10 +147,15 @@ void frmGeneralCodeEdit::ConnectFields() {
     ConnectSegment(*txtTestSeg, &GeneralCode::TestSeg, nullptr);
     ConnectSegment(*txtHeader, &GeneralCode::HeaderComment, nullptr);
     connect(txtHeader, &CodePane::GotFocus, this, &frmGeneralCodeEdit::TellEdited);
-    connect(fraCodeSuggestion, &SuggestionFrame::Accepted, this,
-            [this] { txtCodeSeg->SetText(CodeSuggestion(general_.FsmName)); });
-    connect(fraInitSuggestion, &SuggestionFrame::Accepted, this,
-            [this] { txtInitSeg->SetText(InitSuggestion(general_.FsmName)); });
+    // Accepting hides the button that was pressed: the focus goes where typing goes on.
+    connect(fraCodeSuggestion, &SuggestionFrame::Accepted, this, [this] {
+        txtCodeSeg->SetText(CodeSuggestion(general_.FsmName));
+        txtCodeSeg->setFocus();
+    });
+    connect(fraInitSuggestion, &SuggestionFrame::Accepted, this, [this] {
+        txtInitSeg->SetText(InitSuggestion(general_.FsmName));
+        txtInitSeg->setFocus();
+    });
 }
 
 void frmGeneralCodeEdit::ConnectSegment(CodePane& pane, std::string GeneralCode::*segment,

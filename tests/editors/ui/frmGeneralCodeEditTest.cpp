@@ -211,12 +211,14 @@ TEST_F(GeneralCodeEditTest, AcceptTakesTheSuggestionAndTellsIt) {
         EXPECT_EQ(general.CodeSeg, "Pump_Init:\tLaunchTask\tPump_Launch");
         EXPECT_FALSE(IsShown("fraCodeSuggestion"));
         EXPECT_EQ(edits.size(), 1);
+        EXPECT_EQ(QApplication::focusWidget(), &Pane("txtCodeSeg"));
         ClickTab(1);
         EXPECT_EQ(Text("lblSuggestInitSeg"), QStringLiteral("\tGoSub\tPump_Init"));
         Press(dialog, "cmdAcceptInitSuggestion");
         EXPECT_EQ(general.InitSeg, "\tGoSub\tPump_Init");
         EXPECT_FALSE(IsShown("fraInitSuggestion"));
         EXPECT_EQ(edits.size(), 2);
+        EXPECT_EQ(QApplication::focusWidget(), &Pane("txtInitSeg"));
         OK();
     });
 }
@@ -286,6 +288,12 @@ TEST_F(GeneralCodeEditTest, ShowingAnotherGeneralCodeTellsNoEditAndChangesNothin
     EXPECT_EQ(general, other);
     EXPECT_EQ(Pane("txtCodeSeg").Text(), "\xA0");
     EXPECT_FALSE(Control<QCheckBox>("chkLAUNCHSEG").isChecked());
+}
+
+TEST_F(GeneralCodeEditTest, ShowingAVeryLongInstanceCountCutsNothingOff) {
+    general.Instances = std::string(40000, '1');
+    dialog.ShowGeneralCode();
+    EXPECT_EQ(general.Instances.size(), 40000u);
 }
 
 TEST_F(GeneralCodeEditTest, CtrlHOpensFindAndReplaceInEveryPaneButTheHeader) {
