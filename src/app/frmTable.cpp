@@ -60,7 +60,7 @@ frmTable::frmTable(QWidget* parent)
       commands_(new TableCommands(session_.Document, pressed_, *menus_, this)),
       lifecycle_(new DocumentLifecycle(session_, this, &Trace)),
       editors_(new EditorWindows(session_.Document, vocabulary_, this)),
-      windows_(std::make_unique<SideWindows>(session_, generator_, [this] { RefreshGenerators(); })),
+      windows_(std::make_unique<SideWindows>(session_, generator_, [this] { CommitAndGenerate(); })),
       grid_(std::make_unique<TableGrid>(session_.Document, this)),
       frmMyToolTip_(new frmMyToolTip(this)),
       status_(new TableStatusBar(this)) {
@@ -129,8 +129,7 @@ void frmTable::ConnectMenus() {
     menus_->Connect("mnuCurrentState", [this] { SetCurrentState(pressed_.Column); });
     menus_->Connect("mnuBacktrack", [this] { windows_->BackTrack(pressed_.Column); });
     menus_->Connect("mnuCodeGenerate", [this] {
-        CommitOpenEdit();
-        RefreshGenerators();
+        CommitAndGenerate();
         windows_->ShowGenerator();
     });
     menus_->Connect("mnuBuilder", [this] { windows_->ShowBuilder(); });
@@ -236,6 +235,11 @@ void frmTable::CommitChange() {
 }
 
 void frmTable::RefreshGenerators() { generator_.Run(session_.Document, session_.CurrentFileName); }
+
+void frmTable::CommitAndGenerate() {
+    CommitOpenEdit();
+    RefreshGenerators();
+}
 
 void frmTable::UndoOrRedo(const std::string* (UndoRing::*step)()) {
     grid_->Editor().Abandon();

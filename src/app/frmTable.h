@@ -77,6 +77,7 @@ class frmTable : public QMainWindow {
     void BeginCellEdit(int row, int column);
     void CommitCellEdit();
     void CommitOpenEdit();
+    void CommitAndGenerate(); // what is being typed in a cell belongs to the program
     void FinishCellEdit();
 
     void EditState(int row, int state);

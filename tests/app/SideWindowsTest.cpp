@@ -12,6 +12,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QPushButton>
 #include <QTest>
 #include <QTextBlock>
 
@@ -60,6 +61,20 @@ TEST_F(SideWindowsTest, AnEditIsSeenInTheOpenGeneratorWindow) {
         [] { return Code().find("\tGoifT\tPMP_Run_Set2\r\n;stop?") != std::string::npos; }, 2000));
 }
 
+TEST_F(SideWindowsTest, AChangeIsInThePanesAtOnceAlsoWhileTheWindowIsHidden) {
+    StartOn(PumpDocument());
+    Trigger("mnuCodeGenerate");
+    QWidget* window = Shown("frmGenerator");
+    const auto yields = [window] {
+        return window->findChild<CodePane*>()->Text().find("\tYieldTask\r\n") != std::string::npos;
+    };
+    Trigger("mnuPolytask");
+    EXPECT_TRUE(yields());
+    window->close();
+    Trigger("mnuPolytask");
+    EXPECT_FALSE(yields());
+}
+
 TEST_F(SideWindowsTest, ADocumentWithoutAFileIsGeneratedIntoTheWindowAlone) {
     Start({QStringLiteral("/nosplash")});
     Trigger("mnuCodeGenerate");
@@ -87,6 +102,22 @@ TEST_F(SideWindowsTest, BuildAndTestHandsTheScriptOfTheLatestProgramToTheDesktop
     EXPECT_EQ(script, StarterScript(Path(QStringLiteral("machine.zfsm")).toStdString()));
     EXPECT_TRUE(script.ends_with("machine.zls\r\n"));
     EXPECT_NE(ReadFile(QStringLiteral("machine.zls")).find("PMP_Run_Set2\r\n;stop?"), std::string::npos);
+}
+
+TEST_F(SideWindowsTest, WhatIsBeingTypedInACellIsInTheProgramThatIsBuilt) {
+    StartOn(PumpDocument());
+    Click(7, 1);
+    QTest::keyClicks(Editor(), QStringLiteral("2"));
+    Trigger("mnuBuildAndTest");
+    EXPECT_FALSE(Editor()->isVisible());
+    EXPECT_NE(ReadFile(QStringLiteral("machine.zls")).find("PMP_Run_Set2\r\n;stop?"), std::string::npos);
+    Trigger("mnuBuilder");
+    Click(7, 1);
+    QTest::keyClicks(Editor(), QStringLiteral("1"));
+    QTest::mouseClick(Shown("frmBuilder")->findChild<QPushButton*>(QStringLiteral("cmdRun")), Qt::LeftButton);
+    EXPECT_NE(ReadFile(QStringLiteral("machine.zls")).find(";stop?\r\n\tGoifT\tPMP_Idle_1\r\n"),
+              std::string::npos);
+    EXPECT_EQ(opened_.Addresses.size(), 2);
 }
 
 TEST_F(SideWindowsTest, ADesignWithErrorsIsNotBuiltAndItsProgramNotRewritten) {

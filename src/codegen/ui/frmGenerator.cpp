@@ -19,6 +19,7 @@ constexpr int kHelpPage = 4947;
 constexpr double kErrorShare = 0.3;    // of the window's height
 constexpr int kGap = 50 / 15;          // pixels: 50 twips between the panes
 constexpr int kQuietWhileHidden = 200; // milliseconds; a hidden window can wait for a pause in the typing
+constexpr std::size_t kLargeProgram = 64 * 1024; // bytes; some 3000 lines, a millisecond to show
 constexpr QSize kFirstSize{760, 640};
 
 } // namespace
@@ -70,7 +71,10 @@ void frmGenerator::SetVocabulary(const Vocabulary& vocabulary) { txtCode->SetVoc
 void frmGenerator::TakeRun(const GeneratedProgram& program, const QString& status) {
     run_ = program;
     Panel1->setText(status);
-    runDue_.start(isVisible() ? 0 : kQuietWhileHidden);
+    if (run_.Text.size() < kLargeProgram)
+        ShowRun();
+    else
+        runDue_.start(isVisible() ? 0 : kQuietWhileHidden);
 }
 
 void frmGenerator::Present() {

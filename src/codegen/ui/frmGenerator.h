@@ -17,9 +17,9 @@ class CodePane;
 
 // Shows the latest generation run: the program above, its report below.
 //
-// A run is taken over at once and shown as soon as the windows have nothing more urgent to do, so that typing
-// does not wait for a large program to be laid out; only what differs from the program shown before is
-// replaced, which also leaves the reader where he was.
+// A run is shown at once; a large program only when the windows have nothing more urgent to do, so that
+// typing does not wait for it to be laid out. Only what differs from the program shown before is replaced,
+// which also leaves the reader where he was.
 class frmGenerator : public QWidget {
     Q_OBJECT
 

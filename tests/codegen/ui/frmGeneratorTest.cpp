@@ -57,6 +57,24 @@ TEST_F(frmGeneratorTest, ARunFillsTheHiddenPanes) {
     EXPECT_FALSE(window_.isVisible());
 }
 
+TEST_F(frmGeneratorTest, ALargeProgramWaitsForAPauseAndTheLatestIsShown) {
+    std::string text;
+    while (text.size() < 100000)
+        text += "\tGoTo\tPMP_1\r\n";
+    const auto shows = [this](const std::string& program) {
+        return Find<CodePane>("txtCode").Text() == program;
+    };
+    for (const bool visible : {false, true}) {
+        window_.setVisible(visible);
+        window_.TakeRun(ARun(text), QString());
+        EXPECT_FALSE(shows(text));
+        text += visible ? ";visible\r\n" : ";hidden\r\n";
+        window_.TakeRun(ARun(text), QString());
+        EXPECT_TRUE(QTest::qWaitFor([&] { return shows(text); }, 2000));
+        text += ";next\r\n";
+    }
+}
+
 TEST_F(frmGeneratorTest, TheLatestRunReplacesTheOneBefore) {
     Show();
     for (const std::string text :
