@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "build/ui/ScriptFile.h"
 
+#include "core/AnsiText.h"
 #include "core/ui/AnsiString.h"
 #include "core/ui/DocumentFile.h"
 
 #include <QFile>
 #include <QFileInfo>
+
+#include <algorithm>
 
 namespace orvane {
 
@@ -20,6 +23,18 @@ QString WithLineEnds(QString text, const QString& lineEnd) {
     return text.replace(QStringLiteral("\n"), lineEnd);
 }
 
+// None when some character has no byte. Unlike a document, a script may hold the delimiter.
+std::optional<std::string> Bytes(const QString& text) {
+    std::string bytes;
+    for (const QChar character : text) {
+        const std::optional<char> byte = ToAnsi(char32_t{character.unicode()});
+        if (!byte)
+            return std::nullopt;
+        bytes += *byte;
+    }
+    return bytes;
+}
+
 } // namespace
 
 std::optional<QString> ReadScript(const QString& path) {
@@ -30,8 +45,16 @@ std::optional<QString> ReadScript(const QString& path) {
     return AsReadBack(FromAnsi(file.readAll().toStdString()));
 }
 
+QString LineOutsideAnsi(const QString& script) {
+    const QStringList lines = WithLineEnds(script, QStringLiteral("\n")).split(QLatin1Char('\n'));
+    const auto found =
+        std::find_if_not(lines.begin(), lines.end(), [](const QString& l) { return Bytes(l); });
+    return found == lines.end() ? QString() : *found;
+}
+
 bool WriteScript(const QString& path, const QString& script) {
-    return !WriteWholeFile(path, ToAnsi(WithLineEnds(script, QStringLiteral("\r\n"))).Text);
+    const std::optional<std::string> bytes = Bytes(WithLineEnds(script, QStringLiteral("\r\n")));
+    return bytes && !WriteWholeFile(path, *bytes);
 }
 
 QString AsReadBack(const QString& script) {

@@ -11,7 +11,11 @@ namespace orvane {
 // cannot be read.
 std::optional<QString> ReadScript(const QString& path);
 
-// Writes the script over the file, all or nothing. Returns whether that worked.
+// The first line with a character that a script's file, which is ANSI, cannot hold; empty without one.
+QString LineOutsideAnsi(const QString& script);
+
+// Writes the script over the file, all or nothing. Returns whether that worked; a script with a character
+// that the file cannot hold is not written.
 bool WriteScript(const QString& path, const QString& script);
 
 // What ReadScript would give for a file with this text.

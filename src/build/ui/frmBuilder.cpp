@@ -96,7 +96,12 @@ QString frmBuilder::DefaultName() const {
     return QString::fromStdString(BuilderScriptName(documentPath_.toStdString()));
 }
 
-QString frmBuilder::ScriptText() const { return txtBuildScript->toPlainText(); }
+// The raw text, because the plain one turns no-break spaces into blanks.
+QString frmBuilder::ScriptText() const {
+    QString text = txtBuildScript->document()->toRawText();
+    text.replace(QChar::LineSeparator, QLatin1Char('\n')); // Shift+Return
+    return text.replace(QChar::ParagraphSeparator, QLatin1Char('\n'));
+}
 
 void frmBuilder::ShowScript(const QString& script) {
     txtBuildScript->setPlainText(script);
@@ -179,6 +184,13 @@ bool frmBuilder::Save() {
     if (txtFileName->text().isEmpty() && !ChooseNameToSave())
         return false;
     const QString path = txtFileName->text();
+    const QString unwritable = LineOutsideAnsi(ScriptText());
+    if (!unwritable.isEmpty()) {
+        Warn(tr("The script was not saved: its file cannot hold every character of the line\r\n%1\r\n"
+                "A program in the folder of the script can be named without its path.")
+                 .arg(unwritable));
+        return false;
+    }
     if (!MayReplace(path))
         return false;
     if (!WriteScript(path, ScriptText())) {

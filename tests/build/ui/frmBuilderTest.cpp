@@ -248,6 +248,33 @@ TEST_F(frmBuilderTest, ASavedScriptWithoutALastLineEndIsNoChangeOnDisk) {
     EXPECT_TRUE(answers_.Seen().empty());
 }
 
+TEST_F(frmBuilderTest, EveryByteOfAScriptIsSavedAsItWasRead) {
+    QByteArray bytes = ";";
+    for (int byte = 0x20; byte <= 0xFF; ++byte)
+        bytes += static_cast<char>(byte);
+    Write(QStringLiteral("pump.b1d"), bytes + "\tend\r\n");
+    Open(QStringLiteral("pump.zfsm"));
+    Show();
+    Find<QPlainTextEdit>("txtBuildScript").appendPlainText(QStringLiteral("x"));
+    Press("cmdSave");
+    EXPECT_EQ(Read(QStringLiteral("pump.b1d")), bytes + "\tend\r\n\r\nx");
+}
+
+TEST_F(frmBuilderTest, AScriptWithCharactersThatItsFileCannotHoldIsNotSaved) {
+    Write(QStringLiteral("pump.b1d"), "CODESEG\r\n");
+    Open(QStringLiteral("pump.zfsm"));
+    Show();
+    Find<QPlainTextEdit>("txtBuildScript").appendPlainText(QString::fromUtf8("\xCE\xA9.zls"));
+    answers_.Press(QMessageBox::Ok);
+    Press("cmdSave");
+    ASSERT_EQ(answers_.Seen().size(), 1u);
+    EXPECT_EQ(answers_.Seen()[0].Text,
+              "The script was not saved: its file cannot hold every character of the line\r\n\xCE\xA9.zls\r\n"
+              "A program in the folder of the script can be named without its path.");
+    EXPECT_EQ(Read(QStringLiteral("pump.b1d")), "CODESEG\r\n");
+    Activate(); // nothing has changed on disk
+}
+
 TEST_F(frmBuilderTest, AScriptThatIsGoneIsNoChangeOnDisk) {
     Open(QStringLiteral("pump.zfsm"));
     Show();
