@@ -158,9 +158,10 @@ void CodePane::focusInEvent(QFocusEvent* event) {
 }
 
 void CodePane::keyPressEvent(QKeyEvent* event) {
-    // A pane on a covered tab may have the focus; nobody could see what is typed there.
+    // A pane on a covered tab may have the focus; nobody could see what is typed there. Return goes no
+    // further: it would press the default button in the middle of the typing.
     if (!isVisible()) {
-        event->ignore();
+        event->setAccepted(event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter);
         return;
     }
     const bool plainControl = event->modifiers() == Qt::ControlModifier;

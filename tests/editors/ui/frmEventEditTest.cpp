@@ -170,6 +170,19 @@ TEST_F(EventEditTest, EitherTabFocusesTheCodeWhichTakesNoKeysWhileItIsCovered) {
     });
 }
 
+TEST_F(EventEditTest, ReturnToTheCoveredCodeDoesNotCloseTheDialog) {
+    Open([&] {
+        ClickTab(1);
+        QTest::keyClick(&Code(), Qt::Key_Return);
+        QTest::keyClick(&Code(), Qt::Key_Enter, Qt::KeypadModifier);
+        EXPECT_TRUE(dialog.isVisible());
+        EXPECT_EQ(Code().Text(), "\tTest\r\n");
+        QTest::keyClick(&Code(), Qt::Key_Return, Qt::ControlModifier);
+    });
+    EXPECT_FALSE(dialog.isVisible());
+    EXPECT_EQ(event.LastTab, 1);
+}
+
 TEST_F(EventEditTest, EachEditIsToldOnce) {
     QSignalSpy edits(&dialog, &frmEventEdit::Edited);
     Open([&] {
