@@ -153,7 +153,7 @@ TEST_F(DialogsFromTable, TheStateEditorsTabsGoWithTheRowsOnceOneIsToggled) {
     EXPECT_EQ(StateTabs(), all);
 }
 
-TEST_F(DialogsFromTable, ATimeoutSetInTheEditorShowsTheTimingRows) {
+TEST_F(DialogsFromTable, ADocumentWithATimeoutShowsTheTimingRows) {
     FsmDocument document = PumpDocument();
     document.State(3).Name = "Timed";
     document.State(3).TimingMode = 1;
