@@ -136,6 +136,22 @@ TEST_F(GridDisplay, DraggingColumnZeroFitsTheRowHeads) {
     EXPECT_EQ(SavedDocument().View.Col0Width, 1890 - 40 * 15);
 }
 
+TEST_F(GridDisplay, AColumnWithTimingAndElseShowsTheirRowsAgainWhenItIsDragged) {
+    FsmDocument document = PumpDocument();
+    document.State(2).TimingMode = 1;
+    document.State(2).Targets[kElseRow] = 1;
+    StartOn(document);
+    for (const char* item : {"mnuShowTimingMode", "mnuShowTimeTarget", "mnuShowElse"})
+        Trigger(item);
+    DragBorder(BorderOf(1), 10);
+    EXPECT_FALSE(Item("mnuShowElse")->isChecked());
+    DragBorder(BorderOf(2), 10);
+    for (const char* item : {"mnuShowTimingMode", "mnuShowTimeTarget", "mnuShowElse"})
+        EXPECT_TRUE(Item(item)->isChecked()) << item;
+    for (const int row : {3, 4, 5})
+        EXPECT_FALSE(CellRect(row, 2).isEmpty()) << row;
+}
+
 TEST_F(GridDisplay, AColumnDraggedShutIsDraggedOpenAgain) {
     StartOn(PumpDocument());
     const QPoint border = BorderOf(2);

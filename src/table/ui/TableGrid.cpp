@@ -66,7 +66,10 @@ void TableGrid::ApplyRowVisibility() { geometry_->ApplyRowHeights(); }
 void TableGrid::TestForColumWidthChange() {
     for (const int column : geometry_->TestForColumWidthChange()) {
         txtCellEdit->Abandon();
-        model_->ColumnChanged(column);
+        if (column == 0)
+            PopulateRowHeaders();
+        else
+            PopulateStateColumn(column);
     }
 }
 
