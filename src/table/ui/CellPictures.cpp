@@ -7,12 +7,28 @@ namespace orvane {
 
 namespace {
 
-constexpr int kTextMargin = 3; // left of a text; no pixels of the screen, like all sizes but a picture's
+// In the painter's units, which a scaled screen shows as several pixels.
+constexpr int kTextMargin = 3; // left of a text
 constexpr int kBorder = 1;     // right of it and below
+
+void DrawLine(QPainter& painter, const QRect& area, const QString& text) {
+    painter.drawText(area.adjusted(kTextMargin, 0, -kBorder, -kBorder),
+                     Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, text);
+}
+
+// A document may make a cell so large that it is never seen as a whole.
+bool IsLargerThanScreen(const QRect& area, const QPaintDevice& screen) {
+    return area.width() > screen.width() || area.height() > screen.height();
+}
 
 } // namespace
 
 void CellPictures::Draw(QPainter& painter, const QRect& area, const QString& text, QRgb background) {
+    if (IsLargerThanScreen(area, *painter.device())) {
+        painter.fillRect(area, QColor(background));
+        DrawLine(painter, area, text);
+        return;
+    }
     const qreal scale = painter.device()->devicePixelRatioF();
     if (painter.font() != font_ || scale != scale_) {
         pictures_.clear();
@@ -38,9 +54,7 @@ QPixmap CellPictures::Painted(const Cell& cell) const {
     QPainter painter(&picture);
     painter.setFont(font_);
     painter.setPen(QColor(cell.Pen));
-    const QRect whole(QPoint(0, 0), picture.deviceIndependentSize().toSize());
-    painter.drawText(whole.adjusted(kTextMargin, 0, -kBorder, -kBorder),
-                     Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, cell.Text);
+    DrawLine(painter, {QPoint(0, 0), picture.deviceIndependentSize().toSize()}, cell.Text);
     return picture;
 }
 

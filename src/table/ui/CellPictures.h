@@ -16,7 +16,7 @@ namespace orvane {
 class CellPictures {
   public:
     // One line at the left of the area, in the middle of its height, in the painter's font and pen on the
-    // background; what does not fit is cut off.
+    // background; what does not fit is cut off. No picture is kept of a cell larger than what it is drawn on.
     void Draw(QPainter& painter, const QRect& area, const QString& text, QRgb background);
 
   private:

@@ -100,6 +100,21 @@ TEST(CellPicturesCount, ColoursAndSizesAreNotConfused) {
     EXPECT_EQ(drawn(kCell, kBackground, qRgb(0, 0, 0)), first);
 }
 
+// A picture of this one would take 160 GB.
+TEST(CellPicturesCount, ACellLargerThanTheScreenIsDrawnWithoutAPicture) {
+    CellPictures pictures;
+    const QRect cell(8, 14 - 100000, 200000, 200000); // its middle is in sight
+    const QString text = QStringLiteral("7:Run");
+    const auto drawn = Painted(FontOfSize(12), 1,
+                               [&](QPainter& painter) { pictures.Draw(painter, cell, text, kBackground); });
+    EXPECT_EQ(drawn, Painted(FontOfSize(12), 1, [&](QPainter& painter) {
+                  painter.fillRect(cell, QColor(kBackground));
+                  painter.drawText(cell.adjusted(3, 0, -1, -1), Qt::AlignLeft | Qt::AlignVCenter, text);
+              }));
+    EXPECT_NE(drawn, Painted(FontOfSize(12), 1,
+                             [&](QPainter& painter) { painter.fillRect(cell, QColor(kBackground)); }));
+}
+
 TEST(CellPicturesCount, ManyTextsAreDrawnAsWellAsFew) {
     CellPictures pictures;
     for (int number = 0; number < 9000; ++number)
