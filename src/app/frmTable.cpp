@@ -106,7 +106,7 @@ void frmTable::ConnectDocument() {
 void frmTable::ConnectFileMenu() {
     const auto connectFile = [this](const char* item, const std::function<void()>& command) {
         menus_->Connect(item, [this, command] {
-            CommitOpenEdit();
+            FinishCellEdit();
             command();
         });
     };
@@ -115,7 +115,7 @@ void frmTable::ConnectFileMenu() {
     connectFile("mnuFSave", [this] { lifecycle_->Save(); });
     connectFile("mnuFSaveAs", [this] { lifecycle_->SaveAs(); });
     connect(new HelpMenu(this), &HelpMenu::OpenWanted, this, [this](const QString& path) {
-        CommitOpenEdit();
+        FinishCellEdit();
         lifecycle_->OpenFile(path);
     });
 }
@@ -190,7 +190,7 @@ void frmTable::Start(const CommandLine& commandLine) {
 }
 
 void frmTable::closeEvent(QCloseEvent* event) {
-    CommitOpenEdit();
+    FinishCellEdit();
     event->setAccepted(lifecycle_->MayClose());
     if (!event->isAccepted())
         return;
@@ -237,7 +237,7 @@ void frmTable::CommitChange() {
 void frmTable::RefreshGenerators() { generator_.Run(session_.Document, session_.CurrentFileName); }
 
 void frmTable::CommitAndGenerate() {
-    CommitOpenEdit();
+    FinishCellEdit();
     RefreshGenerators();
 }
 
@@ -364,8 +364,8 @@ void frmTable::CommitOpenEdit() {
         CommitCellEdit();
 }
 
-// Before another command changes or moves the cell: what was typed there is stored, and a cell that was only
-// opened stays as it is.
+// Before another command changes, moves or stores the cell: what was typed there is stored, and a cell that
+// was only opened stays as it is.
 void frmTable::FinishCellEdit() {
     if (grid_->Editor().isModified())
         CommitOpenEdit();

@@ -178,6 +178,16 @@ TEST_F(CellEditing, SavingStoresWhatIsBeingTyped) {
     EXPECT_EQ(SavedDocument().State(1).Targets[7], 1);
 }
 
+TEST_F(CellEditing, SavingLeavesTheActionOfACellThatWasOnlyOpened) {
+    FsmDocument document = PumpDocument();
+    document.State(1).Actions[7] = ";left over";
+    StartOn(document);
+    Click(7, 1);
+    EXPECT_EQ(SavedDocument().State(1).Actions[7], ";left over");
+    EXPECT_FALSE(Editor()->isVisible());
+    EXPECT_FALSE(Item("mnuUndo")->isEnabled());
+}
+
 TEST_F(CellEditing, AnElseTransitionShowsItsRow) {
     FsmDocument document = PumpDocument();
     document.State(1).Targets[kElseRow] = 2;
