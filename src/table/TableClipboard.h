@@ -12,7 +12,7 @@ namespace orvane {
 enum class ClipKind { Empty, State, Event, EntryAction, Transition, TransitionAction };
 
 // What was last copied or cut in the table: one thing, the kind says which. The rest is left over from
-// earlier copies and means nothing.
+// earlier copies; it is pasted only by a command that EnablePasteItems() has left enabled.
 struct TableClipboard {
     ClipKind Kind = ClipKind::Empty;
 
