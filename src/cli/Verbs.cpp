@@ -33,9 +33,10 @@ class DocumentRun {
     void Format();
 
     void WriteBytes(const fs::path& target, std::string bytes, Durability durability);
+    bool ToStandardOutput() const { return arguments_.Output == kStandardOutput; }
     bool WritesOver(const fs::path& target) const {
         std::error_code none;
-        return fs::equivalent(target, PathOf(name_), none);
+        return !ToStandardOutput() && fs::equivalent(target, PathOf(name_), none);
     }
     std::string HeadedReport(const Report& report) const {
         const std::string head = arguments_.Documents.size() > 1 ? ShownName(name_) + ":\n" : "";
@@ -83,8 +84,7 @@ bool DocumentRun::Read() {
         outcome_.Errors += MessageLine(name_, message);
     if (read_->BrokeOff)
         outcome_.Raise(kFileError);
-    // Where reading stopped has a line; a file that was refused as a whole has none.
-    return !read_->BrokeOff || read_->Messages.front().Line != 0;
+    return !read_->Refused;
 }
 
 void DocumentRun::Generate() {
@@ -117,7 +117,7 @@ void DocumentRun::Format() {
 }
 
 void DocumentRun::WriteBytes(const fs::path& target, std::string bytes, Durability durability) {
-    if (target == kStandardOutput) {
+    if (ToStandardOutput()) {
         outcome_.Output = std::move(bytes);
         return;
     }

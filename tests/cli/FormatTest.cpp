@@ -47,6 +47,15 @@ TEST_F(Format, StandardOutputGetsTheBytesOfTheFile) {
     EXPECT_EQ(ReadFile("pump.zfsm"), UntidyPump());
 }
 
+TEST_F(Format, ADocumentThatIsNamedAsStandardOutputIsIsAFileLikeAnyOther) {
+    WriteFile("-", UntidyPump());
+    const RunResult run = Run("format -");
+    EXPECT_EQ(run.Status, 0);
+    EXPECT_EQ(run.Output, "");
+    EXPECT_EQ(ReadFile("-"), PumpDocument());
+    EXPECT_EQ(Run("format - -o -").Output, PumpDocument());
+}
+
 TEST_F(Format, ADesignErrorIsNoReasonNotToWrite) {
     WriteFile("bad.zfsm", DocumentWithErrors());
     const RunResult run = Run("format bad.zfsm -o tidy.zfsm");
