@@ -25,6 +25,7 @@ bool IsSettingsFile(const QString& path) {
     return QFileInfo(path).fileName().compare(SettingsFile(), Qt::CaseInsensitive) == 0;
 }
 
+// Each as a caption and the patterns behind it, which the dialogs hide: the captions name them already.
 QString FileFilter() { return QStringLiteral("All Files (*.*) (*);;Config file (*.zfsm) (*.zfsm)"); }
 
 // As the system writes paths, because the program's comments and the builder script name the document by it.
@@ -72,7 +73,8 @@ void DocumentLifecycle::Open() {
     if (!GuardBeforeOpen())
         return;
     const QString path =
-        QFileDialog::getOpenFileName(window_, QStringLiteral("Open"), StartFolder(), FileFilter());
+        QFileDialog::getOpenFileName(window_, QStringLiteral("Open"), StartFolder(), FileFilter(), nullptr,
+                                     QFileDialog::HideNameFilterDetails);
     if (!path.isEmpty())
         Load(path);
 }
@@ -92,6 +94,7 @@ bool DocumentLifecycle::Save() {
 
 bool DocumentLifecycle::SaveAs() {
     QFileDialog dialog(window_, QStringLiteral("Save As"), StartFolder(), FileFilter());
+    dialog.setOption(QFileDialog::HideNameFilterDetails);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(QStringLiteral("zfsm"));
     dialog.selectFile(QFileInfo(session_.CurrentFileName).fileName());

@@ -5,6 +5,7 @@
 #include "core/ProgramVersion.h"
 
 #include <QAction>
+#include <QComboBox>
 #include <QDir>
 #include <QFile>
 #include <QTest>
@@ -134,6 +135,21 @@ TEST_F(Lifecycle, OpenOffersAllFilesAndDocuments) {
     EXPECT_EQ(Title(), "machine.zfsm" + TitleEnd());
 }
 
+TEST_F(Lifecycle, TheFileDialogsShowTheFiltersByTheirCaptions) {
+    StartUntitledModified();
+    for (const char* item : {"mnuFSaveAs", "mnuFOpen"}) {
+        if (item == std::string("mnuFOpen"))
+            Answers.Press(QMessageBox::No);
+        Answers.Do([&](QWidget& dialog) {
+            const auto* filters = dialog.findChild<QComboBox*>(QStringLiteral("fileTypeCombo"));
+            EXPECT_EQ(filters->itemText(0), QStringLiteral("All Files (*.*)")) << item;
+            EXPECT_EQ(filters->itemText(1), QStringLiteral("Config file (*.zfsm)")) << item;
+            dialog.close();
+        });
+        Trigger(item);
+    }
+}
+
 TEST_F(Lifecycle, AFileThatCannotBeReadIsToldAndTheOpenDocumentStays) {
     StartOn(PumpDocument());
     WriteFile(QStringLiteral("picture.zfsm"), std::string("\x89PNG\0\0\0", 7));
@@ -239,6 +255,17 @@ TEST_F(Lifecycle, EveryChangeWritesTheProgramBesideTheDocument) {
     EXPECT_EQ(ReadFile(QStringLiteral("machine.zls")), ""); // opening alone touches nothing
     TypeTarget(7, 1, QStringLiteral("2"));
     EXPECT_NE(ReadFile(QStringLiteral("machine.zls")).find("PMP_Idle_Set1:"), std::string::npos);
+}
+
+TEST_F(Lifecycle, AProgramNeverTakesThePlaceOfItsDocument) {
+    const std::string document = WriteDocument(PumpDocument());
+    WriteFile(QStringLiteral("machine.zls"), document);
+    Start({Path(QStringLiteral("machine.zls"))});
+    Answers.Press(QMessageBox::Ok);
+    TypeTarget(7, 1, QStringLiteral("2"));
+    ASSERT_EQ(Answers.Seen().size(), 1u);
+    EXPECT_NE(Answers.Seen()[0].Text.find("save that under another name"), std::string::npos);
+    EXPECT_EQ(ReadFile(QStringLiteral("machine.zls")), document);
 }
 
 TEST_F(Lifecycle, AProgramThatCannotBeWrittenIsToldOnce) {

@@ -5,15 +5,27 @@
 #include "codegen/PathInProgram.h"
 #include "core/ui/RenewableFile.h"
 
+#include <QFileInfo>
+
 #include <cstdlib>
 #include <ctime>
 
 namespace orvane {
 
+namespace {
+
+// Also through a link, and in whatever case where the system does not tell cases apart.
+bool IsSameFile(const QString& one, const QString& other) {
+    const QFileInfo file(one);
+    return file.exists() && file == QFileInfo(other);
+}
+
+} // namespace
+
 void GeneratorRun::Run(const FsmDocument& document, const QString& documentPath) {
     Generate(document, documentPath);
     if (!documentPath.isEmpty() && !latest_.Findings.HasErrors())
-        WriteProgram(QString::fromStdString(ProgramFilePath(documentPath.toStdString())));
+        WriteProgram(documentPath);
     Q_EMIT Finished();
 }
 
@@ -28,8 +40,12 @@ void GeneratorRun::Generate(const FsmDocument& document, const QString& document
                                          BannerDate(std::time(nullptr), std::getenv("SOURCE_DATE_EPOCH"))});
 }
 
-void GeneratorRun::WriteProgram(const QString& path) {
-    const std::optional<QString> failure = WriteRenewableFile(path, {latest_.Text, kProgramFileEnd});
+void GeneratorRun::WriteProgram(const QString& documentPath) {
+    const QString path = QString::fromStdString(ProgramFilePath(documentPath.toStdString()));
+    const std::optional<QString> failure = IsSameFile(path, documentPath)
+                                               ? QStringLiteral("It would take the place of the document; "
+                                                                "save that under another name")
+                                               : WriteRenewableFile(path, {latest_.Text, kProgramFileEnd});
     generatedOk_ = !failure;
     if (!failure) {
         toldPath_.clear();

@@ -9,7 +9,8 @@
 namespace orvane {
 
 // Runs the generator and keeps what came out of the last run. A run without errors writes the program's file
-// beside the document; a document without a file has no program file either.
+// beside the document; a document without a file has no program file either. The document itself is never
+// written over, whatever its name.
 class GeneratorRun : public QObject {
     Q_OBJECT
 
@@ -33,7 +34,7 @@ class GeneratorRun : public QObject {
 
   private:
     void Generate(const FsmDocument& document, const QString& documentPath);
-    void WriteProgram(const QString& path);
+    void WriteProgram(const QString& documentPath);
 
     GeneratedProgram latest_;
     bool generatedOk_ = false;
