@@ -8,7 +8,9 @@
 namespace orvane {
 
 QString WindowTitle(const QString& path, bool isModified) {
-    const QString name = path.isEmpty() ? QStringLiteral("[Untitled]") : QFileInfo(path).fileName();
+    // A drive path is one on every system, also where the backslash is no separator.
+    const QString name = path.isEmpty() ? QStringLiteral("[Untitled]")
+                                        : QFileInfo(path).fileName().section(QLatin1Char('\\'), -1);
     return (isModified ? QStringLiteral("*") : QString()) + name + QStringLiteral(" - Orvane ") +
            QString::fromStdString(ProgramVersion());
 }

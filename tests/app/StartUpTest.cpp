@@ -62,6 +62,18 @@ TEST_F(StartUp, ADocumentOnTheCommandLineIsOpenedWithoutSplash) {
     EXPECT_FALSE(SplashIsShown());
 }
 
+TEST_F(StartUp, ADrivePathOnTheCommandLineIsOpenedWithoutSplash) {
+    const QString name = QStringLiteral("C:\\my files\\pump.zfsm");
+#ifdef Q_OS_WIN
+    GTEST_SKIP() << "no file can have this name";
+#endif
+    WriteFile(name, WriteDocument(PumpDocument()));
+    Start(name.split(QLatin1Char(' ')));
+    EXPECT_EQ(Text(0, 0), "PMP");
+    EXPECT_EQ(Title(), "pump.zfsm - Orvane " + ProgramVersion());
+    EXPECT_FALSE(SplashIsShown());
+}
+
 TEST_F(StartUp, BrokenSettingsAreToldAndTheProgramGoesOn) {
     WriteFile(QStringLiteral("ORVANE_INI.zfsm"), "\xA4<FSM_NAME>SET\xA4/\r\n\xA4<STATE>200:\xA4/\r\n");
     Answers.Press(QMessageBox::Ok).Press(QMessageBox::Ok);
