@@ -4,9 +4,12 @@
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QMouseEvent>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
+
+#include <utility>
 
 namespace orvane {
 
@@ -107,9 +110,20 @@ bool frmSplash::eventFilter(QObject* watched, QEvent* event) {
         return event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride;
     if (watched == imgLogo && event->type() == QEvent::MouseButtonDblClick)
         close();
-    if (watched == lblURL && event->type() == QEvent::MouseButtonRelease)
-        Q_EMIT HomePageRequested();
+    if (watched == lblURL)
+        WatchLink(*event);
     return QDialog::eventFilter(watched, event);
+}
+
+// A press and its release, both on the link; the second press of a double click is none of its own.
+void frmSplash::WatchLink(const QEvent& event) {
+    if (event.type() == QEvent::MouseButtonPress) {
+        linkPressed_ = true;
+    } else if (event.type() == QEvent::MouseButtonRelease && std::exchange(linkPressed_, false)) {
+        const QPointF place = static_cast<const QMouseEvent&>(event).position();
+        if (lblURL->rect().contains(place.toPoint()))
+            Q_EMIT HomePageRequested();
+    }
 }
 
 } // namespace orvane

@@ -29,6 +29,7 @@ class frmSplash : public QDialog {
     void BuildControls(const QPixmap& logo);
     void LayOut();
     void Tick();
+    void WatchLink(const QEvent& event);
 
     QLabel* imgLogo = nullptr;
     QPlainTextEdit* txtBlurb = nullptr;
@@ -36,6 +37,7 @@ class frmSplash : public QDialog {
     QPushButton* cmdOK = nullptr;
     QTimer* Timer1 = nullptr;
     qint16 ticks_ = 0;
+    bool linkPressed_ = false;
 };
 
 } // namespace orvane

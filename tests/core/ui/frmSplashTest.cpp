@@ -79,5 +79,17 @@ TEST_F(frmSplashTest, TheLinkAsksForTheHomePageUnderAHandCursor) {
     EXPECT_TRUE(splash_.isVisible());
 }
 
+TEST_F(frmSplashTest, ADoubleClickOnTheLinkAsksOnceAndAReleaseBesideItNever) {
+    const QSignalSpy asked(&splash_, &frmSplash::HomePageRequested);
+    auto* link = Find<QLabel>("lblURL");
+    QTest::mouseClick(link, Qt::LeftButton);
+    QTest::mouseDClick(link, Qt::LeftButton);
+    QTest::mouseRelease(link, Qt::LeftButton);
+    EXPECT_EQ(asked.count(), 1);
+    QTest::mousePress(link, Qt::LeftButton);
+    QTest::mouseRelease(link, Qt::LeftButton, {}, QPoint(-5, 5));
+    EXPECT_EQ(asked.count(), 1);
+}
+
 } // namespace
 } // namespace orvane
