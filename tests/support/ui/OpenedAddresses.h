@@ -27,7 +27,7 @@ class OpenedAddresses : public QObject {
     void Open(const QUrl& address) { Addresses += address; }
 
   private:
-    const QStringList schemes_{QStringLiteral("https"), QStringLiteral("file")};
+    const QStringList schemes_{QStringLiteral("http"), QStringLiteral("https"), QStringLiteral("file")};
 };
 
 } // namespace orvane
