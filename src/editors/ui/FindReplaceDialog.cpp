@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QVBoxLayout>
 
 #include <cstdint>
@@ -20,6 +21,12 @@ namespace {
 using Sci = QsciScintillaBase;
 
 unsigned long Unsigned(long position) { return static_cast<unsigned long>(position); }
+
+// A replacement for a regular expression in which "\n" is a line end of a document, as "\r\n" is.
+QString WithDocumentLineEnds(QString replacement) {
+    static const QRegularExpression lineEnd(QStringLiteral(R"((?<!\\)((?:\\\\)*)(?:\\r)?\\n)"));
+    return replacement.replace(lineEnd, QStringLiteral(R"(\1\r\n)"));
+}
 
 } // namespace
 
@@ -185,8 +192,10 @@ bool FindReplaceDialog::FindInTarget(long from, long to) const {
 }
 
 void FindReplaceDialog::ReplaceTarget() const {
-    const QByteArray text = txtReplace->text().toUtf8();
-    const unsigned message = chkRegExp->isChecked() ? Sci::SCI_REPLACETARGETRE : Sci::SCI_REPLACETARGET;
+    const bool expression = chkRegExp->isChecked();
+    const QString replacement = txtReplace->text();
+    const QByteArray text = (expression ? WithDocumentLineEnds(replacement) : replacement).toUtf8();
+    const unsigned message = expression ? Sci::SCI_REPLACETARGETRE : Sci::SCI_REPLACETARGET;
     editor_->SendScintilla(message, static_cast<std::uintptr_t>(text.size()), text.constData());
 }
 

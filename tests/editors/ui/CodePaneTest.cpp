@@ -254,6 +254,21 @@ TEST_F(CodePaneTest, ReplaceAllTakesRegularExpressionsAndEndsWithEmptyMatches) {
     EXPECT_EQ(pane.Text(), "-1-a- -2-2-b-");
 }
 
+TEST_F(CodePaneTest, ALineEndInAReplacementIsOneOfTheDocument) {
+    const auto replaced = [this](const char* replacement) {
+        pane.SetText("a;b");
+        Search(QStringLiteral(";"), QString::fromLatin1(replacement));
+        Child<QCheckBox>("chkRegExp")->setChecked(true);
+        Click("cmdReplaceAll");
+        return pane.Text();
+    };
+    EXPECT_EQ(replaced("\\n"), "a\r\nb");
+    EXPECT_EQ(replaced("\\r\\n"), "a\r\nb");
+    EXPECT_EQ(replaced("\\n\\n\\t"), "a\r\n\r\n\tb");
+    EXPECT_EQ(replaced("\\\\n"), "a\\nb") << "a backslash and a letter";
+    EXPECT_EQ(replaced("\\\\\\n"), "a\\\r\nb") << "a backslash and a line end";
+}
+
 TEST_F(CodePaneTest, FindWrapsAroundOnlyWhenAsked) {
     pane.SetText("one two one");
     Search(QStringLiteral("one"), {});
