@@ -235,6 +235,7 @@ void frmBuilder::SelectFile() {
 void frmBuilder::GoGoGo() {
     Settle();
     const bool generated = generate_();
+    CheckForChangeOnDisk(); // started from the table, the window has not become active
     if (!Save()) {
         Warn(tr("Sorry, the Build file failed to save. Check the file name / path."));
         return;

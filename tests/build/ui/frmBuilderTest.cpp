@@ -239,6 +239,19 @@ TEST_F(frmBuilderTest, AChangeOnDiskIsAskedAboutOncePerDifference) {
     EXPECT_EQ(Script(), "third\n");
 }
 
+TEST_F(frmBuilderTest, ABuildAsksBeforeItReplacesAScriptThatHasChangedOnDisk) {
+    Open(QStringLiteral("pump.zfsm"));
+    Show();
+    builder_->hide();
+    Write(QStringLiteral("pump.b1d"), "CODESEG\r\n");
+    answers_.Press(QMessageBox::Yes);
+    builder_->GoGoGo();
+    ASSERT_EQ(answers_.Seen().size(), 1u);
+    EXPECT_EQ(answers_.Seen()[0].Text, kChanged);
+    EXPECT_EQ(Read(QStringLiteral("pump.b1d")), "CODESEG\r\n");
+    EXPECT_EQ(opened_.Addresses.size(), 1);
+}
+
 TEST_F(frmBuilderTest, ASavedScriptWithoutALastLineEndIsNoChangeOnDisk) {
     Open(QStringLiteral("pump.zfsm"));
     Show();
