@@ -102,6 +102,16 @@ TEST_F(CellEditing, OnlyDigitsAreTyped) {
     EXPECT_EQ(EditorText(), "12");
 }
 
+TEST_F(CellEditing, TabDoesNotLeaveTheEditor) {
+    StartOn(PumpDocument());
+    Click(7, 1);
+    QTest::keyClick(Editor(), Qt::Key_Tab);
+    EXPECT_TRUE(Editor()->hasFocus());
+    QTest::keyClick(Editor(), Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_TRUE(Editor()->hasFocus());
+    EXPECT_EQ(EditorText(), "");
+}
+
 TEST_F(CellEditing, AnEventWithoutNameTakesNoTransition) {
     StartOn(PumpDocument());
     Click(8, 1);

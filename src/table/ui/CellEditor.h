@@ -30,6 +30,8 @@ class CellEditor : public QLineEdit {
 
   protected:
     bool event(QEvent* event) override;
+    // Tab is another key that does nothing.
+    bool focusNextPrevChild(bool) override { return false; }
     void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
