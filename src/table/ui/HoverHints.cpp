@@ -48,7 +48,7 @@ HoverHints::HoverHints(const FsmDocument& document, FsmGridModel& model, FsmGrid
     txtRowheader_->installEventFilter(this);
     connect(&view, &FsmGridView::PointerMoved, this, &HoverHints::PointerAt);
     connect(&view, &FsmGridView::PointerLeft, this, [this] {
-        ForgetPointer();
+        pointer_.reset();
         ClearHoverEffects();
     });
     connect(&view, &FsmGridView::CellsMoved, this, [this] {

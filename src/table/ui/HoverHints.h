@@ -24,15 +24,11 @@ class HoverHints : public QObject {
 
     void SetShiftHeld(bool held) { shiftHeld_ = held; }
 
-    void ShowCellHint(int row, int column);
     void ClearHoverEffects();
 
     // Points out the cell, yellow, and the head of the state it leads to. Nothing without a transition.
     void ShowNextState(int row, int column);
     void HideNextState();
-
-    // The pointer will be in a new cell wherever it moves next.
-    void ForgetPointer() { pointer_.reset(); }
 
   Q_SIGNALS:
     // A new cell is under the pointer: widths may have been dragged.
@@ -45,6 +41,7 @@ class HoverHints : public QObject {
 
   private:
     void PointerAt(int row, int column);
+    void ShowCellHint(int row, int column);
     void ShowRowHeaderHighlight(int row);
     void PlaceMarker();
 
