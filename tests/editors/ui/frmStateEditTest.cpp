@@ -169,6 +169,21 @@ TEST_F(StateEditTest, AMissingConstantIsRefusedAndCancelThenKeepsTheName) {
     EXPECT_EQ(state, before);
 }
 
+TEST_F(StateEditTest, AMissingLimitIsAskedForEvenWhereTheTableHidesItsTab) {
+    state.TimingMode = kStartConstant;
+    state.TimeConst.clear();
+    dialog.SetTimeoutTabVisible(false);
+    Open([&] {
+        Answers.Press(QMessageBox::Ok);
+        OK();
+        EXPECT_EQ(Tabs().currentIndex(), 2);
+        EXPECT_TRUE(Control<QLineEdit>("txtTimeCONST").isVisible());
+        TypeInto("txtTimeCONST", QStringLiteral("5"));
+        OK();
+    });
+    EXPECT_EQ(state.TimeConst, "5");
+}
+
 TEST_F(StateEditTest, AMissingVariableLimitIsRefusedWithItsOwnIcon) {
     state.TimingVar.clear();
     Open([&] {
