@@ -3,8 +3,6 @@
 
 #include <QShortcut>
 
-#include <utility>
-
 namespace orvane {
 
 // A window, QDialog or QWidget, with fields in which Tab can be typed: from the first focus of such a field
@@ -13,12 +11,8 @@ template <typename Window>
 class TabStops : public Window {
   protected:
     explicit TabStops(QWidget* parent, Qt::WindowFlags flags = {}) : Window(parent, flags) {
-        for (const auto& [keys, next] :
-             {std::pair{QKeySequence(Qt::Key_F6), true}, {QKeySequence(Qt::SHIFT | Qt::Key_F6), false}}) {
-            auto* key = new QShortcut(keys, this);
-            QObject::connect(key, &QShortcut::activated, this,
-                             [this, next] { Window::focusNextPrevChild(next); });
-        }
+        AddKey(Qt::Key_F6, true);
+        AddKey(Qt::SHIFT | Qt::Key_F6, false);
     }
 
     void SuspendTabStops() { suspended_ = true; }
@@ -26,6 +20,12 @@ class TabStops : public Window {
     bool focusNextPrevChild(bool next) override { return !suspended_ && Window::focusNextPrevChild(next); }
 
   private:
+    void AddKey(const QKeySequence& keys, bool next) {
+        auto* key = new QShortcut(keys, this);
+        QObject::connect(key, &QShortcut::activated, this,
+                         [this, next] { Window::focusNextPrevChild(next); });
+    }
+
     bool suspended_ = false;
 };
 
