@@ -31,13 +31,6 @@ QString FileFilter() { return QStringLiteral("All Files (*.*) (*);;Config file (
 // As the system writes paths, because the program's comments and the builder script name the document by it.
 QString FullPath(const QString& path) { return QDir::toNativeSeparators(QFileInfo(path).absoluteFilePath()); }
 
-// Messages about a whole block of a file say where; the plain ones about unknown tags need not.
-QString MessageText(const ReaderMessage& message, bool withLine) {
-    const QString text = FromAnsi(message.Text);
-    return withLine && message.Line != 0 ? QStringLiteral("%1\r\n(line %2)").arg(text).arg(message.Line)
-                                         : text;
-}
-
 } // namespace
 
 DocumentLifecycle::DocumentLifecycle(DocumentSession& session, QWidget* window, TraceSink trace)
@@ -163,23 +156,27 @@ void DocumentLifecycle::Take(FsmDocument document, const QString& fileName) {
 }
 
 void DocumentLifecycle::TellMessages(const QString& path, const ReadResult& result) {
-    const std::size_t count = result.Messages.size();
+    const std::size_t count = result.Messages.size() - (result.BrokeOff ? 1 : 0);
     const std::size_t boxes = count <= kMostBoxes ? count : kMostBoxes - 1;
     for (std::size_t i = 0; i < boxes; ++i)
-        Tell(window_, MessageText(result.Messages[i], result.BrokeOff && i + 1 == count));
-    if (boxes == count && !result.BrokeOff)
-        return;
+        Tell(window_, FromAnsi(result.Messages[i].Text));
     QStringList rest;
     for (std::size_t i = boxes; i < std::min(count, boxes + kMostLines); ++i)
-        rest += MessageText(result.Messages[i], false);
+        rest += FromAnsi(result.Messages[i].Text);
     if (count > boxes + kMostLines)
         rest += QStringLiteral("... and %1 more").arg(count - boxes - kMostLines);
+    if (!rest.isEmpty())
+        Tell(window_, rest.join(QStringLiteral("\r\n")));
     if (result.BrokeOff)
-        rest += QStringLiteral("Only what stands before that in\r\n%1\r\nwas read. It has no file name here, "
-                               "so that saving it "
-                               "does not replace the file.")
-                    .arg(path);
-    Tell(window_, rest.join(QStringLiteral("\r\n")));
+        TellBreakOff(path, result.Messages.back());
+}
+
+void DocumentLifecycle::TellBreakOff(const QString& path, const ReaderMessage& message) {
+    Tell(window_, QStringLiteral("%1\r\n(line %2)").arg(FromAnsi(message.Text)).arg(message.Line));
+    Tell(window_,
+         QStringLiteral("Only what stands before that in\r\n%1\r\nwas read. It has no file name here, "
+                        "so that saving it does not replace the file.")
+             .arg(path));
 }
 
 QString DocumentLifecycle::StartFolder() const { return QFileInfo(session_.CurrentFileName).path(); }

@@ -47,6 +47,7 @@ class DocumentLifecycle : public QObject {
     void LayOutFresh();
     void Take(FsmDocument document, const QString& fileName);
     void TellMessages(const QString& path, const ReadResult& result);
+    void TellBreakOff(const QString& path, const ReaderMessage& message);
     // Whether the command that would lose unsaved work may go on.
     bool GuardUnsavedWork(const QString& title, const QString& question);
     bool GuardBeforeOpen();

@@ -152,16 +152,19 @@ class Reader {
 };
 
 ReadResult Reader::Read() {
+    std::optional<BreakOff> brokeOff;
     try {
         ReadTopLevel();
     } catch (const BreakOff& breakOff) {
-        result_.BrokeOff = true;
-        Tell(breakOff.Why + "; reading stopped there");
+        brokeOff = breakOff;
     }
     if (unknownTags_ > kMostUnknownTags)
         result_.Messages.push_back({NumberText(static_cast<std::int64_t>(unknownTags_ - kMostUnknownTags)) +
                                         " more unknown tags were skipped",
                                     0});
+    result_.BrokeOff = brokeOff.has_value();
+    if (brokeOff)
+        Tell(brokeOff->Why + "; reading stopped there");
     return std::move(result_);
 }
 

@@ -27,7 +27,7 @@ struct ReaderMessage {
 
 struct ReadResult {
     FsmDocument Document;                // what was read up to the end, or up to where reading broke off
-    std::vector<ReaderMessage> Messages; // in the order of the file
+    std::vector<ReaderMessage> Messages; // in the order of the file; the last one says where it broke off
     bool Refused = false;                // the file is no document at all; the one message says why
     bool BrokeOff = false; // a number was out of bounds, or the file ended inside a block or value
 };

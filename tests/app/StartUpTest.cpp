@@ -140,6 +140,20 @@ TEST_F(StartUp, ManyUnknownTagsShareTheLastBox) {
     EXPECT_TRUE(Answers.Seen()[4].Text.ends_with("... and 176 more"));
 }
 
+TEST_F(StartUp, WhereReadingStoppedIsToldBehindHoweverManyUnknownTags) {
+    std::string bytes;
+    for (int i = 0; i < 200; ++i)
+        bytes += "\xA4<TAG" + std::to_string(i) + ">1\xA4/\r\n";
+    for (int i = 0; i < 7; ++i)
+        Answers.Press(QMessageBox::Ok);
+    StartOnBytes(bytes + "\xA4<STATE>101:\xA4/\r\n\r\n");
+    ASSERT_EQ(Answers.Seen().size(), 7u);
+    EXPECT_TRUE(Answers.Seen()[4].Text.ends_with("... and 176 more"));
+    EXPECT_EQ(Answers.Seen()[5].Text,
+              "The number \"101\" of STATE is outside 1..100; reading stopped there\r\n(line 201)");
+    EXPECT_TRUE(Answers.Seen()[6].Text.starts_with("Only what stands before that in\r\n"));
+}
+
 QStringList traced;
 
 TEST_F(StartUp, TheTraceMarksTheStepsOfTheStart) {

@@ -202,6 +202,14 @@ TEST(DocumentReader, OfVeryManyUnknownTagsTheRestIsCounted) {
     EXPECT_EQ(Read(Repeated("$<X>$/\r\n", 1000) + "\r\n").Messages.size(), 1000u);
 }
 
+TEST(DocumentReader, WhereReadingStoppedIsTheLastMessageAlsoBehindVeryManyUnknownTags) {
+    const ReadResult read = Read(Repeated("$<X>$/\r\n", kMostUnknownTags + 5) + "$<STATE>0:$/\r\n\r\n");
+    ASSERT_EQ(read.Messages.size(), kMostUnknownTags + 2);
+    EXPECT_EQ(read.Messages[kMostUnknownTags].Text, "5 more unknown tags were skipped");
+    EXPECT_EQ(read.Messages.back().Line, kMostUnknownTags + 6);
+    EXPECT_TRUE(read.BrokeOff);
+}
+
 TEST(DocumentReader, IndexesTakeBlanksAndStopAtTheFirstOtherCharacter) {
     const ReadResult read = Read("$<STATE>  3x:ignored$/\r\n$<TRANSITIONS>\r\n$<TRANS> 6 : 2$/\r\n"
                                  "$<TACT>7:a:b$/\r\n$</TRANSITIONS>$/\r\n$</STATE>\r\n\r\n");
@@ -407,7 +415,8 @@ TEST(DocumentReaderCost, AMillionBlocksWithoutCloserAreReadOnce) {
     const std::string heads = Repeated(Delimited("$<STATE>1:$/\r\n"), 1'000'000);
     const ReadResult read = ReadDocument(heads);
     EXPECT_TRUE(read.BrokeOff);
-    EXPECT_EQ(read.Messages.back().Text, "998998 more unknown tags were skipped");
+    ASSERT_EQ(read.Messages.size(), kMostUnknownTags + 2);
+    EXPECT_EQ(read.Messages[kMostUnknownTags].Text, "998998 more unknown tags were skipped");
 }
 
 TEST(DocumentReaderCost, AMillionValuesOfOneFieldAreReadOnce) {
