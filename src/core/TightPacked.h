@@ -11,8 +11,7 @@
 //   0
 //   state Name Tooltip EntryCode ExitCode TimeConst TimingVar TimerId TimingMode
 //     row target Action                             for each row 4..54 whose cell is not empty
-//     0 0                                           these two lines and this one for each state that is not
-//     empty
+//     0 0                                           these three lines for each state that is not empty
 //   0
 //   FsmName CodeSeg HeaderComment InitSeg NvEm0Data TestSeg LaunchSeg Instances
 //
