@@ -4,10 +4,12 @@
 #include "support/ui/TableFixture.h"
 
 #include "build/BuilderScript.h"
+#include "core/DocumentWriter.h"
 #include "editors/ui/CodePane.h"
 
 #include <QAction>
 #include <QApplication>
+#include <QDir>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
@@ -81,6 +83,16 @@ TEST_F(SideWindowsTest, ADocumentWithoutAFileIsGeneratedIntoTheWindowAlone) {
     EXPECT_TRUE(
         Errors()->toPlainText().startsWith(QStringLiteral("** Error ** You must supply a distinguishing")));
     EXPECT_TRUE(Code().starts_with("Orvane reports You must supply"));
+}
+
+TEST_F(SideWindowsTest, AProgramWithoutErrorsOfADocumentWithoutAFileIsNotWritten) {
+    WriteFile(QStringLiteral("ORVANE_INI.zfsm"), WriteDocument(PumpDocument()));
+    Start({QStringLiteral("/nosplash")});
+    Trigger("mnuCodeGenerate");
+    EXPECT_EQ(Errors()->toPlainText(), QStringLiteral("Errors and warnings\n"));
+    EXPECT_NE(Code().find("\r\n;By Orvane from :\r\n"), std::string::npos);
+    const QStringList files = QDir(Path({})).entryList(QDir::Files | QDir::Hidden);
+    EXPECT_EQ(files, QStringList{QStringLiteral("ORVANE_INI.zfsm")});
 }
 
 TEST_F(SideWindowsTest, ALineOfTheReportLeadsToItsCell) {

@@ -19,7 +19,7 @@ constexpr int kHelpPage = 4947;
 constexpr double kErrorShare = 0.3;    // of the window's height
 constexpr int kGap = 50 / 15;          // pixels: 50 twips between the panes
 constexpr int kQuietWhileHidden = 200; // milliseconds; a hidden window can wait for a pause in the typing
-constexpr std::size_t kLargeProgram = 64 * 1024; // bytes; some 3000 lines, a millisecond to show
+constexpr std::size_t kLargeProgram = 64 * 1024; // bytes; some 3000 lines, two milliseconds to show
 constexpr QSize kFirstSize{760, 640};
 
 } // namespace
