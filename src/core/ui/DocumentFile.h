@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Documents as files, and other files that must not be lost. What goes wrong comes back as a text for the user.
+// Documents, and other files that must not be lost. What goes wrong comes back as a text for the user.
 #pragma once
 
 #include "core/DocumentReader.h"
