@@ -46,33 +46,12 @@ QHBoxLayout* EditorDialog::BuildButtons() {
     return row;
 }
 
-QHBoxLayout* EditorDialog::BuildNameRow(DocumentLineEdit*& txtName) {
-    txtName = new DocumentLineEdit(this);
-    txtName->setObjectName(QStringLiteral("txtName"));
-    auto* lblName = new QLabel(QStringLiteral("Name"), this);
-    lblName->setObjectName(QStringLiteral("lblName"));
-    lblName->setBuddy(txtName);
-    auto* row = new QHBoxLayout;
-    row->addWidget(lblName);
-    row->addWidget(txtName);
-    return row;
-}
-
 QLabel* EditorDialog::BuildPrompt(const char* name, const QString& text) {
     auto* prompt = new QLabel(text, this);
     prompt->setObjectName(QString::fromLatin1(name));
     prompt->setTextFormat(Qt::PlainText);
     prompt->setWordWrap(true);
     return prompt;
-}
-
-QWidget* EditorDialog::BuildPage(QLabel* prompt, QWidget* field) {
-    auto* page = new QWidget(this);
-    auto* layout = new QVBoxLayout(page);
-    layout->addWidget(prompt);
-    layout->addWidget(field, 1);
-    field->setAccessibleName(prompt->text());
-    return page;
 }
 
 void EditorDialog::LayOut(const std::function<void(QVBoxLayout&)>& fill, EditorStatusBar* statusBar) {

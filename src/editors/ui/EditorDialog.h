@@ -43,10 +43,7 @@ class EditorDialog : public TabStops<QDialog> {
     virtual void ShowLeftOut(const QString& characters) = 0;
 
     QHBoxLayout* BuildButtons();
-    QHBoxLayout* BuildNameRow(DocumentLineEdit*& txtName);
     QLabel* BuildPrompt(const char* name, const QString& text);
-    // A tab with a prompt above what it asks for.
-    QWidget* BuildPage(QLabel* prompt, QWidget* field);
     // All of the dialog above its status bar.
     void LayOut(const std::function<void(QVBoxLayout&)>& fill, EditorStatusBar* statusBar);
 

@@ -5,7 +5,6 @@
 #include "editors/ui/DocumentLineEdit.h"
 #include "editors/ui/DocumentTextEdit.h"
 #include "editors/ui/EditorStatusBar.h"
-#include "editors/ui/LeftOut.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -27,41 +26,26 @@ constexpr PaneHandlers kEventCode = {
 } // namespace
 
 frmEventEdit::frmEventEdit(QWidget* parent)
-    : EditorDialog(QStringLiteral("frmEventEdit"), kHelpPage, parent) {
+    : TabbedEditorDialog(QStringLiteral("frmEventEdit"), kHelpPage, parent) {
     setWindowTitle(QStringLiteral("Event Definition"));
-    StatusBar1 = new EditorStatusBar(this);
     StatusBar1->ShowOvertype(false);
-    LayOut(
-        [this](QVBoxLayout& content) {
-            content.addLayout(BuildNameRow(txtName));
-            BuildTabs();
-            content.addWidget(SSTab1, 1);
-            content.addLayout(BuildButtons());
-        },
-        StatusBar1);
+    LayOutTabs(tr("Parts of the event"), [this] { BuildTabs(); });
     ConnectFields();
     resize(kStartSize);
 }
 
 void frmEventEdit::BuildTabs() {
-    SSTab1 = new QTabWidget(this);
-    SSTab1->setObjectName(QStringLiteral("SSTab1"));
-    SSTab1->setAccessibleName(tr("Parts of the event"));
     txtEventCode = new CodePane(kEventCode, this);
     txtEventCode->setObjectName(QStringLiteral("txtEventCode"));
     txtComment = new DocumentTextEdit(this);
     txtComment->setObjectName(QStringLiteral("txtComment"));
-    SSTab1->addTab(
-        BuildPage(
-            BuildPrompt("lblCodePrompt",
-                        QStringLiteral("Enter code here that evaluates to TRUE when the event happens")),
-            txtEventCode),
-        QStringLiteral("Code"));
-    SSTab1->addTab(BuildPage(BuildPrompt("lblTooltipPrompt",
-                                         QStringLiteral("This text become a tooltip style comment for the "
-                                                        "event. It has no effect on the program")),
-                             txtComment),
-                   QStringLiteral("ToolTip"));
+    QLabel* codePrompt = BuildPrompt(
+        "lblCodePrompt", QStringLiteral("Enter code here that evaluates to TRUE when the event happens"));
+    QLabel* commentPrompt =
+        BuildPrompt("lblTooltipPrompt", QStringLiteral("This text become a tooltip style comment for the "
+                                                       "event. It has no effect on the program"));
+    AddPage(QStringLiteral("Code"), codePrompt, txtEventCode);
+    AddPage(QStringLiteral("ToolTip"), commentPrompt, txtComment);
 }
 
 void frmEventEdit::ConnectFields() {
@@ -108,9 +92,5 @@ void frmEventEdit::Accept() {
 }
 
 void frmEventEdit::RefreshCaretReadOut() { StatusBar1->ShowCaret(txtEventCode->CaretReadOut()); }
-
-void frmEventEdit::ShowLeftOut(const QString& characters) {
-    StatusBar1->showMessage(LeftOutMessage(characters));
-}
 
 } // namespace orvane

@@ -3,14 +3,12 @@
 
 #include "aids/Vocabulary.h"
 #include "core/EventRecord.h"
-#include "editors/ui/EditorDialog.h"
-
-class QTabWidget;
+#include "editors/ui/TabbedEditorDialog.h"
 
 namespace orvane {
 
 // Edits one event: its name, the code that tests for it, and its comment. Any contents will do.
-class frmEventEdit : public EditorDialog {
+class frmEventEdit : public TabbedEditorDialog {
     Q_OBJECT
 
   public:
@@ -23,7 +21,6 @@ class frmEventEdit : public EditorDialog {
 
   protected:
     void Activate() override;
-    void ShowLeftOut(const QString& characters) override;
 
   private:
     void BuildTabs();
@@ -32,11 +29,8 @@ class frmEventEdit : public EditorDialog {
     void Accept();
     void RefreshCaretReadOut();
 
-    DocumentLineEdit* txtName;
-    QTabWidget* SSTab1;
     CodePane* txtEventCode;
     DocumentTextEdit* txtComment;
-    EditorStatusBar* StatusBar1;
     EventRecord workingEvent_;
 };
 

@@ -5,7 +5,6 @@
 #include "editors/ui/CodePane.h"
 #include "editors/ui/DocumentLineEdit.h"
 #include "editors/ui/EditorStatusBar.h"
-#include "editors/ui/LeftOut.h"
 #include "editors/ui/PaneLook.h"
 #include "editors/ui/SuggestionFrame.h"
 
@@ -31,21 +30,20 @@ const QString kPolytaskPrompt =
 const QString kStartupPrompt =
     QStringLiteral("Here you can enter any code needed at startup, before the main task gets under way.");
 
+// Between the prompt of the page and its pane.
+void AddSuggestion(QWidget& page, SuggestionFrame* frame) {
+    static_cast<QVBoxLayout*>(page.layout())->insertWidget(1, frame);
+}
+
 } // namespace
 
 frmGeneralCodeEdit::frmGeneralCodeEdit(GeneralCode& general, QWidget* parent)
-    : EditorDialog(QStringLiteral("frmGeneralCodeEdit"), kHelpPage, parent), general_(general) {
+    : TabbedEditorDialog(QStringLiteral("frmGeneralCodeEdit"), kHelpPage, parent), general_(general) {
     setWindowTitle(QStringLiteral("General code"));
-    StatusBar1 = new EditorStatusBar(this);
-    LayOut(
-        [this](QVBoxLayout& content) {
-            content.addLayout(BuildNameRow(txtName));
-            BuildPanes();
-            BuildTabs();
-            content.addWidget(SSTab1, 1);
-            content.addLayout(BuildButtons());
-        },
-        StatusBar1);
+    LayOutTabs(tr("Segments"), [this] {
+        BuildPanes();
+        BuildTabs();
+    });
     ConnectFields();
     ConnectOptions();
     ShowGeneralCode();
@@ -54,9 +52,6 @@ frmGeneralCodeEdit::frmGeneralCodeEdit(GeneralCode& general, QWidget* parent)
 
 // In the order in which F6 goes through them.
 void frmGeneralCodeEdit::BuildPanes() {
-    SSTab1 = new QTabWidget(this);
-    SSTab1->setObjectName(QStringLiteral("SSTab1"));
-    SSTab1->setAccessibleName(tr("Segments"));
     fraCodeSuggestion =
         new SuggestionFrame({"fraCodeSuggestion", "lblSuggestCodeSeg", "cmdAcceptCodeSuggestion"}, this);
     fraInitSuggestion =
@@ -89,21 +84,15 @@ void frmGeneralCodeEdit::BuildTabs() {
     QLabel* headPrompt =
         BuildPrompt("lblHeadPrompt", QStringLiteral("Use this for a comment to describe your FSM. Appears "
                                                     "just before the main code"));
-    SSTab1->addTab(BuildSuggestingPage(lblCodePrompt, fraCodeSuggestion, txtCodeSeg), {});
+    AddSuggestion(*AddPage({}, lblCodePrompt, txtCodeSeg), fraCodeSuggestion);
     txtCodeSeg->setAccessibleName(
         tr("Startup and supporting code")); // its prompt comes and goes with Polytask
-    SSTab1->addTab(BuildSuggestingPage(initPrompt, fraInitSuggestion, txtInitSeg), QStringLiteral("INITSEG"));
-    SSTab1->addTab(BuildPage(dataPrompt, txtNV0Data), QStringLiteral("NVEM0DATA"));
-    SSTab1->addTab(BuildPage(testPrompt, txtTestSeg), QStringLiteral("TESTSEG"));
-    SSTab1->addTab(BuildPage(headPrompt, txtHeader), QStringLiteral("Header"));
+    AddSuggestion(*AddPage(QStringLiteral("INITSEG"), initPrompt, txtInitSeg), fraInitSuggestion);
+    AddPage(QStringLiteral("NVEM0DATA"), dataPrompt, txtNV0Data);
+    AddPage(QStringLiteral("TESTSEG"), testPrompt, txtTestSeg);
+    AddPage(QStringLiteral("Header"), headPrompt, txtHeader);
     SSTab1->addTab(BuildLaunchPage(), QStringLiteral("LAUNCHSEG"));
     SSTab1->addTab(BuildInstancesPage(), QStringLiteral("Instances"));
-}
-
-QWidget* frmGeneralCodeEdit::BuildSuggestingPage(QLabel* prompt, SuggestionFrame* frame, CodePane* pane) {
-    QWidget* page = BuildPage(prompt, pane);
-    static_cast<QVBoxLayout*>(page->layout())->insertWidget(1, frame);
-    return page;
 }
 
 QWidget* frmGeneralCodeEdit::BuildLaunchPage() {
@@ -257,10 +246,6 @@ void frmGeneralCodeEdit::FocusPaneOfTab() {
 void frmGeneralCodeEdit::RefreshCaretReadOut() {
     const auto tab = static_cast<std::size_t>(SSTab1->currentIndex());
     StatusBar1->ShowCaret(tab < panes_.size() ? panes_[tab]->CaretReadOut() : QString());
-}
-
-void frmGeneralCodeEdit::ShowLeftOut(const QString& characters) {
-    StatusBar1->showMessage(LeftOutMessage(characters));
 }
 
 } // namespace orvane

@@ -3,12 +3,11 @@
 
 #include "aids/Vocabulary.h"
 #include "core/GeneralCode.h"
-#include "editors/ui/EditorDialog.h"
+#include "editors/ui/TabbedEditorDialog.h"
 
 #include <array>
 
 class QCheckBox;
-class QTabWidget;
 
 namespace orvane {
 
@@ -17,7 +16,7 @@ class SuggestionFrame;
 // Edits what belongs to the machine as a whole. Each edit is in the general code at once, so that the program
 // generated meanwhile shows it; Cancel puts back the texts, but neither the instance count nor the launch
 // mark.
-class frmGeneralCodeEdit : public EditorDialog {
+class frmGeneralCodeEdit : public TabbedEditorDialog {
     Q_OBJECT
 
   public:
@@ -35,13 +34,11 @@ class frmGeneralCodeEdit : public EditorDialog {
   protected:
     void Activate() override;
     void Cancel() override;
-    void ShowLeftOut(const QString& characters) override;
 
   private:
     void BuildPanes();
     CodePane* BuildPane(const char* name, bool findKey = true);
     void BuildTabs();
-    QWidget* BuildSuggestingPage(QLabel* prompt, SuggestionFrame* frame, CodePane* pane);
     QWidget* BuildLaunchPage();
     QWidget* BuildInstancesPage();
     void ConnectFields();
@@ -61,8 +58,6 @@ class frmGeneralCodeEdit : public EditorDialog {
     GeneralCode snapshot_; // as it was when the dialog was opened
     bool polytask_ = false;
 
-    DocumentLineEdit* txtName;
-    QTabWidget* SSTab1;
     QLabel* lblCodePrompt;
     CodePane* txtCodeSeg;
     CodePane* txtInitSeg;
@@ -74,7 +69,6 @@ class frmGeneralCodeEdit : public EditorDialog {
     SuggestionFrame* fraInitSuggestion;
     QCheckBox* chkLAUNCHSEG;
     DocumentLineEdit* txtInstanceCount;
-    EditorStatusBar* StatusBar1;
 };
 
 } // namespace orvane

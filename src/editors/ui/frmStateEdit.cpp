@@ -6,7 +6,6 @@
 #include "editors/ui/DocumentLineEdit.h"
 #include "editors/ui/DocumentTextEdit.h"
 #include "editors/ui/EditorStatusBar.h"
-#include "editors/ui/LeftOut.h"
 #include "editors/ui/TimeoutPage.h"
 
 #include <QHBoxLayout>
@@ -33,25 +32,14 @@ constexpr PaneHandlers kExitCode = {}; // for documentation only: never generate
 } // namespace
 
 frmStateEdit::frmStateEdit(QWidget* parent)
-    : EditorDialog(QStringLiteral("frmStateEdit"), kHelpPage, parent) {
+    : TabbedEditorDialog(QStringLiteral("frmStateEdit"), kHelpPage, parent) {
     setWindowTitle(QStringLiteral("State Definition"));
-    StatusBar1 = new EditorStatusBar(this);
-    LayOut(
-        [this](QVBoxLayout& content) {
-            content.addLayout(BuildNameRow(txtName));
-            BuildTabs();
-            content.addWidget(SSTab1, 1);
-            content.addLayout(BuildButtons());
-        },
-        StatusBar1);
+    LayOutTabs(tr("Parts of the state"), [this] { BuildTabs(); });
     ConnectFields();
     resize(kStartSize);
 }
 
 void frmStateEdit::BuildTabs() {
-    SSTab1 = new QTabWidget(this);
-    SSTab1->setObjectName(QStringLiteral("SSTab1"));
-    SSTab1->setAccessibleName(tr("Parts of the state"));
     txtEntryCode = new CodePane(kEntryCode, this);
     txtEntryCode->setObjectName(QStringLiteral("txtEntryCode"));
     txtComment = new DocumentTextEdit(this);
@@ -68,10 +56,10 @@ void frmStateEdit::BuildTabs() {
     QLabel* exitPrompt =
         BuildPrompt("lblExitPrompt", QStringLiteral("Code entered here will be executed just once whenever "
                                                     "the program leaves this state."));
-    SSTab1->addTab(BuildPage(entryPrompt, txtEntryCode), QStringLiteral("Entry action"));
-    SSTab1->addTab(BuildPage(commentPrompt, txtComment), QStringLiteral("Comment"));
+    AddPage(QStringLiteral("Entry action"), entryPrompt, txtEntryCode);
+    AddPage(QStringLiteral("Comment"), commentPrompt, txtComment);
     SSTab1->addTab(timeout_, QStringLiteral("Timeout"));
-    SSTab1->addTab(BuildPage(exitPrompt, txtExitCode), QStringLiteral("Exit action"));
+    AddPage(QStringLiteral("Exit action"), exitPrompt, txtExitCode);
 }
 
 void frmStateEdit::ConnectFields() {
@@ -192,10 +180,6 @@ void frmStateEdit::RefreshCaretReadOut() {
     default:
         StatusBar1->ShowCaret({});
     }
-}
-
-void frmStateEdit::ShowLeftOut(const QString& characters) {
-    StatusBar1->showMessage(LeftOutMessage(characters));
 }
 
 } // namespace orvane

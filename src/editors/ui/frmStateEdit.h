@@ -4,9 +4,7 @@
 #include "aids/Vocabulary.h"
 #include "core/StateRecord.h"
 #include "editors/TimingOptions.h"
-#include "editors/ui/EditorDialog.h"
-
-class QTabWidget;
+#include "editors/ui/TabbedEditorDialog.h"
 
 namespace orvane {
 
@@ -14,7 +12,7 @@ class TimeoutPage;
 
 // Edits one state: its name, comment, entry and exit action, and its timeout. A timeout without a limit is
 // refused.
-class frmStateEdit : public EditorDialog {
+class frmStateEdit : public TabbedEditorDialog {
     Q_OBJECT
 
   public:
@@ -30,7 +28,6 @@ class frmStateEdit : public EditorDialog {
 
   protected:
     void Activate() override;
-    void ShowLeftOut(const QString& characters) override;
 
   private:
     void BuildTabs();
@@ -43,13 +40,10 @@ class frmStateEdit : public EditorDialog {
     void FocusPaneOfTab();
     void RefreshCaretReadOut();
 
-    DocumentLineEdit* txtName;
-    QTabWidget* SSTab1;
     CodePane* txtEntryCode;
     DocumentTextEdit* txtComment;
     TimeoutPage* timeout_;
     CodePane* txtExitCode;
-    EditorStatusBar* StatusBar1;
     StateRecord workingState_;
 };
 
