@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The least that a Qt program with a main window can do: what Orvane's start is measured beside. With an argument
-// the window has a menu of that name: the first text that a program shows makes Qt read the system's fonts.
+// The least that a Qt program with a main window can do: what Orvane's start is measured beside. With an
+// argument the window has a menu of that name: the first text that a program shows makes Qt read the system's
+// fonts.
 #include "ui/FirstPaint.h"
 
 #include <QMainWindow>

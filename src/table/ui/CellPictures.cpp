@@ -42,7 +42,7 @@ void CellPictures::Draw(QPainter& painter, const QRect& area, const QString& tex
 QPixmap CellPictures::Picture(const Cell& cell) {
     if (const QPixmap* kept = pictures_.object(cell))
         return *kept;
-    const QPixmap picture = Painted(cell);
+    QPixmap picture = Painted(cell);
     pictures_.insert(cell, new QPixmap(picture), qsizetype{picture.width()} * picture.height() * 4);
     return picture;
 }
