@@ -42,8 +42,7 @@ frmBuilder::frmBuilder(std::string& buildFile, QWidget* parent)
     connect(cmdRun, &QPushButton::clicked, this, &frmBuilder::GoGoGo);
     connect(cmdSave, &QPushButton::clicked, this, &frmBuilder::Save);
     connect(cmdSelectFile, &QPushButton::clicked, this, &frmBuilder::SelectFile);
-    connect(txtFileName, &QLineEdit::textChanged, this,
-            [this](const QString& path) { buildFile_ = ToAnsi(path).Text; });
+    connect(txtFileName, &QLineEdit::textChanged, this, [this](const QString& path) { StoreFileName(path); });
 }
 
 void frmBuilder::BuildControls() {
@@ -164,8 +163,11 @@ void frmBuilder::Load(const QString& path) {
 
 void frmBuilder::MakeInitialScript() {
     ShowScript({});
+    // A folder whose name the script cannot hold is left out: the program is in the folder of the script.
+    const QString document =
+        LineOutsideAnsi(documentPath_).isEmpty() ? documentPath_ : QFileInfo(documentPath_).fileName();
     QStringList lines =
-        QString::fromStdString(StarterScript(documentPath_.toStdString())).split(QStringLiteral("\r\n"));
+        QString::fromStdString(StarterScript(document.toStdString())).split(QStringLiteral("\r\n"));
     lines.removeLast(); // what stands behind the last line end
     for (const QString& line : lines)
         AddSource(line);
@@ -173,6 +175,12 @@ void frmBuilder::MakeInitialScript() {
     SetFileName(DefaultName());
     if (!DefaultName().isEmpty())
         Save();
+}
+
+// A path that the document cannot hold is not kept in part: the script beside the document is found without.
+void frmBuilder::StoreFileName(const QString& path) {
+    const AnsiText stored = ToAnsi(path);
+    buildFile_ = stored.LeftOut ? std::string() : stored.Text;
 }
 
 void frmBuilder::AddSource(const QString& text) {

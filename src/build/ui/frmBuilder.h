@@ -65,6 +65,7 @@ class frmBuilder : public TabStops<QWidget> {
     void CheckForChangeOnDisk();
     void ShowScript(const QString& script);
     void SetFileName(const QString& path);
+    void StoreFileName(const QString& path);
     QString ScriptText() const;
     QString DefaultName() const;
     void Warn(const QString& text);

@@ -288,6 +288,19 @@ TEST_F(frmBuilderTest, AScriptWithCharactersThatItsFileCannotHoldIsNotSaved) {
     Activate(); // nothing has changed on disk
 }
 
+TEST_F(frmBuilderTest, InAFolderThatTheScriptCannotNameTheProgramStandsWithoutIt) {
+    const QString folder = QString::fromUtf8("\xE6\xB0\xB4/");
+    ASSERT_TRUE(QDir(Path({})).mkdir(folder));
+    Open(folder + QStringLiteral("pump.zfsm"));
+    Show();
+    EXPECT_EQ(Read(folder + QStringLiteral("pump.b1d")).toStdString(), StarterScript("pump.zfsm"));
+    EXPECT_EQ(FileName(), Path(folder + QStringLiteral("pump.b1d")));
+    EXPECT_EQ(buildFile_, ""); // no part of it, which would name another file
+    Press("cmdRun");
+    ASSERT_EQ(opened_.Addresses.size(), 1);
+    EXPECT_EQ(opened_.Addresses[0].toLocalFile(), FileName());
+}
+
 TEST_F(frmBuilderTest, AScriptThatIsGoneIsNoChangeOnDisk) {
     Open(QStringLiteral("pump.zfsm"));
     Show();
