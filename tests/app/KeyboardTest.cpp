@@ -93,12 +93,11 @@ TEST_F(Keyboard, F6GoesThroughTheTimeoutOfAState) {
     InNextDialog(Answers, [](QWidget& dialog) {
         Tabs(dialog)->setCurrentIndex(2);
         dialog.findChild<QRadioButton*>(QStringLiteral("optStartTiming"))->click();
-        dialog.findChild<QRadioButton*>(QStringLiteral("optTimeCONST"))->click();
+        dialog.findChild<QRadioButton*>(QStringLiteral("optTimeVAR"))->click();
         Tabs(dialog)->tabBar()->setFocus();
-        // Of options that exclude one another the first stands for all; the arrow keys go from one to the
-        // next.
-        EXPECT_EQ(Round(dialog), (Names{kTabs, "optNoTimeOut", "txtTimerID", "cmdTimeHelp", "optTimeCONST",
-                                        "txtTimeCONST", "cmdOK", "cmdCancel", "txtName"}));
+        // Of options that exclude one another the chosen one; the arrow keys choose another.
+        EXPECT_EQ(Round(dialog), (Names{kTabs, "optStartTiming", "txtTimerID", "cmdTimeHelp", "optTimeVAR",
+                                        "txtTimeVAR", "cmdOK", "cmdCancel", "txtName"}));
         Press(dialog, "cmdCancel");
     });
     Click(0, 1);

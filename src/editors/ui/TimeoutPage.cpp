@@ -33,6 +33,14 @@ void KeepPlaceWhenHidden(QWidget* frame) {
     frame->setSizePolicy(policy);
 }
 
+// Tab and F6 come to the chosen one of several options; Qt leads them to the first until one has had the
+// focus.
+void LeadKeysTo(const QRadioButton& chosen) {
+    for (QRadioButton* option :
+         chosen.parentWidget()->findChildren<QRadioButton*>(QString(), Qt::FindDirectChildrenOnly))
+        option->setFocusPolicy(option == &chosen ? Qt::StrongFocus : Qt::ClickFocus);
+}
+
 } // namespace
 
 TimeoutPage::TimeoutPage(QWidget* parent) : QWidget(parent) {
@@ -156,9 +164,10 @@ void TimeoutPage::BuildTimingHelp() {
 }
 
 void TimeoutPage::ConnectOption(QRadioButton* option, void (TimeoutPage::*choose)()) {
-    connect(option, &QRadioButton::toggled, this, [this, choose](bool on) {
+    connect(option, &QRadioButton::toggled, this, [this, option, choose](bool on) {
         if (!on)
             return;
+        LeadKeysTo(*option);
         (this->*choose)();
         Q_EMIT OptionChosen();
     });
