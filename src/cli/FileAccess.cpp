@@ -7,7 +7,6 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
-#include <chrono>
 #include <cstdio>
 #include <memory>
 #include <random>
@@ -23,8 +22,6 @@ namespace orvane::cli {
 namespace fs = std::filesystem;
 
 namespace {
-
-constexpr std::chrono::milliseconds kPatience{500}; // with whoever has a file open that is to be replaced
 
 enum class Mode { Read, Change, Write, CreateNew };
 
@@ -226,7 +223,7 @@ std::error_code WriteWholeFile(const fs::path& path, std::string_view bytes, Dur
         return make_error_code(std::errc::is_a_directory);
     if ((fs::exists(older) && !fs::is_regular_file(older)) || NamesOpenFile(path))
         return WriteDirectly(path, bytes);
-    return Patiently(kPatience, [&] { return Replace(path, older, bytes, durability); });
+    return Patiently(kSavingPatience, [&] { return Replace(path, older, bytes, durability); });
 }
 
 } // namespace orvane::cli

@@ -10,6 +10,9 @@
 
 namespace orvane {
 
+// With whoever has a file open that the user or a script saves, and waits for.
+inline constexpr std::chrono::milliseconds kSavingPatience{500};
+
 // Windows refuses to replace a file that someone has open, if only for a moment: a virus scanner, an editor
 // that reads it again, this program when a document is named twice. What fails for that reason is attempted
 // again until it succeeds or `patience` is over. Other systems do not refuse: one attempt. Returns how the

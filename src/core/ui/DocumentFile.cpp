@@ -13,8 +13,6 @@ namespace orvane {
 
 namespace {
 
-constexpr std::chrono::milliseconds kPatience{500}; // with whoever has a file open that is to be replaced
-
 DocumentFile Failed(const QString& why) { return {std::nullopt, why}; }
 
 } // namespace
@@ -38,7 +36,7 @@ DocumentFile ReadDocumentFile(const QString& path) {
 std::optional<QString> WriteWholeFile(const QString& path, std::string_view bytes) {
     const auto size = static_cast<qint64>(bytes.size());
     QString why;
-    const std::error_code failure = Patiently(kPatience, [&] {
+    const std::error_code failure = Patiently(kSavingPatience, [&] {
         QSaveFile file(path);
         if (file.open(QIODevice::WriteOnly) && file.write(bytes.data(), size) == size && file.commit())
             return std::error_code();
