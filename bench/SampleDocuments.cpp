@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "SampleDocuments.h"
 
-#include "core/NumberText.h"
 #include "core/TimingMode.h"
+#include "text/NumberText.h"
 
 namespace orvane {
 

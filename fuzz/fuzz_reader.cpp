@@ -2,9 +2,9 @@
 // Any bytes are read, and what was read is written: reading that again must give the same document and the
 // same bytes.
 #include "Require.h"
-#include "core/AnsiText.h"
 #include "core/DocumentReader.h"
 #include "core/DocumentWriter.h"
+#include "text/AnsiText.h"
 
 #include <algorithm>
 #include <cstdint>

@@ -2,8 +2,8 @@
 // Any bytes are unpacked over a document that already holds something: the document stays one that packs, and
 // its image unpacks to itself.
 #include "Require.h"
-#include "core/AnsiText.h"
 #include "core/TightPacked.h"
+#include "text/AnsiText.h"
 
 #include <cstdint>
 #include <string>

@@ -2,7 +2,7 @@
 // Any bytes are read as a vocabulary: what comes out is no longer than what went in, holds no line end of the
 // file but those between words, and reads the same once more.
 #include "Require.h"
-#include "aids/Vocabulary.h"
+#include "text/Vocabulary.h"
 
 #include <cstdint>
 #include <string>

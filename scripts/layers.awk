@@ -1,20 +1,22 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 # The rules that scripts/layers checks; reads the source files and prints each include that breaks one.
 BEGIN {
-    # Which engines an engine may use beside its own. The ui folder of a subsystem may use the same ones, and
-    # the two at the bottom.
-    uses["core"] = ""
-    uses["aids"] = ""
-    uses["codegen"] = "core"
-    uses["table"] = "core"
-    uses["build"] = "core"
-    uses["editors"] = "core codegen aids"
-    bottom = "core aids"
-
-    # The controls that any ui folder may take from another one. Windows meet in src/app.
-    shared["editors/ui/CodePane.h"]
-    shared["aids/ui/frmMyToolTip.h"]
-    shared["aids/ui/OpenInDesktop.h"]
+    # Who may use whom beside itself; whatever is not named here has no place. The ui folder of a part is a
+    # room: it may use its own engine and what rooms may.
+    uses["text"] = ""
+    uses["files"] = "text"
+    uses["core"] = "text"
+    uses["table"] = uses["codegen"] = uses["editors"] = uses["builder"] = uses["welcome"] = "core text"
+    uses["review"] = "core text"
+    uses["find"] = "core text table"
+    uses["run"] = uses["diagram"] = uses["export"] = "core text codegen"
+    uses["session"] = "core table files text"
+    uses["recovery"] = "core text"
+    uses["kit"] = "core text files"
+    room = "session core text files kit"
+    engines = "core text files table codegen editors builder welcome find run diagram review export"
+    uses["cli"] = engines
+    uses["app"] = engines " session kit"
 }
 
 function complain(why) {
@@ -26,21 +28,17 @@ function lists(words, word) {
     return index(" " words " ", " " word " ") > 0
 }
 
-# core/ui holds what every part of the desktop stands on, and windows, which are nobody else's.
-function is_shared(name) {
-    return name in shared || name ~ /^core\/ui\// && name !~ /\/frm/
-}
-
 function of_qt(name) {
     return name ~ /^Q[A-Z]/ || name ~ /^Qsci\// || name ~ /^(qt6\/)?[Qq][A-Za-z]*(\/|\.h$)/
 }
 
-# Where the file stands: its tree, its subsystem (or app, cli), and whether it is of the desktop.
+# Where the file stands: its tree, its part of the program, and whether it may know Qt.
 FNR == 1 {
     count = split(FILENAME, path, "/")
     tree = path[1]
-    subsystem = count > 2 ? path[2] : ""
-    desktop = subsystem == "app" || FILENAME ~ /\/ui\//
+    own = count > 2 ? path[2] : ""
+    is_room = FILENAME ~ /\/ui\//
+    desktop = own == "app" || own == "kit" || is_room
 }
 
 /^[ \t]*#[ \t]*include[ \t]*[<"]/ {
@@ -50,16 +48,21 @@ FNR == 1 {
     sub(/^[<"]/, "", header)
     sub(/[>"].*$/, "", header)
 
+    if (tree == "src" && own != "" && !(own in uses)) {
+        complain("scripts/layers.awk does not say whom this part may use")
+        next
+    }
     if (of_qt(header)) {
         if (!desktop)
-            complain("Qt belongs to the ui folders and src/app")
+            complain("Qt belongs to the ui folders, src/kit and src/app")
         next
     }
 
     split(header, part, "/")
     target = part[1]
-    of_program = target in uses || target == "app" || target == "cli"
-    target_desktop = target == "app" || header ~ /^[a-z]+\/ui\//
+    of_program = target in uses
+    target_room = header ~ /^[a-z]+\/ui\//
+    target_desktop = target == "app" || target == "kit" || target_room
 
     if (header ~ /(^|\/)\.\.?\//)
         complain("write the path from src/")
@@ -71,16 +74,18 @@ FNR == 1 {
     else if (quoted && !of_program) {
         if (!(desktop && header ~ /\.moc$/))
             complain("write the path from src/")
-    } else if (!of_program || target == subsystem && (desktop || !target_desktop) || desktop && is_shared(header))
+    } else if (!of_program || target == own && (desktop || !target_desktop))
         next
     else if (target == "app" || target == "cli")
         complain("nothing includes a program")
-    else if (subsystem == "app")
+    else if (target_room && own != "app")
+        complain(desktop ? "rooms meet only in src/app" : "an engine does not use the desktop")
+    else if (target == "kit" && !desktop)
+        complain("an engine does not use the desktop")
+    else if (own == "app" && target_room)
         next
-    else if (target_desktop)
-        complain(desktop ? "windows of two subsystems meet only in src/app" : "an engine does not use the desktop")
-    else if (subsystem != "cli" && !lists(uses[subsystem], target) && !(desktop && lists(bottom, target)))
-        complain("the " subsystem " subsystem does not use " target)
+    else if (!lists(is_room ? room : uses[own], target))
+        complain((is_room ? "a room" : "the " own " part") " does not use " target)
 }
 
 END { exit failed }

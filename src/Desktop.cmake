@@ -15,6 +15,7 @@ endif()
 
 file(GLOB desktop_sources CONFIGURE_DEPENDS
   ${CMAKE_CURRENT_LIST_DIR}/*/ui/*.h ${CMAKE_CURRENT_LIST_DIR}/*/ui/*.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/kit/*.h ${CMAKE_CURRENT_LIST_DIR}/kit/*.cpp
   ${CMAKE_CURRENT_LIST_DIR}/app/*.h ${CMAKE_CURRENT_LIST_DIR}/app/*.cpp)
 list(REMOVE_ITEM desktop_sources ${CMAKE_CURRENT_LIST_DIR}/app/main.cpp)
 

@@ -2,8 +2,8 @@
 // Opens examples in the real main window, opens every other window from there as a user would, and saves what
 // they show: orvane_pictures EXAMPLES FOLDER. Runs on the offscreen platform, so that a picture does not
 // depend on anybody's desktop.
-#include "app/Logo.h"
 #include "app/frmTable.h"
+#include "kit/Logo.h"
 
 #include <QAction>
 #include <QApplication>

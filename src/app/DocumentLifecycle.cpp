@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/DocumentLifecycle.h"
 
-#include "core/ui/AnsiString.h"
-#include "core/ui/DocumentFile.h"
-#include "core/ui/UserMessageBox.h"
+#include "kit/AnsiString.h"
+#include "kit/DocumentFile.h"
+#include "kit/UserMessageBox.h"
 
 #include <QDir>
 #include <QFileDialog>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "aids/Vocabulary.h"
 #include "core/FsmDocument.h"
+#include "text/Vocabulary.h"
 
 #include <QObject>
 

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/HelpMenu.h"
 
-#include "aids/ui/OpenInDesktop.h"
-#include "aids/ui/WebAddresses.h"
-#include "app/Logo.h"
 #include "app/Remembered.h"
 #include "core/ProgramVersion.h"
-#include "core/ui/UserMessageBox.h"
+#include "kit/Logo.h"
+#include "kit/OpenInDesktop.h"
+#include "kit/UserMessageBox.h"
+#include "kit/WebAddresses.h"
 
 #include <QDir>
 #include <QFileInfo>

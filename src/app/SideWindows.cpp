@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/SideWindows.h"
 
-#include "build/ui/frmBuilder.h"
+#include "builder/ui/frmBuilder.h"
 #include "codegen/ui/GeneratorRun.h"
 #include "codegen/ui/frmGenerator.h"
 #include "table/ui/frmBackTrack.h"

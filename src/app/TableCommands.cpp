@@ -2,7 +2,7 @@
 #include "app/TableCommands.h"
 
 #include "app/TableMenus.h"
-#include "core/ui/UserMessageBox.h"
+#include "kit/UserMessageBox.h"
 #include "table/StructuralEdits.h"
 
 #include <QAction>

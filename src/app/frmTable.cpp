@@ -1,12 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/frmTable.h"
 
-#include "aids/ui/OpenInDesktop.h"
-#include "aids/ui/VocabularyFile.h"
-#include "aids/ui/frmMyToolTip.h"
 #include "app/DocumentLifecycle.h"
 #include "app/EditorWindows.h"
-#include "app/Greeting.h"
 #include "app/HelpMenu.h"
 #include "app/Remembered.h"
 #include "app/SideWindows.h"
@@ -15,8 +11,11 @@
 #include "app/Trace.h"
 #include "app/WindowTitle.h"
 #include "codegen/Reachability.h"
-#include "core/ui/AnsiString.h"
-#include "core/ui/UserMessageBox.h"
+#include "kit/AnsiString.h"
+#include "kit/OpenInDesktop.h"
+#include "kit/UserMessageBox.h"
+#include "kit/VocabularyFile.h"
+#include "kit/frmMyToolTip.h"
 #include "table/CellEdit.h"
 #include "table/PressTable.h"
 #include "table/ui/CellEditor.h"
@@ -24,6 +23,7 @@
 #include "table/ui/FsmGridView.h"
 #include "table/ui/HoverHints.h"
 #include "table/ui/TableGrid.h"
+#include "welcome/ui/Greeting.h"
 
 #include <QAction>
 #include <QCloseEvent>

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "aids/Vocabulary.h"
 #include "app/CommandLine.h"
 #include "app/DocumentSession.h"
 #include "app/Redraw.h"
 #include "app/TableCommands.h"
 #include "codegen/ui/GeneratorRun.h"
 #include "table/RowVisibility.h"
+#include "text/Vocabulary.h"
 
 #include <QMainWindow>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/CommandLine.h"
-#include "app/Logo.h"
 #include "app/Remembered.h"
 #include "app/frmTable.h"
+#include "kit/Logo.h"
 
 #include <QApplication>
 

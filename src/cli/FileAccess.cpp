@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/FileAccess.h"
 
-#include "core/NumberText.h"
-#include "core/Patience.h"
+#include "files/Patience.h"
+#include "text/NumberText.h"
 
 #include <algorithm>
 #include <array>

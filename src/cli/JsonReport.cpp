@@ -2,8 +2,8 @@
 #include "cli/JsonReport.h"
 
 #include "cli/MessageText.h"
-#include "core/AnsiText.h"
-#include "core/NumberText.h"
+#include "text/AnsiText.h"
+#include "text/NumberText.h"
 
 namespace orvane::cli {
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "codegen/Labels.h"
 
-#include "core/AnsiText.h"
-#include "core/NumberText.h"
+#include "text/AnsiText.h"
+#include "text/NumberText.h"
 
 namespace orvane {
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "codegen/PathInProgram.h"
 
-#include "core/AnsiText.h"
+#include "text/AnsiText.h"
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "codegen/Report.h"
 
-#include "core/AnsiText.h"
-#include "core/NumberText.h"
+#include "text/AnsiText.h"
+#include "text/NumberText.h"
 
 #include <algorithm>
 

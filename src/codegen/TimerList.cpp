@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "codegen/TimerList.h"
 
-#include "core/AnsiText.h"
 #include "core/TightPacked.h"
+#include "text/AnsiText.h"
 
 #include <algorithm>
 #include <functional>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/DocumentReader.h"
 
-#include "core/AnsiText.h"
 #include "core/DocumentTags.h"
-#include "core/NumberText.h"
 #include "core/TagScanner.h"
+#include "text/AnsiText.h"
+#include "text/NumberText.h"
 
 #include <algorithm>
 #include <array>

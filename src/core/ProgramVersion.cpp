@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/ProgramVersion.h"
 
-#include "core/NumberText.h"
 #include "core/Version.h"
+#include "text/NumberText.h"
 
 namespace orvane {
 

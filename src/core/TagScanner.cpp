@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/TagScanner.h"
 
-#include "core/AnsiText.h"
 #include "core/DocumentTags.h"
+#include "text/AnsiText.h"
 
 #include <algorithm>
 

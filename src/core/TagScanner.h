@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "core/ForwardSearch.h"
+#include "text/ForwardSearch.h"
 
 #include <optional>
 #include <string>

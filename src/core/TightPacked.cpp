@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/TightPacked.h"
 
-#include "core/AnsiText.h"
-#include "core/ForwardSearch.h"
-#include "core/NumberText.h"
+#include "text/AnsiText.h"
+#include "text/ForwardSearch.h"
+#include "text/NumberText.h"
 
 namespace orvane {
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "table/BacktrackList.h"
 
-#include "core/NumberText.h"
 #include "core/StateLabel.h"
+#include "text/NumberText.h"
 
 namespace orvane {
 

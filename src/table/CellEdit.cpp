@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "table/CellEdit.h"
 
-#include "core/NumberText.h"
+#include "text/NumberText.h"
 
 namespace orvane {
 

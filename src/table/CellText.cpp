@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "table/CellText.h"
 
-#include "core/AnsiText.h"
-#include "core/NumberText.h"
 #include "core/StateLabel.h"
 #include "core/TimingMode.h"
+#include "text/AnsiText.h"
+#include "text/NumberText.h"
 
 #include <algorithm>
 #include <cmath>

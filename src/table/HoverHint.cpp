@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "table/HoverHint.h"
 
-#include "core/AnsiText.h"
 #include "core/StateLabel.h"
 #include "core/TimingMode.h"
+#include "text/AnsiText.h"
 
 #include <utility>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "table/StructuralEdits.h"
 
-#include "core/NumberText.h"
 #include "table/RenumberTargets.h"
+#include "text/NumberText.h"
 
 #include <algorithm>
 #include <utility>

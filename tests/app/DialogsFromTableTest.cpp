@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/ui/TableFixture.h"
 
-#include "editors/ui/CodePane.h"
+#include "kit/CodePane.h"
 
 #include <QDialog>
 #include <QPlainTextEdit>

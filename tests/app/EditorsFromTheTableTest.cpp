@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "editors/ZorlanScanner.h"
-#include "editors/ui/CodePane.h"
+#include "kit/CodePane.h"
 #include "support/ui/Controls.h"
 #include "support/ui/TableFixture.h"
+#include "text/ZorlanScanner.h"
 
 #include <QAction>
 #include <QDir>

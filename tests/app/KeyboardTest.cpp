@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Every control of every window can be reached without a mouse, in the order in which the window is read.
-#include "editors/ui/CodePane.h"
+#include "kit/CodePane.h"
 #include "support/ui/Controls.h"
 #include "support/ui/TableFixture.h"
 

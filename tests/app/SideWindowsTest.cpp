@@ -3,9 +3,9 @@
 #include "support/ui/OpenedAddresses.h"
 #include "support/ui/TableFixture.h"
 
-#include "build/BuilderScript.h"
+#include "builder/BuilderScript.h"
 #include "core/DocumentWriter.h"
-#include "editors/ui/CodePane.h"
+#include "kit/CodePane.h"
 
 #include <QAction>
 #include <QApplication>

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/MachineJson.h"
 
-#include "core/AnsiText.h"
 #include "core/DocumentReader.h"
 #include "core/TimingMode.h"
 #include "support/FileBytes.h"
 #include "support/Json.h"
+#include "text/AnsiText.h"
 
 #include <algorithm>
 #include <cstdlib>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/Markers.h"
 
-#include "core/AnsiText.h"
-#include "core/NumberText.h"
 #include "support/ProgramLines.h"
+#include "text/AnsiText.h"
+#include "text/NumberText.h"
 
 namespace orvane::test {
 

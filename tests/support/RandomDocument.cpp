@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/RandomDocument.h"
 
-#include "core/AnsiText.h"
 #include "core/DocumentWriter.h"
-#include "core/NumberText.h"
+#include "text/AnsiText.h"
+#include "text/NumberText.h"
 
 #include <array>
 #include <limits>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/TableInterpreter.h"
 
-#include "core/NumberText.h"
 #include "support/Markers.h"
+#include "text/NumberText.h"
 
 #include <algorithm>
 #include <map>

@@ -3,7 +3,7 @@
 
 #include "codegen/BannerDate.h"
 #include "codegen/PathInProgram.h"
-#include "core/ui/RenewableFile.h"
+#include "kit/RenewableFile.h"
 
 #include <QFileInfo>
 

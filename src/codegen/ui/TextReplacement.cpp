@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "codegen/ui/TextReplacement.h"
 
-#include "core/AnsiText.h"
-#include "editors/ui/CodePane.h"
+#include "kit/CodePane.h"
+#include "text/AnsiText.h"
 
 #include <algorithm>
 #include <cstdint>

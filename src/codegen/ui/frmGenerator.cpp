@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "codegen/ui/frmGenerator.h"
 
-#include "aids/ui/OpenInDesktop.h"
 #include "codegen/ui/TextReplacement.h"
-#include "core/ui/AnsiString.h"
-#include "editors/ui/CodePane.h"
+#include "kit/AnsiString.h"
+#include "kit/CodePane.h"
+#include "kit/OpenInDesktop.h"
 
 #include <QLabel>
 #include <QMouseEvent>

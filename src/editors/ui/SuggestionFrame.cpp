@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editors/ui/SuggestionFrame.h"
 
-#include "core/ui/AnsiString.h"
-#include "editors/ui/PaneLook.h"
+#include "kit/AnsiString.h"
+#include "kit/PaneLook.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editors/ui/TabbedEditorDialog.h"
 
-#include "editors/ui/DocumentLineEdit.h"
 #include "editors/ui/EditorStatusBar.h"
-#include "editors/ui/LeftOut.h"
+#include "kit/DocumentLineEdit.h"
+#include "kit/LeftOut.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editors/ui/TimeoutPage.h"
 
-#include "core/ui/AnsiString.h"
 #include "editors/TimingHelp.h"
-#include "editors/ui/DocumentLineEdit.h"
-#include "editors/ui/DocumentTextEdit.h"
-#include "editors/ui/PaneLook.h"
+#include "kit/AnsiString.h"
+#include "kit/DocumentLineEdit.h"
+#include "kit/DocumentTextEdit.h"
+#include "kit/PaneLook.h"
 
 #include <QGroupBox>
 #include <QHBoxLayout>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editors/ui/frmEventEdit.h"
 
-#include "editors/ui/CodePane.h"
-#include "editors/ui/DocumentLineEdit.h"
-#include "editors/ui/DocumentTextEdit.h"
 #include "editors/ui/EditorStatusBar.h"
+#include "kit/CodePane.h"
+#include "kit/DocumentLineEdit.h"
+#include "kit/DocumentTextEdit.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

@@ -2,11 +2,11 @@
 #include "editors/ui/frmGeneralCodeEdit.h"
 
 #include "editors/CodeSuggestions.h"
-#include "editors/ui/CodePane.h"
-#include "editors/ui/DocumentLineEdit.h"
 #include "editors/ui/EditorStatusBar.h"
-#include "editors/ui/PaneLook.h"
 #include "editors/ui/SuggestionFrame.h"
+#include "kit/CodePane.h"
+#include "kit/DocumentLineEdit.h"
+#include "kit/PaneLook.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>

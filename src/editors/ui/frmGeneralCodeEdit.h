@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "aids/Vocabulary.h"
 #include "core/GeneralCode.h"
 #include "editors/ui/TabbedEditorDialog.h"
+#include "text/Vocabulary.h"
 
 #include <array>
 

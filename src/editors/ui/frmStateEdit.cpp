@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editors/ui/frmStateEdit.h"
 
-#include "core/ui/UserMessageBox.h"
-#include "editors/ui/CodePane.h"
-#include "editors/ui/DocumentLineEdit.h"
-#include "editors/ui/DocumentTextEdit.h"
 #include "editors/ui/EditorStatusBar.h"
 #include "editors/ui/TimeoutPage.h"
+#include "kit/CodePane.h"
+#include "kit/DocumentLineEdit.h"
+#include "kit/DocumentTextEdit.h"
+#include "kit/UserMessageBox.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

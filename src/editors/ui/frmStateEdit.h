@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "aids/Vocabulary.h"
 #include "core/StateRecord.h"
 #include "editors/TimingOptions.h"
 #include "editors/ui/TabbedEditorDialog.h"
+#include "text/Vocabulary.h"
 
 namespace orvane {
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editors/ui/frmTransitionAction.h"
 
-#include "editors/ui/DocumentTextEdit.h"
-#include "editors/ui/LeftOut.h"
-#include "editors/ui/PaneLook.h"
+#include "kit/DocumentTextEdit.h"
+#include "kit/LeftOut.h"
+#include "kit/PaneLook.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "table/ui/FsmGridModel.h"
 
-#include "core/ui/AnsiString.h"
+#include "kit/AnsiString.h"
 #include "table/CellColour.h"
 #include "table/CellText.h"
 

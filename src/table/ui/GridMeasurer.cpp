@@ -2,7 +2,7 @@
 #include "table/ui/GridMeasurer.h"
 
 #include "core/ViewOptions.h"
-#include "core/ui/AnsiString.h"
+#include "kit/AnsiString.h"
 
 #include <QFontMetrics>
 

@@ -2,7 +2,7 @@
 #include "table/ui/HoverHints.h"
 
 #include "core/FsmDocument.h"
-#include "core/ui/AnsiString.h"
+#include "kit/AnsiString.h"
 #include "table/HoverHint.h"
 #include "table/ui/FsmGridModel.h"
 #include "table/ui/FsmGridView.h"

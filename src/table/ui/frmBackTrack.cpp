@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "table/ui/frmBackTrack.h"
 
-#include "aids/ui/OpenInDesktop.h"
-#include "core/ui/AnsiString.h"
+#include "kit/AnsiString.h"
+#include "kit/OpenInDesktop.h"
 
 #include <QEvent>
 #include <QHeaderView>

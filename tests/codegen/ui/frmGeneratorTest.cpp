@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "codegen/ui/frmGenerator.h"
 
-#include "core/ui/AnsiString.h"
-#include "editors/ui/CodePane.h"
+#include "kit/AnsiString.h"
+#include "kit/CodePane.h"
 #include "support/ui/OpenedAddresses.h"
 
 #include <QLabel>

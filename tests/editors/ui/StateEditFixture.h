@@ -3,8 +3,8 @@
 
 #include "core/TimingMode.h"
 #include "editors/TimingHelp.h"
-#include "editors/ui/CodePane.h"
 #include "editors/ui/frmStateEdit.h"
+#include "kit/CodePane.h"
 #include "support/ui/Controls.h"
 #include "support/ui/OpenedAddresses.h"
 #include "support/ui/Typing.h"

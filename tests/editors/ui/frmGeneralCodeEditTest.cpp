@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editors/ui/frmGeneralCodeEdit.h"
 
-#include "editors/ui/CodePane.h"
+#include "kit/CodePane.h"
 #include "support/ui/Controls.h"
 #include "support/ui/OpenedAddresses.h"
 #include "support/ui/Typing.h"

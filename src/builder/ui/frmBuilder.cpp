@@ -1,0 +1,297 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "builder/ui/frmBuilder.h"
+
+#include "builder/BuilderScript.h"
+#include "builder/ui/ScriptFile.h"
+#include "kit/AnsiString.h"
+#include "kit/OpenInDesktop.h"
+#include "kit/UserMessageBox.h"
+
+#include <QDir>
+#include <QEvent>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QUrl>
+#include <QVBoxLayout>
+
+namespace orvane {
+
+namespace {
+
+constexpr QSize kFirstSize{720, 620};
+constexpr int kPromptLines = 10; // the explanation at the first width, and some room for a narrower window
+
+const QString kSaveFilter = QStringLiteral("All Files (*.*);;Config file (*.b1d)");
+const QString kOpenFilter = QStringLiteral("All Files (*.*);;Builder script (*.b1d)");
+
+} // namespace
+
+frmBuilder::frmBuilder(std::string& buildFile, QWidget* parent)
+    : TabStops(parent, Qt::Window), buildFile_(buildFile) {
+    setObjectName(QStringLiteral("frmBuilder"));
+    setWindowTitle(tr("Builder script"));
+    BuildControls();
+    LayOut();
+    resize(kFirstSize);
+    connect(cmdRun, &QPushButton::clicked, this, &frmBuilder::GoGoGo);
+    connect(cmdSave, &QPushButton::clicked, this, &frmBuilder::Save);
+    connect(cmdSelectFile, &QPushButton::clicked, this, &frmBuilder::SelectFile);
+    connect(txtFileName, &QLineEdit::textChanged, this, [this](const QString& path) { StoreFileName(path); });
+}
+
+void frmBuilder::BuildControls() {
+    txtBuildScript = new QPlainTextEdit(this);
+    txtBuildScript->setObjectName(QStringLiteral("txtBuildScript"));
+    txtBuildScript->setAccessibleName(tr("Builder script"));
+    txtBuildScript->setLineWrapMode(QPlainTextEdit::NoWrap);
+    QFont fixed(QStringLiteral("Courier New"));
+    fixed.setStyleHint(QFont::Monospace);
+    txtBuildScript->setFont(fixed);
+    txtBuildScript->installEventFilter(this);
+
+    txtPrompt = new QPlainTextEdit(FromAnsi(BuilderExplanation()), this);
+    txtPrompt->setObjectName(QStringLiteral("txtPrompt"));
+    txtPrompt->setAccessibleName(tr("Explanation"));
+    txtPrompt->setReadOnly(true);
+    txtPrompt->setFixedHeight(kPromptLines * txtPrompt->fontMetrics().lineSpacing());
+
+    txtFileName = new QLineEdit(this);
+    txtFileName->setObjectName(QStringLiteral("txtFileName"));
+    txtFileName->setAccessibleName(tr("Builder script file"));
+
+    const auto button = [this](const QString& name, const QString& caption) {
+        auto* made = new QPushButton(caption, this);
+        made->setObjectName(name);
+        return made;
+    };
+    cmdSelectFile = button(QStringLiteral("cmdSelectFile"), tr("Select file..."));
+    cmdSave = button(QStringLiteral("cmdSave"), tr("Save"));
+    cmdRun = button(QStringLiteral("cmdRun"), tr("Build and Test"));
+}
+
+void frmBuilder::LayOut() {
+    auto* file = new QHBoxLayout;
+    file->addWidget(new QLabel(tr("File"), this));
+    file->addWidget(txtFileName, 1);
+    file->addWidget(cmdSelectFile);
+    auto* actions = new QHBoxLayout;
+    actions->addStretch(1);
+    actions->addWidget(cmdSave);
+    actions->addWidget(cmdRun);
+    auto* all = new QVBoxLayout(this);
+    all->addWidget(txtBuildScript, 1);
+    all->addWidget(txtPrompt);
+    all->addLayout(file);
+    all->addLayout(actions);
+}
+
+QString frmBuilder::DefaultName() const {
+    return QString::fromStdString(BuilderScriptName(documentPath_.toStdString()));
+}
+
+// The raw text, because the plain one turns no-break spaces into blanks.
+QString frmBuilder::ScriptText() const {
+    QString text = txtBuildScript->document()->toRawText();
+    text.replace(QChar::LineSeparator, QLatin1Char('\n')); // Shift+Return
+    return text.replace(QChar::ParagraphSeparator, QLatin1Char('\n'));
+}
+
+void frmBuilder::ShowScript(const QString& script) {
+    txtBuildScript->setPlainText(script);
+    txtBuildScript->document()->setModified(false);
+}
+
+void frmBuilder::SetFileName(const QString& path) { txtFileName->setText(path); }
+
+void frmBuilder::StartDocument(const QString& documentPath) {
+    const std::string stored = buildFile_;
+    documentPath_ = documentPath;
+    settled_ = false;
+    knownFile_.clear();
+    lastSavedScript_.clear();
+    ShowScript({});
+    SetFileName(FromAnsi(stored));
+    if (isVisible())
+        Settle();
+}
+
+void frmBuilder::RenameDocument(const QString& documentPath) {
+    const bool hadDefault = txtFileName->text().isEmpty() || txtFileName->text() == DefaultName();
+    documentPath_ = documentPath;
+    if (!settled_ || !hadDefault)
+        return;
+    if (txtBuildScript->document()->isModified()) {
+        SetFileName(DefaultName());
+        return;
+    }
+    buildFile_.clear();
+    StartDocument(documentPath);
+}
+
+void frmBuilder::Settle() {
+    if (settled_)
+        return;
+    settled_ = true;
+    const QString named = txtFileName->text();
+    if (!named.isEmpty() && (ReadScript(named) || !QFileInfo(DefaultName()).isFile()))
+        Load(named);
+    else if (!DefaultName().isEmpty() && QFileInfo::exists(DefaultName()))
+        Load(DefaultName());
+    else
+        MakeInitialScript();
+}
+
+void frmBuilder::Load(const QString& path) {
+    const std::optional<QString> script = ReadScript(path);
+    if (!script) {
+        MakeInitialScript();
+        Warn(tr(
+            "Unable to open the previous Builder file. Perhaps you deleted it. A new one will be generated"));
+        return;
+    }
+    SetFileName(path);
+    ShowScript(*script);
+    knownFile_ = path;
+    lastSavedScript_ = *script;
+}
+
+void frmBuilder::MakeInitialScript() {
+    ShowScript({});
+    // A folder whose name the script cannot hold is left out: the program is in the folder of the script.
+    const QString document =
+        LineOutsideAnsi(documentPath_).isEmpty() ? documentPath_ : QFileInfo(documentPath_).fileName();
+    QStringList lines =
+        QString::fromStdString(StarterScript(document.toStdString())).split(QStringLiteral("\r\n"));
+    lines.removeLast(); // what stands behind the last line end
+    for (const QString& line : lines)
+        AddSource(line);
+    txtBuildScript->document()->setModified(false);
+    SetFileName(DefaultName());
+    if (!DefaultName().isEmpty())
+        Save();
+}
+
+// A path that the document cannot hold is not kept in part: the script beside the document is found without.
+void frmBuilder::StoreFileName(const QString& path) {
+    const AnsiText stored = ToAnsi(path);
+    buildFile_ = stored.LeftOut ? std::string() : stored.Text;
+}
+
+void frmBuilder::AddSource(const QString& text) {
+    txtBuildScript->moveCursor(QTextCursor::End);
+    txtBuildScript->insertPlainText(text + QStringLiteral("\n"));
+}
+
+bool frmBuilder::Save() {
+    if (txtFileName->text().isEmpty() && !ChooseNameToSave())
+        return false;
+    const QString path = txtFileName->text();
+    const QString unwritable = LineOutsideAnsi(ScriptText());
+    if (!unwritable.isEmpty()) {
+        Warn(tr("The script was not saved: its file cannot hold every character of the line\r\n%1\r\n"
+                "A program in the folder of the script can be named without its path.")
+                 .arg(unwritable));
+        return false;
+    }
+    if (!MayReplace(path))
+        return false;
+    if (!WriteScript(path, ScriptText())) {
+        Warn(tr("Save failed. Check the path/filename is valid"));
+        return false;
+    }
+    knownFile_ = path;
+    lastSavedScript_ = AsReadBack(ScriptText());
+    txtBuildScript->document()->setModified(false);
+    return true;
+}
+
+bool frmBuilder::ChooseNameToSave() {
+    const QString path = QDir::toNativeSeparators(
+        QFileDialog::getSaveFileName(this, tr("Save builder script"), DefaultName(), kSaveFilter));
+    if (path.isEmpty())
+        return false;
+    SetFileName(path);
+    knownFile_ = path; // the dialog has asked
+    return true;
+}
+
+// A script that was never read or written here is somebody's work.
+bool frmBuilder::MayReplace(const QString& path) {
+    if (path == knownFile_ || !QFileInfo::exists(path))
+        return true;
+    const auto answer = QMessageBox::question(this, QStringLiteral("Orvane"),
+                                              tr("%1 exists already. Do you want to replace it?").arg(path),
+                                              QMessageBox::Yes | QMessageBox::No, QMessageBox::No);
+    return answer == QMessageBox::Yes;
+}
+
+void frmBuilder::SelectFile() {
+    const QString path = QDir::toNativeSeparators(
+        QFileDialog::getOpenFileName(this, tr("Choose builder script"), txtFileName->text(), kOpenFilter));
+    if (path.isEmpty())
+        return;
+    settled_ = true;
+    Load(path);
+}
+
+void frmBuilder::GoGoGo() {
+    Settle();
+    const bool generated = generate_();
+    CheckForChangeOnDisk(); // started from the table, the window has not become active
+    if (!Save()) {
+        Warn(tr("Sorry, the Build file failed to save. Check the file name / path."));
+        return;
+    }
+    if (!generated) {
+        Warn(tr("Sorry, unable to do that right now. The generated *.zls file contains errors.\r\n\r\n"
+                "Hint: Check the error listing in the code generation window"));
+        return;
+    }
+    const QUrl script = QUrl::fromLocalFile(QFileInfo(txtFileName->text()).absoluteFilePath());
+    if (!OpenInDesktop(script))
+        Warn(tr("No program is registered to open the builder script %1. Install the build tool, or open "
+                "the script with it by hand.")
+                 .arg(ShownAddress(script)));
+}
+
+bool frmBuilder::event(QEvent* event) {
+    if (event->type() == QEvent::WindowActivate)
+        CheckForChangeOnDisk();
+    return QWidget::event(event);
+}
+
+bool frmBuilder::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::FocusIn)
+        SuspendTabStops();
+    return QWidget::eventFilter(watched, event);
+}
+
+void frmBuilder::CheckForChangeOnDisk() {
+    if (knownFile_.isEmpty() || knownFile_ != txtFileName->text())
+        return;
+    const std::optional<QString> script = ReadScript(knownFile_);
+    if (!script || *script == lastSavedScript_)
+        return;
+    lastSavedScript_ = *script; // seen: asked once, whatever the answer
+    const auto answer =
+        Show(this, {"The Builder script has been changed on disk. Do you want to load the new "
+                    "version from disk?",
+                    "Changed script", MessageIcon::Warning, MessageButtons::YesNo});
+    if (answer == QMessageBox::Yes)
+        ShowScript(*script);
+}
+
+void frmBuilder::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    Settle();
+}
+
+void frmBuilder::Warn(const QString& text) { Tell(this, text, QMessageBox::Warning); }
+
+} // namespace orvane

@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "kit/LeftOut.h"
+
+#include "kit/AnsiString.h"
+#include "text/AnsiText.h"
+
+namespace orvane {
+
+namespace {
+
+constexpr int kMostShown = 40; // characters
+
+} // namespace
+
+QString CharactersOutsideDocuments(const QString& text) {
+    QString outside;
+    for (const QChar character : text)
+        if (ToAnsi(QString(character)).LeftOut)
+            outside += character;
+    return outside;
+}
+
+QString LeftOutMessage(const QString& characters) {
+    const QString shown =
+        characters.size() > kMostShown ? characters.left(kMostShown) + QChar(0x2026) : characters;
+    return QStringLiteral("Left out, because a document cannot hold it: %1").arg(shown);
+}
+
+std::string FieldText(const QString& shown) {
+    std::string text;
+    text.reserve(static_cast<std::size_t>(shown.size()));
+    for (const QChar character : shown)
+        if (const std::optional<char> byte = ToAnsi(char32_t{character.unicode()}))
+            text += *byte;
+    return text;
+}
+
+} // namespace orvane

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "kit/OpenInDesktop.h"
+
+#include "kit/WebAddresses.h"
+
+#include <QCoreApplication>
+#include <QDesktopServices>
+#include <QDir>
+#include <QShortcut>
+#include <QToolTip>
+#include <QWidget>
+
+namespace orvane {
+
+namespace {
+
+// In passing: whoever pressed a key too many has nothing to close.
+void TellThatNothingOpened(QWidget& window, int page) {
+    const QString text =
+        QCoreApplication::translate("OpenInDesktop", "The help page could not be opened: %1");
+    QToolTip::showText(window.mapToGlobal(window.rect().center()), text.arg(ShownAddress(HelpPage(page))),
+                       &window);
+}
+
+} // namespace
+
+bool OpenInDesktop(const QUrl& address) { return QDesktopServices::openUrl(address); }
+
+QString ShownAddress(const QUrl& address) {
+    return address.isLocalFile() ? QDir::toNativeSeparators(address.toLocalFile())
+                                 : address.toDisplayString();
+}
+
+bool OpenHelpPage(int page) { return OpenInDesktop(HelpPage(page)); }
+
+void AddHelpKey(QWidget& window, int page) {
+    auto* key = new QShortcut(QKeySequence(Qt::Key_F1), &window);
+    QObject::connect(key, &QShortcut::activated, &window, [&window, page] {
+        if (!OpenHelpPage(page))
+            TellThatNothingOpened(window, page);
+    });
+}
+
+} // namespace orvane
