@@ -15,6 +15,13 @@ TEST(BuilderScript, TheLastDotOfTheWholePathCounts) {
     EXPECT_EQ(BuilderScriptName("C:\\my.dir\\pump"), "C:\\my.b1d");
 }
 
+TEST(BuilderScript, DotsBeforeTheLastOneBelongToTheName) {
+    EXPECT_EQ(BuilderScriptName("C:\\my.dir\\pump.v2.zfsm"), "C:\\my.dir\\pump.v2.b1d");
+    EXPECT_EQ(ProgramFileName("C:\\my.dir\\pump.v2.zfsm"), "C:\\my.dir\\pump.v2.zls");
+    EXPECT_EQ(BuilderScriptName("../pump.zfsm"), "../pump.b1d");
+    EXPECT_EQ(ProgramFileName("./pump.zfsm"), "./pump.zls");
+}
+
 TEST(BuilderScript, ADocumentWithoutAFileHasNoScript) {
     EXPECT_EQ(BuilderScriptName(""), "");
     EXPECT_EQ(BuilderScriptName("pump"), "");

@@ -191,6 +191,8 @@ TEST(CodeGenerator, TheFileIsTheTextAndOneMoreLineEnd) {
 TEST(CodeGenerator, TheFileLiesBesideTheDocument) {
     EXPECT_EQ(ProgramFilePath("C:\\work\\pump.zfsm"), "C:\\work\\pump.zls");
     EXPECT_EQ(ProgramFilePath("C:\\my.dir\\fsm"), "C:\\my.zls");
+    EXPECT_EQ(ProgramFilePath("C:\\my.dir\\pump.v2.zfsm"), "C:\\my.dir\\pump.v2.zls");
+    EXPECT_EQ(ProgramFilePath("../pump.v2.zfsm"), "../pump.v2.zls");
     EXPECT_EQ(ProgramFilePath("pump"), "pump.zls");
 }
 

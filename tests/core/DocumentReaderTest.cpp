@@ -287,6 +287,21 @@ INSTANTIATE_TEST_SUITE_P(
                     "reading stopped there",
                     3}));
 
+TEST(DocumentReader, ANumberOfTwentyFourCharactersIsQuotedWhole) {
+    const std::string longest(24, '9');
+    const auto told = [](const std::string& number) {
+        return Read("$<COL0W>" + number + "$/\r\n\r\n").Messages.at(0).Text;
+    };
+    EXPECT_TRUE(told(longest).starts_with("The number \"" + longest + "\" of COL0W"));
+    EXPECT_TRUE(told(longest + "8").starts_with("The number \"" + longest + "...\" of COL0W"));
+}
+
+TEST(DocumentReader, OneUnknownTagBeyondTheLimitIsCounted) {
+    const ReadResult read = Read(Repeated("$<X>$/\r\n", 1001) + "\r\n");
+    ASSERT_EQ(read.Messages.size(), 1001u);
+    EXPECT_EQ(read.Messages.back(), (ReaderMessage{"1 more unknown tags were skipped", 0}));
+}
+
 TEST(DocumentReader, NumbersAtTheirBoundsAreTaken) {
     const ReadResult read = Read("$<COL0W>-2147483648$/\r\n$<STATE>100:$/\r\n$<COLWIDTH>2147483647$/\r\n"
                                  "$<TIMINGMODE>-5$/\r\n$<LASTTAB>-32768$/\r\n$<TRANSITIONS>\r\n"
