@@ -10,8 +10,12 @@
 #include <QDir>
 #include <QLoggingCategory>
 
+#include <algorithm>
+
 namespace orvane {
 namespace {
+
+using Boxes = std::vector<std::string>;
 
 class StartUp : public TableFixture {
   protected:
@@ -24,6 +28,21 @@ class StartUp : public TableFixture {
                 return true;
         }
         return false;
+    }
+
+    // What is told about a document with so many unknown tags, each text without its "Unknown tag ".
+    Boxes BoxesFor(int tags) {
+        std::string bytes;
+        for (int i = 0; i < tags; ++i)
+            bytes += "\xA4<TAG" + std::to_string(i) + ">1\xA4/\r\n";
+        const std::size_t before = Answers.Seen().size();
+        for (int i = 0; i < std::min(tags, 5); ++i)
+            Answers.Press(QMessageBox::Ok);
+        StartOnBytes(bytes + "\xA4<FSM_NAME>PMP\xA4/\r\n\r\n");
+        Boxes boxes;
+        for (std::size_t i = before; i < Answers.Seen().size(); ++i)
+            boxes.push_back(Answers.Seen()[i].Text.substr(std::string_view("Unknown tag ").size()));
+        return boxes;
     }
 };
 
@@ -138,6 +157,17 @@ TEST_F(StartUp, ManyUnknownTagsShareTheLastBox) {
     EXPECT_EQ(Answers.Seen()[3].Text, "Unknown tag TAG3");
     EXPECT_TRUE(Answers.Seen()[4].Text.starts_with("Unknown tag TAG4\r\nUnknown tag TAG5\r\n"));
     EXPECT_TRUE(Answers.Seen()[4].Text.ends_with("... and 176 more"));
+}
+
+TEST_F(StartUp, FiveMessagesHaveABoxEachAndTheSixthSharesTheLast) {
+    EXPECT_EQ(BoxesFor(5), Boxes({"TAG0", "TAG1", "TAG2", "TAG3", "TAG4"}));
+    EXPECT_EQ(BoxesFor(6), Boxes({"TAG0", "TAG1", "TAG2", "TAG3", "TAG4\r\nUnknown tag TAG5"}));
+}
+
+TEST_F(StartUp, TheLastBoxHasTwentyMessagesAndCountsTheOthers) {
+    const std::string twenty = BoxesFor(4 + 20).back();
+    EXPECT_TRUE(twenty.ends_with("TAG22\r\nUnknown tag TAG23")) << twenty;
+    EXPECT_EQ(BoxesFor(4 + 21).back(), twenty + "\r\n... and 1 more");
 }
 
 TEST_F(StartUp, WhereReadingStoppedIsToldBehindHoweverManyUnknownTags) {
