@@ -8,6 +8,7 @@
 #include <QComboBox>
 #include <QDir>
 #include <QFile>
+#include <QSignalSpy>
 #include <QTest>
 
 namespace orvane {
@@ -279,6 +280,65 @@ TEST_F(Lifecycle, AProgramThatCannotBeWrittenIsToldOnce) {
     QDir().rmdir(Path(QStringLiteral("machine.zls")));
     TypeTarget(7, 1, QStringLiteral("2"));
     EXPECT_FALSE(ReadFile(QStringLiteral("machine.zls")).empty());
+}
+
+TEST_F(Lifecycle, AProgramThatCannotBeWrittenAnyMoreIsToldAgain) {
+    const QString program = Path(QStringLiteral("machine.zls"));
+    StartOn(PumpDocument());
+    for (const char* target : {"2", "3"}) {
+        QDir().mkpath(program);
+        Answers.Press(QMessageBox::Ok);
+        TypeTarget(7, 1, QLatin1String(target));
+        EXPECT_TRUE(QDir().rmdir(program));
+        TypeTarget(7, 1, QStringLiteral("1")); // written, which ends the trouble
+        EXPECT_TRUE(QFile::remove(program));
+    }
+    EXPECT_EQ(Answers.Seen().size(), 2u);
+}
+
+TEST_F(Lifecycle, EachProgramThatCannotBeWrittenIsTold) {
+    StartOn(PumpDocument());
+    for (const char* name : {"machine", "copy"})
+        QDir().mkpath(Path(QLatin1String(name) + QStringLiteral(".zls")));
+    Answers.Press(QMessageBox::Ok);
+    TypeTarget(7, 1, QStringLiteral("2"));
+    Answers.ChooseFile(Path(QStringLiteral("copy.zfsm"))).Press(QMessageBox::Ok);
+    Trigger("mnuFSaveAs");
+    TypeTarget(7, 1, QStringLiteral("1"));
+    ASSERT_EQ(Answers.Seen().size(), 3u);
+    EXPECT_NE(Answers.Seen()[2].Text.find("copy.zls"), std::string::npos);
+}
+
+// The box about a program that cannot be written comes up in the middle of the edit, after all that the edit
+// has changed: whoever answers it sees a table, a title and an undo list that are true.
+TEST_F(Lifecycle, TheProgramIsGeneratedLastAfterTheEditIsShownAndKept) {
+    StartOn(PumpDocument());
+    QDir().mkpath(Path(QStringLiteral("machine.zls")));
+    QSignalSpy drawn(Grid()->model(), &QAbstractItemModel::dataChanged);
+    Answers.Do([&](QWidget& box) {
+        EXPECT_FALSE(drawn.isEmpty());
+        EXPECT_EQ(Text(7, 1), "2:Run");
+        EXPECT_EQ(Title(), "*machine.zfsm" + TitleEnd());
+        EXPECT_TRUE(Item("mnuUndo")->isEnabled());
+        box.close();
+    });
+    TypeTarget(7, 1, QStringLiteral("2"));
+    EXPECT_EQ(Answers.Seen().size(), 1u);
+}
+
+TEST_F(Lifecycle, TheProgramIsGeneratedLastAfterAnUndo) {
+    StartModified();
+    QFile::remove(Path(QStringLiteral("machine.zls")));
+    QDir().mkpath(Path(QStringLiteral("machine.zls")));
+    Answers.Do([&](QWidget& box) {
+        EXPECT_EQ(Text(7, 1), "");
+        EXPECT_EQ(Title(), "machine.zfsm" + TitleEnd());
+        EXPECT_FALSE(Item("mnuUndo")->isEnabled());
+        EXPECT_TRUE(Item("mnuRedo")->isEnabled());
+        box.close();
+    });
+    Trigger("mnuUndo");
+    EXPECT_EQ(Answers.Seen().size(), 1u);
 }
 
 } // namespace

@@ -90,10 +90,17 @@ TEST_F(Undo, AllOfAStructuralEditIsOneStep) {
 
 TEST_F(Undo, UndoGeneratesTheProgramAnew) {
     StartOn(PumpDocument());
-    TypeTarget(6, 1, QStringLiteral("0"));
-    const std::string without = ReadFile(QStringLiteral("machine.zls"));
+    const auto program = [this] { return ReadFile(QStringLiteral("machine.zls")); };
+    TypeTarget(7, 1, QStringLiteral("1"));
+    const std::string before = program();
+    TypeTarget(7, 1, QStringLiteral("2"));
+    const std::string after = program();
+    EXPECT_NE(before.find(";stop?\r\n\tGoifT\tPMP_Idle_1\r\n"), std::string::npos) << before;
+    EXPECT_NE(after.find("PMP_Run_Set2\r\n;stop?"), std::string::npos) << after;
     Trigger("mnuUndo");
-    EXPECT_NE(ReadFile(QStringLiteral("machine.zls")), without);
+    EXPECT_EQ(program(), before);
+    Trigger("mnuRedo");
+    EXPECT_EQ(program(), after);
 }
 
 // Keeps the addresses that the desktop is asked to open.
