@@ -33,6 +33,11 @@ class SideWindowsTest : public TableFixture {
     static std::string Code() { return Shown("frmGenerator")->findChild<CodePane*>()->Text(); }
     static QPlainTextEdit* Errors() { return Shown("frmGenerator")->findChild<QPlainTextEdit*>(); }
 
+    // What the window says about the program's file.
+    static std::string Fate() {
+        return Shown("frmGenerator")->findChild<QLabel*>(QStringLiteral("Panel1"))->text().toStdString();
+    }
+
     QString Script() const { return Path(QStringLiteral("machine.b1d")); }
 
     OpenedAddresses opened_;
@@ -77,6 +82,27 @@ TEST_F(SideWindowsTest, AChangeIsInThePanesAtOnceAlsoWhileTheWindowIsHidden) {
     EXPECT_FALSE(yields());
 }
 
+TEST_F(SideWindowsTest, TheGeneratorWindowSaysWhatBecameOfTheProgram) {
+    const QString program = Path(QStringLiteral("machine.zls"));
+    StartOn(PumpDocument());
+    Trigger("mnuCodeGenerate");
+    EXPECT_EQ(Fate(), "Written to " + QDir::toNativeSeparators(program).toStdString());
+    QFile::remove(program);
+    ASSERT_TRUE(QDir().mkpath(program)); // a folder stands in the way
+    Answers.Press(QMessageBox::Ok);
+    Trigger("mnuPolytask");
+    EXPECT_EQ(Fate(), "Not written");
+    Trigger("mnuFNew");
+    EXPECT_EQ(Fate(), "Not written: the design has errors"); // it has no name
+}
+
+TEST_F(SideWindowsTest, TheGeneratorWindowSaysThatAFaultyProgramIsNotWritten) {
+    StartOn(FaultyDocument());
+    Trigger("mnuCodeGenerate");
+    EXPECT_EQ(Fate(), "Not written: the design has errors");
+    EXPECT_EQ(ReadFile(QStringLiteral("machine.zls")), "");
+}
+
 TEST_F(SideWindowsTest, ADocumentWithoutAFileIsGeneratedIntoTheWindowAlone) {
     Start({QStringLiteral("/nosplash")});
     Trigger("mnuCodeGenerate");
@@ -90,6 +116,7 @@ TEST_F(SideWindowsTest, AProgramWithoutErrorsOfADocumentWithoutAFileIsNotWritten
     Start({QStringLiteral("/nosplash")});
     Trigger("mnuCodeGenerate");
     EXPECT_EQ(Errors()->toPlainText(), QStringLiteral("Errors and warnings\n"));
+    EXPECT_EQ(Fate(), "Not written: the document has no file yet");
     EXPECT_NE(Code().find("\r\n;By Orvane from :\r\n"), std::string::npos);
     const QStringList files = QDir(Path({})).entryList(QDir::Files | QDir::Hidden);
     EXPECT_EQ(files, QStringList{QStringLiteral("ORVANE_INI.zfsm")});
