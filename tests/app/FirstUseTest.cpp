@@ -78,6 +78,7 @@ TEST_F(FirstUse, DocumentsAreRememberedLatestFirstAndOnce) {
         RememberFile(Path(QString::fromLatin1(name)));
     EXPECT_EQ(RememberedFiles().mid(0, 2),
               QStringList({Path(QStringLiteral("a.zfsm")), Path(QStringLiteral("b.zfsm"))}));
+    EXPECT_EQ(RememberedFiles().count(Path(QStringLiteral("a.zfsm"))), 1);
 }
 
 TEST_F(FirstUse, NoMoreThanNineDocumentsAreRemembered) {

@@ -3,6 +3,7 @@
 
 #include <QLabel>
 #include <QTest>
+#include <QTimer>
 
 namespace orvane {
 namespace {
@@ -39,6 +40,25 @@ TEST_F(Hover, TheHintGoesWhenThePointerMovesOnOrLeaves) {
     EXPECT_NE(Hint(), "");
     LeaveTheTable();
     EXPECT_FALSE(Tooltip()->isVisible());
+}
+
+TEST_F(Hover, AMenuThatPopsUpTakesTheHintAway) {
+    StartOn(PumpDocument());
+    MoveTo(6, 1);
+    ASSERT_NE(Hint(), "");
+    Click(6, 1, Qt::RightButton);
+    EXPECT_FALSE(Tooltip()->isVisible());
+    EXPECT_EQ(PoppedUp(), "mnuTranCell");
+}
+
+TEST_F(Hover, AHintThatIsStillToComeDoesNotComeUpUnderAMenu) {
+    StartOn(PumpDocument());
+    MoveTo(6, 1);
+    const auto* delay = Find<QTimer>("Timer1");
+    ASSERT_TRUE(delay->isActive());
+    Click(6, 1, Qt::RightButton);
+    EXPECT_FALSE(delay->isActive());
+    EXPECT_EQ(PoppedUp(), "mnuTranCell");
 }
 
 TEST_F(Hover, TheHeadOfTheRowIsSetOff) {
