@@ -331,8 +331,7 @@ void frmTable::StepMachine(int row) {
     const int target = StepTarget(session_.Document, grid_->Model().CurrentState(), row);
     if (target == kNoState)
         return;
-    if (target != grid_->Model().CurrentState())
-        grid_->Hints().HideNextState();
+    grid_->Hints().HideNextState();
     SetCurrentState(target);
     grid_->Hints().ShowNextState(row, target);
 }

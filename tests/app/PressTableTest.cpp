@@ -130,6 +130,22 @@ TEST_F(PressTable, AStepShowsWhereTheSameEventLeadsNext) {
     EXPECT_EQ(marker->pos(), CellRect(0, 3).topLeft());
 }
 
+TEST_F(PressTable, AStepToWhereTheSameEventLeadsNowhereTakesTheMarkerAway) {
+    FsmDocument document = PumpDocument();
+    document.State(2).Targets[6] = 3;
+    StartOn(document);
+    Click(0, 1, Qt::RightButton);
+    PoppedUp();
+    Trigger("mnuCurrentState");
+    const auto* marker = Find<QWidget>("picNextStateMarker");
+    Click(6, 0, Qt::LeftButton, Qt::ShiftModifier);
+    ASSERT_TRUE(marker->isVisible());
+    Click(6, 0, Qt::LeftButton, Qt::ShiftModifier);
+    EXPECT_EQ(Colour(0, 3), QColor(255, 0, 0));
+    EXPECT_FALSE(marker->isVisible());
+    EXPECT_EQ(Colour(6, 2), QColor(255, 255, 255));
+}
+
 TEST_F(PressTable, AShiftPressOnlySelectsWithoutACurrentStateOrATransition) {
     StartOn(PumpDocument());
     Click(6, 0, Qt::LeftButton, Qt::ShiftModifier);
@@ -158,6 +174,16 @@ TEST_F(PressTable, TheShiftKeyShowsItsMarkWhileItIsHeld) {
     EXPECT_EQ(Panel("Panel1"), "*");
     QTest::keyRelease(Grid(), Qt::Key_Shift);
     EXPECT_EQ(Panel("Panel1"), "");
+}
+
+TEST_F(PressTable, ShiftIsNoLongerHeldWhenTheFocusGoes) {
+    StartOn(PumpDocument());
+    QTest::keyPress(Grid(), Qt::Key_Shift);
+    ASSERT_EQ(Panel("Panel1"), "*");
+    Trigger("mnuBuilder"); // the key is released over there
+    EXPECT_TRUE(QTest::qWaitFor([this] { return Panel("Panel1").empty(); }));
+    MoveTo(6, 1);
+    EXPECT_FALSE(Find<QWidget>("picNextStateMarker")->isVisible());
 }
 
 TEST_F(PressTable, TheCurrentStateIsForgottenWithTheDocument) {
