@@ -35,7 +35,6 @@ class UpdateCheck : public QObject {
     void NewerVersionFound(const std::string& latestVersion);
 
   private:
-    void VerifyRedirect(const QUrl& target);
     void ReadChunk();
     void Evaluate();
     void End();

@@ -5,6 +5,7 @@
 #include <QSignalSpy>
 #include <QTcpServer>
 #include <QTcpSocket>
+#include <QTemporaryFile>
 #include <QTest>
 #include <QTimer>
 
@@ -135,10 +136,16 @@ TEST_F(UpdateCheckTest, ARedirectIsFollowed) {
     EXPECT_EQ(found_.size(), 1u);
 }
 
-TEST_F(UpdateCheckTest, ARedirectToAFileIsNotFollowed) {
-    ServeWhole("HTTP/1.1 302 Found\r\nLocation: file:///etc/hostname\r\nContent-Length: 0\r\n\r\n");
-    StartAndWait();
-    EXPECT_TRUE(found_.empty());
+TEST_F(UpdateCheckTest, ARedirectToAnotherSchemeIsNotFollowed) {
+    QTemporaryFile page; // what would be told if it were read
+    ASSERT_TRUE(page.open() && page.write(kOffer) == kOffer.size() && page.flush());
+    for (const QByteArray& target : {QUrl::fromLocalFile(page.fileName()).toEncoded(),
+                                     QByteArray("data:text/html," + kOffer.toPercentEncoding())}) {
+        requests_.clear();
+        ServeWhole("HTTP/1.1 302 Found\r\nLocation: " + target + "\r\nContent-Length: 0\r\n\r\n");
+        StartAndWait();
+        EXPECT_TRUE(found_.empty()) << target.constData();
+    }
 }
 
 TEST_F(UpdateCheckTest, AnEndlessChainOfRedirectsEnds) {
