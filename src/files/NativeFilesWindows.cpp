@@ -1,0 +1,144 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#ifdef _WIN32
+
+#include "files/NativeFiles.h"
+
+#include <algorithm>
+#include <cerrno>
+
+#include <fcntl.h>
+#include <io.h>
+#include <sys/stat.h>
+#include <windows.h>
+
+namespace orvane {
+
+namespace {
+
+std::error_code LastError() { return {errno, std::generic_category()}; }
+
+std::error_code LastWindowsError() {
+    const DWORD reason = GetLastError();
+    switch (reason) {
+    case ERROR_FILE_NOT_FOUND:
+    case ERROR_PATH_NOT_FOUND:
+    case ERROR_INVALID_NAME:
+        return make_error_code(std::errc::no_such_file_or_directory);
+    case ERROR_ACCESS_DENIED:
+    case ERROR_SHARING_VIOLATION:
+        return make_error_code(std::errc::permission_denied);
+    default:
+        return {static_cast<int>(reason), std::system_category()};
+    }
+}
+
+Result<FileHandle> Open(const FileSystem::Path& path, int how, int mode = 0) {
+    const int file = _wopen(path.c_str(), how | _O_BINARY | _O_NOINHERIT, mode);
+    if (file == -1)
+        return {{}, LastError()};
+    return {{file}, {}};
+}
+
+constexpr std::uint64_t Joined(DWORD high, DWORD low) { return std::uint64_t{high} << 32 | low; }
+
+Result<FileFacts> FactsOf(HANDLE file) {
+    FileFacts facts;
+    const DWORD type = GetFileType(file);
+    if (type != FILE_TYPE_DISK) {
+        facts.Kind = type == FILE_TYPE_PIPE ? FileKind::Pipe : FileKind::Device;
+        return {facts, {}};
+    }
+    BY_HANDLE_FILE_INFORMATION told{};
+    if (GetFileInformationByHandle(file, &told) == 0)
+        return {{}, LastWindowsError()};
+    if ((told.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0)
+        facts.Kind = FileKind::Folder;
+    facts.Size = Joined(told.nFileSizeHigh, told.nFileSizeLow);
+    const std::uint64_t changed =
+        Joined(told.ftLastWriteTime.dwHighDateTime, told.ftLastWriteTime.dwLowDateTime);
+    facts.Changed = static_cast<std::int64_t>(changed * 100); // it counts tenths of microseconds
+    facts.Device = told.dwVolumeSerialNumber;
+    facts.Number = Joined(told.nFileIndexHigh, told.nFileIndexLow);
+    facts.Names = told.nNumberOfLinks;
+    return {facts, {}};
+}
+
+HANDLE HandleOf(FileHandle file) {
+    return reinterpret_cast<HANDLE>(_get_osfhandle(file.Number)); // how the runtime hands it out
+}
+
+} // namespace
+
+Result<FileFacts> NativeFiles::Look(const Path& path) {
+    const DWORD others = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+    const HANDLE file = CreateFileW(path.c_str(), FILE_READ_ATTRIBUTES, others, nullptr, OPEN_EXISTING,
+                                    FILE_FLAG_BACKUP_SEMANTICS, nullptr); // folders too
+    if (file == INVALID_HANDLE_VALUE)
+        return {{}, LastWindowsError()};
+    const Result<FileFacts> facts = FactsOf(file);
+    CloseHandle(file);
+    return facts;
+}
+
+Result<FileFacts> NativeFiles::Look(FileHandle file) { return FactsOf(HandleOf(file)); }
+
+Result<FileSystem::Path> NativeFiles::ReadLink(const Path& path) {
+    Result<Path> target;
+    target.Got = std::filesystem::read_symlink(path, target.Failure);
+    if (target.Failure && target.Failure != std::errc::no_such_file_or_directory)
+        target.Failure = make_error_code(std::errc::invalid_argument); // nor can the library read every link
+    return target;
+}
+
+std::error_code NativeFiles::AskToWrite(const Path& path) {
+    constexpr int writing = 2;
+    return _waccess(path.c_str(), writing) == 0 ? std::error_code() : LastError();
+}
+
+Result<FileHandle> NativeFiles::OpenToRead(const Path& path, Opening) { return Open(path, _O_RDONLY); }
+
+Result<FileHandle> NativeFiles::OpenToOverwrite(const Path& path) { return Open(path, _O_WRONLY | _O_TRUNC); }
+
+// Who may read it follows from its folder; of the mode only whether it may be written could be kept.
+Result<FileHandle> NativeFiles::Create(const Path& path, std::uint32_t) {
+    return Open(path, _O_WRONLY | _O_CREAT | _O_EXCL, _S_IREAD | _S_IWRITE);
+}
+
+Result<std::size_t> NativeFiles::Read(FileHandle file, std::span<char> room) {
+    constexpr std::size_t most = 1u << 30;
+    const int count = _read(file.Number, room.data(), static_cast<unsigned>(std::min(room.size(), most)));
+    if (count == -1)
+        return {0, LastError()};
+    return {static_cast<std::size_t>(count), {}};
+}
+
+Result<std::size_t> NativeFiles::Write(FileHandle file, std::string_view bytes) {
+    constexpr std::size_t most = 1u << 30;
+    const int count = _write(file.Number, bytes.data(), static_cast<unsigned>(std::min(bytes.size(), most)));
+    if (count == -1)
+        return {0, LastError()};
+    return {static_cast<std::size_t>(count), {}};
+}
+
+std::error_code NativeFiles::Sync(FileHandle file) {
+    return _commit(file.Number) == 0 ? std::error_code() : LastError();
+}
+
+std::error_code NativeFiles::SyncFolder(const Path&) { return {}; }
+
+std::error_code NativeFiles::Close(FileHandle file) {
+    return _close(file.Number) == 0 ? std::error_code() : LastError();
+}
+
+std::error_code NativeFiles::SetGroup(FileHandle, std::uint32_t) { return {}; }
+std::error_code NativeFiles::SetOwner(FileHandle, std::uint32_t) { return {}; }
+std::error_code NativeFiles::SetMode(FileHandle, std::uint32_t) { return {}; }
+std::error_code NativeFiles::CopyAttributes(const Path&, FileHandle) { return {}; }
+
+std::error_code NativeFiles::Swap(const Path&, const Path&) {
+    return make_error_code(std::errc::not_supported);
+}
+
+} // namespace orvane
+
+#endif
