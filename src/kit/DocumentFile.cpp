@@ -2,12 +2,12 @@
 #include "kit/DocumentFile.h"
 
 #include "core/DocumentWriter.h"
-#include "files/Patience.h"
+#include "files/FileWriter.h"
+#include "files/NativeFiles.h"
 #include "kit/AnsiString.h"
 
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
 namespace orvane {
 
@@ -34,17 +34,11 @@ DocumentFile ReadDocumentFile(const QString& path) {
 }
 
 std::optional<QString> WriteWholeFile(const QString& path, std::string_view bytes) {
-    const auto size = static_cast<qint64>(bytes.size());
-    QString why;
-    const std::error_code failure = Patiently(kSavingPatience, [&] {
-        QSaveFile file(path);
-        if (file.open(QIODevice::WriteOnly) && file.write(bytes.data(), size) == size && file.commit())
-            return std::error_code();
-        why = file.errorString();
-        const bool isHeld = file.error() == QFileDevice::RenameError;
-        return make_error_code(isHeld ? std::errc::permission_denied : std::errc::io_error);
-    });
-    return failure ? std::optional(why) : std::nullopt;
+    NativeFiles files;
+    const WrittenFile written = WriteFile(files, QFileInfo(path).filesystemFilePath(), {bytes});
+    if (!written.Failure)
+        return std::nullopt;
+    return QString::fromLocal8Bit(Sentence(*written.Failure).c_str());
 }
 
 std::optional<QString> WriteDocumentFile(const QString& path, const FsmDocument& document) {
