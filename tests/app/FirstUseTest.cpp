@@ -81,6 +81,13 @@ TEST_F(FirstUse, DocumentsAreRememberedLatestFirstAndOnce) {
     EXPECT_EQ(RememberedFiles().count(Path(QStringLiteral("a.zfsm"))), 1);
 }
 
+TEST_F(FirstUse, ADocumentIsRememberedWhenItGetsItsFile) {
+    Start({QStringLiteral("/nosplash")});
+    Answers.ChooseFile(Path(QStringLiteral("fresh.zfsm")));
+    Trigger("mnuFSave");
+    EXPECT_EQ(RememberedFiles().value(0), Path(QStringLiteral("fresh.zfsm")));
+}
+
 TEST_F(FirstUse, NoMoreThanNineDocumentsAreRemembered) {
     for (int i = 0; i < 12; ++i)
         RememberFile(Path(QString::number(i)));

@@ -182,6 +182,18 @@ TEST_F(SideWindowsTest, TheScriptOfADocumentIsStoredAndReadBack) {
     EXPECT_EQ(SavedDocument().General.BuildFile, Path(QStringLiteral("whole.b1d")).toStdString());
 }
 
+TEST_F(SideWindowsTest, ANewNameOfTheDocumentIsTheNameOfItsScript) {
+    StartOn(PumpDocument());
+    Trigger("mnuBuilder");
+    const auto* name = Shown("frmBuilder")->findChild<QLineEdit*>(QStringLiteral("txtFileName"));
+    EXPECT_EQ(name->text(), Script());
+    Answers.ChooseFile(Path(QStringLiteral("copy.zfsm")));
+    Trigger("mnuFSaveAs");
+    EXPECT_EQ(name->text(), Path(QStringLiteral("copy.b1d")));
+    Trigger("mnuFNew");
+    EXPECT_EQ(name->text(), QString());
+}
+
 TEST_F(SideWindowsTest, AProgramThatCannotBeWrittenIsToldOnceNotAtEveryEdit) {
     StartOn(PumpDocument());
     ASSERT_TRUE(QDir(Path({})).mkdir(QStringLiteral("machine.zls"))); // a folder stands in the way

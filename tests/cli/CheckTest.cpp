@@ -124,6 +124,16 @@ TEST_F(Check, JsonIsOneLineForEachDocumentAlsoOfThoseThatCannotBeRead) {
                           "orvanec: c.zfsm: cannot be read (No such file or directory)\n");
 }
 
+TEST_F(Check, ControlCharactersOfADocumentAreEscapedInItsMessages) {
+    WriteFile("d.zfsm", "\xA4<A\x1B\x7F\x81\x9D\xE4>1\xA4/\r\n\xA4<FSM_NAME>D\xA4/\r\n\r\n");
+    EXPECT_EQ(Run("check d.zfsm").Errors, "d.zfsm:1: Unknown tag A\\x1B\\x7F\\x81\\x9D\xC3\xA4\n");
+}
+
+TEST_F(Check, JsonEscapesEachControlCharacter) {
+    const RunResult run = Run("check --format=json \"$(printf 'a\\177\\033\\037\\tb')\"");
+    EXPECT_TRUE(run.Output.starts_with("{\"path\":\"a\\u007f\\u001b\\u001f\\tb\",")) << run.Output;
+}
+
 TEST_F(Check, JsonStaysValidWhateverDocumentAndPathHold) {
     const std::string everyByte = [] {
         std::string bytes;
