@@ -150,6 +150,17 @@ TEST_F(CellEditing, EnterInTheTableOpensTheCellOfTheLastPress) {
     EXPECT_EQ(Editor()->geometry(), CellRect(6, 2));
 }
 
+TEST_F(CellEditing, EnterOpensNoCellOfARowThatIsHidden) {
+    StartOn(PumpDocument());
+    Trigger("mnuShowElse");
+    Click(kElseRow, 1, Qt::RightButton);
+    PoppedUp();
+    Trigger("mnuShowElse");
+    ASSERT_TRUE(CellRect(kElseRow, 1).isEmpty());
+    QTest::keyClick(Grid(), Qt::Key_Return);
+    EXPECT_FALSE(Editor()->isVisible());
+}
+
 TEST_F(CellEditing, ADoubleClickOpensTheEditorOnce) {
     StartOn(PumpDocument());
     const QPoint middle = CellRect(6, 1).center();

@@ -153,6 +153,18 @@ TEST_F(DialogsFromTable, TheStateEditorsTabsGoWithTheRowsOnceOneIsToggled) {
     EXPECT_EQ(StateTabs(), all);
 }
 
+TEST_F(DialogsFromTable, TimingRowsThatComeBackBringTheirTabBack) {
+    FsmDocument document = PumpDocument();
+    document.State(3).TimingMode = 1;
+    document.State(3).TimeConst = "50";
+    StartOn(document);
+    Trigger("mnuShowTimingMode");
+    Trigger("mnuShowTimeTarget");
+    EXPECT_EQ(StateTabs().size(), 2); // the table is drawn when the editor closes, and state 3 shows its rows
+    EXPECT_TRUE(Item("mnuShowTimingMode")->isChecked());
+    EXPECT_EQ(StateTabs().size(), 3);
+}
+
 TEST_F(DialogsFromTable, ADocumentWithATimeoutShowsTheTimingRows) {
     FsmDocument document = PumpDocument();
     document.State(3).Name = "Timed";

@@ -117,6 +117,17 @@ TEST_F(FirstUse, ARecentDocumentOpensAfterTheQuestionAboutUnsavedWork) {
     EXPECT_EQ(Title(), "machine.zfsm - Orvane " + ProgramVersion());
 }
 
+TEST_F(FirstUse, ARecentDocumentDoesNotDropWhatIsBeingTyped) {
+    StartOn(PumpDocument());
+    ASSERT_FALSE(RecentCaptions().isEmpty());
+    Click(7, 1);
+    QTest::keyClicks(Editor(), QStringLiteral("2"));
+    Answers.Press(QMessageBox::Cancel);
+    Recent()->actions().constFirst()->trigger();
+    EXPECT_EQ(Answers.Seen().size(), 1u);
+    EXPECT_EQ(Text(7, 1), "2:Run");
+}
+
 TEST_F(FirstUse, AboutTellsVersionAndLicence) {
     Start({QStringLiteral("/nosplash")});
     Answers.Do([&](QWidget& dialog) {

@@ -61,6 +61,20 @@ TEST_F(Hover, AHintThatIsStillToComeDoesNotComeUpUnderAMenu) {
     EXPECT_EQ(PoppedUp(), "mnuTranCell");
 }
 
+TEST_F(Hover, ANewDocumentTakesTheHintsOfTheOneBeforeAway) {
+    StartOn(PumpDocument());
+    QTest::keyPress(Grid(), Qt::Key_Shift);
+    MoveTo(6, 1);
+    ASSERT_NE(Hint(), "");
+    const auto* marker = Find<QWidget>("picNextStateMarker");
+    ASSERT_TRUE(marker->isVisible());
+    Trigger("mnuFNew");
+    EXPECT_FALSE(Tooltip()->isVisible());
+    EXPECT_FALSE(marker->isVisible());
+    EXPECT_FALSE(Find<QWidget>("txtRowheader")->isVisible());
+    QTest::keyRelease(Grid(), Qt::Key_Shift);
+}
+
 TEST_F(Hover, TheHeadOfTheRowIsSetOff) {
     StartOn(PumpDocument());
     MoveTo(6, 1);

@@ -213,6 +213,16 @@ TEST_F(Lifecycle, ClosingAsksAndCancelKeepsTheWindow) {
     EXPECT_TRUE(Window().isVisible());
 }
 
+TEST_F(Lifecycle, ClosingDoesNotDropWhatIsBeingTyped) {
+    StartOn(PumpDocument());
+    Click(7, 1);
+    QTest::keyClicks(Editor(), QStringLiteral("2"));
+    Answers.Press(QMessageBox::Cancel);
+    EXPECT_FALSE(Window().close());
+    EXPECT_EQ(Answers.Seen().size(), 1u);
+    EXPECT_EQ(Text(7, 1), "2:Run");
+}
+
 TEST_F(Lifecycle, ClosingWithYesSavesWithNoDoesNot) {
     StartModified();
     const std::string before = ReadFile(QStringLiteral("machine.zfsm"));
