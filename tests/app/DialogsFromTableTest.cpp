@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "support/ui/TableFixture.h"
+#include "support/ui/PopUpFixture.h"
 
 #include "kit/CodePane.h"
 
@@ -9,8 +9,12 @@
 #include <QTabWidget>
 #include <QTest>
 
+#include <gmock/gmock.h>
+
 namespace orvane {
 namespace {
+
+using testing::IsSupersetOf;
 
 // Presses OK or Cancel after the edit.
 std::function<void(QWidget&)> Editing(const char* window, const std::function<void(QWidget&)>& edit,
@@ -30,7 +34,7 @@ std::function<void(QWidget&)> Naming(const QString& name) {
     };
 }
 
-class DialogsFromTable : public TableFixture {
+class DialogsFromTable : public PopUpFixture {
   protected:
     // The captions of the tabs of the state editor that can be seen.
     QStringList StateTabs() {
@@ -57,6 +61,12 @@ TEST_F(DialogsFromTable, APressOnAStateHeadEditsTheState) {
     EXPECT_TRUE(Title().starts_with('*'));
     Trigger("mnuUndo");
     EXPECT_EQ(Text(0, 1), "1:Idle");
+}
+
+TEST_F(DialogsFromTable, CellsThatLeadToARenamedStateAreDrawnAgain) {
+    StartOn(PumpDocument());
+    Answers.Do(Editing("frmStateEdit", Naming(QStringLiteral("Rest"))));
+    EXPECT_THAT(DrawnBy([this] { Click(0, 1); }), IsSupersetOf({1, 2}));
 }
 
 TEST_F(DialogsFromTable, EachOfTheUpperRowsOpensTheStateEditor) {

@@ -8,6 +8,7 @@
 #include <QComboBox>
 #include <QDir>
 #include <QFile>
+#include <QFileDialog>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -197,6 +198,26 @@ TEST_F(Lifecycle, SaveAsWritesAndNamesTheDocument) {
     EXPECT_EQ(ReadFile(QStringLiteral("machine.zfsm")), before);
 }
 
+TEST_F(Lifecycle, SaveAsOffersTheNameThatTheDocumentHas) {
+    StartOn(PumpDocument());
+    Answers.Do([this](QWidget& dialog) {
+        const auto& files = dynamic_cast<QFileDialog&>(dialog);
+        EXPECT_EQ(files.selectedFiles(), QStringList{Path(QStringLiteral("machine.zfsm"))});
+        dialog.close();
+    });
+    Trigger("mnuFSaveAs");
+    EXPECT_EQ(Answers.Seen().size(), 1u);
+}
+
+TEST_F(Lifecycle, TheSettingsHaveNoNameHoweverTheirFileIsSpelt) {
+    StartOn(PumpDocument());
+    WriteFile(QStringLiteral("Orvane_Ini.ZFSM"), WriteDocument(PumpDocument()));
+    Answers.ChooseFile(Path(QStringLiteral("Orvane_Ini.ZFSM")));
+    Trigger("mnuFOpen");
+    EXPECT_EQ(Title(), "[Untitled]" + TitleEnd());
+    EXPECT_EQ(Text(0, 0), "PMP");
+}
+
 TEST_F(Lifecycle, ACancelledSaveAsLeavesTheDocumentModified) {
     StartModified();
     Answers.CancelFile();
@@ -206,11 +227,20 @@ TEST_F(Lifecycle, ACancelledSaveAsLeavesTheDocumentModified) {
 
 TEST_F(Lifecycle, ClosingAsksAndCancelKeepsTheWindow) {
     StartModified();
+    const QSignalSpy closed(&Window(), &frmTable::Closed);
     Answers.Press(QMessageBox::Cancel);
     EXPECT_FALSE(Window().close());
     EXPECT_EQ(Answers.Seen().back().Text, "Save changes?");
     EXPECT_EQ(Answers.Seen().back().Buttons, kYesNoCancel);
     EXPECT_TRUE(Window().isVisible());
+    EXPECT_EQ(closed.count(), 0);
+}
+
+TEST_F(Lifecycle, AClosedWindowSaysSoOnceAndTheProgramEndsWithIt) {
+    StartOn(PumpDocument());
+    const QSignalSpy closed(&Window(), &frmTable::Closed);
+    EXPECT_TRUE(Window().close());
+    EXPECT_EQ(closed.count(), 1);
 }
 
 TEST_F(Lifecycle, ClosingDoesNotDropWhatIsBeingTyped) {

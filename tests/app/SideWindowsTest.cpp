@@ -125,11 +125,14 @@ TEST_F(SideWindowsTest, AProgramWithoutErrorsOfADocumentWithoutAFileIsNotWritten
 TEST_F(SideWindowsTest, ALineOfTheReportLeadsToItsCell) {
     StartOn(FaultyDocument());
     Trigger("mnuCodeGenerate");
+    ASSERT_TRUE(QTest::qWaitForWindowActive(Shown("frmGenerator")));
     QPlainTextEdit* errors = Errors();
     const QTextCursor line(errors->document()->findBlockByNumber(1));
     QTest::mouseDClick(errors->viewport(), Qt::LeftButton, Qt::NoModifier, errors->cursorRect(line).center());
     EXPECT_EQ(Grid()->currentIndex().row(), 7);
     EXPECT_EQ(Grid()->currentIndex().column(), 2);
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&Window()));
+    EXPECT_TRUE(Grid()->hasFocus());
 }
 
 TEST_F(SideWindowsTest, BuildAndTestHandsTheScriptOfTheLatestProgramToTheDesktop) {

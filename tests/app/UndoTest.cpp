@@ -1,14 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "support/ui/TableFixture.h"
+#include "support/ui/PopUpFixture.h"
 
 #include <QDesktopServices>
 #include <QTest>
 #include <QUrl>
 
+#include <gmock/gmock.h>
+
 namespace orvane {
 namespace {
 
-class Undo : public TableFixture {};
+using testing::Contains;
+
+class Undo : public PopUpFixture {};
 
 TEST_F(Undo, StepsGoBackAndForthAndTheMenusFollow) {
     StartOn(PumpDocument());
@@ -26,6 +30,13 @@ TEST_F(Undo, StepsGoBackAndForthAndTheMenusFollow) {
     Trigger("mnuRedo");
     EXPECT_EQ(Text(6, 2), "1:Idle");
     EXPECT_FALSE(Item("mnuRedo")->isEnabled());
+}
+
+TEST_F(Undo, WhatIsUndoneAndRedoneIsDrawn) {
+    StartOn(PumpDocument());
+    TypeTarget(7, 5, QStringLiteral("2"));
+    EXPECT_THAT(DrawnBy([this] { Trigger("mnuUndo"); }), Contains(5));
+    EXPECT_THAT(DrawnBy([this] { Trigger("mnuRedo"); }), Contains(5));
 }
 
 TEST_F(Undo, ANewEditEndsRedo) {
