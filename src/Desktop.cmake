@@ -24,9 +24,10 @@ set_target_properties(orvane_desktop PROPERTIES AUTOMOC ON AUTORCC ON)
 # CMake 3.25 does not look again at the headers when the list of them has changed.
 file(REMOVE ${CMAKE_CURRENT_BINARY_DIR}/orvane_desktop_autogen/timestamp)
 target_compile_definitions(orvane_desktop
-  PUBLIC QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS
-  PRIVATE ORVANE_DOWNLOAD_URL="${ORVANE_DOWNLOAD_URL}" ORVANE_HOME_URL="${ORVANE_HOME_URL}"
-          ORVANE_HELP_URL="${ORVANE_HELP_URL}" ORVANE_HELP_FOLDER="${help_folder}")
+  PUBLIC QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS)
+set_property(SOURCE ${CMAKE_CURRENT_LIST_DIR}/kit/WebAddresses.cpp PROPERTY COMPILE_DEFINITIONS
+  ORVANE_DOWNLOAD_URL="${ORVANE_DOWNLOAD_URL}" ORVANE_HOME_URL="${ORVANE_HOME_URL}"
+  ORVANE_HELP_URL="${ORVANE_HELP_URL}" ORVANE_HELP_FOLDER="${help_folder}")
 target_link_libraries(orvane_desktop
   PUBLIC orvane_engine Qt6::Widgets Qt6::Network QScintilla::QScintilla
   PRIVATE $<BUILD_INTERFACE:orvane_warnings>)

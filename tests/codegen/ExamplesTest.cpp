@@ -7,6 +7,7 @@
 #include "core/TightPacked.h"
 #include "core/TimingMode.h"
 #include "support/FileBytes.h"
+#include "support/Folders.h"
 
 #include <gtest/gtest.h>
 
@@ -26,7 +27,7 @@ const std::set<std::string> kFaultyExamples{"faulty", "nameless"};
 
 std::vector<fs::path> ExampleFiles() {
     std::vector<fs::path> files;
-    for (const fs::directory_entry& entry : fs::directory_iterator(ORVANE_EXAMPLES)) {
+    for (const fs::directory_entry& entry : fs::directory_iterator(test::kExamplesFolder)) {
         if (entry.path().extension() == ".zfsm")
             files.push_back(entry.path());
     }
@@ -36,7 +37,9 @@ std::vector<fs::path> ExampleFiles() {
 
 FsmDocument Load(const fs::path& path) { return ReadDocument(FileBytes(path)).Document; }
 
-FsmDocument Example(const std::string& name) { return Load(fs::path(ORVANE_EXAMPLES) / (name + ".zfsm")); }
+FsmDocument Example(const std::string& name) {
+    return Load(fs::path(test::kExamplesFolder) / (name + ".zfsm"));
+}
 
 std::map<std::string, FsmDocument> SoundExamples() {
     std::map<std::string, FsmDocument> documents;
@@ -234,7 +237,7 @@ std::set<std::string> InstructionWords(const std::string& program) {
 
 TEST(Examples, UseOnlyWordsOfTheirVocabulary) {
     std::set<std::string> vocabulary;
-    std::istringstream lines(FileBytes(fs::path(ORVANE_EXAMPLES) / "appdata/Zorlan32/vocab/vocab.txt"));
+    std::istringstream lines(FileBytes(fs::path(test::kExamplesFolder) / "appdata/Zorlan32/vocab/vocab.txt"));
     for (std::string line; std::getline(lines, line);) {
         line.erase(std::find(line.begin(), line.end(), '\r'), line.end());
         vocabulary.insert(line.substr(line.find('=') + 1));

@@ -10,6 +10,7 @@
 #include "codegen/CodeGenerator.h"
 #include "core/DocumentReader.h"
 #include "support/FileBytes.h"
+#include "support/Folders.h"
 
 #include <gtest/gtest.h>
 
@@ -47,7 +48,7 @@ std::set<std::string> NamesIn(const fs::path& folder) {
 }
 
 std::vector<GoldenCase> BehaviourCases() {
-    const fs::path golden = ORVANE_GOLDEN;
+    const fs::path golden = test::kGoldenFolder;
     std::vector<GoldenCase> cases;
     for (const std::string& name : NamesIn(golden)) {
         if (name != kExamples)
@@ -58,11 +59,11 @@ std::vector<GoldenCase> BehaviourCases() {
 
 std::vector<GoldenCase> ExampleCases() {
     std::vector<GoldenCase> cases;
-    for (const std::string& file : NamesIn(ORVANE_EXAMPLES)) {
-        const fs::path document = fs::path(ORVANE_EXAMPLES) / file;
+    for (const std::string& file : NamesIn(test::kExamplesFolder)) {
+        const fs::path document = fs::path(test::kExamplesFolder) / file;
         const std::string name = document.stem().string();
         if (document.extension() == ".zfsm")
-            cases.push_back({name, document, fs::path(ORVANE_GOLDEN) / kExamples / name});
+            cases.push_back({name, document, fs::path(test::kGoldenFolder) / kExamples / name});
     }
     return cases;
 }
@@ -150,7 +151,7 @@ TEST(GoldenFolders, EveryExampleHasItsExpectedFilesAndNothingElseStandsThere) {
     std::set<std::string> names;
     for (const GoldenCase& golden : ExampleCases())
         names.insert(golden.Name);
-    EXPECT_EQ(NamesIn(fs::path(ORVANE_GOLDEN) / kExamples), names);
+    EXPECT_EQ(NamesIn(fs::path(test::kGoldenFolder) / kExamples), names);
 }
 
 } // namespace

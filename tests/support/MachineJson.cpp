@@ -4,6 +4,7 @@
 #include "core/DocumentReader.h"
 #include "core/TimingMode.h"
 #include "support/FileBytes.h"
+#include "support/Folders.h"
 #include "support/Json.h"
 #include "text/AnsiText.h"
 
@@ -119,11 +120,11 @@ FsmDocument MachineFromJson(std::string_view json) {
 
 std::vector<NamedDocument> RealMachines() {
     const char* folder = std::getenv("ORVANE_MACHINES");
-    return DocumentsIn(folder != nullptr ? folder : ORVANE_MACHINES, ".json", MachineFromJson);
+    return DocumentsIn(folder != nullptr ? folder : kMachinesFolder, ".json", MachineFromJson);
 }
 
 std::vector<NamedDocument> ExampleDocuments() {
-    return DocumentsIn(ORVANE_EXAMPLES, ".zfsm",
+    return DocumentsIn(kExamplesFolder, ".zfsm",
                        [](std::string_view bytes) { return ReadDocument(bytes).Document; });
 }
 
