@@ -207,13 +207,28 @@ TEST_F(EditorsFromTheTable, TabsHiddenWithTheRowsOfOneDocumentAreThereForTheNext
 TEST_F(EditorsFromTheTable, EachEditIsGeneratedBeforeTheDialogCloses) {
     StartOn(PumpDocument());
     const QString file = Path(QStringLiteral("machine.zls"));
-    InEditor("frmStateEdit", [&file](QWidget& dialog) {
-        QFile::remove(file);
-        QTest::keyClicks(&Named<CodePane>(dialog, "txtEntryCode"), QStringLiteral("x"));
-        EXPECT_TRUE(QFile::exists(file));
-        Press(dialog, "cmdCancel");
-    });
+    const auto typedInto = [this, &file](const char* editor, const auto& field) {
+        InEditor(editor, [&file, field](QWidget& dialog) {
+            QFile::remove(file);
+            QTest::keyClicks(&field(dialog), QStringLiteral("x"));
+            EXPECT_TRUE(QFile::exists(file)) << dialog.objectName().toStdString();
+            Press(dialog, "cmdCancel");
+        });
+    };
+    typedInto("frmStateEdit",
+              [](QWidget& dialog) -> QWidget& { return Named<CodePane>(dialog, "txtEntryCode"); });
     Click(0, 1);
+    typedInto("frmEventEdit",
+              [](QWidget& dialog) -> QWidget& { return Named<CodePane>(dialog, "txtEventCode"); });
+    Click(6, 0);
+    typedInto("frmGeneralCodeEdit",
+              [](QWidget& dialog) -> QWidget& { return Named<CodePane>(dialog, "txtCodeSeg"); });
+    Click(0, 0);
+    Click(7, 2, Qt::RightButton);
+    PoppedUp();
+    typedInto("frmTransitionAction",
+              [](QWidget& dialog) -> QWidget& { return Named<QPlainTextEdit>(dialog, "txtCode"); });
+    Trigger("mnuEditTransAct");
 }
 
 TEST_F(EditorsFromTheTable, PanesColourTheWordsOfTheVocabulary) {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/Remembered.h"
+#include "core/DocumentWriter.h"
 #include "core/ProgramVersion.h"
 #include "support/ui/Controls.h"
 #include "support/ui/OpenedAddresses.h"
@@ -102,6 +103,21 @@ TEST_F(FirstUse, ADocumentThatIsGoneIsNotOffered) {
     EXPECT_EQ(RecentCaptions().filter(QStringLiteral("machine.zfsm")).size(), 0);
 }
 
+TEST_F(FirstUse, AListOfRecentDocumentsWithNothingInItCannotBeOpened) {
+    StartOn(PumpDocument());
+    EXPECT_EQ(RecentCaptions().size(), 1);
+    EXPECT_TRUE(Recent()->isEnabled());
+    QFile::remove(Path(QStringLiteral("machine.zfsm")));
+    EXPECT_EQ(RecentCaptions().size(), 0);
+    EXPECT_FALSE(Recent()->isEnabled());
+}
+
+TEST_F(FirstUse, TheMarkForKeysInANameIsShownAsItIs) {
+    WriteFile(QStringLiteral("a&b.zfsm"), WriteDocument(PumpDocument()));
+    Start({Path(QStringLiteral("a&b.zfsm"))});
+    EXPECT_EQ(RecentCaptions().filter(QStringLiteral("a&&b.zfsm")).size(), 1);
+}
+
 TEST_F(FirstUse, ARecentDocumentOpensAfterTheQuestionAboutUnsavedWork) {
     StartOn(PumpDocument());
     Trigger("mnuFNew");
@@ -146,6 +162,16 @@ TEST_F(FirstUse, HelpPagesOpensTheStartPageThatTheProgramBrings) {
     ASSERT_EQ(opened.Addresses.size(), 1);
     EXPECT_EQ(opened.Addresses[0].fileName(), QStringLiteral("index.htm"));
     EXPECT_TRUE(QFileInfo::exists(opened.Addresses[0].toLocalFile()));
+}
+
+TEST_F(FirstUse, HelpPagesThatCannotBeOpenedAreToldWithTheirPlace) {
+    qputenv("ORVANE_HELP_URL", "nobodyknows:this");
+    Start({QStringLiteral("/nosplash")});
+    Answers.Press(QMessageBox::Ok);
+    Trigger("mnuHelpPages");
+    qunsetenv("ORVANE_HELP_URL");
+    ASSERT_EQ(Answers.Seen().size(), 1u);
+    EXPECT_EQ(Answers.Seen()[0].Text, "The help pages could not be opened. They are at\r\nnobodyknows:this");
 }
 
 TEST_F(FirstUse, TheWindowComesBackWithItsSize) {

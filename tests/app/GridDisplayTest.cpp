@@ -22,10 +22,11 @@ class GridDisplay : public TableFixture {
         Send(QEvent::MouseMove, from + QPoint(by, 0), Qt::LeftButton);
         QTest::mouseRelease(viewport, Qt::LeftButton, {}, from + QPoint(by, 0));
     }
-    void Send(QEvent::Type type, const QPoint& at, Qt::MouseButton button) {
+    void Send(QEvent::Type type, const QPoint& at, Qt::MouseButton button,
+              Qt::KeyboardModifiers modifiers = {}) {
         QWidget* viewport = Grid()->viewport();
         QMouseEvent event(type, at, viewport->mapToGlobal(QPointF(at)),
-                          type == QEvent::MouseMove ? Qt::NoButton : button, button, Qt::NoModifier);
+                          type == QEvent::MouseMove ? Qt::NoButton : button, button, modifiers);
         QApplication::sendEvent(viewport, &event);
     }
     QPoint BorderOf(int column) {
@@ -161,6 +162,23 @@ TEST_F(GridDisplay, AColumnDraggedShutIsDraggedOpenAgain) {
     DragBorder(BorderOf(1) + QPoint(1, 0), 50);
     EXPECT_EQ(Grid()->columnWidth(1), 63);
     EXPECT_EQ(Grid()->columnWidth(2), 50);
+}
+
+TEST_F(GridDisplay, ABorderIsNotDraggedWithAKeyHeld) {
+    StartOn(PumpDocument());
+    const QPoint border = BorderOf(2);
+    Send(QEvent::MouseButtonPress, border, Qt::LeftButton, Qt::ControlModifier);
+    Send(QEvent::MouseMove, border + QPoint(40, 0), Qt::LeftButton, Qt::ControlModifier);
+    EXPECT_EQ(Grid()->columnWidth(2), 63);
+    Send(QEvent::MouseButtonRelease, border, Qt::LeftButton, Qt::ControlModifier);
+}
+
+TEST_F(GridDisplay, ADragEndsWithItsButton) {
+    StartOn(PumpDocument());
+    const QPoint border = BorderOf(2);
+    DragBorder(border, 20);
+    Send(QEvent::MouseMove, border + QPoint(60, 0), Qt::NoButton);
+    EXPECT_EQ(Grid()->columnWidth(2), 63 + 20);
 }
 
 TEST_F(GridDisplay, ADraggedBorderOpensNoEditor) {

@@ -240,6 +240,17 @@ TEST_F(PressTable, InsertingAStateMovesTheOthersAndTheirTransitions) {
     EXPECT_EQ(Text(6, 1), "2:Run");
 }
 
+TEST_F(PressTable, FileAndEditHaveTheirKeys) {
+    Start();
+    for (const auto& [item, keys] : {std::pair{"mnuFNew", "Ctrl+N"},
+                                     {"mnuFOpen", "Ctrl+O"},
+                                     {"mnuFSave", "Ctrl+S"},
+                                     {"mnuFSaveAs", "Ctrl+Shift+S"},
+                                     {"mnuUndo", "Ctrl+Z"},
+                                     {"mnuRedo", "Ctrl+Y"}})
+        EXPECT_EQ(Item(item)->shortcut().toString(QKeySequence::PortableText).toStdString(), keys) << item;
+}
+
 struct ExpectedItem {
     const char* Name;
     const char* Caption;
