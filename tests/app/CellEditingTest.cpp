@@ -114,6 +114,13 @@ TEST_F(CellEditing, OnlyDigitsAreTyped) {
     EXPECT_EQ(EditorText(), "12");
 }
 
+TEST_F(CellEditing, NothingButKeysFillsTheEditor) {
+    StartOn(PumpDocument());
+    Click(6, 2);
+    EXPECT_FALSE(Editor()->acceptDrops());
+    EXPECT_EQ(Editor()->contextMenuPolicy(), Qt::NoContextMenu); // it would offer to paste
+}
+
 TEST_F(CellEditing, TabDoesNotLeaveTheEditor) {
     StartOn(PumpDocument());
     Click(7, 1);
@@ -179,6 +186,18 @@ TEST_F(CellEditing, ADoubleClickWhoseSecondPressIsOnAnotherCellPressesThatCellTo
     ASSERT_TRUE(Editor()->isVisible());
     EXPECT_EQ(Editor()->geometry(), CellRect(7, 2));
     EXPECT_EQ(EditorText(), "1");
+}
+
+TEST_F(CellEditing, ASecondPressThatComesLateIsAPressOfItsOwn) {
+    StartOn(PumpDocument());
+    Click(7, 1);
+    QTest::keyClicks(Editor(), QStringLiteral("2"));
+    const int interval = QApplication::doubleClickInterval();
+    QApplication::setDoubleClickInterval(0);
+    SendDoubleClick(7, 1);
+    QApplication::setDoubleClickInterval(interval);
+    EXPECT_EQ(Text(7, 1), "2:Run"); // stored, as by any press on a cell
+    EXPECT_TRUE(Editor()->isVisible());
 }
 
 TEST_F(CellEditing, ADoubleClickThatNoPressCameBeforeCountsAsOne) {

@@ -11,6 +11,7 @@
 #include <QFileInfo>
 #include <QLabel>
 #include <QMenuBar>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTabBar>
 
@@ -199,6 +200,18 @@ TEST_F(FirstUse, TheMenuOfTheCurrentCellComesWithTheMenuKey) {
     Select(6, 1);
     QTest::keyClick(Grid(), Qt::Key_F10, Qt::ShiftModifier);
     EXPECT_EQ(PoppedUp(), "mnuTranCell");
+    QTest::keyClick(Grid(), Qt::Key_F10, Qt::ControlModifier);
+    EXPECT_EQ(PoppedUp(), "");
+}
+
+TEST_F(FirstUse, AMenuBringsTheCurrentCellBackIntoSight) {
+    StartOn(PumpDocument());
+    Select(6, 1);
+    QScrollBar* bar = Grid()->horizontalScrollBar();
+    bar->setValue(bar->maximum());
+    QTest::keyClick(Grid(), Qt::Key_Menu);
+    EXPECT_EQ(PoppedUp(), "mnuTranCell");
+    EXPECT_EQ(bar->value(), 0);
 }
 
 TEST_F(FirstUse, TheArrowKeysReachTheHeads) {

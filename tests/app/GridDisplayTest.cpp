@@ -212,6 +212,15 @@ TEST_F(GridDisplay, WidthsThatArePixelsInNoWayComeBackAsTheyWere) {
     EXPECT_EQ(saved.View.Col0Width, 1891);
 }
 
+TEST_F(GridDisplay, AWidthIsShownInTheNearestWholePixel) {
+    FsmDocument document = PumpDocument();
+    document.State(1).ColWidth = 60 * 15 + 7;
+    document.State(2).ColWidth = 60 * 15 + 8;
+    StartOn(document);
+    EXPECT_EQ(Grid()->columnWidth(1), 60);
+    EXPECT_EQ(Grid()->columnWidth(2), 61);
+}
+
 TEST_F(GridDisplay, AHugeColumnZeroLeavesRoomForTheTableAndCanBeDraggedSmaller) {
     FsmDocument document = PumpDocument();
     document.View.Col0Width = 100000;

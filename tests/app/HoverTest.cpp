@@ -42,6 +42,37 @@ TEST_F(Hover, TheHintGoesWhenThePointerMovesOnOrLeaves) {
     EXPECT_FALSE(Tooltip()->isVisible());
 }
 
+TEST_F(Hover, AHintStaysWhileThePointerMovesInItsCell) {
+    StartOn(PumpDocument());
+    MoveTo(6, 1);
+    ASSERT_NE(Hint(), "");
+    MoveTo(6, 1);
+    EXPECT_TRUE(Tooltip()->isVisible());
+}
+
+TEST_F(Hover, APointerThatComesBackToTheCellItLeftGetsItsHint) {
+    StartOn(PumpDocument());
+    MoveTo(6, 1);
+    LeaveTheTable();
+    MoveTo(6, 1);
+    EXPECT_NE(Hint(), "");
+}
+
+TEST_F(Hover, APointerBesideTheLastColumnHasNoHint) {
+    FsmDocument document = PumpDocument();
+    for (const int state : StateNumbers())
+        document.State(state).ColWidth = state == 1 ? 945 : 15;
+    StartOn(document);
+    MoveTo(6, 1);
+    ASSERT_NE(Hint(), "");
+    const QPointF beside(Grid()->viewport()->width() - 5, CellRect(6, 1).center().y());
+    ASSERT_FALSE(Grid()->indexAt(beside.toPoint()).isValid());
+    QMouseEvent move(QEvent::MouseMove, beside, Grid()->viewport()->mapToGlobal(beside), Qt::NoButton,
+                     Qt::NoButton, Qt::NoModifier);
+    QApplication::sendEvent(Grid()->viewport(), &move);
+    EXPECT_FALSE(Tooltip()->isVisible());
+}
+
 TEST_F(Hover, AMenuThatPopsUpTakesTheHintAway) {
     StartOn(PumpDocument());
     MoveTo(6, 1);
@@ -85,6 +116,20 @@ TEST_F(Hover, TheHeadOfTheRowIsSetOff) {
     EXPECT_EQ(head->geometry(), cell.adjusted(2, 0, 1, 0));
     MoveTo(8, 1); // an event without a name
     EXPECT_FALSE(head->isVisible());
+}
+
+TEST_F(Hover, ScrollingTakesTheSetOffHeadAwayAndTheMarkerAlong) {
+    StartOn(PumpDocument());
+    Window().resize(500, 300);
+    QTest::keyPress(Grid(), Qt::Key_Shift);
+    MoveTo(6, 1);
+    const auto* marker = Find<QWidget>("picNextStateMarker");
+    ASSERT_EQ(marker->pos(), CellRect(0, 2).topLeft());
+    ASSERT_TRUE(Find<QWidget>("txtRowheader")->isVisible());
+    CellRect(6, 12);
+    EXPECT_FALSE(Find<QWidget>("txtRowheader")->isVisible());
+    EXPECT_EQ(marker->pos(), QPoint(Grid()->columnWidth(0), 0)); // its state is beyond this edge
+    QTest::keyRelease(Grid(), Qt::Key_Shift);
 }
 
 TEST_F(Hover, AMouseMoveOverTheSetOffHeadHidesIt) {

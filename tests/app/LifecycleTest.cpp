@@ -163,6 +163,48 @@ TEST_F(Lifecycle, AFileThatCannotBeReadIsToldAndTheOpenDocumentStays) {
     EXPECT_EQ(Text(0, 1), "1:Idle");
 }
 
+TEST_F(Lifecycle, FileDialogsStartInTheFolderOfTheDocument) {
+    ASSERT_TRUE(QDir().mkpath(Path(QStringLiteral("pumps"))));
+    WriteFile(QStringLiteral("pumps/one.zfsm"), WriteDocument(PumpDocument()));
+    Start({Path(QStringLiteral("pumps/one.zfsm"))});
+    for (const char* item : {"mnuFOpen", "mnuFSaveAs"}) {
+        Answers.Do([this](QWidget& dialog) {
+            EXPECT_EQ(dynamic_cast<QFileDialog&>(dialog).directory(), QDir(Path(QStringLiteral("pumps"))));
+            dialog.close();
+        });
+        Trigger(item);
+    }
+}
+
+TEST_F(Lifecycle, ReturnInAQuestionSavesAndEscapeCancels) {
+    StartModified();
+    const std::string before = ReadFile(QStringLiteral("machine.zfsm"));
+    const auto press = [this](Qt::Key key) {
+        Answers.Do([key](QWidget& box) {
+            EXPECT_TRUE(QTest::qWaitForWindowActive(&box));
+            QTest::keyClick(&box, key);
+        });
+        Trigger("mnuFNew");
+    };
+    press(Qt::Key_Escape);
+    EXPECT_EQ(Title(), "*machine.zfsm" + TitleEnd());
+    EXPECT_EQ(ReadFile(QStringLiteral("machine.zfsm")), before);
+    press(Qt::Key_Return);
+    EXPECT_EQ(Title(), "[Untitled]" + TitleEnd());
+    EXPECT_NE(ReadFile(QStringLiteral("machine.zfsm")), before);
+}
+
+TEST_F(Lifecycle, NamesThatLookLikeMarkupAreToldAsTheyAre) {
+    StartOn(PumpDocument());
+    WriteFile(QStringLiteral("<b>x.zfsm"), "nothing");
+    Answers.ChooseFile(Path(QStringLiteral("<b>x.zfsm"))).Do([](QWidget& dialog) {
+        EXPECT_EQ(dynamic_cast<QMessageBox&>(dialog).textFormat(), Qt::PlainText);
+        dialog.close();
+    });
+    Trigger("mnuFOpen");
+    EXPECT_NE(Answers.Seen().back().Text.find("<b>x.zfsm"), std::string::npos);
+}
+
 TEST_F(Lifecycle, AFailedSaveSaysWhyKeepsTheOldFileAndTheMark) {
     StartModified();
     const std::string before = ReadFile(QStringLiteral("machine.zfsm"));

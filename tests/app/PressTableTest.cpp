@@ -56,6 +56,22 @@ TEST_F(PressTable, PressesSentToTheViewItselfWorkAsWell) {
     EXPECT_TRUE(Editor()->isVisible());
 }
 
+TEST_F(PressTable, ARightPressLeavesTheCurrentCellWhereItIs) {
+    StartOn(PumpDocument());
+    Grid()->setCurrentIndex(Grid()->model()->index(6, 1));
+    Click(7, 2, Qt::RightButton);
+    EXPECT_EQ(PoppedUp(), "mnuTranCell");
+    EXPECT_EQ(Grid()->currentIndex(), Grid()->model()->index(6, 1));
+}
+
+TEST_F(PressTable, ACellWiderThanTheWindowIsShownFromItsBeginning) {
+    FsmDocument document = PumpDocument();
+    document.State(5).ColWidth = 3000 * 15;
+    StartOn(document);
+    Window().resize(500, 300);
+    EXPECT_EQ(CellRect(6, 5).left(), Grid()->columnWidth(0));
+}
+
 TEST_F(PressTable, EveryCellIsPressedWhereItIsShown) {
     FsmDocument document = PumpDocument();
     for (const int row : EventRows())

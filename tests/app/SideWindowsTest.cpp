@@ -6,6 +6,7 @@
 #include "builder/BuilderScript.h"
 #include "core/DocumentWriter.h"
 #include "kit/CodePane.h"
+#include "text/ZorlanScanner.h"
 
 #include <QAction>
 #include <QApplication>
@@ -174,6 +175,34 @@ TEST_F(SideWindowsTest, ADesignWithErrorsIsNotBuiltAndItsProgramNotRewritten) {
     EXPECT_EQ(ReadFile(QStringLiteral("machine.zls")), "older program");
     EXPECT_TRUE(QFile::exists(Script()));
     EXPECT_TRUE(opened_.Addresses.isEmpty());
+}
+
+TEST_F(SideWindowsTest, ADesignThatHasBecomeFaultyIsNotBuiltFromTheProgramBefore) {
+    FsmDocument document = PumpDocument();
+    document.Event(8).Name = "Full"; // without a test yet
+    StartOn(document);
+    TypeTarget(7, 1, QStringLiteral("2"));
+    const std::string sound = ReadFile(QStringLiteral("machine.zls"));
+    TypeTarget(8, 1, QStringLiteral("2"));
+    Answers.Press(QMessageBox::Ok);
+    Trigger("mnuBuildAndTest");
+    EXPECT_EQ(Answers.Seen().size(), 1u);
+    EXPECT_TRUE(opened_.Addresses.isEmpty());
+    EXPECT_EQ(ReadFile(QStringLiteral("machine.zls")), sound);
+}
+
+TEST_F(SideWindowsTest, TheProgramIsColouredByTheWordsOfTheVocabulary) {
+    ASSERT_TRUE(QDir(Path({})).mkpath(QStringLiteral("Zorlan32/vocab")));
+    WriteFile(QStringLiteral("Zorlan32/vocab/vocab.txt"), "Inst=YieldTask\r\nDirective=DB\r\n");
+    StartOn(PumpDocument());
+    Trigger("mnuPolytask");
+    Trigger("mnuCodeGenerate");
+    auto* pane = Shown("frmGenerator")->findChild<CodePane*>();
+    pane->SendScintilla(QsciScintilla::SCI_COLOURISE, 0UL, -1L);
+    const std::size_t word = Code().find("YieldTask");
+    ASSERT_NE(word, std::string::npos);
+    EXPECT_EQ(pane->SendScintilla(QsciScintilla::SCI_GETSTYLEAT, word),
+              static_cast<long>(TokenKind::Instruction));
 }
 
 TEST_F(SideWindowsTest, TheScriptOfADocumentIsStoredAndReadBack) {

@@ -301,6 +301,32 @@ TEST_F(frmBuilderTest, InAFolderThatTheScriptCannotNameTheProgramStandsWithoutIt
     EXPECT_EQ(opened_.Addresses[0].toLocalFile(), FileName());
 }
 
+TEST_F(frmBuilderTest, ALineBrokenWithShiftIsALineOfTheScript) {
+    Write(QStringLiteral("pump.b1d"), "CODESEG");
+    Open(QStringLiteral("pump.zfsm"));
+    Show();
+    QTest::keyClick(&Find<QPlainTextEdit>("txtBuildScript"), Qt::Key_Return, Qt::ShiftModifier);
+    Press("cmdSave");
+    EXPECT_EQ(Read(QStringLiteral("pump.b1d")), "\r\nCODESEG\r\n");
+}
+
+TEST_F(frmBuilderTest, AScriptMayHaveOneMebibyteAndNotAByteMore) {
+    const QByteArray largest(1 << 20, ';');
+    Write(QStringLiteral("large.b1d"), largest);
+    Write(QStringLiteral("larger.b1d"), largest + ";");
+    answers_.ChooseFile(Path(QStringLiteral("large.b1d")));
+    Open(QStringLiteral("pump.zfsm"));
+    Show();
+    Press("cmdSelectFile");
+    EXPECT_EQ(Script().size(), static_cast<std::size_t>(largest.size()) + 1); // and a line end
+    answers_.ChooseFile(Path(QStringLiteral("larger.b1d")))
+        .Press(QMessageBox::No) // to what stands beside the document
+        .Press(QMessageBox::Ok);
+    Press("cmdSelectFile");
+    EXPECT_EQ(answers_.Seen().back().Text, kMissing);
+    EXPECT_EQ(FileName(), Path(QStringLiteral("pump.b1d")));
+}
+
 TEST_F(frmBuilderTest, AScriptThatIsGoneIsNoChangeOnDisk) {
     Open(QStringLiteral("pump.zfsm"));
     Show();

@@ -75,6 +75,22 @@ TEST_F(frmGeneratorTest, ALargeProgramWaitsForAPauseAndTheLatestIsShown) {
     }
 }
 
+TEST_F(frmGeneratorTest, AWindowComesUpWithTheLatestRunHoweverLarge) {
+    const std::string text(100000, ';');
+    window_.TakeRun(ARun(text), QString());
+    window_.Present();
+    EXPECT_EQ(Find<CodePane>("txtCode").Text(), text);
+}
+
+TEST_F(frmGeneratorTest, ADoubleClickOnAFindingWithoutAPlaceChoosesNothing) {
+    const QSignalSpy chosen(&window_, &frmGenerator::PlaceChosen);
+    window_.TakeRun(ARun("", {{Severity::Warning, 0, 0, "Nothing leads anywhere"}}), QString());
+    Show();
+    QTest::mouseDClick(Find<QPlainTextEdit>("txtErrors").viewport(), Qt::LeftButton, Qt::NoModifier,
+                       MiddleOfLine(1));
+    EXPECT_EQ(chosen.count(), 0);
+}
+
 TEST_F(frmGeneratorTest, TheLatestRunReplacesTheOneBefore) {
     Show();
     for (const std::string text :

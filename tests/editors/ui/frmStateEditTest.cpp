@@ -336,5 +336,40 @@ TEST_F(StateEditTest, TimingHelpIsShownForAsLongAsItsButtonIsHeld) {
     });
 }
 
+TEST_F(StateEditTest, OneLimitIsShownAtATime) {
+    Open([&] {
+        ClickTab(2);
+        Choose("optStartTiming");
+        Choose("optTimeCONST");
+        EXPECT_TRUE(IsShown("fraTimeCONST"));
+        EXPECT_FALSE(IsShown("fraTimeVAR"));
+        Choose("optTimeVAR");
+        EXPECT_FALSE(IsShown("fraTimeCONST"));
+        EXPECT_TRUE(IsShown("fraTimeVAR"));
+        Cancel();
+    });
+}
+
+TEST_F(StateEditTest, UndoInAPaneDoesNotBringTheCodeOfTheStateBefore) {
+    Open([&] { Cancel(); });
+    state.EntryCode = "\tOther\r\n";
+    Open([&] {
+        QTest::keyClick(&Control<CodePane>("txtEntryCode"), Qt::Key_Z, Qt::ControlModifier);
+        EXPECT_EQ(Control<CodePane>("txtEntryCode").Text(), "\tOther\r\n");
+        Cancel();
+    });
+}
+
+TEST_F(StateEditTest, ComingBackToTheEditorLeavesItsTabAlone) {
+    Open([&] {
+        ClickTab(1);
+        QShowEvent restored; // as the system sends it when a minimised window comes back
+        QSpontaneKeyEvent::setSpontaneous(&restored);
+        qApp->notify(&dialog, &restored);
+        EXPECT_EQ(Tabs().currentIndex(), 1);
+        Cancel();
+    });
+}
+
 } // namespace
 } // namespace orvane
