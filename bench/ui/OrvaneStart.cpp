@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Starts as `orvane` does and ends when its main window is painted.
-#include "app/CommandLine.h"
 #include "app/frmTable.h"
+#include "kit/CommandLine.h"
 #include "kit/Logo.h"
 #include "ui/FirstPaint.h"
 

@@ -3,6 +3,7 @@
 // they show: orvane_pictures EXAMPLES FOLDER. Runs on the offscreen platform, so that a picture does not
 // depend on anybody's desktop.
 #include "app/frmTable.h"
+#include "kit/CommandLine.h"
 #include "kit/Logo.h"
 
 #include <QAction>

@@ -1,13 +1,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/DocumentLifecycle.h"
 
+#include "app/Remembered.h"
 #include "kit/AnsiString.h"
+#include "kit/CommandLine.h"
 #include "kit/DocumentFile.h"
+#include "kit/Trace.h"
 #include "kit/UserMessageBox.h"
+#include "session/Commands.h"
+#include "session/Session.h"
 
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QMainWindow>
 
 #include <algorithm>
 #include <utility>
@@ -15,6 +21,9 @@
 namespace orvane {
 
 namespace {
+
+constexpr auto kOwnCommands =
+    std::to_array<Command>({Command::FileNew, Command::FileOpen, Command::FileSave, Command::FileSaveAs});
 
 constexpr std::size_t kMostBoxes = 5;  // messages about one file that get a box of their own
 constexpr std::size_t kMostLines = 20; // of those that share the last box
@@ -31,30 +40,48 @@ QString FileFilter() { return QStringLiteral("All Files (*.*) (*);;Config file (
 // As the system writes paths, because the program's comments and the builder script name the document by it.
 QString FullPath(const QString& path) { return QDir::toNativeSeparators(QFileInfo(path).absoluteFilePath()); }
 
-} // namespace
-
-DocumentLifecycle::DocumentLifecycle(DocumentSession& session, QWidget* window, TraceSink trace)
-    : QObject(window), session_(session), window_(window), trace_(std::move(trace)) {}
-
-void DocumentLifecycle::NewGrid() {
-    LayOutFresh();
-    Q_EMIT Replaced();
-    trace_("NGf");
+// An empty document. The labels mark its steps: cleared (CDB...), then general code (NGa), view (NGb), file
+// name (NGc), history (NGd) and what stands beside the table (NGe) are those of a new one.
+FsmDocument FreshDocument() {
+    FsmDocument document;
+    document.ClearDataBase(false, Trace);
+    for (const char* label : {"In NewGrid", "NGa", "NGb", "NGc", "NGd", "NGe"})
+        Trace(label);
+    return document;
 }
 
-// Nothing of one document shows in the next.
-void DocumentLifecycle::LayOutFresh() {
-    session_.Document.ClearDataBase(false, trace_);
-    trace_("In NewGrid");
-    session_.Document.General = {};
-    trace_("NGa");
-    session_.Document.View = {};
-    trace_("NGb");
-    session_.CurrentFileName.clear();
-    trace_("NGc");
-    session_.ResetUndoRing();
-    trace_("NGd");
-    trace_("NGe");
+} // namespace
+
+DocumentLifecycle::DocumentLifecycle(const RoomPlace& place) : session_(place.Open), window_(&place.Window) {}
+
+std::span<const Command> DocumentLifecycle::Commands() const { return kOwnCommands; }
+
+void DocumentLifecycle::Run(Command command) {
+    switch (command) {
+    case Command::FileNew:
+        return New();
+    case Command::FileOpen:
+        return Open();
+    case Command::FileSave:
+        Save();
+        return;
+    default:
+        SaveAs();
+    }
+}
+
+ObserverRank DocumentLifecycle::Rank() const { return ObserverRank::Title; }
+
+void DocumentLifecycle::Start(const CommandLine& commandLine) {
+    if (commandLine.DocumentPath.isEmpty())
+        LoadSettings();
+    else
+        Load(commandLine.DocumentPath);
+}
+
+void DocumentLifecycle::NewGrid() {
+    session_.Replace(FreshDocument(), {});
+    Trace("NGf");
 }
 
 void DocumentLifecycle::New() {
@@ -81,16 +108,14 @@ bool DocumentLifecycle::GuardBeforeOpen() {
     return GuardUnsavedWork(QStringLiteral("Save?"), QStringLiteral("Save current file?"));
 }
 
-bool DocumentLifecycle::Save() {
-    return session_.CurrentFileName.isEmpty() ? SaveAs() : WriteTo(session_.CurrentFileName);
-}
+bool DocumentLifecycle::Save() { return session_.Path().empty() ? SaveAs() : WriteTo(FileName()); }
 
 bool DocumentLifecycle::SaveAs() {
     QFileDialog dialog(window_, QStringLiteral("Save As"), StartFolder(), FileFilter());
     dialog.setOption(QFileDialog::HideNameFilterDetails);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(QStringLiteral("zfsm"));
-    dialog.selectFile(QFileInfo(session_.CurrentFileName).fileName());
+    dialog.selectFile(QFileInfo(FileName()).fileName());
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return false;
     return WriteTo(dialog.selectedFiles().constFirst());
@@ -115,16 +140,15 @@ bool DocumentLifecycle::GuardUnsavedWork(const QString& title, const QString& qu
 
 bool DocumentLifecycle::WriteTo(const QString& path) {
     const QString fullPath = FullPath(path);
-    if (const std::optional<QString> failure = WriteDocumentFile(fullPath, session_.Document)) {
+    if (const std::optional<QString> failure = WriteDocumentFile(fullPath, session_.Document())) {
         Tell(window_,
              QStringLiteral("The document could not be saved as\r\n%1\r\n%2.\r\n\r\nIt is still open here, "
                             "with all changes. You can save it under another name.")
                  .arg(fullPath, *failure));
         return false;
     }
-    session_.CurrentFileName = fullPath;
-    session_.Undo.MarkSaved(Pack(session_.Document));
-    Q_EMIT Saved();
+    session_.MarkSaved(fullPath.toStdString());
+    RememberFile(fullPath);
     return true;
 }
 
@@ -147,12 +171,12 @@ void DocumentLifecycle::LoadSettings() {
 
 // What broke off keeps no name: a save would put the part that was read in the place of the whole file.
 void DocumentLifecycle::Take(FsmDocument document, const QString& fileName) {
-    LayOutFresh();
-    trace_("NGf");
-    session_.Document = std::move(document);
-    session_.CurrentFileName = fileName;
-    session_.ResetUndoRing();
-    Q_EMIT Replaced();
+    FsmDocument laidOut = FreshDocument(); // every document begins as an empty one
+    Trace("NGf");
+    laidOut = std::move(document);
+    session_.Replace(std::move(laidOut), fileName.toStdString());
+    if (!fileName.isEmpty())
+        RememberFile(fileName);
 }
 
 void DocumentLifecycle::TellMessages(const QString& path, const ReadResult& result) {
@@ -179,6 +203,8 @@ void DocumentLifecycle::TellBreakOff(const QString& path, const ReaderMessage& m
              .arg(path));
 }
 
-QString DocumentLifecycle::StartFolder() const { return QFileInfo(session_.CurrentFileName).path(); }
+QString DocumentLifecycle::FileName() const { return QString::fromStdString(session_.Path()); }
+
+QString DocumentLifecycle::StartFolder() const { return QFileInfo(FileName()).path(); }
 
 } // namespace orvane

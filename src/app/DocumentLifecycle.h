@@ -1,50 +1,43 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "app/DocumentSession.h"
 #include "core/DocumentReader.h"
-
-#include <QObject>
-
-class QWidget;
+#include "kit/Room.h"
 
 namespace orvane {
 
 // New, open, save and close, with the questions that guard unsaved work. Whatever is cancelled or fails
 // leaves document, file and window as they were.
-class DocumentLifecycle : public QObject {
+class DocumentLifecycle : public Room {
     Q_OBJECT
 
   public:
-    // The session outlives this; questions are asked over the window.
-    DocumentLifecycle(DocumentSession& session, QWidget* window, TraceSink trace);
+    explicit DocumentLifecycle(const RoomPlace& place);
+
+    std::span<const Command> Commands() const override;
+    void Run(Command command) override;
+    ObserverRank Rank() const override;
+    bool Listens() const override { return false; }
+    void Told(const Change&) override {}
+    // Opens what the program was started with, or the settings document.
+    void Start(const CommandLine& commandLine) override;
+    bool MayClose() override;
 
     // An empty document, laid out anew.
     void NewGrid();
+    // Opens the document, after the question about unsaved work.
+    void OpenFile(const QString& path);
 
+  private:
     void New();
     void Open();
-    // The same without a file dialog.
-    void OpenFile(const QString& path);
     // These return whether the document is saved now.
     bool Save();
     bool SaveAs();
-    // Asks about unsaved work; whether the window may close.
-    bool MayClose();
-
     // Opens the file, telling what there is to tell about it.
     void Load(const QString& path);
     // The settings document: its contents without its name, and nothing told when there is none.
     void LoadSettings();
-
-  Q_SIGNALS:
-    // Another document has taken the place of the one before.
-    void Replaced();
-    // The document was written; its name may be another one now.
-    void Saved();
-
-  private:
-    void LayOutFresh();
     void Take(FsmDocument document, const QString& fileName);
     void TellMessages(const QString& path, const ReadResult& result);
     void TellBreakOff(const QString& path, const ReaderMessage& message);
@@ -52,11 +45,11 @@ class DocumentLifecycle : public QObject {
     bool GuardUnsavedWork(const QString& title, const QString& question);
     bool GuardBeforeOpen();
     bool WriteTo(const QString& path);
+    QString FileName() const;
     QString StartFolder() const;
 
-    DocumentSession& session_;
-    QWidget* window_;
-    TraceSink trace_;
+    Session& session_;
+    QMainWindow* window_;
 };
 
 } // namespace orvane

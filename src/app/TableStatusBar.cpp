@@ -34,12 +34,8 @@ QLabel* TableStatusBar::AddPanel(const QString& name, int stretch) {
 
 void TableStatusBar::ShowShift(bool held) { Panel1->setText(held ? QStringLiteral("*") : QString()); }
 
-bool TableStatusBar::ShowName(const QString& name) {
-    const QString shown = name.isEmpty() ? QStringLiteral("[Un-named]") : name;
-    if (shown == Panel2->text())
-        return false;
-    Panel2->setText(shown);
-    return true;
+void TableStatusBar::ShowName(const QString& name) {
+    Panel2->setText(name.isEmpty() ? QStringLiteral("[Un-named]") : name);
 }
 
 void TableStatusBar::ShowProblem(const QString& problem) {
@@ -52,9 +48,16 @@ void TableStatusBar::ShowHowToBegin(bool show) {
     ShowMessages();
 }
 
+void TableStatusBar::Say(const QString& text) {
+    said_ = text;
+    ShowMessages();
+}
+
 // Where the line is cut off, the whole of it shows under the pointer.
 void TableStatusBar::ShowMessages() {
     QStringList messages;
+    if (!said_.isEmpty())
+        messages += said_;
     if (saysHowToBegin_)
         messages += tr("To begin, click the white corner and name the machine; then a column's head for a "
                        "state, a pink cell for an event.");

@@ -16,12 +16,14 @@ class TableStatusBar : public QStatusBar {
     explicit TableStatusBar(QWidget* parent);
 
     void ShowShift(bool held);
-    // Whether the name is another one than before; an empty one shows as "[Un-named]".
-    bool ShowName(const QString& name);
+    // The machine's; an empty one shows as "[Un-named]".
+    void ShowName(const QString& name);
     // What stays wrong while the program runs; empty when nothing is.
     void ShowProblem(const QString& problem);
     // Whether to say how to begin a machine.
     void ShowHowToBegin(bool show);
+    // What the last command has done; empty takes it away.
+    void Say(const QString& text);
 
   private:
     QLabel* AddPanel(const QString& name, int stretch);
@@ -30,6 +32,7 @@ class TableStatusBar : public QStatusBar {
     QLabel* Panel1;
     QLabel* Panel2;
     QLabel* Panel3;
+    QString said_;
     QString problem_;
     bool saysHowToBegin_ = false;
 };

@@ -1,32 +1,24 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "app/CommandLine.h"
-#include "app/DocumentSession.h"
-#include "app/Redraw.h"
-#include "app/TableCommands.h"
-#include "codegen/ui/GeneratorRun.h"
-#include "table/RowVisibility.h"
+#include "kit/Room.h"
+#include "session/Session.h"
 #include "text/Vocabulary.h"
 
 #include <QMainWindow>
 
 #include <memory>
+#include <vector>
 
 namespace orvane {
 
+class CommandMenus;
 class DocumentLifecycle;
-class EditorWindows;
-class SideWindows;
-class TableGrid;
-class TableMenus;
 class TableStatusBar;
-class frmMyToolTip;
-struct GridPress;
 
-// The main window: the document as a table. It owns the document, its history and the other windows, and runs
-// the commands; what a command does to the document is an engine function.
-class frmTable : public QMainWindow {
+// The main window: the menus, the status bar, and the rooms, of which it knows nothing but that they are
+// rooms. What is open belongs to its session.
+class frmTable : public QMainWindow, private SessionObserver {
     Q_OBJECT
 
   public:
@@ -36,8 +28,11 @@ class frmTable : public QMainWindow {
     // Opens what the program was started with, or the settings document.
     void Start(const CommandLine& commandLine);
 
-    // Generates the program anew and writes it.
-    void RefreshGenerators();
+    // What a room is made from, and where it goes then: behind those that are there.
+    RoomPlace Place();
+    void AddRoom(std::unique_ptr<Room> room);
+    // How many of them run the command; one for each but the menus.
+    std::ptrdiff_t RoomsThatRun(Command command) const;
 
   Q_SIGNALS:
     // The program ends with its main window.
@@ -47,62 +42,32 @@ class frmTable : public QMainWindow {
     void closeEvent(QCloseEvent* event) override;
 
   private:
-    // Building the window.
-    void ConnectDocument();
-    void ConnectFileMenu();
-    void ConnectMenus();
-    void ConnectGrid();
-    void ConnectEditors();
-    void ConnectHints();
+    // Passes on to a room what it listens for.
+    class RoomEar final : public SessionObserver {
+      public:
+        explicit RoomEar(Room& room) : room_(room) {}
+        void Told(const Change& change) override;
+
+      private:
+        Room& room_;
+    };
+
     void LoadWords();
-
-    // Every change of the document comes through here: change, redraw, CommitChange, RefreshGenerators.
-    void RunCommand(const Change& change);
-    void DrawAgain(const Redraw& redraw);
-    void CommitChange();
-    void UndoOrRedo(const std::string* (UndoRing::*step)());
-
-    // Showing what is the case.
-    void ShowReplacedDocument();
+    void MakeRooms();
+    void ConnectRecentFiles();
+    void Run(Command command);
+    void Prepare(Command next);
+    void PopUp(Command menu, const QPoint& position);
+    void Told(const Change& change) override;
     void ShowDocumentState();
-    void ShowMachineName();
-    void ShowViewMarks();
 
-    // A press on the table.
-    void PressGrid(const GridPress& press);
-    void PopUp(const char* menu, const QPoint& position);
-    void StepMachine(int row);
-
-    // Typing a target.
-    void BeginCellEdit(int row, int column);
-    void CommitCellEdit();
-    void CommitOpenEdit();
-    void CommitAndGenerate(); // what is being typed in a cell belongs to the program
-    void FinishCellEdit();
-
-    void EditState(int row, int state);
-    void EditEvent(int row);
-    void EditGeneralCode();
-    void EditTransitionAction();
-
-    void ToggleView(SpecialRow row);
-    void TogglePolytask();
-    void SelectCell(int state, int row);
-    void SetCurrentState(int state);
-    void SetShiftHeld(bool held);
-
-    DocumentSession session_;
-    GeneratorRun generator_;
-    GridCell pressed_; // by the last press of a mouse button
-    TableMenus* menus_;
-    TableCommands* commands_;
-    DocumentLifecycle* lifecycle_;
-    EditorWindows* editors_;
-    std::unique_ptr<SideWindows> windows_;
-    std::unique_ptr<TableGrid> grid_; // goes before what it shows
-    frmMyToolTip* frmMyToolTip_;
+    Session session_;
+    Vocabulary words_;
+    CommandMenus* menus_;
     TableStatusBar* status_;
-    Vocabulary vocabulary_;
+    DocumentLifecycle* lifecycle_ = nullptr;
+    std::vector<std::unique_ptr<RoomEar>> ears_;
+    std::vector<std::unique_ptr<Room>> rooms_; // they go before the session
 };
 
 } // namespace orvane

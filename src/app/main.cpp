@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/CommandLine.h"
 #include "app/Remembered.h"
 #include "app/frmTable.h"
+#include "kit/CommandLine.h"
 #include "kit/Logo.h"
 
 #include <QApplication>

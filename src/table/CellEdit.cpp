@@ -14,11 +14,17 @@ std::string CellEditText(const FsmDocument& document, int row, int state) {
     return target == kNoState ? "" : NumberText(target);
 }
 
+std::optional<UserMessage> RefusalOfTarget(std::string_view text) {
+    if (TargetNumbers().Contains(ParseNumber(text)))
+        return std::nullopt;
+    return UserMessage{"The transition cell must point to a \r\n valid state column."};
+}
+
 std::optional<UserMessage> StoreTypedTarget(FsmDocument& document, int row, int state,
                                             std::string_view text) {
+    if (std::optional<UserMessage> refusal = RefusalOfTarget(text))
+        return refusal;
     const std::int64_t typed = ParseNumber(text);
-    if (!TargetNumbers().Contains(typed))
-        return UserMessage{"The transition cell must point to a \r\n valid state column."};
     StateRecord& record = document.State(state);
     record.Targets[row] = static_cast<std::int16_t>(typed);
     if (typed == kNoState)

@@ -17,9 +17,11 @@ bool CanEditCell(const FsmDocument& document, int row);
 // What the editor of a cell starts with: the number of the target, nothing without one.
 std::string CellEditText(const FsmDocument& document, int row, int state);
 
+// What the user is told of a typed number that no column has; none for 0..100, and for nothing, which is 0.
+std::optional<UserMessage> RefusalOfTarget(std::string_view text);
+
 // Stores the typed number as the cell's target. Nothing, or 0, deletes the cell's action as well. Any number
-// up to 100 will do, whether or not that state has a name. For another number the message says so, and the
-// document stays as it is.
+// up to 100 will do, whether or not that state has a name. One that is refused leaves the document as it is.
 std::optional<UserMessage> StoreTypedTarget(FsmDocument& document, int row, int state, std::string_view text);
 
 // Where the event of this row leads from the current state; 0 when there is no current state, when the row

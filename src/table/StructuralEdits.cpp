@@ -90,10 +90,14 @@ std::optional<UserMessage> InsertEvent(FsmDocument& document, TableClipboard& cl
     return std::nullopt;
 }
 
-bool DeleteEvent(FsmDocument& document, TableClipboard& clipboard, int row, const Question& confirm) {
+std::optional<UserMessage> QuestionBeforeDeleteEvent(const FsmDocument& document, int row) {
+    if (StateWithTransition(document, row) == kNoState)
+        return std::nullopt;
+    return EventHasTransitions();
+}
+
+void DeleteEvent(FsmDocument& document, TableClipboard& clipboard, int row) {
     RequireInRange(row, EventRows(), "event row");
-    if (StateWithTransition(document, row) && !confirm(EventHasTransitions()))
-        return false;
     for (const int state : StateNumbers())
         ShiftCellsUp(document.State(state), row);
     ShiftCellsUp(clipboard.ClipState, row);
@@ -101,7 +105,6 @@ bool DeleteEvent(FsmDocument& document, TableClipboard& clipboard, int row, cons
     for (int r = row; r < kLastRow; ++r)
         document.Event(r) = document.Event(r + 1);
     document.Event(kLastRow) = FsmDocument::EventTemplate();
-    return true;
 }
 
 std::optional<UserMessage> InsertState(FsmDocument& document, TableClipboard& clipboard, int state) {

@@ -7,22 +7,21 @@
 #include "core/UserMessage.h"
 #include "table/TableClipboard.h"
 
-#include <functional>
 #include <optional>
 
 namespace orvane {
-
-// Asks the user; true is Yes.
-using Question = std::function<bool(const UserMessage& question)>;
 
 // Puts an empty event at the row, 6..54; the bottom one drops out. Refused with a message while a state has a
 // transition in the bottom row.
 std::optional<UserMessage> InsertEvent(FsmDocument& document, TableClipboard& clipboard, int row);
 
-// Takes the event of the row out. Asks once when a state has a transition there. Returns whether it was done.
+// What the user is asked before the event of this row goes; none when no state has a transition there.
+std::optional<UserMessage> QuestionBeforeDeleteEvent(const FsmDocument& document, int row);
+
+// Takes the event of the row out.
 //
 // Of the bottom row only the targets and the event are emptied: an action there moves up and stays as well.
-bool DeleteEvent(FsmDocument& document, TableClipboard& clipboard, int row, const Question& confirm);
+void DeleteEvent(FsmDocument& document, TableClipboard& clipboard, int row);
 
 // Puts an empty state at the column. The states from there up to the last free column behind it move over,
 // and that free column goes. Refused with a message when there is none. A copied event is forgotten.

@@ -7,17 +7,20 @@ namespace orvane {
 
 void UndoRing::Reset(std::string image) {
     slots_.fill({});
+    names_.fill({});
     cursor_ = 0;
     slots_[cursor_] = image;
     savedText_ = std::move(image);
 }
 
-bool UndoRing::Commit(std::string image) {
+bool UndoRing::Commit(std::string image, std::string_view name) {
     if (image == Current())
         return false;
     cursor_ = NextSlot(cursor_);
     slots_[cursor_] = std::move(image);
+    names_[cursor_] = name;
     slots_[NextSlot(cursor_)].clear();
+    names_[NextSlot(cursor_)] = {};
     return true;
 }
 

@@ -4,6 +4,7 @@
 #include <array>
 #include <cstddef>
 #include <string>
+#include <string_view>
 
 namespace orvane {
 
@@ -20,7 +21,8 @@ class UndoRing {
     void Reset(std::string image);
 
     // Pushes the image when it differs from the present one; redo ends there. Returns whether it was pushed.
-    bool Commit(std::string image);
+    // The name says what was done; it lives as long as the program.
+    bool Commit(std::string image, std::string_view name = {});
 
     // Step to the older or newer snapshot. Returns its image, or null at the end, where nothing changes. The
     // image lives until the ring is next changed.
@@ -28,6 +30,9 @@ class UndoRing {
     const std::string* RedoStep();
     bool CanUndo() const;
     bool CanRedo() const;
+    // What the next step back takes back, and the next one forward does again.
+    std::string_view UndoName() const { return names_[cursor_]; }
+    std::string_view RedoName() const { return names_[NextSlot(cursor_)]; }
 
     const std::string& Current() const { return slots_[cursor_]; }
 
@@ -41,6 +46,7 @@ class UndoRing {
     const std::string* StepTo(std::size_t slot);
 
     std::array<std::string, kSlotCount> slots_;
+    std::array<std::string_view, kSlotCount> names_; // of what led to the snapshot from the one before
     std::size_t cursor_ = 0;
     std::string savedText_;
 };

@@ -23,11 +23,6 @@ struct Twin {
 
     // What a refused command has told, or asked.
     std::optional<UserMessage> Told;
-
-    bool Ask(const UserMessage& question) {
-        Told = question;
-        return Yes;
-    }
 };
 
 struct Place {
@@ -56,7 +51,9 @@ constexpr std::array kCommands = {
             [](Twin& t, const Place& at) { t.Told = InsertEvent(t.Document, t.Clipboard, at.Row); }},
     Command{"mnuDeleteEvent", Command::EventHead,
             [](Twin& t, const Place& at) {
-                DeleteEvent(t.Document, t.Clipboard, at.Row, [&t](const UserMessage& m) { return t.Ask(m); });
+                t.Told = QuestionBeforeDeleteEvent(t.Document, at.Row);
+                if (!t.Told || t.Yes)
+                    DeleteEvent(t.Document, t.Clipboard, at.Row);
             }},
     Command{"mnuCopyEvent", Command::EventHead,
             [](Twin& t, const Place& at) { CopyEvent(t.Document, t.Clipboard, at.Row); }},

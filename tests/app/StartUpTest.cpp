@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/ui/TableFixture.h"
 
-#include "app/CommandLine.h"
 #include "core/DocumentWriter.h"
 #include "core/ProgramVersion.h"
+#include "kit/CommandLine.h"
 
 #include <QAction>
 #include <QApplication>

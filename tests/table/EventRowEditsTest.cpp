@@ -7,13 +7,6 @@
 namespace orvane {
 namespace {
 
-bool Yes(const UserMessage&) { return true; }
-
-bool NeverAsked(const UserMessage& question) {
-    ADD_FAILURE() << "asked: " << question.Text;
-    return false;
-}
-
 TEST(InsertEvent, EverythingBelowMovesDownByOneRow) {
     FsmDocument document;
     document.Event(8) = {"Stop", ";stop?", "tip", 1};
@@ -77,7 +70,7 @@ TEST(InsertEvent, RowsThatHoldNoEventsAreRefusedAsAFaultOfTheCaller) {
     TableClipboard clipboard;
     for (const int row : {-1, 0, kTimeoutRow, kElseRow, 55}) {
         EXPECT_THROW(InsertEvent(document, clipboard, row), BoundsError);
-        EXPECT_THROW(DeleteEvent(document, clipboard, row, Yes), BoundsError);
+        EXPECT_THROW(DeleteEvent(document, clipboard, row), BoundsError);
     }
     EXPECT_EQ(document, FsmDocument());
 }
@@ -89,7 +82,7 @@ TEST(DeleteEvent, EverythingBelowMovesUpByOneRow) {
     document.State(2).Actions[9] = ";act";
     document.State(2).Targets[kElseRow] = 3;
     TableClipboard clipboard;
-    EXPECT_TRUE(DeleteEvent(document, clipboard, 8, NeverAsked));
+    DeleteEvent(document, clipboard, 8);
     EXPECT_EQ(document.Event(8), (EventRecord{"Stop", ";stop?", "tip", 1}));
     EXPECT_EQ(document.Event(9), EventRecord());
     EXPECT_EQ(document.State(2).Targets[8], 5);
@@ -98,37 +91,20 @@ TEST(DeleteEvent, EverythingBelowMovesUpByOneRow) {
     EXPECT_EQ(document.State(2).Targets[kElseRow], 3);
 }
 
-TEST(DeleteEvent, ARowWithTransitionsAsksOnceAndNoChangesNothing) {
+TEST(DeleteEvent, IsAskedAboutWhereSomeStateHasATransition) {
     FsmDocument document;
     for (const int state : StateNumbers())
         document.State(state).Targets[8] = 1;
-    const FsmDocument original = document;
+    EXPECT_EQ(QuestionBeforeDeleteEvent(document, 8),
+              (UserMessage{.Text = "The event row contains one or more state transitions.\r\n"
+                                   "Are you quite sure you want to delete it?",
+                           .Title = "Careful!",
+                           .Icon = MessageIcon::Warning,
+                           .Buttons = MessageButtons::YesNo}));
+    EXPECT_EQ(QuestionBeforeDeleteEvent(document, 7), std::nullopt);
+    EXPECT_EQ(QuestionBeforeDeleteEvent(document, 9), std::nullopt);
     TableClipboard clipboard;
-    clipboard.ClipState.Targets[8] = 5;
-    const TableClipboard copied = clipboard;
-    std::vector<UserMessage> asked;
-    EXPECT_FALSE(DeleteEvent(document, clipboard, 8, [&asked](const UserMessage& question) {
-        asked.push_back(question);
-        return false;
-    }));
-    EXPECT_EQ(document, original);
-    EXPECT_EQ(clipboard, copied);
-    EXPECT_EQ(asked,
-              (std::vector<UserMessage>{{.Text = "The event row contains one or more state transitions.\r\n"
-                                                 "Are you quite sure you want to delete it?",
-                                         .Title = "Careful!",
-                                         .Icon = MessageIcon::Warning,
-                                         .Buttons = MessageButtons::YesNo}}));
-}
-
-TEST(DeleteEvent, ARowWithTransitionsGoesAfterOneYes) {
-    FsmDocument document;
-    for (const int state : StateNumbers())
-        document.State(state).Targets[8] = 1;
-    TableClipboard clipboard;
-    int asked = 0;
-    EXPECT_TRUE(DeleteEvent(document, clipboard, 8, [&asked](const UserMessage&) { return ++asked > 0; }));
-    EXPECT_EQ(asked, 1);
+    DeleteEvent(document, clipboard, 8);
     EXPECT_EQ(document, FsmDocument());
 }
 
@@ -137,7 +113,8 @@ TEST(DeleteEvent, ARowWithActionsOnlyGoesWithoutAQuestion) {
     document.Event(8).Name = "Stop";
     document.State(2).Actions[8] = ";act";
     TableClipboard clipboard;
-    EXPECT_TRUE(DeleteEvent(document, clipboard, 8, NeverAsked));
+    EXPECT_EQ(QuestionBeforeDeleteEvent(document, 8), std::nullopt);
+    DeleteEvent(document, clipboard, 8);
     EXPECT_EQ(document, FsmDocument());
 }
 
@@ -147,7 +124,7 @@ TEST(DeleteEvent, TheActionOfTheBottomRowMovesUpAndStaysAsWell) {
     document.State(2).Targets[54] = 7;
     document.State(2).Actions[54] = ";act";
     TableClipboard clipboard;
-    EXPECT_TRUE(DeleteEvent(document, clipboard, 53, NeverAsked));
+    DeleteEvent(document, clipboard, 53);
     EXPECT_EQ(document.Event(53).Name, "Last");
     EXPECT_EQ(document.Event(54), EventRecord());
     EXPECT_EQ(document.State(2).Targets[53], 7);
@@ -162,7 +139,7 @@ TEST(DeleteEvent, OfTheBottomRowLeavesItsAction) {
     document.State(2).Targets[54] = 7;
     document.State(2).Actions[54] = ";act";
     TableClipboard clipboard;
-    EXPECT_TRUE(DeleteEvent(document, clipboard, 54, Yes));
+    DeleteEvent(document, clipboard, 54);
     EXPECT_EQ(document.Event(54), EventRecord());
     EXPECT_EQ(document.State(2).Targets[54], 0);
     EXPECT_EQ(document.State(2).Actions[54], ";act");
@@ -173,7 +150,7 @@ TEST(DeleteEvent, TheCopiedStateMovesWithTheRowsAndLosesItsBottomAction) {
     TableClipboard clipboard;
     clipboard.ClipState.Targets[54] = 5;
     clipboard.ClipState.Actions[54] = ";act";
-    EXPECT_TRUE(DeleteEvent(document, clipboard, 8, NeverAsked));
+    DeleteEvent(document, clipboard, 8);
     EXPECT_EQ(clipboard.ClipState.Targets[53], 5);
     EXPECT_EQ(clipboard.ClipState.Actions[53], ";act");
     EXPECT_EQ(clipboard.ClipState.Targets[54], 0);

@@ -38,8 +38,8 @@ constexpr std::array kCommands = {
             [](User& user, const Place& at) { InsertEvent(user.Document, user.Clipboard, at.EventRow); }},
     Command{"delete event",
             [](User& user, const Place& at) {
-                const auto answer = [&at](const UserMessage&) { return at.Number % 2 == 0; };
-                DeleteEvent(user.Document, user.Clipboard, at.EventRow, answer);
+                if (!QuestionBeforeDeleteEvent(user.Document, at.EventRow) || at.Number % 2 == 0)
+                    DeleteEvent(user.Document, user.Clipboard, at.EventRow);
             }},
     Command{"type",
             [](User& user, const Place& at) {

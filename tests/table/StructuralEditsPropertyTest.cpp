@@ -50,7 +50,8 @@ TEST(InsertedEvent, DeletedAgainGivesTheTableBackWhenTheBottomRowsWereEmpty) {
         TableClipboard clipboard = copied;
         const int row = *AnyOf(EventRows());
         RC_ASSERT(!InsertEvent(document, clipboard, row));
-        RC_ASSERT(DeleteEvent(document, clipboard, row, [](const UserMessage&) { return false; }));
+        RC_ASSERT(!QuestionBeforeDeleteEvent(document, row));
+        DeleteEvent(document, clipboard, row);
         RC_ASSERT(document == original);
         RC_ASSERT(clipboard == copied);
     });

@@ -6,6 +6,7 @@
 #include "kit/AnsiString.h"
 #include "kit/OpenInDesktop.h"
 #include "kit/UserMessageBox.h"
+#include "session/Session.h"
 
 #include <QDir>
 #include <QEvent>
@@ -32,14 +33,13 @@ const QString kOpenFilter = QStringLiteral("All Files (*.*);;Builder script (*.b
 
 } // namespace
 
-frmBuilder::frmBuilder(std::string& buildFile, QWidget* parent)
-    : TabStops(parent, Qt::Window), buildFile_(buildFile) {
+frmBuilder::frmBuilder(Session& session, QWidget* parent) : TabStops(parent, Qt::Window), session_(session) {
     setObjectName(QStringLiteral("frmBuilder"));
     setWindowTitle(tr("Builder script"));
     BuildControls();
     LayOut();
     resize(kFirstSize);
-    connect(cmdRun, &QPushButton::clicked, this, &frmBuilder::GoGoGo);
+    connect(cmdRun, &QPushButton::clicked, this, &frmBuilder::BuildWanted);
     connect(cmdSave, &QPushButton::clicked, this, &frmBuilder::Save);
     connect(cmdSelectFile, &QPushButton::clicked, this, &frmBuilder::SelectFile);
     connect(txtFileName, &QLineEdit::textChanged, this, [this](const QString& path) { StoreFileName(path); });
@@ -109,29 +109,28 @@ void frmBuilder::ShowScript(const QString& script) {
 
 void frmBuilder::SetFileName(const QString& path) { txtFileName->setText(path); }
 
-void frmBuilder::StartDocument(const QString& documentPath) {
-    const std::string stored = buildFile_;
-    documentPath_ = documentPath;
+void frmBuilder::StartDocument() {
+    documentPath_ = QString::fromStdString(session_.Path());
     settled_ = false;
     knownFile_.clear();
     lastSavedScript_.clear();
     ShowScript({});
-    SetFileName(FromAnsi(stored));
+    SetFileName(FromAnsi(session_.Document().General.BuildFile));
     if (isVisible())
         Settle();
 }
 
-void frmBuilder::RenameDocument(const QString& documentPath) {
+void frmBuilder::RenameDocument() {
     const bool hadDefault = txtFileName->text().isEmpty() || txtFileName->text() == DefaultName();
-    documentPath_ = documentPath;
+    documentPath_ = QString::fromStdString(session_.Path());
     if (!settled_ || !hadDefault)
         return;
     if (txtBuildScript->document()->isModified()) {
         SetFileName(DefaultName());
         return;
     }
-    buildFile_.clear();
-    StartDocument(documentPath);
+    StoreFileName({});
+    StartDocument();
 }
 
 void frmBuilder::Settle() {
@@ -180,7 +179,11 @@ void frmBuilder::MakeInitialScript() {
 // A path that the document cannot hold is not kept in part: the script beside the document is found without.
 void frmBuilder::StoreFileName(const QString& path) {
     const AnsiText stored = ToAnsi(path);
-    buildFile_ = stored.LeftOut ? std::string() : stored.Text;
+    const std::string kept = stored.LeftOut ? std::string() : stored.Text;
+    if (kept == session_.Document().General.BuildFile)
+        return;
+    session_.Edit({"builder script", {}, EditKind::View},
+                  [&kept](const Editable& open) { open.Document.General.BuildFile = kept; });
 }
 
 void frmBuilder::AddSource(const QString& text) {
@@ -242,7 +245,8 @@ void frmBuilder::SelectFile() {
 
 void frmBuilder::GoGoGo() {
     Settle();
-    const bool generated = generate_();
+    session_.WantProgram();
+    const bool generated = session_.Program().Written;
     CheckForChangeOnDisk(); // started from the table, the window has not become active
     if (!Save()) {
         Warn(tr("Sorry, the Build file failed to save. Check the file name / path."));

@@ -5,14 +5,13 @@
 
 #include <QWidget>
 
-#include <functional>
-#include <string>
-
 class QLineEdit;
 class QPlainTextEdit;
 class QPushButton;
 
 namespace orvane {
+
+class Session;
 
 // Shows and edits the builder script of the document and starts the build.
 //
@@ -24,16 +23,15 @@ class frmBuilder : public TabStops<QWidget> {
     Q_OBJECT
 
   public:
-    // The path that the document keeps, ANSI; it follows txtFileName from now on, and must outlive the
-    // window.
-    explicit frmBuilder(std::string& buildFile, QWidget* parent = nullptr);
+    // The session outlives the window. The path of the script that its document keeps follows txtFileName.
+    explicit frmBuilder(Session& session, QWidget* parent = nullptr);
 
-    // Another document has taken the place of the one before; empty for one without a file. What the document
-    // names as its script is read again when it is needed.
-    void StartDocument(const QString& documentPath);
+    // Another document has taken the place of the one before. What it names as its script is read again when
+    // it is needed.
+    void StartDocument();
 
-    // The document has been saved under a new name.
-    void RenameDocument(const QString& documentPath);
+    // The document has been saved, perhaps under a new name.
+    void RenameDocument();
 
     // Generates, saves the script, and hands it to the build tool if the program has no errors.
     void GoGoGo();
@@ -44,9 +42,9 @@ class frmBuilder : public TabStops<QWidget> {
     // Appends a line to the script.
     void AddSource(const QString& text);
 
-    // Runs the generator and returns whether it wrote its program.
-    using Generator = std::function<bool()>;
-    void SetGenerator(Generator generate) { generate_ = std::move(generate); }
+  Q_SIGNALS:
+    // The button was pressed; GoGoGo does the rest.
+    void BuildWanted();
 
   protected:
     bool event(QEvent* event) override;
@@ -77,12 +75,11 @@ class frmBuilder : public TabStops<QWidget> {
     QPushButton* cmdSave = nullptr;
     QPushButton* cmdSelectFile = nullptr;
 
-    std::string& buildFile_;
-    QString documentPath_;
+    Session& session_;
+    QString documentPath_;    // that the script was last settled for; empty without a file
     QString knownFile_;       // the file that LastSavedScript was read from or written to
     QString lastSavedScript_; // as read back from disk
     bool settled_ = false;
-    Generator generate_;
 };
 
 } // namespace orvane

@@ -83,11 +83,15 @@ void frmEventEdit::Activate() {
     txtEventCode->setFocus();
 }
 
+EventRecord frmEventEdit::Typed() const {
+    return {.Name = txtName->Text(),
+            .Code = txtEventCode->Text(),
+            .Tooltip = txtComment->Text(),
+            .LastTab = static_cast<std::int16_t>(SSTab1->currentIndex())};
+}
+
 void frmEventEdit::Accept() {
-    workingEvent_.Name = txtName->Text();
-    workingEvent_.Tooltip = txtComment->Text();
-    workingEvent_.Code = txtEventCode->Text();
-    workingEvent_.LastTab = static_cast<std::int16_t>(SSTab1->currentIndex());
+    workingEvent_ = Typed();
     accept();
 }
 

@@ -19,6 +19,9 @@ class frmEventEdit : public TabbedEditorDialog {
     // Shows the event until the dialog closes. Cancel leaves it as it is.
     void Execute(EventRecord& editEvent);
 
+    // The event as the fields have it now.
+    EventRecord Typed() const;
+
   protected:
     void Activate() override;
 

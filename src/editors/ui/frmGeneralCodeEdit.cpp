@@ -37,8 +37,8 @@ void AddSuggestion(QWidget& page, SuggestionFrame* frame) {
 
 } // namespace
 
-frmGeneralCodeEdit::frmGeneralCodeEdit(GeneralCode& general, QWidget* parent)
-    : TabbedEditorDialog(QStringLiteral("frmGeneralCodeEdit"), kHelpPage, parent), general_(general) {
+frmGeneralCodeEdit::frmGeneralCodeEdit(QWidget* parent)
+    : TabbedEditorDialog(QStringLiteral("frmGeneralCodeEdit"), kHelpPage, parent) {
     setWindowTitle(QStringLiteral("General code"));
     LayOutTabs(tr("Segments"), [this] {
         BuildPanes();
@@ -46,7 +46,7 @@ frmGeneralCodeEdit::frmGeneralCodeEdit(GeneralCode& general, QWidget* parent)
     });
     ConnectFields();
     ConnectOptions();
-    ShowGeneralCode();
+    ShowGeneralCode({});
     resize(kStartSize);
 }
 
@@ -176,7 +176,12 @@ void frmGeneralCodeEdit::SetVocabulary(const Vocabulary& vocabulary) {
         pane->SetVocabulary(vocabulary);
 }
 
-void frmGeneralCodeEdit::ShowGeneralCode() {
+void frmGeneralCodeEdit::ShowGeneralCode(const GeneralCode& general) {
+    general_ = general;
+    ShowFields();
+}
+
+void frmGeneralCodeEdit::ShowFields() {
     Fill([this] { FillFields(); });
     ShowPolytask();
     RefreshSuggestions();
@@ -234,7 +239,7 @@ void frmGeneralCodeEdit::Cancel() {
     general_.NvEm0Data = snapshot_.NvEm0Data;
     general_.TestSeg = snapshot_.TestSeg;
     general_.HeaderComment = snapshot_.HeaderComment;
-    ShowGeneralCode();
+    ShowFields();
 }
 
 void frmGeneralCodeEdit::FocusPaneOfTab() {

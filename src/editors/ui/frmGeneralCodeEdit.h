@@ -13,20 +13,22 @@ namespace orvane {
 
 class SuggestionFrame;
 
-// Edits what belongs to the machine as a whole. Each edit is in the general code at once, so that the program
-// generated meanwhile shows it; Cancel puts back the texts, but neither the instance count nor the launch
-// mark.
+// Edits what belongs to the machine as a whole. Each edit is in the code that the dialog holds at once, so
+// that the program generated meanwhile can show it; Cancel puts back the texts, but neither the instance
+// count nor the launch mark.
 class frmGeneralCodeEdit : public TabbedEditorDialog {
     Q_OBJECT
 
   public:
-    // The general code has to outlive the dialog.
-    explicit frmGeneralCodeEdit(GeneralCode& general, QWidget* parent = nullptr);
+    explicit frmGeneralCodeEdit(QWidget* parent = nullptr);
 
     void SetVocabulary(const Vocabulary& vocabulary);
 
-    // Shows the general code after something else has changed it.
-    void ShowGeneralCode();
+    // Takes over this code to edit it.
+    void ShowGeneralCode(const GeneralCode& general);
+
+    // As it is edited now. The script that it names is as it was taken over.
+    const GeneralCode& Code() const { return general_; }
 
     // Comes up until OK or Cancel. Without Polytask only the start-up code is offered.
     void Execute(bool polytask);
@@ -46,6 +48,7 @@ class frmGeneralCodeEdit : public TabbedEditorDialog {
                         void (frmGeneralCodeEdit::*suggest)());
     void ConnectOptions();
 
+    void ShowFields();
     void FillFields();
     void ShowPolytask();
     void RefreshSuggestions();
@@ -54,7 +57,7 @@ class frmGeneralCodeEdit : public TabbedEditorDialog {
     void FocusPaneOfTab();
     void RefreshCaretReadOut();
 
-    GeneralCode& general_;
+    GeneralCode general_;
     GeneralCode snapshot_; // as it was when the dialog was opened
     bool polytask_ = false;
 

@@ -130,31 +130,37 @@ void frmStateEdit::Activate() {
     txtEntryCode->setFocus();
 }
 
-// A refused state leaves the working copy as it was, whatever has been typed.
-void frmStateEdit::Accept() {
+StateRecord frmStateEdit::Typed() const {
     StateRecord state = workingState_;
     state.Name = txtName->Text();
     state.Tooltip = txtComment->Text();
     state.TimerId = timeout_->TimerId().Text();
-    if (!StoreTimingMode(state))
-        return;
+    state.TimingMode = TimingChosen().Mode.value_or(workingState_.TimingMode);
     state.EntryCode = txtEntryCode->Text();
     state.TimeConst = timeout_->TimeConst().Text();
     state.TimingVar = timeout_->TimingVar().Text();
     state.ExitCode = txtExitCode->Text();
     state.LastTab = static_cast<std::int16_t>(SSTab1->currentIndex());
-    workingState_ = state;
+    return state;
+}
+
+TimingChoice frmStateEdit::TimingChosen() const {
+    return ChooseTimingMode(timeout_->Options(), timeout_->TimeConst().Text(), timeout_->TimingVar().Text());
+}
+
+// A refused state leaves the working copy as it was, whatever has been typed.
+void frmStateEdit::Accept() {
+    if (!AcceptsTiming())
+        return;
+    workingState_ = Typed();
     accept();
 }
 
 // Options that do not make a mode are told and leave the mode as it was; a missing limit is refused.
-bool frmStateEdit::StoreTimingMode(StateRecord& state) {
-    const TimingChoice choice =
-        ChooseTimingMode(timeout_->Options(), timeout_->TimeConst().Text(), timeout_->TimingVar().Text());
-    if (choice.Mode) {
-        state.TimingMode = *choice.Mode;
+bool frmStateEdit::AcceptsTiming() {
+    const TimingChoice choice = TimingChosen();
+    if (choice.Mode)
         return true;
-    }
     const bool refused = IsLimitMissing(choice.Problem);
     if (refused)
         SSTab1->setCurrentIndex(kTimeoutTab);

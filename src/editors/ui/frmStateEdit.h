@@ -26,6 +26,9 @@ class frmStateEdit : public TabbedEditorDialog {
     // was pressed chooses a tab, which the first tab takes over from as soon as the dialog is up.
     void Execute(int row, StateRecord& editState);
 
+    // The state as the fields have it now; the timing mode only where the options make one.
+    StateRecord Typed() const;
+
   protected:
     void Activate() override;
 
@@ -36,7 +39,8 @@ class frmStateEdit : public TabbedEditorDialog {
     void ShowState();
     void ShowTimingMode();
     void Accept();
-    bool StoreTimingMode(StateRecord& state);
+    TimingChoice TimingChosen() const;
+    bool AcceptsTiming();
     void FocusPaneOfTab();
     void RefreshCaretReadOut();
 

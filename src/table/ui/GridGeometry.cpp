@@ -23,17 +23,20 @@ int PixelsFromTwips(std::int32_t twips) {
 
 } // namespace
 
-GridGeometry::GridGeometry(FsmDocument& document, QTableView& view)
+GridGeometry::GridGeometry(const FsmDocument& document, QTableView& view)
     : document_(document),
       view_(view),
       standardHeight_((QFontMetrics(view.font()).height() + kRowPadding) * kTwipsPerPixel) {
     view_.verticalHeader()->setDefaultSectionSize(PixelsFromTwips(standardHeight_));
     view_.horizontalHeader()->setMaximumSectionSize(kLargestPixels);
+    connect(view_.horizontalHeader(), &QHeaderView::sectionResized, this,
+            [this](int column, int, int pixels) { ColumnResized(column, pixels); });
 }
 
 void GridGeometry::ApplyColumnWidth(int column) {
     const int pixels = PixelsFromTwips(DocumentWidth(column));
-    widthCache_[static_cast<std::size_t>(column)] = pixels;
+    laidOut_[static_cast<std::size_t>(column)] = pixels;
+    dragged_.erase(column);
     if (view_.columnWidth(column) != pixels)
         view_.setColumnWidth(column, pixels);
 }
@@ -55,23 +58,26 @@ void GridGeometry::ApplyRowHeights() {
     }
 }
 
-std::vector<int> GridGeometry::TestForColumWidthChange() {
-    std::vector<int> changed;
-    if (QApplication::activeModalWidget() != nullptr)
-        return changed;
-    for (int column = 0; column < kTableColumns; ++column) {
-        const int pixels = view_.columnWidth(column);
-        int& cached = widthCache_[static_cast<std::size_t>(column)];
-        if (pixels == cached)
-            continue;
-        cached = pixels;
-        DocumentWidth(column) = pixels * kTwipsPerPixel;
-        changed.push_back(column);
-    }
-    return changed;
+// The view tells of every change of a width, our own ones too.
+void GridGeometry::ColumnResized(int column, int pixels) {
+    if (pixels == laidOut_[static_cast<std::size_t>(column)])
+        dragged_.erase(column);
+    else
+        dragged_[column] = pixels;
 }
 
-std::int32_t& GridGeometry::DocumentWidth(int column) {
+std::vector<DraggedWidth> GridGeometry::TakeDraggedWidths() {
+    std::vector<DraggedWidth> widths;
+    if (dragged_.empty() || QApplication::activeModalWidget() != nullptr)
+        return widths;
+    for (const auto& [column, pixels] : std::exchange(dragged_, {})) {
+        laidOut_[static_cast<std::size_t>(column)] = pixels;
+        widths.push_back({column, pixels * kTwipsPerPixel});
+    }
+    return widths;
+}
+
+std::int32_t GridGeometry::DocumentWidth(int column) const {
     return column == 0 ? document_.View.Col0Width : document_.State(column).ColWidth;
 }
 

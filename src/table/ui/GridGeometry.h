@@ -3,20 +3,29 @@
 
 #include "core/FsmDocument.h"
 
+#include <QObject>
 #include <QTableView>
 
 #include <array>
+#include <map>
 #include <vector>
 
 namespace orvane {
 
-// Keeps the widths and heights of the table's view and those of the document together. The document counts in
-// twips, the view in whole pixels; a width goes back into the document only where the user has changed it, so
-// that looking at a document alters nothing in it.
-class GridGeometry {
+// A column that the user has dragged, and how wide it is now, in twips.
+struct DraggedWidth {
+    int Column = 0;
+    std::int32_t Width = 0;
+};
+
+// Lays the table's view out as the document says. The document counts in twips, the view in whole pixels; a
+// width comes back only where the user has changed it, so that looking at a document alters nothing in it.
+class GridGeometry : public QObject {
+    Q_OBJECT
+
   public:
     // Both outlive this.
-    GridGeometry(FsmDocument& document, QTableView& view);
+    GridGeometry(const FsmDocument& document, QTableView& view);
 
     // The height of an ordinary row, in twips.
     int StandardHeight() const { return standardHeight_; }
@@ -26,16 +35,18 @@ class GridGeometry {
     void ApplyColumnWidths();
     void ApplyRowHeights();
 
-    // Stores the widths that the user has dragged. Returns the columns concerned.
-    std::vector<int> TestForColumWidthChange();
+    // What has been dragged since this was last asked. Nothing while an editor is open over the table.
+    std::vector<DraggedWidth> TakeDraggedWidths();
 
   private:
-    std::int32_t& DocumentWidth(int column);
+    void ColumnResized(int column, int pixels);
+    std::int32_t DocumentWidth(int column) const;
 
-    FsmDocument& document_;
+    const FsmDocument& document_;
     QTableView& view_;
     int standardHeight_;
-    std::array<int, kTableColumns> widthCache_{}; // pixels, as last laid out or seen
+    std::array<int, kTableColumns> laidOut_{}; // pixels
+    std::map<int, int> dragged_;               // columns that are no longer laid out so, pixels
 };
 
 } // namespace orvane

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "table/ui/TableGrid.h"
 
-#include "table/RowVisibility.h"
+#include "session/Session.h"
 #include "table/ui/CellEditor.h"
 #include "table/ui/FsmGridModel.h"
 #include "table/ui/FsmGridView.h"
@@ -17,18 +17,26 @@ namespace {
 
 constexpr int kGridLeft = 1; // pixels; 20 twips
 
+void SetColumnWidth(FsmDocument& document, int column, std::int32_t twips) {
+    if (column == 0)
+        document.View.Col0Width = twips;
+    else
+        document.State(column).ColWidth = twips;
+}
+
 } // namespace
 
-TableGrid::TableGrid(FsmDocument& document, QWidget* parent)
+TableGrid::TableGrid(Session& session, QWidget* parent)
     : QWidget(parent),
-      document_(document),
+      session_(session),
       MSFlexGrid1(new FsmGridView(this)),
-      model_(new FsmGridModel(document, GridMeasurer(MSFlexGrid1->font()), this)) {
+      model_(new FsmGridModel(session.Document(), GridMeasurer(MSFlexGrid1->font()), this)) {
     MSFlexGrid1->setModel(model_);
     MSFlexGrid1->setCurrentIndex(model_->index(kEntryActionRow, StateNumbers().First()));
-    geometry_ = std::make_unique<GridGeometry>(document, *MSFlexGrid1);
+    geometry_ = std::make_unique<GridGeometry>(session.Document(), *MSFlexGrid1);
+    session_.SetStandardHeight(geometry_->StandardHeight());
     txtCellEdit = new CellEditor(*MSFlexGrid1);
-    hints_ = new HoverHints(document, *model_, *MSFlexGrid1);
+    hints_ = new HoverHints(session.Document(), *model_, *MSFlexGrid1);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(kGridLeft, 0, 0, 0);
     layout->addWidget(MSFlexGrid1);
@@ -36,40 +44,48 @@ TableGrid::TableGrid(FsmDocument& document, QWidget* parent)
     connect(hints_, &HoverHints::CellEntered, this, &TableGrid::TestForColumWidthChange);
 }
 
-void TableGrid::PopulateStateColumn(int column) {
-    if (ForceRowsForState(document_, column, StandardHeight())) {
+void TableGrid::Draw(const Touched& part) {
+    switch (part.What) {
+    case Touched::Extent::Nothing:
+        break;
+    case Touched::Extent::Column:
+        PopulateStateColumn(part.State.Number());
+        break;
+    case Touched::Extent::RowHeads:
+        PopulateRowHeaders();
+        break;
+    case Touched::Extent::Everything:
         ApplyRowVisibility();
-        Q_EMIT RowsForced();
+        [[fallthrough]];
+    case Touched::Extent::AllColumns:
+        PopulateAllStateColumns();
+        break;
     }
+}
+
+void TableGrid::PopulateStateColumn(int column) {
     geometry_->ApplyColumnWidth(column);
     model_->ColumnChanged(column);
 }
 
 void TableGrid::PopulateAllStateColumns() {
-    if (ForceRowsForContents(document_, StandardHeight())) {
-        ApplyRowVisibility();
-        Q_EMIT RowsForced();
-    }
     geometry_->ApplyColumnWidths();
     model_->AllChanged();
 }
 
 void TableGrid::PopulateRowHeaders() { model_->RowHeadsChanged(); }
 
-void TableGrid::RefreshGrid() {
-    ApplyRowVisibility();
-    PopulateAllStateColumns();
-}
-
 void TableGrid::ApplyRowVisibility() { geometry_->ApplyRowHeights(); }
 
 void TableGrid::TestForColumWidthChange() {
-    for (const int column : geometry_->TestForColumWidthChange()) {
+    for (const DraggedWidth& dragged : geometry_->TakeDraggedWidths()) {
         txtCellEdit->Abandon();
-        if (column == 0)
-            PopulateRowHeaders();
-        else
-            PopulateStateColumn(column);
+        const Touched drawn = dragged.Column == 0
+                                  ? Touched{Touched::Extent::RowHeads, {}}
+                                  : Touched{Touched::Extent::Column, StateNumber(dragged.Column)};
+        session_.Edit({"column width", drawn, EditKind::View}, [&dragged](Editable open) {
+            SetColumnWidth(open.Document, dragged.Column, dragged.Width);
+        });
     }
 }
 

@@ -2,6 +2,7 @@
 #include "builder/ui/frmBuilder.h"
 
 #include "builder/BuilderScript.h"
+#include "session/Session.h"
 #include "support/ui/DialogAnswer.h"
 #include "support/ui/OpenedAddresses.h"
 
@@ -35,14 +36,26 @@ constexpr const char* kMissing =
 class frmBuilderTest : public testing::Test {
   protected:
     void Open(const QString& documentName, const std::string& buildFile = {}) {
-        buildFile_ = buildFile;
-        builder_ = std::make_unique<frmBuilder>(buildFile_);
-        builder_->SetGenerator([this] {
-            ++generated_;
-            return generatedOk_;
-        });
-        builder_->StartDocument(documentName.isEmpty() ? QString() : Path(documentName));
+        Replace(documentName, buildFile);
+        session_.Observe(ObserverRank::Generator, generator_);
+        builder_ = std::make_unique<frmBuilder>(session_);
+        QObject::connect(builder_.get(), &frmBuilder::BuildWanted, builder_.get(), &frmBuilder::GoGoGo);
+        builder_->StartDocument();
     }
+
+    // Another document takes the place of the one before.
+    void Replace(const QString& documentName, const std::string& buildFile = {}) {
+        FsmDocument document;
+        document.General.BuildFile = buildFile;
+        session_.Replace(document, documentName.isEmpty() ? std::string() : Path(documentName).toStdString());
+    }
+
+    void SaveAs(const QString& documentName) {
+        session_.MarkSaved(Path(documentName).toStdString());
+        builder_->RenameDocument();
+    }
+
+    std::string BuildFile() const { return session_.Document().General.BuildFile; }
 
     void Show() {
         builder_->show();
@@ -81,9 +94,23 @@ class frmBuilderTest : public testing::Test {
     }
 
     QTemporaryDir folder_;
-    std::string buildFile_;
-    bool generatedOk_ = true;
-    int generated_ = 0;
+    // Stands in for the generator.
+    struct Generator final : SessionObserver {
+        explicit Generator(Session& session) : Open(session) {}
+        void Told(const Change& change) override {
+            if (change.Kind != ChangeKind::ProgramWanted)
+                return;
+            ++Runs;
+            Open.SetProgram({.Written = Succeeds});
+        }
+
+        Session& Open;
+        bool Succeeds = true;
+        int Runs = 0;
+    };
+
+    Session session_;
+    Generator generator_{session_};
     OpenedAddresses opened_;
     DialogAnswer answers_;
     std::unique_ptr<frmBuilder> builder_;
@@ -95,7 +122,7 @@ TEST_F(frmBuilderTest, TheStarterScriptIsMadeBesideTheDocumentWhenFirstShown) {
     Show();
     EXPECT_EQ(FileName(), Path(QStringLiteral("pump.b1d")));
     EXPECT_EQ(Read(QStringLiteral("pump.b1d")).toStdString(), Starter(QStringLiteral("pump.zfsm")));
-    EXPECT_EQ(buildFile_, FileName().toStdString());
+    EXPECT_EQ(BuildFile(), FileName().toStdString());
 }
 
 TEST_F(frmBuilderTest, ADocumentWithoutAFileShowsTheStarterScriptWithoutAFileName) {
@@ -103,7 +130,7 @@ TEST_F(frmBuilderTest, ADocumentWithoutAFileShowsTheStarterScriptWithoutAFileNam
     Show();
     EXPECT_TRUE(Script().starts_with(";#SILENT"));
     EXPECT_EQ(FileName(), QString());
-    EXPECT_EQ(buildFile_, "");
+    EXPECT_EQ(BuildFile(), "");
 }
 
 TEST_F(frmBuilderTest, AnExistingScriptBesideTheDocumentIsReadNotOverwritten) {
@@ -147,13 +174,13 @@ TEST_F(frmBuilderTest, BuildingHandsTheSavedScriptToTheDesktop) {
     Show();
     Find<QPlainTextEdit>("txtBuildScript").appendPlainText(QStringLiteral("other.zls"));
     Press("cmdRun");
-    EXPECT_EQ(generated_, 1);
+    EXPECT_EQ(generator_.Runs, 1);
     EXPECT_TRUE(Read(QStringLiteral("pump.b1d")).endsWith("other.zls"));
     EXPECT_EQ(opened_.Addresses, QList{QUrl::fromLocalFile(Path(QStringLiteral("pump.b1d")))});
 }
 
 TEST_F(frmBuilderTest, ABuildOfADesignWithErrorsSavesTheScriptAndSaysSo) {
-    generatedOk_ = false;
+    generator_.Succeeds = false;
     answers_.Press(QMessageBox::Ok);
     Open(QStringLiteral("pump.zfsm"));
     builder_->GoGoGo();
@@ -295,7 +322,7 @@ TEST_F(frmBuilderTest, InAFolderThatTheScriptCannotNameTheProgramStandsWithoutIt
     Show();
     EXPECT_EQ(Read(folder + QStringLiteral("pump.b1d")).toStdString(), StarterScript("pump.zfsm"));
     EXPECT_EQ(FileName(), Path(folder + QStringLiteral("pump.b1d")));
-    EXPECT_EQ(buildFile_, ""); // no part of it, which would name another file
+    EXPECT_EQ(BuildFile(), ""); // no part of it, which would name another file
     Press("cmdRun");
     ASSERT_EQ(opened_.Addresses.size(), 1);
     EXPECT_EQ(opened_.Addresses[0].toLocalFile(), FileName());
@@ -361,7 +388,7 @@ TEST_F(frmBuilderTest, WithoutARegisteredProgramTheUserLearnsWhichScriptToOpen) 
 TEST_F(frmBuilderTest, ANewNameOfTheDocumentBringsItsOwnScript) {
     Open(QStringLiteral("pump.zfsm"));
     Show();
-    builder_->RenameDocument(Path(QStringLiteral("valve.zfsm")));
+    SaveAs(QStringLiteral("valve.zfsm"));
     EXPECT_EQ(FileName(), Path(QStringLiteral("valve.b1d")));
     EXPECT_EQ(Read(QStringLiteral("valve.b1d")).toStdString(), Starter(QStringLiteral("valve.zfsm")));
 }
@@ -370,7 +397,7 @@ TEST_F(frmBuilderTest, ANewNameKeepsAScriptThatTheUserChose) {
     Write(QStringLiteral("whole.b1d"), "CODESEG\r\n");
     Open(QStringLiteral("pump.zfsm"), Path(QStringLiteral("whole.b1d")).toStdString());
     Show();
-    builder_->RenameDocument(Path(QStringLiteral("valve.zfsm")));
+    SaveAs(QStringLiteral("valve.zfsm"));
     EXPECT_EQ(FileName(), Path(QStringLiteral("whole.b1d")));
 }
 
@@ -379,7 +406,7 @@ TEST_F(frmBuilderTest, ANewNameKeepsWhatWasTypedBeforeTheDocumentHadAFile) {
     Show();
     Find<QPlainTextEdit>("txtBuildScript").insertPlainText(QStringLiteral("x"));
     const std::string typed = Script();
-    builder_->RenameDocument(Path(QStringLiteral("pump.zfsm")));
+    SaveAs(QStringLiteral("pump.zfsm"));
     EXPECT_EQ(Script(), typed);
     EXPECT_EQ(FileName(), Path(QStringLiteral("pump.b1d")));
 }
@@ -387,8 +414,8 @@ TEST_F(frmBuilderTest, ANewNameKeepsWhatWasTypedBeforeTheDocumentHadAFile) {
 TEST_F(frmBuilderTest, AnotherDocumentBringsItsOwnScript) {
     Open(QStringLiteral("pump.zfsm"));
     Show();
-    buildFile_.clear(); // the document that takes its place names none
-    builder_->StartDocument(Path(QStringLiteral("valve.zfsm")));
+    Replace(QStringLiteral("valve.zfsm")); // which names none
+    builder_->StartDocument();
     EXPECT_EQ(FileName(), Path(QStringLiteral("valve.b1d")));
 }
 

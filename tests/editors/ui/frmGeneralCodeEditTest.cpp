@@ -38,7 +38,9 @@ class GeneralCodeEditTest : public testing::Test {
   protected:
     void Open(bool polytask, const std::function<void()>& script) {
         InNextDialog(Answers, [&](QWidget&) { script(); });
+        dialog.ShowGeneralCode(given);
         dialog.Execute(polytask);
+        given = dialog.Code(); // as the document takes it over
     }
 
     template <typename T>
@@ -56,9 +58,10 @@ class GeneralCodeEditTest : public testing::Test {
     void OK() { Press(dialog, "cmdOK"); }
     void Cancel() { Press(dialog, "cmdCancel"); }
 
-    GeneralCode general{"Pump", "header", "code", "init", "data", "test", "3", true, "pump.b1d"};
+    GeneralCode given{"Pump", "header", "code", "init", "data", "test", "3", true, "pump.b1d"};
     DialogAnswer Answers;
-    frmGeneralCodeEdit dialog{general};
+    frmGeneralCodeEdit dialog;
+    const GeneralCode& general = dialog.Code();
 };
 
 TEST_F(GeneralCodeEditTest, ShowsEveryPartOfTheGeneralCode) {
@@ -66,7 +69,7 @@ TEST_F(GeneralCodeEditTest, ShowsEveryPartOfTheGeneralCode) {
         EXPECT_EQ(dialog.windowTitle(), QStringLiteral("General code"));
         EXPECT_EQ(Name().text(), QStringLiteral("Pump"));
         for (const PaneOfTab& pane : kPanes)
-            EXPECT_EQ(Pane(pane.Name).Text(), general.*pane.Text);
+            EXPECT_EQ(Pane(pane.Name).Text(), given.*pane.Text);
         EXPECT_TRUE(Control<QCheckBox>("chkLAUNCHSEG").isChecked());
         EXPECT_EQ(Control<QCheckBox>("chkLAUNCHSEG").text(),
                   QStringLiteral("Include ;<LAUNCHSEG> containing RunTasksForever"));
@@ -99,9 +102,8 @@ TEST_F(GeneralCodeEditTest, WithPolytaskEveryTabIsOfferedUnderItsSegmentsName) {
 }
 
 TEST_F(GeneralCodeEditTest, WithoutPolytaskOnlyTheStartupCodeIsOffered) {
-    general.CodeSeg.clear();
-    general.InitSeg.clear();
-    dialog.ShowGeneralCode();
+    given.CodeSeg.clear();
+    given.InitSeg.clear();
     Open(false, [&] {
         EXPECT_EQ(Tabs().tabText(0), QStringLiteral("Startup code"));
         EXPECT_EQ(Text("lblCodePrompt"),
@@ -137,7 +139,7 @@ TEST_F(GeneralCodeEditTest, EveryKeystrokeIsInTheGeneralCodeAtOnce) {
 }
 
 TEST_F(GeneralCodeEditTest, CancelRestoresTheSixTextsButNotInstancesAndLaunchMark) {
-    const GeneralCode before = general;
+    const GeneralCode before = given;
     const auto edit = [&] {
         QTest::keyClicks(&Name(), QStringLiteral("s"));
         for (const PaneOfTab& pane : kPanes) {
@@ -168,9 +170,8 @@ TEST_F(GeneralCodeEditTest, CancelRestoresTheSixTextsButNotInstancesAndLaunchMar
 }
 
 TEST_F(GeneralCodeEditTest, TheCodeSuggestionFollowsTheNameOnEveryKeystroke) {
-    general.FsmName.clear();
-    general.CodeSeg.clear();
-    dialog.ShowGeneralCode();
+    given.FsmName.clear();
+    given.CodeSeg.clear();
     Open(true, [&] {
         EXPECT_TRUE(IsShown("fraCodeSuggestion"));
         EXPECT_EQ(Text("lblSuggestCodeSeg"), QStringLiteral("XXX_Init:\tLaunchTask\tXXX_Launch"));
@@ -183,8 +184,7 @@ TEST_F(GeneralCodeEditTest, TheCodeSuggestionFollowsTheNameOnEveryKeystroke) {
 }
 
 TEST_F(GeneralCodeEditTest, TypingIntoTheEmptyCodeHidesTheSuggestionAndDeletingShowsIt) {
-    general.CodeSeg.clear();
-    dialog.ShowGeneralCode();
+    given.CodeSeg.clear();
     Open(true, [&] {
         auto& pane = Pane("txtCodeSeg");
         QCoreApplication::processEvents();
@@ -202,9 +202,8 @@ TEST_F(GeneralCodeEditTest, TypingIntoTheEmptyCodeHidesTheSuggestionAndDeletingS
 }
 
 TEST_F(GeneralCodeEditTest, AcceptTakesTheSuggestionAndTellsIt) {
-    general.CodeSeg.clear();
-    general.InitSeg.clear();
-    dialog.ShowGeneralCode();
+    given.CodeSeg.clear();
+    given.InitSeg.clear();
     Open(true, [&] {
         QSignalSpy edits(&dialog, &frmGeneralCodeEdit::Edited);
         Press(dialog, "cmdAcceptCodeSuggestion");
@@ -282,8 +281,7 @@ TEST_F(GeneralCodeEditTest, ClosingTellsOneEditWhicheverWayItIsClosed) {
 TEST_F(GeneralCodeEditTest, ShowingAnotherGeneralCodeTellsNoEditAndChangesNothing) {
     QSignalSpy edits(&dialog, &frmGeneralCodeEdit::Edited);
     const GeneralCode other{"Fan\xA4", "a\nb", "\xA0", "", "d", "e", "N", false, "fan.b1d"};
-    general = other;
-    dialog.ShowGeneralCode();
+    dialog.ShowGeneralCode(other);
     EXPECT_EQ(edits.size(), 0);
     EXPECT_EQ(general, other);
     EXPECT_EQ(Pane("txtCodeSeg").Text(), "\xA0");
@@ -291,8 +289,8 @@ TEST_F(GeneralCodeEditTest, ShowingAnotherGeneralCodeTellsNoEditAndChangesNothin
 }
 
 TEST_F(GeneralCodeEditTest, ShowingAVeryLongInstanceCountCutsNothingOff) {
-    general.Instances = std::string(40000, '1');
-    dialog.ShowGeneralCode();
+    given.Instances = std::string(40000, '1');
+    dialog.ShowGeneralCode(given);
     EXPECT_EQ(general.Instances.size(), 40000u);
 }
 

@@ -3,6 +3,7 @@
 
 #include "core/DocumentReader.h"
 #include "core/DocumentWriter.h"
+#include "kit/CommandLine.h"
 
 #include <QAction>
 #include <QApplication>

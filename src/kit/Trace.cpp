@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/Trace.h"
+#include "kit/Trace.h"
 
 #include <QLoggingCategory>
 

@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/CommandMenus.h"
+
+#include "session/CommandState.h"
+
+#include <QAction>
+#include <QKeySequence>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+
+namespace orvane {
+
+namespace {
+
+QString Text(std::string_view text) {
+    return QLatin1String(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+} // namespace
+
+CommandMenus::CommandMenus(QMainWindow& window) : QObject(&window), window_(window) {
+    QMenu* menu = nullptr;
+    QMenu* subMenu = nullptr;
+    for (const CommandEntry& entry : kCommands) {
+        switch (entry.Kind) {
+        case EntryKind::BarMenu:
+            menu = AddMenu(nullptr, entry);
+            window_.menuBar()->addMenu(menu);
+            break;
+        case EntryKind::PopUpMenu:
+            menu = AddMenu(nullptr, entry);
+            break;
+        case EntryKind::SubMenu:
+            subMenu = AddMenu(menu, entry);
+            break;
+        case EntryKind::Divider:
+            menu->addSeparator()->setObjectName(Text(entry.Name));
+            break;
+        case EntryKind::Item:
+        case EntryKind::Toggle:
+            AddItem(menu, entry);
+            break;
+        case EntryKind::SubItem:
+            AddItem(subMenu, entry);
+            break;
+        }
+    }
+}
+
+QMenu* CommandMenus::AddMenu(QMenu* parent, const CommandEntry& entry) {
+    const QString caption = Text(entry.Caption);
+    QMenu* menu = parent != nullptr ? parent->addMenu(caption) : new QMenu(caption, &window_);
+    menu->setObjectName(Text(entry.Name));
+    menu->menuAction()->setObjectName(Text(entry.Name));
+    Item(entry.Id) = menu->menuAction();
+    return menu;
+}
+
+void CommandMenus::AddItem(QMenu* menu, const CommandEntry& entry) {
+    QAction* item = menu->addAction(Text(entry.Caption));
+    item->setObjectName(Text(entry.Name));
+    item->setCheckable(entry.Kind == EntryKind::Toggle);
+    item->setShortcut(QKeySequence::fromString(Text(entry.Keys), QKeySequence::PortableText));
+    connect(item, &QAction::triggered, this, [this, id = entry.Id] { Q_EMIT Chosen(id); });
+    Item(entry.Id) = item;
+}
+
+QMenu& CommandMenus::Menu(Command menu) const { return *items_[IndexOf(menu)]->menu(); }
+
+void CommandMenus::ShowState(const Session& session) {
+    for (const CommandEntry& entry : kCommands) {
+        if (entry.Needs != Need::Nothing)
+            Item(entry.Id)->setEnabled(IsPossible(session, entry));
+        if (entry.Kind == EntryKind::Toggle)
+            Item(entry.Id)->setChecked(IsChecked(session, entry.Id));
+    }
+}
+
+} // namespace orvane

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/Rooms.h"
+
+#include "builder/ui/BuilderRoom.h"
+#include "codegen/ui/GeneratorRoom.h"
+#include "editors/ui/EditorsRoom.h"
+#include "table/ui/BacktrackRoom.h"
+#include "table/ui/TableRoom.h"
+#include "welcome/ui/WelcomeRoom.h"
+
+namespace orvane {
+
+std::vector<std::unique_ptr<Room>> MakeRooms(const RoomPlace& place) {
+    std::vector<std::unique_ptr<Room>> rooms;
+    rooms.push_back(std::make_unique<TableRoom>(place));
+    rooms.push_back(std::make_unique<GeneratorRoom>(place));
+    rooms.push_back(std::make_unique<BuilderRoom>(place));
+    rooms.push_back(std::make_unique<BacktrackRoom>(place));
+    rooms.push_back(std::make_unique<EditorsRoom>(place));
+    rooms.push_back(std::make_unique<WelcomeRoom>(place));
+    return rooms;
+}
+
+} // namespace orvane

@@ -1,0 +1,121 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "codegen/ui/GeneratorRoom.h"
+
+#include "codegen/Reachability.h"
+#include "codegen/ui/frmGenerator.h"
+#include "kit/UserMessageBox.h"
+#include "session/Commands.h"
+#include "session/Session.h"
+
+#include <QDir>
+#include <QMainWindow>
+
+#include <utility>
+
+namespace orvane {
+
+namespace {
+
+constexpr auto kOwnCommands = std::to_array<Command>({Command::Generate});
+
+bool AsksForProgram(ChangeKind kind) {
+    switch (kind) {
+    case ChangeKind::Edited:
+    case ChangeKind::Undone:
+    case ChangeKind::Redone:
+    case ChangeKind::Typed:
+    case ChangeKind::Drafted:
+    case ChangeKind::Multitasking:
+    case ChangeKind::ProgramWanted:
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace
+
+GeneratorRoom::GeneratorRoom(const RoomPlace& place)
+    : session_(place.Open), words_(place.Words), window_(place.Window) {
+    connect(&generator_, &GeneratorRun::Finished, this, &GeneratorRoom::ShowRun);
+    connect(&generator_, &GeneratorRun::WriteFailed, this, [this](const QString& path, const QString& why) {
+        failure_ = {path, why};
+    });
+    session_.Observe(ObserverRank::Messages, failureBox_);
+}
+
+GeneratorRoom::~GeneratorRoom() = default;
+
+std::span<const Command> GeneratorRoom::Commands() const { return kOwnCommands; }
+
+void GeneratorRoom::Run(Command) {
+    session_.WantProgram();
+    Window().Present();
+}
+
+// Which states can be deleted is asked when their menu comes up.
+void GeneratorRoom::Prepare(const CommandEntry& next) {
+    if (next.Id != Command::StateMenu)
+        return;
+    const Reachability reachability = ComputeReachability(session_.Document());
+    ProgramState program = session_.Program();
+    for (const int state : StateNumbers())
+        program.Reached.set(static_cast<std::size_t>(state), reachability.Reached(state));
+    session_.SetProgram(program);
+}
+
+ObserverRank GeneratorRoom::Rank() const { return ObserverRank::Generator; }
+
+// The program of a document that was only opened is not touched.
+void GeneratorRoom::Told(const Change& change) {
+    const QString path = QString::fromStdString(session_.Path());
+    if (change.Kind == ChangeKind::Replaced)
+        generator_.RunWithoutFile(session_.Document(), path);
+    else if (AsksForProgram(change.Kind))
+        generator_.Run(session_.Document(), path);
+    else
+        return;
+    ProgramState program = session_.Program();
+    program.Written = generator_.GeneratedOk();
+    session_.SetProgram(program);
+}
+
+void GeneratorRoom::FailureBox::Told(const Change&) {
+    if (const std::optional<Failure> failure = std::exchange(room_.failure_, std::nullopt))
+        Tell(&room_.window_, tr("The generated program could not be written to\r\n%1\r\n%2.")
+                                 .arg(QDir::toNativeSeparators(failure->Path), failure->Why));
+}
+
+void GeneratorRoom::ShowRun() {
+    if (frmGenerator_)
+        frmGenerator_->TakeRun(generator_.Latest(), FateOfProgram());
+}
+
+QString GeneratorRoom::FateOfProgram() const {
+    if (generator_.Latest().Findings.HasErrors())
+        return tr("Not written: the design has errors");
+    if (session_.Path().empty())
+        return tr("Not written: the document has no file yet");
+    const QString path = QString::fromStdString(ProgramFilePath(session_.Path()));
+    return generator_.GeneratedOk() ? tr("Written to %1").arg(QDir::toNativeSeparators(path))
+                                    : tr("Not written");
+}
+
+frmGenerator& GeneratorRoom::Window() {
+    if (!frmGenerator_) {
+        frmGenerator_ = std::make_unique<frmGenerator>();
+        frmGenerator_->SetVocabulary(words_);
+        connect(frmGenerator_.get(), &frmGenerator::PlaceChosen, this, [this](int state, int row) {
+            Q_EMIT PlaceChosen({row, state});
+        });
+        ShowRun();
+    }
+    return *frmGenerator_;
+}
+
+void GeneratorRoom::Close() {
+    if (frmGenerator_)
+        frmGenerator_->hide();
+}
+
+} // namespace orvane

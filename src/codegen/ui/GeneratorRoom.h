@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "codegen/ui/GeneratorRun.h"
+#include "kit/Room.h"
+#include "session/Change.h"
+
+#include <memory>
+#include <optional>
+
+namespace orvane {
+
+class frmGenerator;
+
+// The program of the document: written after every change, and shown in a window with its report.
+class GeneratorRoom : public Room {
+    Q_OBJECT
+
+  public:
+    explicit GeneratorRoom(const RoomPlace& place);
+    ~GeneratorRoom() override;
+
+    std::span<const Command> Commands() const override;
+    void Run(Command command) override;
+    void Prepare(const CommandEntry& next) override;
+    ObserverRank Rank() const override;
+    bool Listens() const override { return true; }
+    void Told(const Change& change) override;
+    void Close() override;
+
+  private:
+    // A program that could not be written, and nobody has told the user yet.
+    struct Failure {
+        QString Path;
+        QString Why;
+    };
+
+    // Tells it once everybody else has the change.
+    class FailureBox final : public SessionObserver {
+      public:
+        explicit FailureBox(GeneratorRoom& room) : room_(room) {}
+        void Told(const Change& change) override;
+
+      private:
+        GeneratorRoom& room_;
+    };
+
+    void ShowRun();
+    QString FateOfProgram() const;
+    frmGenerator& Window();
+
+    Session& session_;
+    const Vocabulary& words_;
+    QMainWindow& window_;
+    GeneratorRun generator_;
+    std::optional<Failure> failure_;
+    FailureBox failureBox_{*this};
+    std::unique_ptr<frmGenerator> frmGenerator_; // no window of the main window's: the table can be in front
+};
+
+} // namespace orvane

@@ -1,0 +1,160 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "editors/ui/EditorsRoom.h"
+
+#include "editors/ui/frmEventEdit.h"
+#include "editors/ui/frmGeneralCodeEdit.h"
+#include "editors/ui/frmStateEdit.h"
+#include "editors/ui/frmTransitionAction.h"
+#include "session/CommandState.h"
+#include "session/Session.h"
+
+#include <QMainWindow>
+
+namespace orvane {
+
+namespace {
+
+using Extent = Touched::Extent;
+
+constexpr auto kOwnCommands = std::to_array<Command>({Command::GeneralCode, Command::EditAction});
+
+constexpr std::string_view kGeneralCodeStep = EntryOf(Command::GeneralCode).Step;
+
+// Which script the document names is no business of the dialog's.
+void TakeGeneralCode(FsmDocument& document, const GeneralCode& code) {
+    std::string buildFile = std::move(document.General.BuildFile);
+    document.General = code;
+    document.General.BuildFile = std::move(buildFile);
+}
+
+} // namespace
+
+EditorsRoom::EditorsRoom(const RoomPlace& place)
+    : session_(place.Open), words_(place.Words), window_(place.Window) {
+    session_.AddDraftSource(*this);
+}
+
+EditorsRoom::~EditorsRoom() { session_.RemoveDraftSource(*this); }
+
+std::span<const Command> EditorsRoom::Commands() const { return kOwnCommands; }
+
+void EditorsRoom::Run(Command command) {
+    EditPlace(command == Command::GeneralCode ? Cell{} : session_.Pressed());
+}
+
+void EditorsRoom::EditPlace(Cell place) {
+    if (place == Cell{})
+        EditGeneralCode();
+    else if (place.State == kNoState)
+        EditEvent(place.Row);
+    else if (place.Row < kFirstCellRow)
+        EditState(place);
+    else
+        EditTransitionAction(place);
+}
+
+ObserverRank EditorsRoom::Rank() const { return ObserverRank::Rooms; }
+
+// All tabs show until a command hides or shows a row, or a row is forced into sight.
+void EditorsRoom::Told(const Change& change) {
+    if (change.Kind == ChangeKind::Replaced)
+        exitTab_ = timeoutTab_ = true;
+    if (change.Kind == ChangeKind::RowsToggled) {
+        exitTab_ = IsChecked(session_, Command::ShowExitAction);
+        timeoutTab_ =
+            IsChecked(session_, Command::ShowTimingMode) || IsChecked(session_, Command::ShowTimeTarget);
+    }
+    if (change.RowsForced && IsChecked(session_, Command::ShowTimingMode))
+        timeoutTab_ = true;
+}
+
+template <typename Dialog>
+Dialog& EditorsRoom::Made(Dialog*& dialog) {
+    if (dialog == nullptr) {
+        dialog = new Dialog(&window_);
+        if constexpr (requires { dialog->SetVocabulary(words_); })
+            dialog->SetVocabulary(words_);
+        connect(dialog, &EditorDialog::Edited, this, [this] {
+            hasDraft_ = true;
+            session_.TellDraft();
+        });
+    }
+    return *dialog;
+}
+
+void EditorsRoom::BeginDraft(Cell place) {
+    edited_ = place;
+    hasDraft_ = false;
+}
+
+void EditorsRoom::EditState(Cell place) {
+    frmStateEdit& dialog = Made(frmStateEdit_);
+    const int state = place.State.Number();
+    dialog.SetExitTabVisible(exitTab_);
+    dialog.SetTimeoutTabVisible(timeoutTab_);
+    BeginDraft(place);
+    StateRecord record = session_.Document().State(state);
+    dialog.Execute(place.Row.Number(), record);
+    hasDraft_ = false;
+    session_.Edit({"state", {Extent::AllColumns, {}}},
+                  [&](const Editable& open) { open.Document.State(state) = record; });
+}
+
+void EditorsRoom::EditEvent(RowNumber row) {
+    frmEventEdit& dialog = Made(frmEventEdit_);
+    BeginDraft({row, kNoState});
+    EventRecord record = session_.Document().Event(row.Number());
+    dialog.Execute(record);
+    hasDraft_ = false;
+    session_.Edit({"event", {Extent::RowHeads, {}}},
+                  [&](const Editable& open) { open.Document.Event(row.Number()) = record; });
+}
+
+// Each letter is in the document at once, so that the program made meanwhile shows it; the step comes when
+// the dialog closes.
+void EditorsRoom::EditGeneralCode() {
+    const bool isNew = frmGeneralCodeEdit_ == nullptr;
+    frmGeneralCodeEdit& dialog = Made(frmGeneralCodeEdit_);
+    if (isNew) {
+        disconnect(&dialog, &EditorDialog::Edited, this, nullptr);
+        connect(&dialog, &EditorDialog::Edited, this, &EditorsRoom::WriteGeneralCodeThrough);
+    }
+    BeginDraft({});
+    dialog.ShowGeneralCode(session_.Document().General);
+    dialog.Execute(session_.Document().View.Polytask);
+    hasDraft_ = false;
+    session_.Edit({kGeneralCodeStep, {Extent::RowHeads, {}}},
+                  [&](const Editable& open) { TakeGeneralCode(open.Document, dialog.Code()); });
+}
+
+void EditorsRoom::WriteGeneralCodeThrough() {
+    hasDraft_ = true;
+    session_.Edit({kGeneralCodeStep, {Extent::RowHeads, {}}, EditKind::Typing},
+                  [&](const Editable& open) { TakeGeneralCode(open.Document, frmGeneralCodeEdit_->Code()); });
+}
+
+void EditorsRoom::EditTransitionAction(Cell place) {
+    frmTransitionAction& dialog = Made(frmTransitionAction_);
+    const int row = place.Row.Number();
+    const int state = place.State.Number();
+    BeginDraft(place);
+    dialog.SetCode(session_.Document().State(state).Actions[row]);
+    dialog.Execute();
+    hasDraft_ = false;
+    session_.Edit({EntryOf(Command::EditAction).Step, {Extent::Column, place.State}},
+                  [&](const Editable& open) { open.Document.State(state).Actions[row] = dialog.Code(); });
+}
+
+std::optional<Draft> EditorsRoom::CurrentDraft() const {
+    if (!hasDraft_)
+        return std::nullopt;
+    if (edited_ == Cell{})
+        return Draft{edited_, frmGeneralCodeEdit_->Code()};
+    if (edited_.State == kNoState)
+        return Draft{edited_, frmEventEdit_->Typed()};
+    if (edited_.Row < kFirstCellRow)
+        return Draft{edited_, frmStateEdit_->Typed()};
+    return Draft{edited_, ActionText{frmTransitionAction_->Code()}};
+}
+
+} // namespace orvane

@@ -1,0 +1,197 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The catalogue of commands: menus, keys, tests and help read it, and nobody names a command otherwise.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <string_view>
+
+namespace orvane {
+
+enum class Command : unsigned char {
+    FileMenu,
+    FileNew,
+    FileOpen,
+    FileSave,
+    FileSaveAs,
+    EditMenu,
+    Undo,
+    Redo,
+    CodeMenu,
+    GeneralCode,
+    Generate,
+    Builder,
+    BuildAndTest,
+    PreferencesMenu,
+    ShowExitAction,
+    ShowElse,
+    ShowTimingMode,
+    ShowTimeTarget,
+    Polytask,
+    HelpMenu,
+    HelpPages,
+    RecentMenu,
+    About,
+    StateMenu,
+    CopyState,
+    PasteState,
+    InsertState,
+    DeleteState,
+    SetCurrentState,
+    Backtrack,
+    EventMenu,
+    InsertEvent,
+    DeleteEvent,
+    CopyEvent,
+    PasteEvent,
+    TransitionMenu,
+    ActionMenu,
+    EditAction,
+    CopyAction,
+    CutAction,
+    PasteAction,
+    WholeTransitionMenu,
+    CopyTransition,
+    CutTransition,
+    PasteTransition,
+    EntryActionMenu,
+    CopyEntryAction,
+    PasteEntryAction,
+    DeleteEntryAction,
+    CutEntryAction,
+    Divider, // the line between two groups of a menu; always the last
+};
+
+// How many there are, without the divider; a command's number is its place among them.
+constexpr std::size_t IndexOf(Command command) { return static_cast<std::size_t>(command); }
+inline constexpr std::size_t kCommandCount = IndexOf(Command::Divider);
+
+// What an entry of the catalogue becomes. An item belongs to the menu above it, a sub-item to the submenu
+// above it.
+enum class EntryKind { BarMenu, PopUpMenu, SubMenu, Item, Toggle, SubItem, Divider };
+
+// What must be there for a command to be possible.
+enum class Need {
+    Nothing,
+    OlderStep,
+    NewerStep,
+    StateToPaste,
+    EventToPaste,
+    EntryActionToPaste,
+    TransitionToPaste,
+    ActionToPaste,
+    UnreachedState, // the pressed one: only a state that no path from state 1 reaches can be deleted
+};
+
+// What happens to a target that is being typed in a cell when the command comes.
+enum class Typing { Stays, IsTaken, IsDropped };
+
+struct CommandEntry {
+    Command Id;
+    EntryKind Kind;
+    std::string_view Name;      // of the menu or menu item, as an object
+    std::string_view Caption;   // shown; a mark "&" stands before the letter to press
+    std::string_view Keys = {}; // as text: "Ctrl+Shift+S"
+    Need Needs = Need::Nothing;
+    Typing Typed = Typing::Stays;
+    std::string_view Step = {}; // what the status bar tells when it is undone, of commands that edit
+};
+
+// In menu order.
+inline constexpr auto kCommands = std::to_array<CommandEntry>({
+    {Command::FileMenu, EntryKind::BarMenu, "mnuFile", "File"},
+    {Command::FileNew, EntryKind::Item, "mnuFNew", "New", "Ctrl+N", Need::Nothing, Typing::IsTaken},
+    {Command::FileOpen, EntryKind::Item, "mnuFOpen", "Open", "Ctrl+O", Need::Nothing, Typing::IsTaken},
+    {Command::FileSave, EntryKind::Item, "mnuFSave", "Save", "Ctrl+S", Need::Nothing, Typing::IsTaken},
+    {Command::FileSaveAs, EntryKind::Item, "mnuFSaveAs", "Save &As", "Ctrl+Shift+S", Need::Nothing,
+     Typing::IsTaken},
+    {Command::EditMenu, EntryKind::BarMenu, "mnuEdit", "Edit"},
+    {Command::Undo, EntryKind::Item, "mnuUndo", "Undo", "Ctrl+Z", Need::OlderStep, Typing::IsDropped},
+    {Command::Redo, EntryKind::Item, "mnuRedo", "Redo", "Ctrl+Y", Need::NewerStep, Typing::IsDropped},
+    {Command::CodeMenu, EntryKind::BarMenu, "mnuCode", "Code"},
+    {Command::GeneralCode, EntryKind::Item, "mnuGeneralCode", "Edit general code", "", Need::Nothing,
+     Typing::Stays, "general code"},
+    {Command::Generate, EntryKind::Item, "mnuCodeGenerate", "Generate", "", Need::Nothing, Typing::IsTaken},
+    {Command::Divider, EntryKind::Divider, "div3", ""},
+    {Command::Builder, EntryKind::Item, "mnuBuilder", "Builder script"},
+    {Command::BuildAndTest, EntryKind::Item, "mnuBuildAndTest", "Build and Test", "", Need::Nothing,
+     Typing::IsTaken},
+    {Command::PreferencesMenu, EntryKind::BarMenu, "mnuPref", "Preferences"},
+    {Command::ShowExitAction, EntryKind::Toggle, "mnuShowExitAction", "Show exit action row"},
+    {Command::ShowElse, EntryKind::Toggle, "mnuShowElse", "Show Else row"},
+    {Command::Divider, EntryKind::Divider, "div2", ""},
+    {Command::ShowTimingMode, EntryKind::Toggle, "mnuShowTimingMode", "Show timeout mode"},
+    {Command::ShowTimeTarget, EntryKind::Toggle, "mnuShowTimeTarget", "Show timeout target"},
+    {Command::Divider, EntryKind::Divider, "div4", ""},
+    {Command::Polytask, EntryKind::Toggle, "mnuPolytask", "Polytask"},
+    {Command::HelpMenu, EntryKind::BarMenu, "mnuHelp", "Help"},
+    {Command::HelpPages, EntryKind::Item, "mnuHelpPages", "Help pages"},
+    {Command::RecentMenu, EntryKind::SubMenu, "mnuRecent", "Recent files"},
+    {Command::Divider, EntryKind::Divider, "", ""},
+    {Command::About, EntryKind::Item, "mnuAbout", "About Orvane"},
+    {Command::StateMenu, EntryKind::PopUpMenu, "mnuColumnHead", "ColumnHead"},
+    {Command::CopyState, EntryKind::Item, "mnuCopyState", "Copy state"},
+    {Command::PasteState, EntryKind::Item, "mnuPasteState", "Paste state", "", Need::StateToPaste,
+     Typing::IsTaken, "paste state"},
+    {Command::InsertState, EntryKind::Item, "mnuInsertState", "Insert state", "", Need::Nothing,
+     Typing::IsTaken, "insert state"},
+    {Command::DeleteState, EntryKind::Item, "mnuDeleteState", "Delete state", "", Need::UnreachedState,
+     Typing::IsTaken, "delete state"},
+    {Command::Divider, EntryKind::Divider, "div1", ""},
+    {Command::SetCurrentState, EntryKind::Item, "mnuCurrentState", "Set current state"},
+    {Command::Backtrack, EntryKind::Item, "mnuBacktrack", "Backtrack"},
+    {Command::EventMenu, EntryKind::PopUpMenu, "mnuEventLabel", "EventLabel"},
+    {Command::InsertEvent, EntryKind::Item, "mnuInsertEvent", "Insert Event", "", Need::Nothing,
+     Typing::IsTaken, "insert event"},
+    {Command::DeleteEvent, EntryKind::Item, "mnuDeleteEvent", "Delete event", "", Need::Nothing,
+     Typing::IsTaken, "delete event"},
+    {Command::CopyEvent, EntryKind::Item, "mnuCopyEvent", "Copy event"},
+    {Command::PasteEvent, EntryKind::Item, "mnuPasteEvent", "Paste event", "", Need::EventToPaste,
+     Typing::IsTaken, "paste event"},
+    {Command::TransitionMenu, EntryKind::PopUpMenu, "mnuTranCell", "TransitionCell"},
+    {Command::ActionMenu, EntryKind::SubMenu, "mnuTransAct", "Action ..."},
+    {Command::EditAction, EntryKind::SubItem, "mnuEditTransAct", "Edit", "", Need::Nothing, Typing::IsTaken,
+     "transition action"},
+    {Command::CopyAction, EntryKind::SubItem, "mnuCopyTransAct", "Copy"},
+    {Command::CutAction, EntryKind::SubItem, "mnuCutTransAct", "Cut", "", Need::Nothing, Typing::IsTaken,
+     "cut transition action"},
+    {Command::PasteAction, EntryKind::SubItem, "mnuPasteTransAct", "Paste", "", Need::ActionToPaste,
+     Typing::IsTaken, "paste transition action"},
+    {Command::WholeTransitionMenu, EntryKind::SubMenu, "mnuWholeTransition", "Action + Transition ..."},
+    {Command::CopyTransition, EntryKind::SubItem, "mnuCopyTransition", "Copy"},
+    {Command::CutTransition, EntryKind::SubItem, "mnuCutTransition", "Cut", "", Need::Nothing,
+     Typing::IsTaken, "cut transition"},
+    {Command::PasteTransition, EntryKind::SubItem, "mnuPasteTransition", "Paste", "", Need::TransitionToPaste,
+     Typing::IsTaken, "paste transition"},
+    {Command::EntryActionMenu, EntryKind::PopUpMenu, "mnuEntryAction", "EntryAction"},
+    {Command::CopyEntryAction, EntryKind::Item, "mnuCopyEntryAction", "Copy entry action"},
+    {Command::PasteEntryAction, EntryKind::Item, "mnuPasteEntryAction", "Paste entry action", "",
+     Need::EntryActionToPaste, Typing::IsTaken, "paste entry action"},
+    {Command::DeleteEntryAction, EntryKind::Item, "mnuDeleteEntryAction", "Delete entry action", "",
+     Need::Nothing, Typing::IsTaken, "delete entry action"},
+    {Command::CutEntryAction, EntryKind::Item, "mnuCutEntryAction", "Cut entry action", "", Need::Nothing,
+     Typing::IsTaken, "cut entry action"},
+});
+
+// The command's one entry.
+constexpr const CommandEntry& EntryOf(Command command) {
+    for (const CommandEntry& entry : kCommands) {
+        if (entry.Id == command)
+            return entry;
+    }
+    return kCommands.front(); // not reached: below it is checked that every command has an entry
+}
+
+constexpr bool EveryCommandHasOneEntry() {
+    std::array<int, kCommandCount + 1> entries{};
+    for (const CommandEntry& entry : kCommands)
+        ++entries[IndexOf(entry.Id)];
+    for (std::size_t command = 0; command < kCommandCount; ++command) {
+        if (entries[command] != 1)
+            return false;
+    }
+    return true;
+}
+static_assert(EveryCommandHasOneEntry());
+
+} // namespace orvane

@@ -1,0 +1,151 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "core/FsmDocument.h"
+#include "core/UserMessage.h"
+#include "session/Change.h"
+#include "session/Draft.h"
+#include "table/TableClipboard.h"
+#include "table/UndoRing.h"
+
+#include <bitset>
+#include <optional>
+#include <string>
+#include <type_traits>
+#include <vector>
+
+namespace orvane {
+
+// What kind of thing an edit changes.
+enum class EditKind {
+    Design,       // what is generated: one undo step
+    Typing,       // the same, letter by letter; the step is the Design edit that ends it
+    View,         // how the document is looked at: no step, no program
+    ToggledRows,  // the same, by the command of a special row
+    Multitasking, // no step, but another program
+};
+
+// An edit, as everybody is told of it.
+struct EditStep {
+    std::string_view Name; // in the words of the user: "insert state"; lives as long as the program
+    Touched Where;
+    EditKind Kind = EditKind::Design;
+};
+
+// What an edit may change.
+struct Editable {
+    FsmDocument& Document;
+    TableClipboard& Clipboard;
+};
+
+// What the last run of the generator has found out.
+struct ProgramState {
+    bool Written = false;                    // its file is that of the document as it stands
+    std::bitset<kTableColumns> Reached = {}; // which states a path from state 1 leads to
+};
+
+// The one owner of what is open: the document, its file, its history, the clipboard of the table, and where
+// the user is in it. Nobody else can change the document, and whoever has to know of a change is told.
+class Session {
+  public:
+    Session() = default;
+    Session(const Session&) = delete;
+    Session& operator=(const Session&) = delete;
+
+    const FsmDocument& Document() const { return document_; } // stays at its address
+    const std::string& Path() const { return path_; }         // full, UTF-8; empty without a file
+
+    // The one door for edits: runs the change on an Editable, keeps the step, and tells every observer. A
+    // change that returns a UserMessage has refused: the document is as it was, nobody is told, and the
+    // message comes back. A dialog runs before its edit, never inside.
+    template <typename Action>
+    std::optional<UserMessage> Edit(const EditStep& step, Action&& change) {
+        if constexpr (std::is_void_v<std::invoke_result_t<Action, Editable>>)
+            change(Editable{document_, clipboard_});
+        else if (std::optional<UserMessage> refusal = change(Editable{document_, clipboard_}))
+            return refusal;
+        FinishEdit(step);
+        return std::nullopt;
+    }
+
+    // Another document takes the place of this one and begins its history; it counts as saved.
+    void Replace(FsmDocument document, std::string path);
+
+    // The file has the document as it stands.
+    void MarkSaved(std::string path);
+
+    // Differs from what was saved, opened or begun with.
+    bool IsModified() const { return undo_.IsModified(); }
+
+    // What went wrong with the step's image comes back, empty for all that this program has made.
+    std::vector<std::string> Undo();
+    std::vector<std::string> Redo();
+    bool CanUndo() const { return undo_.CanUndo(); }
+    bool CanRedo() const { return undo_.CanRedo(); }
+
+    // Copies into the clipboard; the document stays.
+    template <typename Action>
+    void Copy(Action&& copy) {
+        copy(Document(), clipboard_);
+    }
+    const TableClipboard& Clipboard() const { return clipboard_; }
+    // What can be pasted, as of the last time that this was asked anew: some kinds of content leave some of
+    // the commands as they were.
+    const PasteItems& Pasteable() const { return pasteable_; }
+    void EnablePasteItems() { pasteable_ = orvane::EnablePasteItems(clipboard_.Kind, pasteable_); }
+
+    // Where the user is: the cell that a mouse button was last pressed on, the state that stepping has
+    // reached (0 is none), whether Shift is held in the table.
+    Cell Pressed() const { return pressed_; }
+    void Press(Cell cell) { pressed_ = cell; }
+    StateNumber CurrentState() const { return currentState_; }
+    void SetCurrentState(StateNumber state);
+    bool ShiftHeld() const { return shiftHeld_; }
+    void HoldShift(bool held);
+
+    // The height of an ordinary row in the table's font, in twips: what a special row comes into sight with.
+    int StandardHeight() const { return standardHeight_; }
+    void SetStandardHeight(int twips) { standardHeight_ = twips; }
+
+    // What open editors hold. A source is asked for its draft whenever somebody wants it; one that goes takes
+    // itself off the list.
+    void AddDraftSource(const DraftSource& source) { draftSources_.push_back(&source); }
+    void RemoveDraftSource(const DraftSource& source);
+    std::vector<Draft> Drafts() const;
+    // The draft of some editor is another now.
+    void TellDraft();
+
+    // Asks for the program of the document as it stands; the answer is there when this returns.
+    void WantProgram();
+    const ProgramState& Program() const { return program_; }
+    void SetProgram(const ProgramState& program) { program_ = program; }
+
+    // Observers are told in the order of their ranks, those of one rank in the order in which they came.
+    void Observe(ObserverRank rank, SessionObserver& observer);
+
+  private:
+    struct Listener {
+        ObserverRank Rank;
+        SessionObserver* Observer;
+    };
+
+    void FinishEdit(const EditStep& step);
+    bool ForceRows(const Touched& where);
+    std::vector<std::string> ShowStep(ChangeKind kind, const std::string* image, std::string_view name);
+    void Tell(const Change& change);
+
+    FsmDocument document_;
+    std::string path_;
+    UndoRing undo_;
+    TableClipboard clipboard_;
+    PasteItems pasteable_;
+    Cell pressed_;
+    StateNumber currentState_;
+    bool shiftHeld_ = false;
+    int standardHeight_ = 0;
+    ProgramState program_;
+    std::vector<const DraftSource*> draftSources_;
+    std::vector<Listener> listeners_;
+};
+
+} // namespace orvane

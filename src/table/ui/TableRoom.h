@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "kit/Room.h"
+#include "table/ui/CellTyping.h"
+#include "table/ui/TableCommands.h"
+
+#include <memory>
+
+namespace orvane {
+
+class TableGrid;
+class frmMyToolTip;
+struct GridPress;
+
+// The table in the middle of the window: what is drawn there, and what a press, a key or a command does to
+// it.
+class TableRoom : public Room {
+    Q_OBJECT
+
+  public:
+    explicit TableRoom(const RoomPlace& place);
+    ~TableRoom() override;
+
+    std::span<const Command> Commands() const override;
+    void Run(Command command) override;
+    void Prepare(const CommandEntry& next) override;
+    ObserverRank Rank() const override;
+    bool Listens() const override { return true; }
+    void Told(const Change& change) override;
+    void ShowPlace(Cell place) override;
+
+  private:
+    void ConnectGrid();
+    void ShowAnotherDocument();
+    void ShowWhereTheUserIs();
+    void PressGrid(const GridPress& press);
+    void PopUp(Command menu, const GridPress& press);
+    void StepMachine(RowNumber row);
+    void Step(std::vector<std::string> faults);
+
+    Session& session_;
+    QMainWindow& window_;
+    std::unique_ptr<TableGrid> grid_; // goes before what it shows
+    CellTyping typing_;
+    TableCommands commands_;
+    frmMyToolTip* frmMyToolTip_;
+};
+
+} // namespace orvane
