@@ -2,6 +2,7 @@
 #include "builder/BuilderScript.h"
 
 #include "text/AnsiText.h"
+#include "text/SiblingPath.h"
 
 #include <array>
 
@@ -26,24 +27,15 @@ constexpr auto kStarterLines = std::to_array<std::string_view>({
     "",
 });
 
-std::string WithExtension(std::string_view path, std::string_view extension) {
-    const std::size_t dot = path.rfind('.');
-    if (dot == std::string_view::npos)
-        return {};
-    return std::string(path.substr(0, dot + 1)).append(extension);
-}
-
 } // namespace
-
-std::string BuilderScriptName(std::string_view documentPath) { return WithExtension(documentPath, "b1d"); }
-
-std::string ProgramFileName(std::string_view documentPath) { return WithExtension(documentPath, "zls"); }
 
 std::string StarterScript(std::string_view documentPath) {
     std::string script;
     for (const std::string_view line : kStarterLines)
         script.append(line).append(kLineEnd);
-    return script.append(ProgramFileName(documentPath)).append(kLineEnd);
+    if (!BuilderScriptPath(documentPath).empty())
+        script.append(ProgramFilePath(documentPath));
+    return script.append(kLineEnd);
 }
 
 std::string_view BuilderExplanation() {

@@ -8,14 +8,8 @@
 
 namespace orvane {
 
-// The script beside the document: its path up to and including the last "." and "b1d". Empty without a ".".
-std::string BuilderScriptName(std::string_view documentPath);
-
-// The program beside the document, likewise with "zls".
-std::string ProgramFileName(std::string_view documentPath);
-
 // The script that a new project starts with, CR LF line ends. The segment names are the markers that the
-// generator writes; the program file, if the document has one, stands last.
+// generator writes; the program file stands last, if the document has one and a script beside it.
 std::string StarterScript(std::string_view documentPath);
 
 // What the builder window says about its script, CR LF line ends.

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/DocumentPath.h"
 
-#include "codegen/CodeGenerator.h"
 #include "codegen/PathInProgram.h"
+#include "text/SiblingPath.h"
 
 #include <algorithm>
 

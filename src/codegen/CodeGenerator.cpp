@@ -299,8 +299,4 @@ std::string ProgramFileBytes(GeneratedProgram program) {
     return std::move(program.Text.append(kProgramFileEnd));
 }
 
-std::string ProgramFilePath(std::string_view documentPath) {
-    return std::string(StripExtension(documentPath)) + ".zls";
-}
-
 } // namespace orvane

@@ -31,7 +31,4 @@ inline constexpr std::string_view kProgramFileEnd = "\r\n";
 // The bytes of the .zls file of a program without errors.
 std::string ProgramFileBytes(GeneratedProgram program);
 
-// The program's file: beside the document, with the extension replaced.
-std::string ProgramFilePath(std::string_view documentPath);
-
 } // namespace orvane

@@ -44,9 +44,4 @@ std::string InstanceSuffix(const FsmDocument& document) {
     return instances.empty() ? "" : "\t" + std::string(instances);
 }
 
-std::string_view StripExtension(std::string_view path) {
-    const std::size_t dot = path.rfind('.');
-    return dot == std::string_view::npos || dot == 0 ? path : path.substr(0, dot);
-}
-
 } // namespace orvane

@@ -29,7 +29,4 @@ std::string ActionSkipLabel(const FsmDocument& document, int state, unsigned cou
 // What follows a timer's definition: a tab and the number of instances, or nothing when there is none.
 std::string InstanceSuffix(const FsmDocument& document);
 
-// The text before the last "." of the whole path, folders included, unless that is its first character.
-std::string_view StripExtension(std::string_view path);
-
 } // namespace orvane

@@ -6,27 +6,6 @@
 namespace orvane {
 namespace {
 
-TEST(BuilderScript, FilesStandBesideTheDocument) {
-    EXPECT_EQ(BuilderScriptName("C:\\work\\pump.zfsm"), "C:\\work\\pump.b1d");
-    EXPECT_EQ(ProgramFileName("C:\\work\\pump.zfsm"), "C:\\work\\pump.zls");
-}
-
-TEST(BuilderScript, TheLastDotOfTheWholePathCounts) {
-    EXPECT_EQ(BuilderScriptName("C:\\my.dir\\pump"), "C:\\my.b1d");
-}
-
-TEST(BuilderScript, DotsBeforeTheLastOneBelongToTheName) {
-    EXPECT_EQ(BuilderScriptName("C:\\my.dir\\pump.v2.zfsm"), "C:\\my.dir\\pump.v2.b1d");
-    EXPECT_EQ(ProgramFileName("C:\\my.dir\\pump.v2.zfsm"), "C:\\my.dir\\pump.v2.zls");
-    EXPECT_EQ(BuilderScriptName("../pump.zfsm"), "../pump.b1d");
-    EXPECT_EQ(ProgramFileName("./pump.zfsm"), "./pump.zls");
-}
-
-TEST(BuilderScript, ADocumentWithoutAFileHasNoScript) {
-    EXPECT_EQ(BuilderScriptName(""), "");
-    EXPECT_EQ(BuilderScriptName("pump"), "");
-}
-
 TEST(BuilderScript, TheStarterScriptListsSegmentsAndTheProgram) {
     EXPECT_EQ(StarterScript("C:\\work\\pump.zfsm"),
               ";#SILENT           ;Supresses messages from Zorlan/PC during normal build\r\n"
@@ -49,6 +28,10 @@ TEST(BuilderScript, TheStarterScriptListsSegmentsAndTheProgram) {
 TEST(BuilderScript, TheStarterScriptOfADocumentWithoutAFileEndsInAnEmptyLine) {
     const std::string script = StarterScript("");
     EXPECT_TRUE(script.ends_with("re-using files.\r\n\r\n\r\n"));
+}
+
+TEST(BuilderScript, ADocumentWithoutAScriptBesideItHasNoProgramInTheStarterScript) {
+    EXPECT_EQ(StarterScript("pump"), StarterScript(""));
 }
 
 } // namespace

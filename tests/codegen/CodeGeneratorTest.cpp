@@ -188,14 +188,6 @@ TEST(CodeGenerator, TheFileIsTheTextAndOneMoreLineEnd) {
     EXPECT_EQ(ProgramFileBytes(program), program.Text + "\r\n");
 }
 
-TEST(CodeGenerator, TheFileLiesBesideTheDocument) {
-    EXPECT_EQ(ProgramFilePath("C:\\work\\pump.zfsm"), "C:\\work\\pump.zls");
-    EXPECT_EQ(ProgramFilePath("C:\\my.dir\\fsm"), "C:\\my.zls");
-    EXPECT_EQ(ProgramFilePath("C:\\my.dir\\pump.v2.zfsm"), "C:\\my.dir\\pump.v2.zls");
-    EXPECT_EQ(ProgramFilePath("../pump.v2.zfsm"), "../pump.v2.zls");
-    EXPECT_EQ(ProgramFilePath("pump"), "pump.zls");
-}
-
 TEST(CodeGenerator, TheSameInputGivesTheSameBytes) { EXPECT_EQ(Generated(Pump()), Generated(Pump())); }
 
 } // namespace

@@ -72,15 +72,5 @@ TEST(Labels, InstancesFollowATab) {
     EXPECT_EQ(InstanceSuffix(document), "\t4");
 }
 
-TEST(Labels, TheExtensionEndsAtTheLastPointOfTheWholePath) {
-    EXPECT_EQ(StripExtension("C:\\work\\pump.zfsm"), "C:\\work\\pump");
-    EXPECT_EQ(StripExtension("C:\\my.dir\\fsm"), "C:\\my");
-    EXPECT_EQ(StripExtension("a.b.c"), "a.b");
-    EXPECT_EQ(StripExtension("a."), "a");
-    EXPECT_EQ(StripExtension("pump"), "pump");
-    EXPECT_EQ(StripExtension(".zfsm"), ".zfsm"); // not at its first character
-    EXPECT_EQ(StripExtension(""), "");
-}
-
 } // namespace
 } // namespace orvane

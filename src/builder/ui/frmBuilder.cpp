@@ -7,6 +7,7 @@
 #include "kit/OpenInDesktop.h"
 #include "kit/UserMessageBox.h"
 #include "session/Session.h"
+#include "text/SiblingPath.h"
 
 #include <QDir>
 #include <QEvent>
@@ -92,7 +93,7 @@ void frmBuilder::LayOut() {
 }
 
 QString frmBuilder::DefaultName() const {
-    return QString::fromStdString(BuilderScriptName(documentPath_.toStdString()));
+    return QString::fromStdString(BuilderScriptPath(documentPath_.toStdString()));
 }
 
 // The raw text, because the plain one turns no-break spaces into blanks.

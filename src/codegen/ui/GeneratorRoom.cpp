@@ -6,6 +6,7 @@
 #include "kit/UserMessageBox.h"
 #include "session/Commands.h"
 #include "session/Session.h"
+#include "text/SiblingPath.h"
 
 #include <QDir>
 #include <QMainWindow>

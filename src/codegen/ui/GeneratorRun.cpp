@@ -4,6 +4,7 @@
 #include "codegen/BannerDate.h"
 #include "codegen/PathInProgram.h"
 #include "kit/RenewableFile.h"
+#include "text/SiblingPath.h"
 
 #include <QFileInfo>
 
