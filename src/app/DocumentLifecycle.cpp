@@ -140,15 +140,19 @@ bool DocumentLifecycle::GuardUnsavedWork(const QString& title, const QString& qu
 
 bool DocumentLifecycle::WriteTo(const QString& path) {
     const QString fullPath = FullPath(path);
-    if (const std::optional<QString> failure = WriteDocumentFile(fullPath, session_.Document())) {
+    const SavedDocument saved = WriteDocumentFile(fullPath, session_.Document());
+    if (!saved.Error.isEmpty()) {
         Tell(window_,
              QStringLiteral("The document could not be saved as\r\n%1\r\n%2.\r\n\r\nIt is still open here, "
                             "with all changes. You can save it under another name.")
-                 .arg(fullPath, *failure));
+                 .arg(fullPath, saved.Error));
         return false;
     }
     session_.MarkSaved(fullPath.toStdString());
     RememberFile(fullPath);
+    if (!saved.Notes.isEmpty())
+        Tell(window_, QStringLiteral("The document is saved as\r\n%1\r\n%2.")
+                          .arg(fullPath, saved.Notes.join(QStringLiteral(".\r\n"))));
     return true;
 }
 

@@ -49,10 +49,8 @@ std::string MessageLine(std::string_view document, const ReaderMessage& message)
     return ShownName(document) + line + ": " + ShownMessage(message) + "\n";
 }
 
-std::string ReasonText(std::error_code reason) { return reason.default_error_condition().message(); }
-
-std::string FailureLine(std::string_view document, std::string_view what, std::error_code reason) {
-    const std::string why = reason ? " (" + ReasonText(reason) + ")" : "";
+std::string FailureLine(std::string_view document, std::string_view what, std::string_view reason) {
+    const std::string why = reason.empty() ? "" : " (" + std::string(reason) + ")";
     return "orvanec: " + ShownName(document) + ": " + std::string(what) + why + "\n";
 }
 

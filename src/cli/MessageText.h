@@ -7,7 +7,6 @@
 
 #include <string>
 #include <string_view>
-#include <system_error>
 
 namespace orvane::cli {
 
@@ -20,11 +19,8 @@ std::string ShownMessage(const ReaderMessage& message);
 // "DOC:LINE: message", without the line for a message that concerns the file as a whole.
 std::string MessageLine(std::string_view document, const ReaderMessage& message);
 
-// Why something failed, in the words that all systems share: a system's own may be in another encoding.
-std::string ReasonText(std::error_code reason);
-
 // "orvanec: DOC: what (reason)".
-std::string FailureLine(std::string_view document, std::string_view what, std::error_code reason = {});
+std::string FailureLine(std::string_view document, std::string_view what, std::string_view reason = {});
 
 // Document text for a stream.
 std::string StreamText(std::string_view ansi);

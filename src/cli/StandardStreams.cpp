@@ -2,6 +2,7 @@
 #include "cli/StandardStreams.h"
 
 #include "cli/MessageText.h"
+#include "files/FileError.h"
 
 #include <cerrno>
 #include <cstdio>
@@ -60,7 +61,7 @@ int Deliver(const Outcome& outcome) {
         delivered.Raise(kFileError);
     if (const std::error_code reason = Write(stdout, outcome.Output)) {
         delivered.Raise(kFileError);
-        (void)Write(stderr, FailureLine("standard output", "cannot be written", reason));
+        (void)Write(stderr, FailureLine("standard output", "cannot be written", ReasonText(reason)));
     }
     return delivered.Status;
 }

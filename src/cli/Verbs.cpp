@@ -2,12 +2,14 @@
 #include "cli/Verbs.h"
 
 #include "cli/DocumentPath.h"
-#include "cli/FileAccess.h"
 #include "cli/JsonReport.h"
 #include "cli/MessageText.h"
 #include "codegen/CodeGenerator.h"
 #include "core/DocumentReader.h"
 #include "core/DocumentWriter.h"
+#include "files/FileReader.h"
+#include "files/FileWriter.h"
+#include "files/Leftovers.h"
 
 #include <exception>
 #include <map>
@@ -20,10 +22,10 @@ namespace {
 
 class DocumentRun {
   public:
-    DocumentRun(const Arguments& arguments, const std::string& bannerDate, std::size_t index)
-        : arguments_(arguments), bannerDate_(bannerDate), name_(arguments.Documents[index]) {}
+    DocumentRun(const Run& run, std::size_t index)
+        : run_(run), arguments_(run.Asked), index_(index), name_(arguments_.Documents[index]) {}
 
-    Outcome Run();
+    Outcome Do();
 
   private:
     // Reads the document into read_. Tells what there is to tell; false when there is no document at all.
@@ -32,7 +34,8 @@ class DocumentRun {
     void Check(const Report& report);
     void Format();
 
-    void WriteBytes(const fs::path& target, std::string bytes, Durability durability);
+    void WriteBytes(const fs::path& target, std::string bytes, Outlives must);
+    bool IsFirstOfItsFolder() const;
     bool ToStandardOutput() const { return arguments_.Output == kStandardOutput; }
     bool WritesOver(const fs::path& target) const {
         std::error_code none;
@@ -42,20 +45,21 @@ class DocumentRun {
         const std::string head = arguments_.Documents.size() > 1 ? ShownName(name_) + ":\n" : "";
         return head + StreamText(ReportText(report));
     }
-    void Fail(std::string_view what, std::error_code reason = {}) {
+    void Fail(std::string_view what, std::string_view reason = {}) {
         outcome_.Errors += FailureLine(name_, what, reason);
         outcome_.Raise(kFileError);
     }
     bool AsJson() const { return arguments_.Format == ReportFormat::Json; }
 
+    const Run& run_;
     const Arguments& arguments_;
-    const std::string& bannerDate_;
+    const std::size_t index_;
     const std::string& name_;
     std::optional<ReadResult> read_; // there from Read() on; an empty document when none could be read
     Outcome outcome_;
 };
 
-Outcome DocumentRun::Run() {
+Outcome DocumentRun::Do() {
     const bool isDocument = Read();
     if (arguments_.What == Verb::Check && isDocument)
         Check(GenerateProgram(read_->Document, {}).Findings);
@@ -69,14 +73,14 @@ Outcome DocumentRun::Run() {
 }
 
 bool DocumentRun::Read() {
-    const FileBytes file = ReadWholeFile(PathOf(name_), kLargestDocument);
+    const FileContent file = ReadStream(run_.Files, PathOf(name_), kLargestDocument);
     if (file.Failure) {
-        const bool tooLarge = file.Failure == std::errc::file_too_large;
-        const std::string what = tooLarge ? "is larger than 64 MiB, which no document is" : "cannot be read";
-        const std::error_code reason = tooLarge ? std::error_code() : file.Failure;
+        const bool tooLarge = file.Failure->Reason == std::errc::file_too_large;
+        const std::string what = tooLarge ? "is " + std::string(kTooLargeForADocument) : "cannot be read";
+        const std::string reason = tooLarge ? "" : ReasonText(*file.Failure);
         Fail(what, reason);
         read_.emplace().BrokeOff = true;
-        read_->Messages.push_back({"The file " + what + (reason ? " (" + ReasonText(reason) + ")" : ""), 0});
+        read_->Messages.push_back({"The file " + what + (tooLarge ? "" : " (" + reason + ")"), 0});
         return false;
     }
     read_ = ReadDocument(file.Bytes());
@@ -89,7 +93,7 @@ bool DocumentRun::Read() {
 
 void DocumentRun::Generate() {
     const fs::path document = FullPath(name_);
-    GeneratedProgram program = GenerateProgram(read_->Document, {PathInProgram(document), bannerDate_});
+    GeneratedProgram program = GenerateProgram(read_->Document, {PathInProgram(document), run_.BannerDate});
     outcome_.Errors += HeadedReport(program.Findings);
     if (program.Findings.HasErrors())
         outcome_.Raise(kDesignError);
@@ -99,7 +103,7 @@ void DocumentRun::Generate() {
     if (WritesOver(target))
         return Fail("the program would take the place of the document; name another file with -o");
     // Not waiting for the disk: the program can be made again.
-    WriteBytes(target, ProgramFileBytes(std::move(program)), Durability::Flushed);
+    WriteBytes(target, ProgramFileBytes(std::move(program)), Outlives::Process);
 }
 
 void DocumentRun::Check(const Report& report) {
@@ -113,16 +117,30 @@ void DocumentRun::Format() {
     const fs::path target = PathOf(arguments_.Output.value_or(name_));
     if (read_->BrokeOff && WritesOver(target))
         return Fail("is not written over, because it was not read to its end");
-    WriteBytes(target, WriteDocument(read_->Document), Durability::Synced);
+    WriteBytes(target, WriteDocument(read_->Document), Outlives::Machine);
 }
 
-void DocumentRun::WriteBytes(const fs::path& target, std::string bytes, Durability durability) {
+void DocumentRun::WriteBytes(const fs::path& target, std::string bytes, Outlives must) {
     if (ToStandardOutput()) {
         outcome_.Output = std::move(bytes);
         return;
     }
-    if (const std::error_code failure = WriteWholeFile(target, bytes, durability))
-        Fail(ShownName(Utf8(target)) + " cannot be written", failure);
+    const SpecialFiles special = arguments_.Output ? SpecialFiles::WrittenInto : SpecialFiles::Refused;
+    const WrittenFile written =
+        WriteFile(run_.Files, target, {bytes}, {must, special, kSavingPatience, &run_.Unfinished});
+    const std::string shown = ShownName(Utf8(target));
+    if (written.Failure)
+        return Fail(shown + " cannot be written", ReasonText(*written.Failure));
+    for (const FileNote note : written.Notes)
+        outcome_.Errors += FailureLine(name_, shown + " is written. " + Sentence(note));
+    if (IsFirstOfItsFolder())
+        RemoveLeftovers(run_.Files, target, written.Stamp);
+}
+
+// A folder of many documents need not be read for each of them.
+bool DocumentRun::IsFirstOfItsFolder() const {
+    const auto folder = [&](std::size_t index) { return PathOf(arguments_.Documents[index]).parent_path(); };
+    return index_ == 0 || folder(index_) != folder(index_ - 1);
 }
 
 } // namespace
@@ -141,11 +159,11 @@ std::optional<Outcome> ProgramClash(const Arguments& arguments) {
     return std::nullopt;
 }
 
-Outcome RunVerb(const Arguments& arguments, const std::string& bannerDate, std::size_t index) noexcept {
+Outcome RunVerb(const Run& run, std::size_t index) noexcept {
     try {
-        return DocumentRun(arguments, bannerDate, index).Run();
+        return DocumentRun(run, index).Do();
     } catch (const std::exception& error) {
-        return {{}, FailureLine(arguments.Documents[index], error.what()), kFileError};
+        return {{}, FailureLine(run.Asked.Documents[index], error.what()), kFileError};
     }
 }
 

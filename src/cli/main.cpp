@@ -1,14 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // orvanec: checks documents and writes their programs without a window.
 #include "cli/Arguments.h"
+#include "cli/EndingSignals.h"
 #include "cli/OrderedWork.h"
 #include "cli/StandardStreams.h"
 #include "cli/Verbs.h"
 #include "codegen/BannerDate.h"
+#include "files/NativeFiles.h"
 
 #include <algorithm>
 #include <cstdlib>
 #include <ctime>
+#include <memory>
 
 #ifdef _WIN32
 #include <functional>
@@ -21,25 +24,34 @@ namespace orvane::cli {
 
 namespace {
 
-int Run(const Arguments& arguments) {
+// All programs of a run have one date. Only a program has a date at all.
+std::string DateOfPrograms(const Arguments& arguments) {
+    if (arguments.What != Verb::Generate)
+        return {};
+    return BannerDate(std::time(nullptr), std::getenv("SOURCE_DATE_EPOCH"));
+}
+
+int Do(const Arguments& arguments) {
     if (const std::optional<Outcome> clash = ProgramClash(arguments))
         return Deliver(*clash);
-    // All programs of a run have one date. Only a program has a date at all.
-    const std::string date = arguments.What == Verb::Generate
-                                 ? BannerDate(std::time(nullptr), std::getenv("SOURCE_DATE_EPOCH"))
-                                 : "";
+    NativeFiles files;
+    const auto unfinished = std::make_shared<UnfinishedFiles>(files);
+    if (arguments.What != Verb::Check)
+        RemoveWhenTold(unfinished);
+    const Run run{arguments, DateOfPrograms(arguments), files, *unfinished};
     int status = kSuccess;
     WorkInOrder(
-        arguments.Documents.size(), [&](std::size_t index) { return RunVerb(arguments, date, index); },
+        arguments.Documents.size(), [&](std::size_t index) { return RunVerb(run, index); },
         [&](const Outcome& outcome) { status = std::max(status, Deliver(outcome)); });
     return status;
 }
 
 int Main(int count, const char* const* values) {
     PrepareStandardStreams();
+    OutliveFileSizeLimit();
     const std::variant<Arguments, Outcome> parsed = ParseArguments(count, values);
     const auto* arguments = std::get_if<Arguments>(&parsed);
-    return arguments ? Run(*arguments) : Deliver(std::get<Outcome>(parsed));
+    return arguments ? Do(*arguments) : Deliver(std::get<Outcome>(parsed));
 }
 
 #ifdef _WIN32

@@ -326,7 +326,7 @@ ReadResult Refused(std::string why) {
 
 ReadResult ReadDocument(std::string_view bytes) {
     if (bytes.size() > kLargestDocument)
-        return Refused("The file is larger than 64 MiB, which no document is");
+        return Refused("The file is " + std::string(kTooLargeForADocument));
     const bool blank = bytes.find_first_not_of(" \t\r\n") == std::string_view::npos;
     if (!blank && bytes.find(kTagOpen) == std::string_view::npos)
         return Refused("The file is not a document: it holds no field");

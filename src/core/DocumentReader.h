@@ -13,6 +13,7 @@ namespace orvane {
 
 // Larger files are refused unread.
 inline constexpr std::size_t kLargestDocument = 64u << 20; // bytes
+inline constexpr std::string_view kTooLargeForADocument = "larger than 64 MiB, which no document is";
 
 // After this many unknown tags the rest is counted in one last message.
 inline constexpr std::size_t kMostUnknownTags = 1000;

@@ -76,10 +76,12 @@ FileError Refusal(FileKind kind) {
             kind};
 }
 
+std::string ReasonText(std::error_code reason) { return reason.default_error_condition().message(); }
+
 std::string ReasonText(const FileError& error) {
     if (error.Refused && *error.Refused != FileKind::Folder)
         return std::string(WhatItIs(*error.Refused));
-    return error.Reason.default_error_condition().message();
+    return ReasonText(error.Reason);
 }
 
 std::string Sentence(const FileError& error) {

@@ -36,7 +36,9 @@ struct FileError {
 // What is no file.
 FileError Refusal(FileKind kind);
 
-// In the words that all systems share, as "No space left on device".
+// In the words that all systems share, as "No space left on device": a system's own may be in another
+// encoding.
+std::string ReasonText(std::error_code reason);
 std::string ReasonText(const FileError& error);
 
 // What the user should know and can do, without the stop: "The disk is full. Make room on it, or ...".

@@ -42,6 +42,13 @@ class Replacement {
     bool KeepGroup(const FileFacts& fresh);
     bool KeepOwner(const FileFacts& fresh);
     bool SwapIn();
+    Result<FileHandle> Create(const Path& path, std::uint32_t mode) {
+        return options_.Unfinished ? options_.Unfinished->Create(path, mode) : files_.Create(path, mode);
+    }
+    void Forget(const Path& path) {
+        if (options_.Unfinished)
+            options_.Unfinished->Forget(path);
+    }
     void TakeBack();
 
     bool Did(FileStep step, std::error_code failure) {
@@ -110,7 +117,7 @@ bool Replacement::MakeTemporary() {
     Path name;
     for (int i = 0; i == 0 || (i < attempts && made.Failure == std::errc::file_exists); ++i) {
         name = target_.parent_path() / TemporaryName();
-        made = files_.Create(name, old_ ? kOnlyOwner : kAsUserSays);
+        made = Create(name, old_ ? kOnlyOwner : kAsUserSays);
     }
     if (!Did(FileStep::Create, made.Failure))
         return false;
@@ -174,7 +181,7 @@ bool Replacement::TakePlace() {
     const std::error_code failure =
         Patiently(options_.Patience, [&] { return files_.Rename(temporary_, target_); });
     if (!failure)
-        temporary_.clear();
+        Forget(std::exchange(temporary_, {}));
     return Did(FileStep::Replace, failure);
 }
 
@@ -203,8 +210,11 @@ bool Replacement::SyncFolder() {
 void Replacement::TakeBack() {
     if (handle_)
         (void)files_.Close(std::exchange(handle_, {})); // nobody wants the bytes any more
-    if (!temporary_.empty() && files_.Remove(std::exchange(temporary_, {})))
+    if (temporary_.empty())
+        return;
+    if (files_.Remove(temporary_))
         Note(FileNote::LeftBehind);
+    Forget(std::exchange(temporary_, {}));
 }
 
 WrittenFile Failed(FileStep step, std::error_code failure) { return {FileError{step, failure}, {}, {}}; }

@@ -6,6 +6,7 @@
 #include "files/FileStamp.h"
 #include "files/FileSystem.h"
 #include "files/Patience.h"
+#include "files/UnfinishedFiles.h"
 
 #include <initializer_list>
 #include <optional>
@@ -26,6 +27,7 @@ struct WriteOptions {
     Outlives Must = Outlives::Machine;
     SpecialFiles Special = SpecialFiles::Refused;
     std::chrono::milliseconds Patience = kSavingPatience;
+    UnfinishedFiles* Unfinished = nullptr; // is told of the temporary file, if there
 };
 
 struct WrittenFile {

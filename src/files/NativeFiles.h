@@ -31,4 +31,8 @@ class NativeFiles final : public FileSystem {
     Result<std::vector<Path>> Names(const Path& folder) override;
 };
 
+// A write beyond the size that the system allows a file ends a program, unless this was called at its start:
+// then it fails like any other.
+void OutliveFileSizeLimit();
+
 } // namespace orvane

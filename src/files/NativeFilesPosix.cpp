@@ -5,6 +5,7 @@
 
 #include <array>
 #include <cerrno>
+#include <csignal>
 #include <cstdio>
 #include <cstring>
 #include <limits>
@@ -239,6 +240,8 @@ std::error_code NativeFiles::Swap([[maybe_unused]] const Path& one, [[maybe_unus
     return make_error_code(std::errc::not_supported);
 #endif
 }
+
+void OutliveFileSizeLimit() { std::signal(SIGXFSZ, SIG_IGN); }
 
 } // namespace orvane
 

@@ -139,6 +139,8 @@ std::error_code NativeFiles::Swap(const Path&, const Path&) {
     return make_error_code(std::errc::not_supported);
 }
 
+void OutliveFileSizeLimit() {}
+
 } // namespace orvane
 
 #endif

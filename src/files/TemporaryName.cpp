@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "files/TemporaryName.h"
 
+#include <cstdint>
 #include <random>
 #include <string>
 #include <string_view>
@@ -17,11 +18,16 @@ constexpr std::size_t kDigitCount = 16;
 } // namespace
 
 std::filesystem::path TemporaryName() {
-    std::random_device random;
-    std::uniform_int_distribution<std::size_t> digit(0, kDigits.size() - 1);
+    std::random_device random; // slow: each number of it is used up
     std::string name(kBegin);
-    for (std::size_t i = 0; i < kDigitCount; ++i)
-        name += kDigits[digit(random)];
+    for (std::uint32_t chance = 0, left = 0; name.size() < kBegin.size() + kDigitCount;
+         chance >>= 4, --left) {
+        if (left == 0) {
+            chance = random();
+            left = 8;
+        }
+        name += kDigits[chance & 0xF];
+    }
     return name.append(kEnd);
 }
 

@@ -13,12 +13,12 @@ QString FromAnsi(std::string_view text) {
     return unicode;
 }
 
-AnsiText ToAnsi(const QString& text) {
+AnsiText ToAnsi(const QString& text, Delimiter delimiter) {
     AnsiText ansi;
     ansi.Text.reserve(static_cast<std::size_t>(text.size()));
     for (const QChar character : text) {
         const std::optional<char> byte = ToAnsi(char32_t{character.unicode()});
-        if (byte && *byte != kDelimiter)
+        if (byte && (*byte != kDelimiter || delimiter == Delimiter::Kept))
             ansi.Text += *byte;
         else
             ansi.LeftOut = true;

@@ -17,8 +17,11 @@ struct AnsiText {
     bool LeftOut = false; // some characters cannot stand in a document; they are not in the text
 };
 
+// What ends each text in a document; other ANSI files may hold it.
+enum class Delimiter { LeftOut, Kept };
+
 // Leaves out what a document cannot hold: characters outside Windows-1252, and the delimiter.
-AnsiText ToAnsi(const QString& text);
+AnsiText ToAnsi(const QString& text, Delimiter delimiter = Delimiter::LeftOut);
 
 // The characters of the text that a document can hold, in their order.
 QString DocumentCharacters(const QString& text);

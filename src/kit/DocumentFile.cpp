@@ -3,46 +3,51 @@
 
 #include "core/DocumentWriter.h"
 #include "files/FileWriter.h"
+#include "files/Leftovers.h"
 #include "files/NativeFiles.h"
 #include "kit/AnsiString.h"
+#include "kit/FilePath.h"
 
-#include <QFile>
-#include <QFileInfo>
+#include <utility>
 
 namespace orvane {
 
 namespace {
 
-DocumentFile Failed(const QString& why) { return {std::nullopt, why}; }
+DocumentFile Failed(const QString& why) { return {std::nullopt, why, {}}; }
+
+QString WhyUnread(const FileError& error) {
+    const bool isTooLarge = error.Reason == std::errc::file_too_large;
+    return isTooLarge ? QStringLiteral("The file is ") + FromAnsi(kTooLargeForADocument) : Message(error);
+}
 
 } // namespace
 
 DocumentFile ReadDocumentFile(const QString& path) {
-    if (QFileInfo(path).isDir())
-        return Failed(QStringLiteral("It is a folder"));
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return Failed(file.errorString());
-    // One byte more than any document has is enough for the reader to refuse it.
-    const QByteArray bytes = file.read(qint64{kLargestDocument} + 1);
-    if (file.error() != QFileDevice::NoError)
-        return Failed(file.errorString());
-    ReadResult result = ReadDocument({bytes.constData(), static_cast<std::size_t>(bytes.size())});
+    NativeFiles files;
+    FileContent file = ReadFile(files, NativePath(path), kLargestDocument);
+    if (file.Failure)
+        return Failed(WhyUnread(*file.Failure));
+    ReadResult result = ReadDocument(file.Bytes());
     if (result.Refused)
         return Failed(FromAnsi(result.Messages.front().Text));
-    return {std::move(result), {}};
+    return {std::move(result), {}, std::move(file)};
 }
 
-std::optional<QString> WriteWholeFile(const QString& path, std::string_view bytes) {
+SavedDocument WriteDocumentFile(const QString& path, const FsmDocument& document) {
     NativeFiles files;
-    const WrittenFile written = WriteFile(files, QFileInfo(path).filesystemFilePath(), {bytes});
-    if (!written.Failure)
-        return std::nullopt;
-    return QString::fromLocal8Bit(Sentence(*written.Failure).c_str());
-}
-
-std::optional<QString> WriteDocumentFile(const QString& path, const FsmDocument& document) {
-    return WriteWholeFile(path, WriteDocument(document));
+    const std::filesystem::path native = NativePath(path);
+    const WrittenFile written = WriteFile(files, native, {WriteDocument(document)});
+    SavedDocument saved;
+    if (written.Failure) {
+        saved.Error = Message(*written.Failure);
+        return saved;
+    }
+    for (const FileNote note : written.Notes)
+        saved.Notes += Message(note);
+    saved.Stamp = written.Stamp;
+    RemoveLeftovers(files, native, written.Stamp);
+    return saved;
 }
 
 } // namespace orvane

@@ -1,36 +1,39 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "kit/VocabularyFile.h"
 
+#include "files/FileReader.h"
+#include "files/NativeFiles.h"
+#include "kit/FilePath.h"
+
 #include <QCoreApplication>
 #include <QDir>
-#include <QFile>
-#include <QFileInfo>
 #include <QStandardPaths>
 
 namespace orvane {
 
 namespace {
 
-constexpr qint64 kLargestFile = 1024 * 1024; // bytes
+constexpr std::size_t kLargestFile = 1u << 20; // bytes
 
 QString Tr(const char* text) { return QCoreApplication::translate("VocabularyFile", text); }
 
+QString WhyUnread(const FileError& error) {
+    if (error.Refused)
+        return Tr("it is not a file");
+    if (error.Reason == std::errc::no_such_file_or_directory)
+        return Tr("there is no such file");
+    if (error.Reason == std::errc::file_too_large)
+        return Tr("it is larger than 1 MiB");
+    return Message(error);
+}
+
 // Reads the words and returns what went wrong, nothing when all went well.
 QString Read(const QString& path, Vocabulary& words) {
-    const QFileInfo info(path);
-    if (!info.exists())
-        return Tr("there is no such file");
-    if (!info.isFile())
-        return Tr("it is not a file");
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return file.errorString();
-    const QByteArray bytes = file.read(kLargestFile + 1);
-    if (file.error() != QFileDevice::NoError)
-        return file.errorString();
-    if (bytes.size() > kLargestFile)
-        return Tr("it is larger than 1 MiB");
-    words = ParseVocabulary({bytes.constData(), static_cast<std::size_t>(bytes.size())});
+    NativeFiles files;
+    const FileContent file = ReadFile(files, NativePath(path), kLargestFile);
+    if (file.Failure)
+        return WhyUnread(*file.Failure);
+    words = ParseVocabulary(file.Bytes());
     return {};
 }
 

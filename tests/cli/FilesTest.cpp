@@ -255,5 +255,42 @@ TEST_F(Files, AVeryLongNameIsStillWritten) {
     EXPECT_EQ(ReadFile(name + ".zls"), PumpProgram(PathText(name + ".zfs")));
 }
 
+TEST_F(Files, OnlyANamedOutputIsWrittenIntoWhatIsNoFile) {
+    ASSERT_EQ(mkfifo(Path("pump.zls").c_str(), 0600), 0);
+    const RunResult run = Run("generate pump.zfsm");
+    EXPECT_EQ(run.Status, 3);
+    EXPECT_EQ(run.Errors, std::string(kCleanReport) + "orvanec: pump.zfsm: " + PathText("pump.zls") +
+                              " cannot be written (It is a pipe, not a file)\n");
+}
+
+TEST_F(Files, WhatAWrittenFileHasLostIsTold) {
+    WriteFile("pump.zls", "older program");
+    fs::create_hard_link(Path("pump.zls"), Path("other"));
+    const RunResult run = Run("generate pump.zfsm");
+    EXPECT_EQ(run.Status, 0);
+    EXPECT_EQ(run.Errors, std::string(kCleanReport) + "orvanec: pump.zfsm: " + PathText("pump.zls") +
+                              " is written. The file has other names (hard links): these keep what was there "
+                              "before\n");
+    EXPECT_EQ(ReadFile("pump.zls"), PumpProgram(PathText("pump.zfsm")));
+    EXPECT_EQ(ReadFile("other"), "older program");
+}
+
+TEST_F(Files, AFileLargerThanTheUserMayMakeIsToldAndLeavesTheOlderOne) {
+    WriteFile("pump.zls", "older program");
+    const RunResult run = Run("generate pump.zfsm", "ulimit -f 0;"); // captured streams are files too
+    EXPECT_EQ(run.Status, 3);
+    EXPECT_EQ(ReadFile("pump.zls"), "older program");
+    EXPECT_EQ(Listing(), "pump.zfsm pump.zls ");
+}
+
+TEST_F(Files, WhatAKilledRunLeftBehindADayAgoIsRemoved) {
+    const fs::path old = Path(".orvane-0123456789abcdef.tmp");
+    WriteFile(old.filename().string(), "half a prog");
+    fs::last_write_time(old, fs::file_time_type::clock::now() - std::chrono::hours(25));
+    WriteFile(".orvane-fedcba9876543210.tmp", "being written by somebody else");
+    EXPECT_EQ(Run("generate pump.zfsm").Status, 0);
+    EXPECT_EQ(Listing(), ".orvane-fedcba9876543210.tmp pump.zfsm pump.zls ");
+}
+
 } // namespace
 } // namespace orvane

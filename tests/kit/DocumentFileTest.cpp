@@ -31,14 +31,14 @@ TEST_F(DocumentFileTest, AFullDiskKeepsTheOldDocumentAndIsTold) {
         GTEST_SKIP() << "a disk to fill cannot be mounted here";
     FsmDocument document;
     document.General.FsmName = "PMP";
-    ASSERT_EQ(WriteDocumentFile(Path("a.zfsm"), document), std::nullopt);
+    ASSERT_EQ(WriteDocumentFile(Path("a.zfsm"), document).Error, QString());
     const std::string old = FileBytes(Path("a.zfsm").toStdString());
     ASSERT_FALSE(old.empty());
     disk.FillUp("full");
 
     document.General.FsmName = "NEW";
-    const std::optional<QString> why = WriteDocumentFile(Path("a.zfsm"), document);
-    EXPECT_EQ(why, QStringLiteral("The disk is full. Make room on it, or choose another one"));
+    EXPECT_EQ(WriteDocumentFile(Path("a.zfsm"), document).Error,
+              QStringLiteral("The disk is full. Make room on it, or choose another one"));
     EXPECT_EQ(FileBytes(Path("a.zfsm").toStdString()), old);
     EXPECT_EQ(Names(), (QStringList{QStringLiteral("a.zfsm"), QStringLiteral("full")}));
 }

@@ -3,7 +3,9 @@
 
 #include "codegen/BannerDate.h"
 #include "codegen/PathInProgram.h"
-#include "kit/RenewableFile.h"
+#include "files/FileWriter.h"
+#include "files/NativeFiles.h"
+#include "kit/FilePath.h"
 #include "text/SiblingPath.h"
 
 #include <QFileInfo>
@@ -19,6 +21,21 @@ namespace {
 bool IsSameFile(const QString& one, const QString& other) {
     const QFileInfo file(one);
     return file.exists() && file == QFileInfo(other);
+}
+
+// Why the program could not be written; empty when it was. It can be made again at any time, so nobody waits
+// for the disk, and it is written after every change in the table, so that nobody waits longer than he
+// notices for another program that has it open.
+QString Written(const QString& path, std::initializer_list<std::string_view> pieces) {
+    NativeFiles files;
+    const WriteOptions options{Outlives::Process, SpecialFiles::Refused, std::chrono::milliseconds(100)};
+    const WrittenFile written = WriteFile(files, NativePath(path), pieces, options);
+    if (!written.Failure)
+        return {};
+    const bool isHeld =
+        written.Failure->Step == FileStep::Replace && written.Failure->Reason == std::errc::permission_denied;
+    return Message(*written.Failure) +
+           (isHeld ? QStringLiteral("; the next change is written again") : QString());
 }
 
 } // namespace
@@ -43,17 +60,20 @@ void GeneratorRun::Generate(const FsmDocument& document, const QString& document
 
 void GeneratorRun::WriteProgram(const QString& documentPath) {
     const QString path = QString::fromStdString(ProgramFilePath(documentPath.toStdString()));
-    const std::optional<QString> failure = IsSameFile(path, documentPath)
-                                               ? QStringLiteral("It would take the place of the document; "
-                                                                "save that under another name")
-                                               : WriteRenewableFile(path, {latest_.Text, kProgramFileEnd});
-    generatedOk_ = !failure;
-    if (!failure) {
+    const QString failure = WriteProgramTo(path, documentPath);
+    generatedOk_ = failure.isEmpty();
+    if (generatedOk_) {
         toldPath_.clear();
     } else if (toldPath_ != path) {
         toldPath_ = path;
-        Q_EMIT WriteFailed(path, *failure);
+        Q_EMIT WriteFailed(path, failure);
     }
+}
+
+QString GeneratorRun::WriteProgramTo(const QString& path, const QString& documentPath) const {
+    if (IsSameFile(path, documentPath))
+        return QStringLiteral("It would take the place of the document; save that under another name");
+    return Written(path, {latest_.Text, kProgramFileEnd});
 }
 
 } // namespace orvane

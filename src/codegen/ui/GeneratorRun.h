@@ -35,6 +35,8 @@ class GeneratorRun : public QObject {
   private:
     void Generate(const FsmDocument& document, const QString& documentPath);
     void WriteProgram(const QString& documentPath);
+    // Returns why it was not written; empty when it was.
+    QString WriteProgramTo(const QString& path, const QString& documentPath) const;
 
     GeneratedProgram latest_;
     bool generatedOk_ = false;

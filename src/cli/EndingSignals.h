@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "files/UnfinishedFiles.h"
+
+#include <memory>
+
+namespace orvane::cli {
+
+// From now on, when the program is told to end (Ctrl+C, a closed terminal, kill), the temporary files are
+// removed first; then it ends as it would have. To be called before any thread is started. Where nobody can
+// wait for the signals, everything stays as it is.
+void RemoveWhenTold(std::shared_ptr<UnfinishedFiles> unfinished);
+
+} // namespace orvane::cli

@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The program is told to end while it writes.
+#include "cli/Orvanec.h"
+
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace orvane {
+namespace {
+
+class Signals : public Orvanec, public testing::WithParamInterface<int> {
+  protected:
+    // So large that writing it takes a while.
+    Signals() {
+        WriteFile("large.zfsm",
+                  "\xA4<FSM_NAME>D\xA4/\r\n\xA4<CODESEG>" + std::string(60u << 20, 'x') + "\xA4/\r\n\r\n");
+    }
+
+    pid_t Start(const char* verb) const {
+        const std::string folder = Path("").string();
+        const pid_t child = fork();
+        if (child != 0)
+            return child;
+        if (chdir(folder.c_str()) == 0 && std::freopen("/dev/null", "w", stderr) != nullptr)
+            execl(ORVANEC, "orvanec", verb, "large.zfsm", "-o", "out", nullptr);
+        _exit(127);
+    }
+    bool IsWriting() const { return Listing().find(".orvane-") != std::string::npos; }
+    static bool HasEnded(pid_t child, int& status) { return waitpid(child, &status, WNOHANG) == child; }
+
+    // Sends the signal once the temporary file stands there; how the program ended.
+    int EndWhileItWrites(const char* verb, int signal) const {
+        const pid_t child = Start(verb);
+        int status = 0;
+        while (!IsWriting()) {
+            if (HasEnded(child, status))
+                return status;
+        }
+        kill(child, signal);
+        waitpid(child, &status, 0);
+        return status;
+    }
+};
+
+INSTANTIATE_TEST_SUITE_P(That, Signals, testing::Values(SIGINT, SIGTERM, SIGHUP), [](const auto& which) {
+    return which.param == SIGINT ? "Interrupt" : which.param == SIGTERM ? "Terminate" : "HangUp";
+});
+
+TEST_P(Signals, LeaveTheOldFileAndNothingElseBehind) {
+    if (std::getenv("ORVANEC_PROGRAM"))
+        GTEST_SKIP() << "signals go to what runs the program";
+    bool ended = false;
+    for (int attempt = 0; attempt < 20 && !ended; ++attempt) { // it may be done before the signal comes
+        WriteFile("out", "old");
+        const int status = EndWhileItWrites(attempt % 2 == 0 ? "format" : "generate", GetParam());
+        ended = WIFSIGNALED(status);
+        if (ended) {
+            EXPECT_EQ(WTERMSIG(status), GetParam());
+            EXPECT_EQ(ReadFile("out"), "old");
+        }
+        EXPECT_EQ(Listing(), "large.zfsm out ");
+    }
+    EXPECT_TRUE(ended) << "the program was never caught while it wrote";
+}
+
+TEST_P(Signals, ThatItWasStartedToIgnoreStayIgnored) {
+    if (std::getenv("ORVANEC_PROGRAM"))
+        GTEST_SKIP() << "signals go to what runs the program";
+    const auto before = std::signal(GetParam(), SIG_IGN);
+    const int status = EndWhileItWrites("format", GetParam());
+    std::signal(GetParam(), before);
+    EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << status;
+    EXPECT_EQ(Listing(), "large.zfsm out ");
+}
+
+} // namespace
+} // namespace orvane
