@@ -2,6 +2,7 @@
 // orvanec: checks documents and writes their programs without a window.
 #include "cli/Arguments.h"
 #include "cli/EndingSignals.h"
+#include "cli/MessageText.h"
 #include "cli/OrderedWork.h"
 #include "cli/StandardStreams.h"
 #include "cli/Verbs.h"
@@ -25,7 +26,7 @@ namespace orvane::cli {
 namespace {
 
 // All programs of a run have one date. Only a program has a date at all.
-std::string DateOfPrograms(const Arguments& arguments) {
+BannerMoment DateOfPrograms(const Arguments& arguments) {
     if (arguments.What != Verb::Generate)
         return {};
     return BannerDate(std::time(nullptr), std::getenv("SOURCE_DATE_EPOCH"));
@@ -34,11 +35,14 @@ std::string DateOfPrograms(const Arguments& arguments) {
 int Do(const Arguments& arguments) {
     if (const std::optional<Outcome> clash = ProgramClash(arguments))
         return Deliver(*clash);
+    const BannerMoment date = DateOfPrograms(arguments);
+    if (!date.Fault.empty())
+        return Deliver(WrongUsage(ShownName(date.Fault)));
     NativeFiles files;
     const auto unfinished = std::make_shared<UnfinishedFiles>(files);
     if (arguments.What != Verb::Check)
         RemoveWhenTold(unfinished);
-    const Run run{arguments, DateOfPrograms(arguments), files, *unfinished};
+    const Run run{arguments, date.Date, files, *unfinished};
     int status = kSuccess;
     WorkInOrder(
         arguments.Documents.size(), [&](std::size_t index) { return RunVerb(run, index); },

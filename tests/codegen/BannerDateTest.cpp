@@ -21,16 +21,26 @@ std::time_t LocalTime() {
     return std::mktime(&parts);
 }
 
-TEST(BannerDate, ShowsTheLocalTime) { EXPECT_EQ(BannerDate(LocalTime(), nullptr), "06/11/2026 01:02:03"); }
-
-TEST(BannerDate, SourceDateEpochStandsForTheClockInUtc) {
-    EXPECT_EQ(BannerDate(LocalTime(), "1793836923"), "05/11/2026 00:02:03");
-    EXPECT_EQ(BannerDate(LocalTime(), "0"), "01/01/1970 00:00:00");
+TEST(BannerDate, ShowsTheLocalTime) {
+    EXPECT_EQ(BannerDate(LocalTime(), nullptr).Date, "06/11/2026 01:02:03");
 }
 
-TEST(BannerDate, ASourceDateEpochThatIsNoNumberIsIgnored) {
-    for (const char* value : {"", "x", "12x", " 12", "1.5", "99999999999999999999"})
-        EXPECT_EQ(BannerDate(LocalTime(), value), "06/11/2026 01:02:03") << value;
+TEST(BannerDate, SourceDateEpochStandsForTheClockInUtc) {
+    EXPECT_EQ(BannerDate(LocalTime(), "1793836923").Date, "05/11/2026 00:02:03");
+    EXPECT_EQ(BannerDate(LocalTime(), "0").Date, "01/01/1970 00:00:00");
+    EXPECT_EQ(BannerDate(LocalTime(), "253402300799").Date, "31/12/9999 23:59:59");
+    EXPECT_EQ(BannerDate(LocalTime(), "0").Fault, "");
+}
+
+TEST(BannerDate, ASourceDateEpochThatIsNoMomentIsAFaultAndNotTheClock) {
+    for (const char* value :
+         {"", "x", "12x", " 12", "12 ", "1.5", "-1", "+1", "0x10", "253402300800", "99999999999999999999"}) {
+        const BannerMoment moment = BannerDate(LocalTime(), value);
+        EXPECT_EQ(moment.Date, "") << value;
+        EXPECT_EQ(moment.Fault, "SOURCE_DATE_EPOCH is \"" + std::string(value) +
+                                    "\", which is no whole number of seconds from 0 to 253402300799; "
+                                    "correct it or unset it");
+    }
 }
 
 } // namespace

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "codegen/ui/GeneratorRun.h"
 
-#include "codegen/BannerDate.h"
 #include "codegen/PathInProgram.h"
 #include "files/FileWriter.h"
 #include "files/NativeFiles.h"
@@ -54,8 +53,8 @@ void GeneratorRun::RunWithoutFile(const FsmDocument& document, const QString& do
 
 void GeneratorRun::Generate(const FsmDocument& document, const QString& documentPath) {
     generatedOk_ = false;
-    latest_ = GenerateProgram(document, {PathInProgram(documentPath.toStdString()),
-                                         BannerDate(std::time(nullptr), std::getenv("SOURCE_DATE_EPOCH"))});
+    date_ = BannerDate(std::time(nullptr), std::getenv("SOURCE_DATE_EPOCH"));
+    latest_ = GenerateProgram(document, {PathInProgram(documentPath.toStdString()), date_.Date});
 }
 
 void GeneratorRun::WriteProgram(const QString& documentPath) {
@@ -73,6 +72,8 @@ void GeneratorRun::WriteProgram(const QString& documentPath) {
 QString GeneratorRun::WriteProgramTo(const QString& path, const QString& documentPath) const {
     if (IsSameFile(path, documentPath))
         return QStringLiteral("It would take the place of the document; save that under another name");
+    if (!date_.Fault.empty())
+        return QString::fromLocal8Bit(date_.Fault.c_str());
     return Written(path, {latest_.Text, kProgramFileEnd});
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "codegen/BannerDate.h"
 #include "codegen/CodeGenerator.h"
 
 #include <QObject>
@@ -39,6 +40,7 @@ class GeneratorRun : public QObject {
     QString WriteProgramTo(const QString& path, const QString& documentPath) const;
 
     GeneratedProgram latest_;
+    BannerMoment date_; // of that
     bool generatedOk_ = false;
     QString toldPath_; // the file whose failure the user knows about
 };
