@@ -43,6 +43,9 @@ struct Result {
 // Whether opening something that is not there yet, as a pipe without a writer, may wait for it.
 enum class Opening { AtOnce, Waiting };
 
+// Of a file to be opened: it must be there, or must not.
+enum class Existence { Old, New };
+
 class FileSystem {
   public:
     using Path = std::filesystem::path;
@@ -88,6 +91,15 @@ class FileSystem {
     virtual std::error_code Remove(const Path& path) = 0;
     // The names in a folder, in no order.
     virtual Result<std::vector<Path>> Names(const Path& folder) = 0;
+    // A folder and those that it is in, as far as they are missing. It is its owner's alone afterwards.
+    virtual std::error_code MakePrivateFolder(const Path& folder) = 0;
+
+    // Opens a file that nobody else has open so, to read it from its front and to write at its end. It is let
+    // go with the handle, and with the process however that ends. Fails with device_or_resource_busy while
+    // somebody has it. A new one is its owner's alone.
+    virtual Result<FileHandle> OpenLocked(const Path& path, Existence existence) = 0;
+    // Cuts off what stands behind that many bytes.
+    virtual std::error_code Truncate(FileHandle file, std::uint64_t size) = 0;
 };
 
 } // namespace orvane

@@ -29,6 +29,9 @@ class NativeFiles final : public FileSystem {
     std::error_code Rename(const Path& from, const Path& to) override;
     std::error_code Remove(const Path& path) override;
     Result<std::vector<Path>> Names(const Path& folder) override;
+    std::error_code MakePrivateFolder(const Path& folder) override;
+    Result<FileHandle> OpenLocked(const Path& path, Existence existence) override;
+    std::error_code Truncate(FileHandle file, std::uint64_t size) override;
 };
 
 // A write beyond the size that the system allows a file ends a program, unless this was called at its start:

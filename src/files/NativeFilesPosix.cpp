@@ -13,6 +13,7 @@
 #include <type_traits>
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #ifdef __linux__
@@ -132,6 +133,17 @@ std::error_code RemoveAccessList(int file) {
 
 #endif
 
+// Those above a folder, which are not this program's alone, and so only private when they are new.
+std::error_code MakePrivateParents(const FileSystem::Path& folder) {
+    if (mkdir(folder.c_str(), S_IRWXU) == 0 || errno == EEXIST)
+        return {};
+    if (errno != ENOENT || !folder.has_parent_path() || folder.parent_path() == folder)
+        return LastError();
+    if (const std::error_code failure = MakePrivateParents(folder.parent_path()))
+        return failure;
+    return mkdir(folder.c_str(), S_IRWXU) == 0 || errno == EEXIST ? std::error_code() : LastError();
+}
+
 } // namespace
 
 Result<FileFacts> NativeFiles::Look(const Path& path) {
@@ -242,6 +254,50 @@ std::error_code NativeFiles::Swap([[maybe_unused]] const Path& one, [[maybe_unus
 }
 
 void OutliveFileSizeLimit() { std::signal(SIGXFSZ, SIG_IGN); }
+
+std::error_code NativeFiles::MakePrivateFolder(const Path& folder) {
+    constexpr mode_t owner = S_IRWXU;
+    if (mkdir(folder.c_str(), owner) == 0)
+        return {};
+    if (errno == ENOENT && folder.has_parent_path() && folder.parent_path() != folder) {
+        const std::error_code failure = MakePrivateParents(folder.parent_path());
+        return failure ? failure : Try([&] { return mkdir(folder.c_str(), owner); });
+    }
+    if (errno != EEXIST)
+        return LastError();
+    const Result<FileFacts> facts = Look(folder);
+    if (facts.Failure)
+        return facts.Failure;
+    if (facts.Got.Kind != FileKind::Folder)
+        return make_error_code(std::errc::not_a_directory);
+    return facts.Got.Mode == owner ? std::error_code() : Try([&] { return chmod(folder.c_str(), owner); });
+}
+
+Result<FileHandle> NativeFiles::OpenLocked(const Path& path, Existence existence) {
+    constexpr mode_t owner = S_IRUSR | S_IWUSR;
+    const int how = O_RDWR | O_APPEND | O_NOFOLLOW | (existence == Existence::New ? O_CREAT | O_EXCL : 0);
+    const Result<FileHandle> opened = Open(path, how, owner);
+    if (opened.Failure)
+        return opened;
+    std::error_code failure = Try([&] { return flock(opened.Got.Number, LOCK_EX | LOCK_NB); });
+    if (failure == std::errc::operation_would_block)
+        failure = make_error_code(std::errc::device_or_resource_busy);
+    // Between opening and locking somebody may have removed or renamed it.
+    const Result<FileFacts> own = Look(opened.Got);
+    const Result<FileFacts> named = Look(path);
+    const bool isStillThere = !own.Failure && !named.Failure && own.Got.Device == named.Got.Device &&
+                              own.Got.Number == named.Got.Number;
+    if (!failure && !isStillThere)
+        failure = make_error_code(std::errc::no_such_file_or_directory);
+    if (!failure)
+        return opened;
+    close(opened.Got.Number); // nothing was written
+    return {{}, failure};
+}
+
+std::error_code NativeFiles::Truncate(FileHandle file, std::uint64_t size) {
+    return Try([&] { return ftruncate(file.Number, static_cast<off_t>(size)); });
+}
 
 } // namespace orvane
 

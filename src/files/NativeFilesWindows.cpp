@@ -141,6 +141,37 @@ std::error_code NativeFiles::Swap(const Path&, const Path&) {
 
 void OutliveFileSizeLimit() {}
 
+// A folder in the user's own profile is nobody else's.
+std::error_code NativeFiles::MakePrivateFolder(const Path& folder) {
+    std::error_code failure;
+    std::filesystem::create_directories(folder, failure);
+    return failure;
+}
+
+// Others may read, rename and remove it, but not open it to write, as everybody does who wants it so.
+Result<FileHandle> NativeFiles::OpenLocked(const Path& path, Existence existence) {
+    const HANDLE opened =
+        CreateFileW(path.c_str(), GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_DELETE, nullptr,
+                    existence == Existence::New ? CREATE_NEW : OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (opened == INVALID_HANDLE_VALUE && GetLastError() == ERROR_SHARING_VIOLATION)
+        return {{}, make_error_code(std::errc::device_or_resource_busy)};
+    if (opened == INVALID_HANDLE_VALUE && GetLastError() == ERROR_FILE_EXISTS)
+        return {{}, make_error_code(std::errc::file_exists)};
+    if (opened == INVALID_HANDLE_VALUE)
+        return {{}, LastWindowsError()};
+    const int file =
+        _open_osfhandle(reinterpret_cast<std::intptr_t>(opened), _O_RDWR | _O_APPEND | _O_BINARY);
+    if (file != -1)
+        return {{file}, {}};
+    CloseHandle(opened);
+    return {{}, make_error_code(std::errc::too_many_files_open)};
+}
+
+std::error_code NativeFiles::Truncate(FileHandle file, std::uint64_t size) {
+    const errno_t failure = _chsize_s(file.Number, static_cast<std::int64_t>(size));
+    return {failure, std::generic_category()};
+}
+
 } // namespace orvane
 
 #endif

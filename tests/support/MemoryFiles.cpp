@@ -63,6 +63,11 @@ std::error_code MemoryFiles::Next() {
     return calls_ == failingCall_ || (forGood_ && calls_ > failingCall_) ? why_ : std::error_code();
 }
 
+std::error_code MemoryFiles::NextOn(FileHandle file) {
+    const std::error_code failure = Next();
+    return failure || handles_.contains(file.Number) ? failure : Error(std::errc::bad_file_descriptor);
+}
+
 MemoryFiles::Shared MemoryFiles::At(const Path& path) const {
     const auto found = files_.find(Followed(path));
     return found == files_.end() ? nullptr : found->second;
@@ -156,7 +161,7 @@ Result<std::size_t> MemoryFiles::Read(FileHandle file, std::span<char> room) {
 }
 
 Result<std::size_t> MemoryFiles::Write(FileHandle file, std::string_view bytes) {
-    if (const std::error_code failure = Next())
+    if (const std::error_code failure = NextOn(file))
         return {{}, failure};
     Log.push_back("write");
     File& open = *Of(file).Open;
@@ -169,7 +174,7 @@ Result<std::size_t> MemoryFiles::Write(FileHandle file, std::string_view bytes) 
 }
 
 std::error_code MemoryFiles::Sync(FileHandle file) {
-    if (const std::error_code failure = Next())
+    if (const std::error_code failure = NextOn(file))
         return failure;
     Log.push_back("sync");
     Of(file).Open->OnDisk = Of(file).Open->Bytes;
@@ -263,6 +268,36 @@ Result<std::vector<FileSystem::Path>> MemoryFiles::Names(const Path& folder) {
             names.push_back(path.filename());
     }
     return {names, {}};
+}
+
+Result<FileHandle> MemoryFiles::OpenLocked(const Path& path, Existence existence) {
+    if (existence == Existence::New) {
+        const Result<FileHandle> made = Create(path, 0600);
+        if (!made.Failure)
+            Of(made.Got).Locked = true;
+        return made;
+    }
+    if (const std::error_code failure = Next())
+        return {{}, failure};
+    const Shared file = At(path);
+    if (!file)
+        return {{}, Error(std::errc::no_such_file_or_directory)};
+    const auto hasIt = [&](const auto& entry) { return entry.second.Locked && entry.second.Open == file; };
+    if (std::any_of(handles_.begin(), handles_.end(), hasIt))
+        return {{}, Error(std::errc::device_or_resource_busy)};
+    const Result<FileHandle> opened = Opened(file);
+    Of(opened.Got).Locked = true;
+    return opened;
+}
+
+std::error_code MemoryFiles::Truncate(FileHandle file, std::uint64_t size) {
+    if (const std::error_code failure = NextOn(file))
+        return failure;
+    Log.push_back("truncate");
+    File& open = *Of(file).Open;
+    open.Bytes.resize(size);
+    open.Facts.Size = size;
+    return {};
 }
 
 } // namespace orvane

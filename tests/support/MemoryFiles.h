@@ -43,6 +43,8 @@ class MemoryFiles final : public FileSystem {
     int Calls() const { return calls_; }
     std::vector<std::string> Log; // the calls that change something, in their order
     int OpenHandles() const;
+    // As when a process is killed: what it had open is closed, and what it does with that fails.
+    void CloseAll() { handles_.clear(); }
 
     // What is on the disk after the power has failed now: with the last renames, or without those that were
     // not waited for.
@@ -68,16 +70,21 @@ class MemoryFiles final : public FileSystem {
     std::error_code Rename(const Path& from, const Path& to) override;
     std::error_code Remove(const Path& path) override;
     Result<std::vector<Path>> Names(const Path& folder) override;
+    std::error_code MakePrivateFolder(const Path&) override { return Next(); }
+    Result<FileHandle> OpenLocked(const Path& path, Existence existence) override;
+    std::error_code Truncate(FileHandle file, std::uint64_t size) override;
 
   private:
     using Shared = std::shared_ptr<File>;
     struct Handle {
         Shared Open;
         std::size_t At = 0;
+        bool Locked = false;
     };
 
     // What this call fails for, if it does.
     std::error_code Next();
+    std::error_code NextOn(FileHandle file);
     Shared At(const Path& path) const;
     Path Followed(Path path) const;
     Result<FileHandle> Opened(Shared file);

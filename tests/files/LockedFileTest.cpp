@@ -1,0 +1,143 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "files/NativeFiles.h"
+
+#include "support/FileBytes.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cstdlib>
+
+#ifndef _WIN32
+#include <csignal>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+#endif
+
+namespace orvane {
+namespace {
+
+namespace fs = std::filesystem;
+
+class LockedFileTest : public testing::Test {
+  protected:
+    void SetUp() override {
+        fs::remove_all(Folder);
+        ASSERT_FALSE(Files.MakePrivateFolder(Folder));
+    }
+    void TearDown() override { fs::remove_all(Folder.parent_path()); }
+
+    FileHandle Open(Existence existence) {
+        const Result<FileHandle> opened = Files.OpenLocked(Path, existence);
+        EXPECT_FALSE(opened.Failure) << opened.Failure.message();
+        return opened.Got;
+    }
+    std::error_code WhyNot(Existence existence) { return Files.OpenLocked(Path, existence).Failure; }
+
+    NativeFiles Files;
+    fs::path Folder =
+        fs::temp_directory_path() /
+        ("orvane-locked-" + std::string(testing::UnitTest::GetInstance()->current_test_info()->name())) /
+        "deep" / "recovery";
+    fs::path Path = Folder / "file";
+};
+
+TEST_F(LockedFileTest, NobodyElseGetsItWhileItIsOpen) {
+    const FileHandle file = Open(Existence::New);
+    EXPECT_EQ(WhyNot(Existence::Old), std::errc::device_or_resource_busy);
+    EXPECT_FALSE(Files.Close(file));
+    const FileHandle again = Open(Existence::Old);
+    EXPECT_EQ(WhyNot(Existence::Old), std::errc::device_or_resource_busy);
+    EXPECT_FALSE(Files.Close(again));
+}
+
+TEST_F(LockedFileTest, ANewOneMustNotBeThereAndAnOldOneMust) {
+    EXPECT_EQ(WhyNot(Existence::Old), std::errc::no_such_file_or_directory);
+    EXPECT_FALSE(Files.Close(Open(Existence::New)));
+    EXPECT_EQ(WhyNot(Existence::New), std::errc::file_exists);
+}
+
+TEST_F(LockedFileTest, IsReadFromItsFrontAndWrittenAtItsEnd) {
+    WriteFileBytes(Path, "old ");
+    const FileHandle file = Open(Existence::Old);
+    EXPECT_EQ(Files.Write(file, "new!").Got, 4u);
+    std::array<char, 20> room;
+    EXPECT_EQ(Files.Read(file, room).Got, 0u); // both stand at the end now
+    EXPECT_FALSE(Files.Truncate(file, 5));
+    EXPECT_EQ(Files.Write(file, "EXT").Got, 3u);
+    EXPECT_FALSE(Files.Sync(file));
+    EXPECT_FALSE(Files.Close(file));
+    EXPECT_EQ(FileBytes(Path), "old nEXT");
+}
+
+TEST_F(LockedFileTest, CanBeRenamedAndRemovedWhileItIsOpen) {
+    const FileHandle file = Open(Existence::New);
+    EXPECT_FALSE(Files.Rename(Path, Folder / "other"));
+    EXPECT_EQ(Files.OpenLocked(Folder / "other", Existence::Old).Failure, std::errc::device_or_resource_busy);
+    EXPECT_FALSE(Files.Remove(Folder / "other"));
+    EXPECT_FALSE(Files.Close(file));
+    EXPECT_TRUE(fs::is_empty(Folder));
+}
+
+#ifndef _WIN32
+
+TEST_F(LockedFileTest, FolderAndFileAreTheUsersAlone) {
+    EXPECT_FALSE(Files.Close(Open(Existence::New)));
+    struct stat told {};
+    ASSERT_EQ(stat(Path.c_str(), &told), 0);
+    EXPECT_EQ(told.st_mode & 07777u, 0600u);
+    ASSERT_EQ(stat(Folder.c_str(), &told), 0);
+    EXPECT_EQ(told.st_mode & 07777u, 0700u);
+    ASSERT_EQ(chmod(Folder.c_str(), 0755), 0);
+    EXPECT_FALSE(Files.MakePrivateFolder(Folder));
+    ASSERT_EQ(stat(Folder.c_str(), &told), 0);
+    EXPECT_EQ(told.st_mode & 07777u, 0700u);
+}
+
+TEST_F(LockedFileTest, AFolderThatIsAFileIsTold) {
+    WriteFileBytes(Path, "");
+    EXPECT_EQ(Files.MakePrivateFolder(Path), std::errc::not_a_directory);
+    EXPECT_EQ(Files.MakePrivateFolder(Path / "below"), std::errc::not_a_directory);
+}
+
+TEST_F(LockedFileTest, ALinkIsNotFollowed) {
+    WriteFileBytes(Folder / "target", "");
+    fs::create_symlink("target", Path);
+    EXPECT_EQ(WhyNot(Existence::Old), std::errc::too_many_symbolic_link_levels);
+}
+
+// A program that this one starts would keep the lock beyond the end of this one.
+TEST_F(LockedFileTest, IsNotHandedOnToOtherPrograms) {
+    const FileHandle file = Open(Existence::New);
+    EXPECT_NE(fcntl(file.Number, F_GETFD) & FD_CLOEXEC, 0);
+    EXPECT_FALSE(Files.Close(file));
+}
+
+TEST_F(LockedFileTest, IsFreeWhenItsProcessWasKilled) {
+    std::array<int, 2> ready{};
+    ASSERT_EQ(pipe(ready.data()), 0);
+    const pid_t child = fork();
+    ASSERT_NE(child, -1);
+    if (child == 0) {
+        const bool opened = !Files.OpenLocked(Path, Existence::New).Failure;
+        (void)!write(ready[1], opened ? "y" : "n", 1);
+        pause();
+        _exit(0);
+    }
+    char answer = ' ';
+    ASSERT_EQ(read(ready[0], &answer, 1), 1);
+    EXPECT_EQ(answer, 'y');
+    EXPECT_EQ(WhyNot(Existence::Old), std::errc::device_or_resource_busy);
+    EXPECT_EQ(kill(child, SIGKILL), 0);
+    EXPECT_EQ(waitpid(child, nullptr, 0), child);
+    EXPECT_FALSE(Files.Close(Open(Existence::Old)));
+    close(ready[0]);
+    close(ready[1]);
+}
+
+#endif
+
+} // namespace
+} // namespace orvane
