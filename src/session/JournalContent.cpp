@@ -52,7 +52,6 @@ void Write(const HeadRecord& record, JournalBytesWriter& bytes) {
     bytes.Byte(head.Stamp ? 1 : 0);
     if (head.Stamp)
         WriteStamp(*head.Stamp, bytes);
-    bytes.Count(head.Changes);
     bytes.Count(head.Replaces.size());
     for (const std::string& name : head.Replaces)
         bytes.Text(name);
@@ -64,7 +63,6 @@ void Read(HeadRecord& record, JournalBytesReader& bytes) {
     head.Path = bytes.Text();
     if (ReadFlag(bytes))
         head.Stamp = ReadStamp(bytes);
-    head.Changes = bytes.Count();
     for (std::uint64_t left = bytes.Count(); left > 0 && !bytes.Failed(); --left)
         head.Replaces.emplace_back(bytes.Text());
 }
@@ -160,6 +158,10 @@ void Read(ClosedRecord& record, JournalBytesReader& bytes) {
     record.Reason = JournalClose{bytes.Byte()};
     bytes.Require(record.Reason == JournalClose::NothingUnsaved || record.Reason == JournalClose::Discarded);
 }
+
+void Write(const StandRecord& record, JournalBytesWriter& bytes) { bytes.Count(record.Changes); }
+
+void Read(StandRecord& record, JournalBytesReader& bytes) { record.Changes = bytes.Count(); }
 
 // Walks the list of records up to the one of that type.
 template <std::size_t Index = 0>

@@ -32,7 +32,6 @@ struct JournalHead {
     std::string Program;               // name and version of the program that wrote the journal
     std::string Path;                  // of the document, full, UTF-8; empty when it has no file
     std::optional<JournalStamp> Stamp; // none when it has no file
-    std::uint64_t Changes = 0;         // made before this file was begun and not saved
     // Names of the older journals in the same folder that this one holds everything of.
     std::vector<std::string> Replaces;
 
@@ -115,10 +114,16 @@ struct ClosedRecord {
     JournalClose Reason = JournalClose::NothingUnsaved;
     bool operator==(const ClosedRecord&) const = default;
 };
+// The records up to here say how things stood when this file was begun; what the user did follows.
+struct StandRecord {
+    std::uint64_t Changes = 0; // steps, undos and redos that had been made and not saved
+    bool operator==(const StandRecord&) const = default;
+};
 
 // A record's type in the file is its place in this list, from 1 on.
-using RecordContent = std::variant<HeadRecord, DocumentRecord, ImageRecord, CommitRecord, MoveRecord,
-                                   ViewRecord, DraftRecord, DraftGoneRecord, SavedRecord, ClosedRecord>;
+using RecordContent =
+    std::variant<HeadRecord, DocumentRecord, ImageRecord, CommitRecord, MoveRecord, ViewRecord, DraftRecord,
+                 DraftGoneRecord, SavedRecord, ClosedRecord, StandRecord>;
 
 inline constexpr std::size_t kRecordTypes = std::variant_size_v<RecordContent>;
 

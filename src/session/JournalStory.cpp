@@ -14,7 +14,6 @@ bool JournalStory::Take(const JournalRecord& record) {
 
 bool JournalStory::Tell(const HeadRecord& record, JournalTime time) {
     Head = record.Head;
-    Changes = Head.Changes;
     LastChange = time;
     begun_ = true;
     return true;
@@ -96,6 +95,12 @@ bool JournalStory::Tell(const SavedRecord& record, JournalTime) {
 
 bool JournalStory::Tell(const ClosedRecord& record, JournalTime) {
     Closed = record.Reason;
+    return true;
+}
+
+bool JournalStory::Tell(const StandRecord& record, JournalTime time) {
+    Changes = record.Changes;
+    LastChange = time;
     return true;
 }
 

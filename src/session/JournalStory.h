@@ -65,6 +65,7 @@ class JournalStory {
     bool Tell(const DraftGoneRecord& record, JournalTime time);
     bool Tell(const SavedRecord& record, JournalTime time);
     bool Tell(const ClosedRecord& record, JournalTime time);
+    bool Tell(const StandRecord& record, JournalTime time);
 
     std::optional<std::size_t> PresentNode() const;
     // None when the change does not fit the present image, or gives an empty one.

@@ -102,6 +102,14 @@ TEST(JournalReader, TheSavedImageIsKnownWhenNoStepLeadsToItAnyMore) {
     EXPECT_EQ(Recover(text.Bytes()).SavedImage, "0 again");
 }
 
+// A journal that was begun anew repeats the steps before it, which are no new changes.
+TEST(JournalReader, WhatStoodWhenTheFileWasBegunIsCountedOnce) {
+    JournalText text;
+    text.Begin("0 first").Commit("0 second").Commit("0 third").Add(StandRecord{40});
+    EXPECT_EQ(Recover(text.Bytes()).Changes, 40u);
+    EXPECT_EQ(Recover(text.Commit("0 fourth").Bytes()).Changes, 41u);
+}
+
 TEST(JournalReader, AClosedJournalHoldsNothingUnsaved) {
     JournalText text;
     text.Begin("0 first").Commit("0 second").Add(ClosedRecord{JournalClose::Discarded});

@@ -25,7 +25,7 @@ JournalDraft SomeDraft() {
 
 // Every kind of record, with no field as it is by itself.
 std::vector<RecordContent> EveryRecord() {
-    return {HeadRecord{{"Orvane 1.2", "/work/pump.zfsm", SomeStamp(), 77, {"one.orj", "two.orj"}}},
+    return {HeadRecord{{"Orvane 1.2", "/work/pump.zfsm", SomeStamp(), {"one.orj", "two.orj"}}},
             HeadRecord{},
             DocumentRecord{{300, 1, std::string_view("middle\0of it", 12)}, true},
             ImageRecord{{128, 127, "x"}, true},
@@ -37,7 +37,8 @@ std::vector<RecordContent> EveryRecord() {
             DraftRecord{SomeDraft()},
             DraftGoneRecord{{JournalDraftKind::Script, {0, 0}, {}}},
             SavedRecord{"/work/other.zfsm", SomeStamp()},
-            ClosedRecord{JournalClose::Discarded}};
+            ClosedRecord{JournalClose::Discarded},
+            StandRecord{300}};
 }
 
 std::string Encoded(const JournalRecord& record, std::string_view salt = kTestSalt) {

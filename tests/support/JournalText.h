@@ -35,7 +35,7 @@ class JournalText {
 
     // Of the document's first image, which counts as saved.
     JournalText& Begin(std::string image) {
-        Add(HeadRecord{{"Orvane 1", "/work/pump.zfsm", JournalStamp{3, 4, {}}, 0, {}}});
+        Add(HeadRecord{{"Orvane 1", "/work/pump.zfsm", JournalStamp{3, 4, {}}, {}}});
         image_ = std::move(image);
         return Add(ImageRecord{{0, 0, image_}, true});
     }
