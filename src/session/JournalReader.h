@@ -22,7 +22,7 @@ enum class JournalEnd {
 
 struct RecoveredJournal {
     JournalHead Head;                      // path and stamp as of the last save
-    FsmDocument Document;                  // as it stood
+    FsmDocument Document = FsmDocument();  // as it stood
     std::vector<JournalStep> History;      // oldest first; empty when there is nothing to recover
     std::size_t Current = 0;               // the place in the history that the document stood at
     std::optional<std::string> SavedImage; // none when nobody knows any more
