@@ -94,8 +94,8 @@ bool BeginsWithRecord(std::string_view bytes, std::string_view salt, std::uint32
     const std::optional<RecordFrame> frame = ReadFrame(bytes);
     if (!frame || frame->Type == 0 || frame->Type > kRecordTypes)
         return false;
-    // A file cannot hold more records than heads fit into it.
-    const bool plausible = frame->Sequence >= sequence && frame->Sequence - sequence <= bytes.size();
+    // A file cannot hold more records than heads fit into it. An earlier number wraps around to a large one.
+    const bool plausible = frame->Sequence - sequence <= bytes.size();
     return plausible && Holds(*frame, bytes, salt);
 }
 

@@ -295,6 +295,23 @@ TEST_F(JournalWriterTest, WhenThereIsRoomAgainEverythingIsThereAgain) {
     EXPECT_EQ(Only().Changes, 3u);
 }
 
+// The steps that failed are not in the old file, and a later one says only how it differs from them.
+TEST_F(JournalWriterTest, NothingIsAddedToAFileThatStepsAreMissingFrom) {
+    JournaledWindow window(Place());
+    window.Edit("0 second");
+    const std::string first = std::string(kFolder) + "/" + window.Writer.Name();
+    const std::string before = *Files.Bytes(first);
+    Files.FailAt(1, kFull, true);
+    window.Edit("0 third");
+    Files.FailAt(0, {});
+    window.Edit("0 fourth"); // too soon for a new file
+    EXPECT_EQ(Files.Bytes(first), before);
+    TestTime() += JournalWriter::kRetryAfter;
+    window.Edit("0 fifth");
+    window.Writer.SyncNow();
+    EXPECT_EQ(Differences(Only(), window), "");
+}
+
 TEST_F(JournalWriterTest, AFailedSyncBeginsANewFile) {
     JournaledWindow window(Place());
     window.Edit("0 second");
