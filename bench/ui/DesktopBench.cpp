@@ -153,6 +153,7 @@ int main(int argc, char** argv) {
     const QTemporaryDir applicationData;
     qputenv("APPDATA", applicationData.path().toLocal8Bit());
     qputenv("XDG_CONFIG_HOME", applicationData.path().toLocal8Bit()); // the user's settings stay as they are
+    qputenv("XDG_STATE_HOME", applicationData.path().toLocal8Bit());  // and so does what he may recover
     const QApplication application(argc, argv);
     std::cout << "| operation | time (ms) | floor | floor (ms) | ratio | aim |\n"
               << "| --- | ---: | --- | ---: | ---: | ---: |\n";

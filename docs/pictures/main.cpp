@@ -181,6 +181,8 @@ bool Photographer::TakeAll() {
 
 int main(int argc, char* argv[]) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QTemporaryDir state; // nothing of it is anybody's work to recover
+    qputenv("XDG_STATE_HOME", state.path().toLocal8Bit());
     const QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Orvane"));
     QApplication::setWindowIcon(orvane::Logo());

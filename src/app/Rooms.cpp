@@ -4,6 +4,7 @@
 #include "builder/ui/BuilderRoom.h"
 #include "codegen/ui/GeneratorRoom.h"
 #include "editors/ui/EditorsRoom.h"
+#include "recovery/ui/RecoveryRoom.h"
 #include "table/ui/BacktrackRoom.h"
 #include "table/ui/TableRoom.h"
 #include "welcome/ui/WelcomeRoom.h"
@@ -17,6 +18,7 @@ std::vector<std::unique_ptr<Room>> MakeRooms(const RoomPlace& place) {
     rooms.push_back(std::make_unique<BuilderRoom>(place));
     rooms.push_back(std::make_unique<BacktrackRoom>(place));
     rooms.push_back(std::make_unique<EditorsRoom>(place));
+    rooms.push_back(std::make_unique<RecoveryRoom>(place));
     rooms.push_back(std::make_unique<WelcomeRoom>(place));
     return rooms;
 }

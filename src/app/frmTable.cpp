@@ -154,6 +154,7 @@ void frmTable::closeEvent(QCloseEvent* event) {
     event->setAccepted(mayClose);
     if (!mayClose)
         return;
+    session_.Leave();
     for (const auto& room : rooms_)
         room->Close();
     Q_EMIT Closed();

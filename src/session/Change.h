@@ -20,6 +20,7 @@ enum class ChangeKind {
     Multitasking,  // Polytask was turned on or off: another program, but no step
     Saved,         // the file has the document now; its name may be another one
     ProgramWanted, // nothing changed, the program is asked for
+    Left,          // the document is left with the program
     Moved,         // the pressed cell, the current state, Shift: where the user is, not what he draws
 };
 
@@ -39,6 +40,7 @@ struct Change {
     std::string_view Name = {}; // of the edit, as the status bar tells when it is undone: "insert state"
     bool Committed = false;     // there is a new undo step
     bool RowsForced = false;    // the special rows have come into sight, because something is in them
+    bool Discarded = false;     // Replaced and Left: there was unsaved work, and the user did not want it
 };
 
 class SessionObserver {

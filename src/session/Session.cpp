@@ -52,28 +52,51 @@ bool Session::ForceRows(const Touched& where) {
     return ForceRowsForContents(document_, standardHeight_);
 }
 
-void Session::Replace(FsmDocument document, std::string path) {
-    document_ = std::move(document);
-    path_ = std::move(path);
-    currentState_ = kNoState;
-    program_ = {};
+void Session::Replace(FsmDocument document, std::string path, std::optional<JournalStamp> stamp) {
+    const bool discarded = IsModified();
+    Install(std::move(document), std::move(path), stamp);
     undo_.Reset(Pack(document_));
-    Tell({.Kind = ChangeKind::Replaced, .Where = kEverything, .RowsForced = ForceRows(kEverything)});
+    Tell({.Kind = ChangeKind::Replaced,
+          .Where = kEverything,
+          .RowsForced = ForceRows(kEverything),
+          .Discarded = discarded});
 }
 
-void Session::MarkSaved(std::string path) {
+void Session::Restore(RestoredWork work) {
+    const bool discarded = IsModified();
+    Install(std::move(work.Document), std::move(work.Path), work.Stamp);
+    undo_.Restore(std::move(work.History));
+    Tell({.Kind = ChangeKind::Replaced,
+          .Where = kEverything,
+          .RowsForced = ForceRows(kEverything),
+          .Discarded = discarded});
+}
+
+// Nothing of one document shows in the next.
+void Session::Install(FsmDocument document, std::string path, std::optional<JournalStamp> stamp) {
+    document_ = std::move(document);
     path_ = std::move(path);
+    stamp_ = stamp;
+    currentState_ = kNoState;
+    program_ = {};
+}
+
+void Session::MarkSaved(std::string path, std::optional<JournalStamp> stamp) {
+    path_ = std::move(path);
+    stamp_ = stamp;
     undo_.MarkSaved(Pack(document_));
     Tell({.Kind = ChangeKind::Saved, .Where = {}});
 }
 
+void Session::Leave() { Tell({.Kind = ChangeKind::Left, .Where = {}, .Discarded = IsModified()}); }
+
 std::vector<std::string> Session::Undo() {
-    const std::string_view name = undo_.UndoName();
+    const std::string& name = undo_.UndoName();
     return ShowStep(ChangeKind::Undone, undo_.UndoStep(), name);
 }
 
 std::vector<std::string> Session::Redo() {
-    const std::string_view name = undo_.RedoName();
+    const std::string& name = undo_.RedoName();
     return ShowStep(ChangeKind::Redone, undo_.RedoStep(), name);
 }
 

@@ -5,6 +5,7 @@
 #include "core/UserMessage.h"
 #include "session/Change.h"
 #include "session/Draft.h"
+#include "session/JournalContent.h"
 #include "table/TableClipboard.h"
 #include "table/UndoRing.h"
 
@@ -38,6 +39,14 @@ struct Editable {
     TableClipboard& Clipboard;
 };
 
+// A document with its history, as a journal gives it back.
+struct RestoredWork {
+    FsmDocument Document;
+    std::string Path;
+    std::optional<JournalStamp> Stamp;
+    UndoHistory History;
+};
+
 // What the last run of the generator has found out.
 struct ProgramState {
     bool Written = false;                    // its file is that of the document as it stands
@@ -54,6 +63,8 @@ class Session {
 
     const FsmDocument& Document() const { return document_; } // stays at its address
     const std::string& Path() const { return path_; }         // full, UTF-8; empty without a file
+    // What that file was when this program last read or wrote it; none without a file.
+    const std::optional<JournalStamp>& Stamp() const { return stamp_; }
 
     // The one door for edits: runs the change on an Editable, keeps the step, and tells every observer. A
     // change that returns a UserMessage has refused: the document is as it was, nobody is told, and the
@@ -68,11 +79,18 @@ class Session {
         return std::nullopt;
     }
 
-    // Another document takes the place of this one and begins its history; it counts as saved.
-    void Replace(FsmDocument document, std::string path);
+    // Another document takes the place of this one and begins its history; it counts as saved. The stamp is
+    // that of its file.
+    void Replace(FsmDocument document, std::string path, std::optional<JournalStamp> stamp = {});
+
+    // The same with work that has a history already: undo goes on where it was.
+    void Restore(RestoredWork work);
 
     // The file has the document as it stands.
-    void MarkSaved(std::string path);
+    void MarkSaved(std::string path, std::optional<JournalStamp> stamp = {});
+
+    // The program ends; what is not saved is not wanted.
+    void Leave();
 
     // Differs from what was saved, opened or begun with.
     bool IsModified() const { return undo_.IsModified(); }
@@ -82,6 +100,7 @@ class Session {
     std::vector<std::string> Redo();
     bool CanUndo() const { return undo_.CanUndo(); }
     bool CanRedo() const { return undo_.CanRedo(); }
+    const UndoRing& History() const { return undo_; }
 
     // Copies into the clipboard; the document stays.
     template <typename Action>
@@ -131,11 +150,13 @@ class Session {
 
     void FinishEdit(const EditStep& step);
     bool ForceRows(const Touched& where);
+    void Install(FsmDocument document, std::string path, std::optional<JournalStamp> stamp);
     std::vector<std::string> ShowStep(ChangeKind kind, const std::string* image, std::string_view name);
     void Tell(const Change& change);
 
     FsmDocument document_;
     std::string path_;
+    std::optional<JournalStamp> stamp_;
     UndoRing undo_;
     TableClipboard clipboard_;
     PasteItems pasteable_;

@@ -132,5 +132,53 @@ TEST(UndoRing, UndoBackToWhatWasSavedIsNotModified) {
     EXPECT_FALSE(ring.IsModified());
 }
 
+TEST(UndoRing, StepsAreCalledByWhatWasDone) {
+    UndoRing ring;
+    ring.Reset("0");
+    ring.Commit("1", "insert state");
+    ring.Commit("2", "paste state");
+    EXPECT_EQ(ring.UndoName(), "paste state");
+    EXPECT_EQ(ring.RedoName(), "");
+    ring.UndoStep();
+    EXPECT_EQ(ring.UndoName(), "insert state");
+    EXPECT_EQ(ring.RedoName(), "paste state");
+    ring.Commit("3", "state");
+    EXPECT_EQ(ring.RedoName(), "");
+}
+
+TEST(UndoRing, ItsHistoryIsPutIntoAnotherRing) {
+    for (const int commits : {0, 1, 57, 99, 100, 250}) {
+        for (const int undone : {0, 1, 40}) {
+            UndoRing ring;
+            ring.Reset("begin");
+            for (int i = 0; i < commits; ++i)
+                ring.Commit(std::to_string(i), "edit " + std::to_string(i));
+            for (int i = 0; i < undone; ++i)
+                ring.UndoStep();
+            UndoRing other;
+            other.Restore(ring.History());
+            EXPECT_EQ(other.History().Snapshots, ring.History().Snapshots);
+            EXPECT_EQ(other.Current(), ring.Current());
+            EXPECT_EQ(other.IsModified(), ring.IsModified());
+            EXPECT_EQ(other.CanUndo(), ring.CanUndo());
+            EXPECT_EQ(other.CanRedo(), ring.CanRedo());
+            other.Commit("more", "edit");
+            EXPECT_FALSE(other.CanRedo());
+        }
+    }
+}
+
+TEST(UndoRing, OfALongerHistoryTheOldestAreLeftOut) {
+    UndoHistory history;
+    for (int i = 0; i < 150; ++i)
+        history.Snapshots.push_back({std::to_string(i), {}});
+    history.Current = 120;
+    UndoRing ring;
+    ring.Restore(history);
+    EXPECT_EQ(ring.Current(), "120");
+    EXPECT_EQ(ring.History().Snapshots.size(), UndoRing::kSlotCount - 1);
+    EXPECT_EQ(ring.History().Snapshots.front().Image, "50");
+}
+
 } // namespace
 } // namespace orvane

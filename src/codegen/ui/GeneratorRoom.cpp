@@ -25,7 +25,6 @@ bool AsksForProgram(ChangeKind kind) {
     case ChangeKind::Undone:
     case ChangeKind::Redone:
     case ChangeKind::Typed:
-    case ChangeKind::Drafted:
     case ChangeKind::Multitasking:
     case ChangeKind::ProgramWanted:
         return true;

@@ -77,6 +77,7 @@ Dialog& EditorsRoom::Made(Dialog*& dialog) {
         connect(dialog, &EditorDialog::Edited, this, [this] {
             hasDraft_ = true;
             session_.TellDraft();
+            session_.WantProgram();
         });
     }
     return *dialog;

@@ -70,6 +70,7 @@ void TableRoom::ConnectGrid() {
     connect(&view, &FsmGridView::ShiftChanged, this, [this](bool held) { session_.HoldShift(held); });
     connect(&view, &FsmGridView::EnterPressed, this, [this] { typing_.BeginCellEdit(session_.Pressed()); });
     connect(&grid_->Editor(), &CellEditor::CommitWanted, this, [this] { typing_.CommitCellEdit(); });
+    connect(&grid_->Editor(), &CellEditor::textChanged, this, [this] { session_.TellDraft(); });
     connect(&grid_->Hints(), &HoverHints::HintWanted, this,
             [this](const QString& text, bool wrap) { frmMyToolTip_->Display(text, wrap, QCursor::pos()); });
     connect(&grid_->Hints(), &HoverHints::HintGone, frmMyToolTip_, &frmMyToolTip::UnDisplay);

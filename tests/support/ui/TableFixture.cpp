@@ -19,6 +19,7 @@ namespace orvane {
 TableFixture::TableFixture() : formerFolder_(QDir::currentPath()) {
     QDir::setCurrent(folder_.path());
     qputenv("APPDATA", folder_.path().toLocal8Bit());
+    qputenv("XDG_STATE_HOME", folder_.filePath(QStringLiteral("state")).toLocal8Bit());
     qputenv("SOURCE_DATE_EPOCH", "0");
 }
 

@@ -12,6 +12,7 @@ int main(int argc, char* argv[]) {
     // What the program remembers for its next run is kept apart from the settings of whoever runs the tests.
     const QTemporaryDir settings;
     qputenv("XDG_CONFIG_HOME", settings.path().toLocal8Bit());
+    qputenv("XDG_STATE_HOME", settings.path().toLocal8Bit());
     const QApplication application(argc, argv);
     testing::InitGoogleMock(&argc, argv);
     return RUN_ALL_TESTS();
