@@ -68,6 +68,10 @@ void CommandMenus::AddItem(QMenu* menu, const CommandEntry& entry) {
 
 QMenu& CommandMenus::Menu(Command menu) const { return *items_[IndexOf(menu)]->menu(); }
 
+void CommandMenus::PopUp(Command menu, const QPoint& globalPosition) const {
+    Menu(menu).popup(globalPosition);
+}
+
 void CommandMenus::ShowState(const Session& session) {
     for (const CommandEntry& entry : kCommands) {
         if (entry.Needs != Need::Nothing)

@@ -24,6 +24,7 @@ class CommandMenus : public QObject {
     explicit CommandMenus(QMainWindow& window);
 
     QMenu& Menu(Command menu) const;
+    void PopUp(Command menu, const QPoint& globalPosition) const;
 
     // Enables what is possible now and sets the check marks.
     void ShowState(const Session& session);

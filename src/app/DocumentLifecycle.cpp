@@ -40,6 +40,10 @@ QString FileFilter() { return QStringLiteral("All Files (*.*) (*);;Config file (
 // As the system writes paths, because the program's comments and the builder script name the document by it.
 QString FullPath(const QString& path) { return QDir::toNativeSeparators(QFileInfo(path).absoluteFilePath()); }
 
+JournalStamp StampOf(const FileStamp& file, const Sha256Digest& digest) {
+    return {file.Size, file.Changed, digest};
+}
+
 // An empty document. The labels mark its steps: cleared (CDB...), then general code (NGa), view (NGb), file
 // name (NGc), history (NGd) and what stands beside the table (NGe) are those of a new one.
 FsmDocument FreshDocument() {
@@ -148,7 +152,7 @@ bool DocumentLifecycle::WriteTo(const QString& path) {
                  .arg(fullPath, saved.Error));
         return false;
     }
-    session_.MarkSaved(fullPath.toStdString());
+    session_.MarkSaved(fullPath.toStdString(), StampOf(saved.Stamp, saved.Digest));
     RememberFile(fullPath);
     if (!saved.Notes.isEmpty())
         Tell(window_, QStringLiteral("The document is saved as\r\n%1\r\n%2.")
@@ -164,7 +168,8 @@ void DocumentLifecycle::Load(const QString& path) {
         return;
     }
     const bool hasName = !file.Content->BrokeOff && !IsSettingsFile(fullPath);
-    Take(std::move(file.Content->Document), hasName ? fullPath : QString());
+    const JournalStamp stamp = StampOf(file.File.Stamp, Sha256(file.File.Bytes()));
+    Take(std::move(file.Content->Document), hasName ? fullPath : QString(), stamp);
     TellMessages(fullPath, *file.Content);
 }
 
@@ -174,11 +179,12 @@ void DocumentLifecycle::LoadSettings() {
 }
 
 // What broke off keeps no name: a save would put the part that was read in the place of the whole file.
-void DocumentLifecycle::Take(FsmDocument document, const QString& fileName) {
+void DocumentLifecycle::Take(FsmDocument document, const QString& fileName, const JournalStamp& stamp) {
     FsmDocument laidOut = FreshDocument(); // every document begins as an empty one
     Trace("NGf");
     laidOut = std::move(document);
-    session_.Replace(std::move(laidOut), fileName.toStdString());
+    session_.Replace(std::move(laidOut), fileName.toStdString(),
+                     fileName.isEmpty() ? std::nullopt : std::optional(stamp));
     if (!fileName.isEmpty())
         RememberFile(fileName);
 }

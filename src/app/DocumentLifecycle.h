@@ -8,6 +8,8 @@ namespace orvane {
 
 // New, open, save and close, with the questions that guard unsaved work. Whatever is cancelled or fails
 // leaves document, file and window as they were.
+struct JournalStamp;
+
 class DocumentLifecycle : public Room {
     Q_OBJECT
 
@@ -38,7 +40,7 @@ class DocumentLifecycle : public Room {
     void Load(const QString& path);
     // The settings document: its contents without its name, and nothing told when there is none.
     void LoadSettings();
-    void Take(FsmDocument document, const QString& fileName);
+    void Take(FsmDocument document, const QString& fileName, const JournalStamp& stamp);
     void TellMessages(const QString& path, const ReadResult& result);
     void TellBreakOff(const QString& path, const ReaderMessage& message);
     // Whether the command that would lose unsaved work may go on.

@@ -14,7 +14,6 @@
 
 #include <QCloseEvent>
 #include <QDateTime>
-#include <QMenu>
 
 #include <algorithm>
 
@@ -124,7 +123,7 @@ void frmTable::Prepare(Command next) {
 void frmTable::PopUp(Command menu, const QPoint& position) {
     Prepare(menu);
     menus_->ShowState(session_);
-    menus_->Menu(menu).popup(position);
+    menus_->PopUp(menu, position);
 }
 
 void frmTable::Told(const Change& change) {

@@ -37,7 +37,8 @@ DocumentFile ReadDocumentFile(const QString& path) {
 SavedDocument WriteDocumentFile(const QString& path, const FsmDocument& document) {
     NativeFiles files;
     const std::filesystem::path native = NativePath(path);
-    const WrittenFile written = WriteFile(files, native, {WriteDocument(document)});
+    const std::string bytes = WriteDocument(document);
+    const WrittenFile written = WriteFile(files, native, {bytes});
     SavedDocument saved;
     if (written.Failure) {
         saved.Error = Message(*written.Failure);
@@ -46,6 +47,7 @@ SavedDocument WriteDocumentFile(const QString& path, const FsmDocument& document
     for (const FileNote note : written.Notes)
         saved.Notes += Message(note);
     saved.Stamp = written.Stamp;
+    saved.Digest = Sha256(bytes);
     RemoveLeftovers(files, native, written.Stamp);
     return saved;
 }

@@ -4,6 +4,7 @@
 
 #include "core/DocumentReader.h"
 #include "files/FileReader.h"
+#include "text/Sha256.h"
 
 #include <QString>
 #include <QStringList>
@@ -22,9 +23,10 @@ struct DocumentFile {
 DocumentFile ReadDocumentFile(const QString& path);
 
 struct SavedDocument {
-    QString Error;     // why it was not saved: the old file is as it was; empty when it was
-    QStringList Notes; // what the file has lost beside its old bytes, a sentence each, without the stop
-    FileStamp Stamp;   // of the file that was saved
+    QString Error;         // why it was not saved: the old file is as it was; empty when it was
+    QStringList Notes;     // what the file has lost beside its old bytes, a sentence each, without the stop
+    FileStamp Stamp;       // of the file that was saved
+    Sha256Digest Digest{}; // of its bytes
 };
 
 // Writes all of the document, through to the disk, or leaves the old file as it is.

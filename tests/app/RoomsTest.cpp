@@ -16,7 +16,11 @@ class MadeUpRoom : public Room {
 
     ObserverRank Rank() const override { return ObserverRank::Rooms; }
     bool Listens() const override { return IsShown; }
-    void Told(const Change& change) override { Heard.push_back(change.Kind); }
+    // What an open editor holds is told with every letter, and is no change of the document.
+    void Told(const Change& change) override {
+        if (change.Kind != ChangeKind::Drafted)
+            Heard.push_back(change.Kind);
+    }
     void EditPlace(Cell place) override { Asked = place; }
 
     Session& Open;
