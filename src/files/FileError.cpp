@@ -88,7 +88,7 @@ std::string Sentence(const FileError& error) {
     if (error.Refused)
         return std::string(WhatItIs(*error.Refused));
     const std::string_view known = Known(error);
-    const std::string sentence = known.empty() ? ReasonText(error) : std::string(known);
+    std::string sentence = known.empty() ? ReasonText(error) : std::string(known);
     if (error.Step == FileStep::SyncFolder)
         return "It is written, but the disk does not say that it keeps it: " + sentence;
     return sentence;

