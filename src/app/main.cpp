@@ -1,15 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/Application.h"
 #include "app/Remembered.h"
 #include "app/frmTable.h"
 #include "files/NativeFiles.h"
 #include "kit/CommandLine.h"
 #include "kit/Logo.h"
 
-#include <QApplication>
-
 int main(int argc, char* argv[]) {
     orvane::OutliveFileSizeLimit();
-    const QApplication application(argc, argv);
+    const orvane::Application application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Orvane"));
     QApplication::setWindowIcon(orvane::WindowIcon());
     QGuiApplication::setDesktopFileName(QStringLiteral("org.orvane.Orvane"));
