@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "table/UndoRing.h"
 
+#include "text/TextDelta.h"
+
+#include <algorithm>
 #include <utility>
 
 namespace orvane {
@@ -8,45 +11,65 @@ namespace orvane {
 void UndoRing::Reset(std::string image) {
     slots_.fill({});
     cursor_ = 0;
-    slots_[cursor_].Image = image;
+    slots_[cursor_].IsUsed = true;
+    previous_.clear();
+    current_ = image;
     savedText_ = std::move(image);
 }
 
 bool UndoRing::Commit(std::string image, std::string_view name) {
     if (image == Current())
         return false;
-    cursor_ = NextSlot(cursor_);
-    slots_[cursor_] = {std::move(image), std::string(name)};
+    Push(std::move(image), std::string(name));
     slots_[NextSlot(cursor_)] = {};
     return true;
 }
 
-const std::string* UndoRing::UndoStep() { return StepTo(PrevSlot(cursor_)); }
-
-const std::string* UndoRing::RedoStep() { return StepTo(NextSlot(cursor_)); }
-
-bool UndoRing::CanUndo() const { return !slots_[PrevSlot(cursor_)].Image.empty(); }
-
-bool UndoRing::CanRedo() const { return !slots_[NextSlot(cursor_)].Image.empty(); }
-
-const std::string* UndoRing::StepTo(std::size_t slot) {
-    if (slots_[slot].Image.empty())
-        return nullptr;
-    cursor_ = slot;
-    return &slots_[slot].Image;
+void UndoRing::Push(std::string image, std::string name) {
+    const TextDelta newer = Difference(current_, image);
+    const std::size_t olderSize = current_.size() - newer.Prefix - newer.Suffix;
+    cursor_ = NextSlot(cursor_);
+    slots_[cursor_] = {.IsUsed = true,
+                       .Name = std::move(name),
+                       .Prefix = newer.Prefix,
+                       .OlderMiddle = current_.substr(newer.Prefix, olderSize),
+                       .NewerMiddle = std::string(newer.Middle)};
+    previous_ = std::exchange(current_, std::move(image));
 }
 
-// The marker is an empty slot, so that both walks end.
+const std::string* UndoRing::UndoStep() {
+    if (!CanUndo())
+        return nullptr;
+    const Slot& step = slots_[cursor_];
+    current_.replace(step.Prefix, step.NewerMiddle.size(), step.OlderMiddle);
+    previous_.clear();
+    cursor_ = PrevSlot(cursor_);
+    return &current_;
+}
+
+const std::string* UndoRing::RedoStep() {
+    if (!CanRedo())
+        return nullptr;
+    cursor_ = NextSlot(cursor_);
+    const Slot& step = slots_[cursor_];
+    current_.replace(step.Prefix, step.OlderMiddle.size(), step.NewerMiddle);
+    previous_.clear();
+    return &current_;
+}
+
+bool UndoRing::CanUndo() const { return slots_[PrevSlot(cursor_)].IsUsed; }
+
+bool UndoRing::CanRedo() const { return slots_[NextSlot(cursor_)].IsUsed; }
+
+// On a ring of its own: back to the oldest, and from there forward, image by image.
 UndoHistory UndoRing::History() const {
-    std::size_t oldest = cursor_;
-    while (!slots_[PrevSlot(oldest)].Image.empty())
-        oldest = PrevSlot(oldest);
+    UndoRing walked = *this;
     UndoHistory history;
-    for (std::size_t slot = oldest; !slots_[slot].Image.empty(); slot = NextSlot(slot)) {
-        if (slot == cursor_)
-            history.Current = history.Snapshots.size();
-        history.Snapshots.push_back(slots_[slot]);
-    }
+    while (walked.UndoStep() != nullptr)
+        ++history.Current;
+    do
+        history.Snapshots.push_back({walked.Current(), walked.UndoName()});
+    while (walked.RedoStep() != nullptr);
     history.SavedText = savedText_;
     return history;
 }
@@ -55,10 +78,13 @@ void UndoRing::Restore(UndoHistory history) {
     const std::size_t room = kSlotCount - 1; // one slot is the marker
     const std::size_t count = history.Snapshots.size();
     const std::size_t leftOut = count > room ? count - room : 0;
-    slots_.fill({});
-    for (std::size_t i = leftOut; i < count; ++i)
-        slots_[i - leftOut] = std::move(history.Snapshots[i]);
-    cursor_ = history.Current > leftOut ? history.Current - leftOut : 0;
+    Reset(std::move(history.Snapshots[leftOut].Image));
+    slots_[cursor_].Name = std::move(history.Snapshots[leftOut].Name);
+    for (std::size_t i = leftOut + 1; i < count; ++i)
+        Push(std::move(history.Snapshots[i].Image), std::move(history.Snapshots[i].Name));
+    for (std::size_t at = count - 1; at > std::max(history.Current, leftOut); --at)
+        UndoStep();
+    previous_.clear();
     savedText_ = std::move(history.SavedText);
 }
 

@@ -28,6 +28,9 @@ struct UndoHistory {
 //
 // 101 slots in a ring, a cursor on the slot of the present document. The slot behind the cursor is emptied by
 // every push: it marks the end of the ring, so that 99 older snapshots can be reached at most.
+//
+// Only the present image is whole. A slot holds what its snapshot has otherwise than the one before, so that
+// a letter in a document with a text of many megabytes costs a letter and not the document once more.
 class UndoRing {
   public:
     static constexpr std::size_t kSlotCount = 101;
@@ -54,21 +57,31 @@ class UndoRing {
     const std::string& UndoName() const { return slots_[cursor_].Name; }
     const std::string& RedoName() const { return slots_[NextSlot(cursor_)].Name; }
 
-    const std::string& Current() const { return slots_[cursor_].Image; }
-    // The image before the present one; empty when there is none.
-    const std::string& Previous() const { return slots_[PrevSlot(cursor_)].Image; }
+    const std::string& Current() const { return current_; }
+    // What a Commit that has just pushed an image has put it in the place of; empty at any other time.
+    const std::string& Previous() const { return previous_; }
 
     // The document as it stands has been saved.
     void MarkSaved(std::string image) { savedText_ = std::move(image); }
     bool IsModified() const { return Current() != savedText_; }
 
   private:
+    struct Slot {
+        bool IsUsed = false;
+        std::string Name;
+        std::size_t Prefix = 0;  // what the snapshot and the one before begin with alike, bytes
+        std::string OlderMiddle; // what stands behind that in the one before, up to what they end with alike
+        std::string NewerMiddle; // the same of the snapshot itself
+    };
+
     static std::size_t NextSlot(std::size_t slot) { return slot + 1 == kSlotCount ? 0 : slot + 1; }
     static std::size_t PrevSlot(std::size_t slot) { return slot == 0 ? kSlotCount - 1 : slot - 1; }
-    const std::string* StepTo(std::size_t slot);
+    void Push(std::string image, std::string name);
 
-    std::array<Snapshot, kSlotCount> slots_;
+    std::array<Slot, kSlotCount> slots_;
     std::size_t cursor_ = 0;
+    std::string current_;
+    std::string previous_;
     std::string savedText_;
 };
 

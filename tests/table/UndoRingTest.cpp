@@ -3,6 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
+
 namespace orvane {
 namespace {
 
@@ -178,6 +182,41 @@ TEST(UndoRing, OfALongerHistoryTheOldestAreLeftOut) {
     EXPECT_EQ(ring.Current(), "120");
     EXPECT_EQ(ring.History().Snapshots.size(), UndoRing::kSlotCount - 1);
     EXPECT_EQ(ring.History().Snapshots.front().Image, "50");
+}
+
+// How many bytes the process has on the heap.
+std::size_t HeapBytes() {
+#ifdef __GLIBC__
+    return mallinfo2().uordblks + mallinfo2().hblkhd;
+#else
+    return 0;
+#endif
+}
+
+TEST(UndoRing, ALetterInALargeTextCostsALetter) {
+    const std::string large(std::size_t{8} << 20, 'x');
+    UndoRing ring;
+    ring.Reset(large);
+    ring.Commit(large + "0");
+    const std::size_t before = HeapBytes();
+    for (int i = 1; i < 90; ++i)
+        ring.Commit(large + std::to_string(i));
+    EXPECT_LE(HeapBytes(), before + large.size() / 2);
+    while (ring.CanUndo())
+        ring.UndoStep();
+    EXPECT_EQ(ring.Current(), large);
+}
+
+TEST(UndoRing, WhatWasBeforeIsKnownRightAfterACommit) {
+    UndoRing ring;
+    ring.Reset("0");
+    EXPECT_EQ(ring.Previous(), "");
+    ring.Commit("1");
+    EXPECT_EQ(ring.Previous(), "0");
+    ring.Commit("2");
+    EXPECT_EQ(ring.Previous(), "1");
+    ring.UndoStep();
+    EXPECT_EQ(ring.Previous(), "");
 }
 
 } // namespace
