@@ -34,15 +34,15 @@ FsmDocument WithoutUserCode(FsmDocument document) {
          {&document.General.HeaderComment, &document.General.CodeSeg, &document.General.InitSeg,
           &document.General.NvEm0Data, &document.General.TestSeg, &document.General.Instances})
         *text = text->empty() ? "" : ";";
-    for (const int row : CellRows())
+    for (const RowNumber row : CellRows())
         document.Event(row).Code = document.Event(row).Code.empty() ? "" : ";";
-    for (const int number : StateNumbers()) {
+    for (const StateNumber number : StateNumbers()) {
         StateRecord& state = document.State(number);
         for (std::string* text : {&state.Name, &state.EntryCode, &state.TimeConst, &state.TimingVar})
             *text = text->empty() ? "" : "S";
         state.EntryCode.clear();
         state.TimerId.clear();
-        for (const int row : CellRows())
+        for (const RowNumber row : CellRows())
             state.Actions[row] = state.Actions[row].empty() ? "" : ";";
     }
     return document;

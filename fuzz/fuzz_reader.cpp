@@ -42,7 +42,7 @@ void CheckMessages(const ReadResult& read, std::string_view bytes) {
 FsmDocument Storable(FsmDocument document) {
     for (const int row : {kTimeoutRow, kElseRow})
         document.Event(row) = {};
-    for (const int state : StateNumbers())
+    for (const StateNumber state : StateNumbers())
         document.State(state).LastTab = 0;
     return document;
 }

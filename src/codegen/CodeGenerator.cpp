@@ -21,23 +21,23 @@ namespace {
 class StateLabels {
   public:
     explicit StateLabels(const FsmDocument& document) {
-        for (const int state : StateNumbers()) {
+        for (const StateNumber state : StateNumbers()) {
             entry_[Index(state)] = StateEntryLabel(document, state);
             loop_[Index(state)] = StateLoopLabel(document, state);
         }
     }
 
-    const std::string& Entry(int state) const { return entry_[Index(state)]; }
-    const std::string& Loop(int state) const { return loop_[Index(state)]; }
+    const std::string& Entry(StateNumber state) const { return entry_[Index(state)]; }
+    const std::string& Loop(StateNumber state) const { return loop_[Index(state)]; }
 
   private:
-    static std::size_t Index(int state) {
+    static std::size_t Index(StateNumber state) {
         RequireInRange(state, StateNumbers(), "state");
-        return static_cast<std::size_t>(state);
+        return IndexIn(StateNumbers(), state);
     }
 
-    std::array<std::string, kStateCount + 1> entry_;
-    std::array<std::string, kStateCount + 1> loop_;
+    std::array<std::string, kStateCount> entry_;
+    std::array<std::string, kStateCount> loop_;
 };
 
 // At least as long as the program of most designs gets, so that its text need not move while it grows; only
@@ -48,10 +48,10 @@ std::size_t EstimatedSize(const FsmDocument& document) {
     constexpr std::size_t jumps = 80;         // bytes that a cell takes beside its texts
     std::size_t size = 4096 + document.General.CodeSeg.size() + document.General.TestSeg.size() +
                        document.General.InitSeg.size() + document.General.NvEm0Data.size();
-    for (const int state : StateNumbers()) {
+    for (const StateNumber state : StateNumbers()) {
         const StateRecord& record = document.State(state);
         size += record.EntryCode.size();
-        for (const int row : CellRows()) {
+        for (const RowNumber row : CellRows()) {
             if (record.Targets[row] != kNoState)
                 size += jumps + 3 * document.General.FsmName.size() + record.Actions[row].size() +
                         document.Event(row).Code.size();
@@ -84,12 +84,12 @@ class CodeGenerator {
     void EmitNonVolatileData();
 
     // One state's block, construct by construct.
-    void EmitStateBlock(int state);
-    void EmitStateEntry(const StateRecord& record, int state);
-    void EmitEventRow(const StateRecord& record, int state, int row);
-    void EmitTimeout(const StateRecord& record, int state);
-    void EmitElse(const StateRecord& record, int state);
-    void EmitAction(const StateRecord& record, int state, int row, std::string_view skipWord);
+    void EmitStateBlock(StateNumber state);
+    void EmitStateEntry(const StateRecord& record, StateNumber state);
+    void EmitEventRow(const StateRecord& record, Cell cell);
+    void EmitTimeout(const StateRecord& record, StateNumber state);
+    void EmitElse(const StateRecord& record, StateNumber state);
+    void EmitAction(const StateRecord& record, Cell cell, std::string_view skipWord);
 
     void EmitSegmentHead(std::string_view segment) { text_.EmitLine(segment, origin_); }
     void EmitTimerDefinition(std::string_view timerId);
@@ -170,11 +170,11 @@ void CodeGenerator::EmitCodeSegment() {
 
 void CodeGenerator::EmitStateBlocks() {
     const Reachability reachability = ComputeReachability(document_);
-    for (const int state : StateNumbers()) {
+    for (const StateNumber state : StateNumbers()) {
         if (reachability.Reached(state))
             EmitStateBlock(state);
     }
-    for (const int state : StateNumbers())
+    for (const StateNumber state : StateNumbers())
         Tell(CheckUnreachable(document_, reachability, state));
 }
 
@@ -198,13 +198,13 @@ void CodeGenerator::EmitNonVolatileData() {
     text_.EmitLine(general_.NvEm0Data);
 }
 
-void CodeGenerator::EmitStateBlock(int state) {
+void CodeGenerator::EmitStateBlock(StateNumber state) {
     const StateRecord& record = document_.State(state);
     localLabelCounter_ = 0;
     EmitStateEntry(record, state);
-    for (const int row : EventRows()) {
+    for (const RowNumber row : EventRows()) {
         if (record.Targets[row] != kNoState)
-            EmitEventRow(record, state, row);
+            EmitEventRow(record, {row, state});
     }
     EmitTimeout(record, state);
     EmitElse(record, state);
@@ -213,7 +213,7 @@ void CodeGenerator::EmitStateBlock(int state) {
     text_.EmitLine();
 }
 
-void CodeGenerator::EmitStateEntry(const StateRecord& record, int state) {
+void CodeGenerator::EmitStateEntry(const StateRecord& record, StateNumber state) {
     text_.EmitLabel(labels_.Entry(state));
     text_.EmitLine(record.EntryCode);
     if (StartsTiming(record.TimingMode)) {
@@ -222,25 +222,25 @@ void CodeGenerator::EmitStateEntry(const StateRecord& record, int state) {
     }
     text_.EmitLabel(labels_.Loop(state));
     // A state that ELSE always leaves never waits, so it never yields.
-    const int elseTarget = record.Targets[kElseRow];
+    const StateNumber elseTarget = record.Targets[kElseRow];
     if (polytask_ && (elseTarget == kNoState || elseTarget == state))
         text_.EmitInstruction("YieldTask");
 }
 
-void CodeGenerator::EmitEventRow(const StateRecord& record, int state, int row) {
-    if (Tell(CheckEventCode(document_, state, row)))
+void CodeGenerator::EmitEventRow(const StateRecord& record, Cell cell) {
+    if (Tell(CheckEventCode(document_, cell)))
         return;
-    text_.EmitLine(document_.Event(row).Code);
-    const int target = record.Targets[row];
-    if (!record.Actions[row].empty())
-        EmitAction(record, state, row, "GoIfF");
+    text_.EmitLine(document_.Event(cell.Row).Code);
+    const StateNumber target = record.Targets[cell.Row];
+    if (!record.Actions[cell.Row].empty())
+        EmitAction(record, cell, "GoIfF");
     else // Without an action, staying in the state does not run its entry code again.
-        text_.EmitInstruction("GoifT", target == state ? labels_.Loop(state) : labels_.Entry(target));
+        text_.EmitInstruction("GoifT", target == cell.State ? labels_.Loop(target) : labels_.Entry(target));
 }
 
-void CodeGenerator::EmitTimeout(const StateRecord& record, int state) {
+void CodeGenerator::EmitTimeout(const StateRecord& record, StateNumber state) {
     const bool failed = Tell(CheckTimeout(document_, state));
-    const int target = record.Targets[kTimeoutRow];
+    const StateNumber target = record.Targets[kTimeoutRow];
     if (failed || target == kNoState)
         return;
     const std::string timer = TimerLabel(document_, record.TimerId);
@@ -255,13 +255,13 @@ void CodeGenerator::EmitTimeout(const StateRecord& record, int state) {
     }
     text_.EmitInstruction("STTest", timer, ",", record.TimeConst);
     if (!record.Actions[kTimeoutRow].empty())
-        EmitAction(record, state, kTimeoutRow, "GoIfT");
+        EmitAction(record, {kTimeoutRow, state}, "GoIfT");
     else
         text_.EmitInstruction("GoIfF", labels_.Entry(target));
 }
 
-void CodeGenerator::EmitElse(const StateRecord& record, int state) {
-    const int target = record.Targets[kElseRow];
+void CodeGenerator::EmitElse(const StateRecord& record, StateNumber state) {
+    const StateNumber target = record.Targets[kElseRow];
     if (target == kNoState) {
         text_.EmitInstruction("GoTo", labels_.Loop(state));
         return;
@@ -271,11 +271,11 @@ void CodeGenerator::EmitElse(const StateRecord& record, int state) {
 }
 
 // A transition with an action always enters its target anew, also when that is the state itself.
-void CodeGenerator::EmitAction(const StateRecord& record, int state, int row, std::string_view skipWord) {
-    const std::string skipLabel = ActionSkipLabel(document_, state, localLabelCounter_++);
+void CodeGenerator::EmitAction(const StateRecord& record, Cell cell, std::string_view skipWord) {
+    const std::string skipLabel = ActionSkipLabel(document_, cell.State, localLabelCounter_++);
     text_.EmitInstruction(skipWord, skipLabel);
-    text_.EmitLine(record.Actions[row]);
-    text_.EmitInstruction("GoTo", labels_.Entry(record.Targets[row]));
+    text_.EmitLine(record.Actions[cell.Row]);
+    text_.EmitInstruction("GoTo", labels_.Entry(record.Targets[cell.Row]));
     text_.EmitLabel(skipLabel);
 }
 

@@ -19,33 +19,34 @@ constexpr std::string_view kMissingPrefix =
     "the overall function of this FSM, for example \"PMP\" for a pump\r\n"
     "control FSM";
 
-Finding StateFinding(Severity severity, const FsmDocument& document, int state, int row,
-                     std::string_view what) {
-    return {severity, state, row, "State " + StateTitle(document, state) + std::string(what)};
+Finding StateFinding(Severity severity, const FsmDocument& document, Cell place, std::string_view what) {
+    return {severity, place, "State " + StateTitle(document, place.State) + std::string(what)};
 }
 
 } // namespace
 
-std::string StateTitle(const FsmDocument& document, int state) {
+std::string StateTitle(const FsmDocument& document, StateNumber state) {
     return StateLabel(state, document.State(state).Name);
 }
 
 std::optional<Finding> CheckPrefix(const FsmDocument& document) {
     if (!document.General.FsmName.empty())
         return std::nullopt;
-    return Finding{Severity::Error, 0, 0, std::string(kMissingPrefix)};
+    return Finding{Severity::Error, {}, std::string(kMissingPrefix)};
 }
 
-std::optional<Finding> CheckEventCode(const FsmDocument& document, int state, int row) {
-    if (document.State(state).Targets[row] == kNoState || !document.Event(row).Code.empty())
+std::optional<Finding> CheckEventCode(const FsmDocument& document, Cell cell) {
+    const bool hasTransition = document.State(cell.State).Targets[cell.Row] != kNoState;
+    if (!hasTransition || !document.Event(cell.Row).Code.empty())
         return std::nullopt;
-    return Finding{Severity::Error, state, row, "Missing event test code in row" + SignedNumberText(row)};
+    return Finding{Severity::Error, cell,
+                   "Missing event test code in row" + SignedNumberText(cell.Row.Number())};
 }
 
-std::optional<Finding> CheckTimeout(const FsmDocument& document, int state) {
+std::optional<Finding> CheckTimeout(const FsmDocument& document, StateNumber state) {
     const StateRecord& record = document.State(state);
     const auto finding = [&](Severity severity, std::string_view what) {
-        return StateFinding(severity, document, state, kTimeoutRow, what);
+        return StateFinding(severity, document, {kTimeoutRow, state}, what);
     };
     if (record.Targets[kTimeoutRow] == kNoState) {
         if (record.TimingMode == kNoTiming)
@@ -64,33 +65,33 @@ std::optional<Finding> CheckTimeout(const FsmDocument& document, int state) {
     return std::nullopt;
 }
 
-std::optional<Finding> CheckDeadEnd(const FsmDocument& document, int state) {
+std::optional<Finding> CheckDeadEnd(const FsmDocument& document, StateNumber state) {
     const StateRecord& record = document.State(state);
-    const auto leavesState = [&](int row) {
+    const auto leavesState = [&](RowNumber row) {
         return record.Targets[row] != kNoState && record.Targets[row] != state;
     };
     if (std::any_of(CellRows().begin(), CellRows().end(), leavesState))
         return std::nullopt;
-    return StateFinding(Severity::Warning, document, state, 0, " is a dead end");
+    return StateFinding(Severity::Warning, document, {kNoRow, state}, " is a dead end");
 }
 
-std::optional<Finding> CheckTimeoutAndElse(const FsmDocument& document, int state) {
+std::optional<Finding> CheckTimeoutAndElse(const FsmDocument& document, StateNumber state) {
     const StateRecord& record = document.State(state);
     if (record.Targets[kTimeoutRow] == kNoState || record.Targets[kElseRow] == kNoState)
         return std::nullopt;
-    return StateFinding(Severity::Note, document, state, kElseRow,
+    return StateFinding(Severity::Note, document, {kElseRow, state},
                         " has both a timeout and an ELSE transition.");
 }
 
 std::optional<Finding> CheckUnreachable(const FsmDocument& document, const Reachability& reachability,
-                                        int state) {
+                                        StateNumber state) {
     if (state == StateNumbers().First() || reachability.Reached(state))
         return std::nullopt;
     const StateRecord& record = document.State(state);
-    const auto hasTarget = [&](int row) { return record.Targets[row] != kNoState; };
+    const auto hasTarget = [&](RowNumber row) { return record.Targets[row] != kNoState; };
     if (record.Name.empty() && std::none_of(CellRows().begin(), CellRows().end(), hasTarget))
         return std::nullopt;
-    return StateFinding(Severity::Warning, document, state, 0, " is unreachable");
+    return StateFinding(Severity::Warning, document, {kNoRow, state}, " is unreachable");
 }
 
 } // namespace orvane

@@ -5,6 +5,7 @@
 
 #include "codegen/Reachability.h"
 #include "codegen/Report.h"
+#include "core/Cell.h"
 #include "core/FsmDocument.h"
 
 #include <optional>
@@ -13,24 +14,24 @@
 namespace orvane {
 
 // A state as messages name it: the number, ":" and the name.
-std::string StateTitle(const FsmDocument& document, int state);
+std::string StateTitle(const FsmDocument& document, StateNumber state);
 
 // The machine has no name, so that there is no prefix for its labels.
 std::optional<Finding> CheckPrefix(const FsmDocument& document);
 
 // A transition in this event row, 6..54, whose event has no test code.
-std::optional<Finding> CheckEventCode(const FsmDocument& document, int state, int row);
+std::optional<Finding> CheckEventCode(const FsmDocument& document, Cell cell);
 
 // A timing mode without a timeout transition (a note), or a timeout transition without what its mode needs.
-std::optional<Finding> CheckTimeout(const FsmDocument& document, int state);
+std::optional<Finding> CheckTimeout(const FsmDocument& document, StateNumber state);
 
 // No transition leads to another state.
-std::optional<Finding> CheckDeadEnd(const FsmDocument& document, int state);
+std::optional<Finding> CheckDeadEnd(const FsmDocument& document, StateNumber state);
 
-std::optional<Finding> CheckTimeoutAndElse(const FsmDocument& document, int state);
+std::optional<Finding> CheckTimeoutAndElse(const FsmDocument& document, StateNumber state);
 
 // In use, by its name or by a target, but not reached. State 1 is never called unreachable.
 std::optional<Finding> CheckUnreachable(const FsmDocument& document, const Reachability& reachability,
-                                        int state);
+                                        StateNumber state);
 
 } // namespace orvane

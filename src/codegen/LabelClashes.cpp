@@ -4,6 +4,7 @@
 #include "codegen/Labels.h"
 #include "codegen/Reachability.h"
 #include "codegen/TimerList.h"
+#include "core/Cell.h"
 #include "core/TimingMode.h"
 #include "text/AnsiText.h"
 
@@ -13,21 +14,21 @@ namespace orvane {
 
 namespace {
 
-bool HasActionBlock(const FsmDocument& document, int state, int row) {
-    const StateRecord& record = document.State(state);
-    if (record.Targets[row] == kNoState || record.Actions[row].empty())
+bool HasActionBlock(const FsmDocument& document, Cell cell) {
+    const StateRecord& record = document.State(cell.State);
+    if (record.Targets[cell.Row] == kNoState || record.Actions[cell.Row].empty())
         return false;
-    if (row == kTimeoutRow)
+    if (cell.Row == kTimeoutRow)
         return HasConstantLimit(record.TimingMode) && !Trim(record.TimeConst).empty();
-    return row != kElseRow && !document.Event(row).Code.empty();
+    return cell.Row != kElseRow && !document.Event(cell.Row).Code.empty();
 }
 
-void AddLabelsOfState(std::vector<std::string>& labels, const FsmDocument& document, int state) {
+void AddLabelsOfState(std::vector<std::string>& labels, const FsmDocument& document, StateNumber state) {
     labels.push_back(StateEntryLabel(document, state));
     labels.push_back(StateLoopLabel(document, state));
     unsigned counter = 0;
-    for (const int row : CellRows()) {
-        if (HasActionBlock(document, state, row))
+    for (const RowNumber row : CellRows()) {
+        if (HasActionBlock(document, {row, state}))
             labels.push_back(ActionSkipLabel(document, state, counter++));
     }
 }
@@ -48,7 +49,7 @@ std::vector<std::string> LabelClashes(const FsmDocument& document) {
     TimerList timers;
     if (document.View.Polytask)
         labels.push_back(LaunchLabel(document));
-    for (const int state : StateNumbers()) {
+    for (const StateNumber state : StateNumbers()) {
         if (!reachability.Reached(state))
             continue;
         AddLabelsOfState(labels, document, state);

@@ -16,16 +16,16 @@ bool HasLabelName(const StateRecord& state) {
 
 std::string SpacesToUnderscores(std::string_view text) { return Replace(text, ' ', '_'); }
 
-std::string StateEntryLabel(const FsmDocument& document, int state) {
+std::string StateEntryLabel(const FsmDocument& document, StateNumber state) {
     const StateRecord& record = document.State(state);
     const std::string named = HasLabelName(record) ? "_" + record.Name : "";
-    return SpacesToUnderscores(document.General.FsmName + named + "_Set" + NumberText(state));
+    return SpacesToUnderscores(document.General.FsmName + named + "_Set" + NumberText(state.Number()));
 }
 
-std::string StateLoopLabel(const FsmDocument& document, int state) {
+std::string StateLoopLabel(const FsmDocument& document, StateNumber state) {
     const StateRecord& record = document.State(state);
     const std::string named = HasLabelName(record) ? "_" + record.Name + "_" : "";
-    return SpacesToUnderscores(document.General.FsmName + named + NumberText(state));
+    return SpacesToUnderscores(document.General.FsmName + named + NumberText(state.Number()));
 }
 
 std::string TimerLabel(const FsmDocument& document, std::string_view timerId) {
@@ -35,8 +35,8 @@ std::string TimerLabel(const FsmDocument& document, std::string_view timerId) {
 
 std::string LaunchLabel(const FsmDocument& document) { return document.General.FsmName + "_Launch"; }
 
-std::string ActionSkipLabel(const FsmDocument& document, int state, unsigned counter) {
-    return document.General.FsmName + "_" + NumberText(state) + "_" + HexText(counter);
+std::string ActionSkipLabel(const FsmDocument& document, StateNumber state, unsigned counter) {
+    return document.General.FsmName + "_" + NumberText(state.Number()) + "_" + HexText(counter);
 }
 
 std::string InstanceSuffix(const FsmDocument& document) {

@@ -12,10 +12,10 @@ namespace orvane {
 std::string SpacesToUnderscores(std::string_view text);
 
 // Where transitions into a state jump to: its entry code runs from here.
-std::string StateEntryLabel(const FsmDocument& document, int state);
+std::string StateEntryLabel(const FsmDocument& document, StateNumber state);
 
 // Where the state's polling loop starts.
-std::string StateLoopLabel(const FsmDocument& document, int state);
+std::string StateLoopLabel(const FsmDocument& document, StateNumber state);
 
 // The timer of the given id; an empty id is the default timer.
 std::string TimerLabel(const FsmDocument& document, std::string_view timerId);
@@ -24,7 +24,7 @@ std::string TimerLabel(const FsmDocument& document, std::string_view timerId);
 std::string LaunchLabel(const FsmDocument& document);
 
 // Behind the action of a transition that is not taken; the counter numbers the actions of one state from 0.
-std::string ActionSkipLabel(const FsmDocument& document, int state, unsigned counter);
+std::string ActionSkipLabel(const FsmDocument& document, StateNumber state, unsigned counter);
 
 // What follows a timer's definition: a tab and the number of instances, or nothing when there is none.
 std::string InstanceSuffix(const FsmDocument& document);

@@ -10,17 +10,17 @@
 namespace orvane {
 
 namespace {
-constexpr int kStartState = 1;
+constexpr StateNumber kStartState = 1;
 }
 
 // Depth first; at most one call for each of the 100 states is open at a time.
-void Reachability::Visit(const FsmDocument& document, int state) {
+void Reachability::Visit(const FsmDocument& document, StateNumber state) {
     if (Reached(state))
         return;
-    reached_.set(static_cast<std::size_t>(state));
+    reached_.set(Bit(state));
     const StateRecord& record = document.State(state);
-    for (const int row : CellRows()) {
-        const int target = record.Targets[row];
+    for (const RowNumber row : CellRows()) {
+        const StateNumber target = record.Targets[row];
         if (target == kNoState)
             continue;
         returnsToStart_ = returnsToStart_ || target == kStartState;
@@ -30,7 +30,7 @@ void Reachability::Visit(const FsmDocument& document, int state) {
 
 Reachability::Reachability(const FsmDocument& document) {
     Visit(document, kStartState);
-    reached_.set(kStartState, returnsToStart_);
+    reached_.set(Bit(kStartState), returnsToStart_);
 }
 
 Reachability ComputeReachability(const FsmDocument& document) { return Reachability(document); }

@@ -14,18 +14,19 @@ class Reachability {
     explicit Reachability(const FsmDocument& document);
 
     // State 1..100; anything else throws BoundsError.
-    bool Reached(int state) const {
+    bool Reached(StateNumber state) const {
         RequireInRange(state, StateNumbers(), "state");
-        return reached_.test(static_cast<std::size_t>(state));
+        return reached_.test(Bit(state));
     }
 
     // Some transition of a reached state leads to state 1.
     bool ReturnsToStart() const { return returnsToStart_; }
 
   private:
-    void Visit(const FsmDocument& document, int state);
+    void Visit(const FsmDocument& document, StateNumber state);
+    static std::size_t Bit(StateNumber state) { return IndexIn(StateNumbers(), state); }
 
-    std::bitset<kStateCount + 1> reached_;
+    std::bitset<kStateCount> reached_;
     bool returnsToStart_ = false;
 };
 

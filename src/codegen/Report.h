@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "core/Cell.h"
+
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -16,8 +18,7 @@ std::string_view SeverityName(Severity severity);
 // Something a generation run found in the design, and where.
 struct Finding {
     Severity Kind = Severity::Note;
-    int State = 0; // 1..100; 0 when it concerns the machine as a whole
-    int Row = 0;   // 4..54; 0 when it concerns no row
+    Cell Place; // kNoState when it concerns the machine as a whole, kNoRow when it concerns no row
     std::string Message;
 
     bool operator==(const Finding&) const = default;

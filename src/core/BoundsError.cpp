@@ -5,7 +5,7 @@
 
 namespace orvane {
 
-void ThrowBoundsError(int number, NumberRange range, const char* what) {
+void ThrowBoundsError(const char* what, int number, NumberRange<int> range) {
     throw BoundsError(std::string(what) + " " + std::to_string(number) + " is outside " +
                       std::to_string(range.First()) + ".." + std::to_string(range.Last()));
 }

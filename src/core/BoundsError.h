@@ -3,6 +3,8 @@
 
 #include "core/TableGeometry.h"
 
+#include <cstdint>
+#include <optional>
 #include <stdexcept>
 
 namespace orvane {
@@ -13,12 +15,21 @@ class BoundsError : public std::out_of_range {
     using std::out_of_range::out_of_range;
 };
 
-[[noreturn]] void ThrowBoundsError(int number, NumberRange range, const char* what);
+[[noreturn]] void ThrowBoundsError(const char* what, int number, NumberRange<int> range);
 
 // Throws BoundsError unless the number lies in the range; `what` names it in the error's text.
-inline void RequireInRange(int number, NumberRange range, const char* what) {
+template <typename Number>
+void RequireInRange(Number number, NumberRange<Number> range, const char* what) {
     if (!range.Contains(number))
-        ThrowBoundsError(number, range, what);
+        ThrowBoundsError(what, number.Number(), {range.First().Number(), range.Last().Number()});
+}
+
+// The number as one of the range, none when it lies outside.
+template <typename Number>
+constexpr std::optional<Number> NumberIn(NumberRange<Number> range, std::int64_t number) {
+    if (number < range.First().Number() || number > range.Last().Number())
+        return std::nullopt;
+    return Number(static_cast<int>(number));
 }
 
 } // namespace orvane

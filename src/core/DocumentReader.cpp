@@ -23,9 +23,9 @@ struct TextField {
 };
 
 template <typename Record>
-struct NumberField {
+struct LengthField {
     std::string_view Tag;
-    std::int32_t Record::*Member;
+    Twips Record::*Member;
 };
 
 struct BooleanField {
@@ -53,12 +53,10 @@ constexpr auto kStateTexts =
                                            {tag::kTimeConst, &StateRecord::TimeConst},
                                            {tag::kTimingVar, &StateRecord::TimingVar},
                                            {tag::kTimerId, &StateRecord::TimerId}});
-constexpr auto kStateNumbers =
-    std::to_array<NumberField<StateRecord>>({{tag::kTimingMode, &StateRecord::TimingMode},
-                                             {tag::kColWidth, &StateRecord::ColWidth},
-                                             {tag::kOldColWidth, &StateRecord::ColWidth}});
+constexpr auto kStateWidths = std::to_array<LengthField<StateRecord>>(
+    {{tag::kColWidth, &StateRecord::ColWidth}, {tag::kOldColWidth, &StateRecord::ColWidth}});
 constexpr auto kRowHeights =
-    std::to_array<NumberField<RowHeights>>({{tag::kElse, &RowHeights::Else},
+    std::to_array<LengthField<RowHeights>>({{tag::kElse, &RowHeights::Else},
                                             {tag::kExitAction, &RowHeights::ExitAction},
                                             {tag::kTimingModeRow, &RowHeights::TimingMode},
                                             {tag::kTimeTargetRow, &RowHeights::TimeTarget}});
@@ -126,7 +124,8 @@ class Reader {
     void ReadBlock(std::string_view closer, Field field);
 
     // The number in the head of an event or a state.
-    int HeadNumber(NumberRange range);
+    template <typename Kind>
+    Kind HeadNumber(NumberRange<Kind> range);
     void RequireWholeValue() const;
     void SetText(std::string& text, std::string_view value);
     // The number at the front of the text; outside the range reading breaks off.
@@ -135,8 +134,9 @@ class Reader {
     T NumberOf(std::string_view text) const {
         return static_cast<T>(Number(text, std::numeric_limits<T>::min(), std::numeric_limits<T>::max()));
     }
-    int NumberOf(std::string_view text, NumberRange range) const {
-        return static_cast<int>(Number(text, range.First(), range.Last()));
+    template <typename Kind>
+    Kind NumberOf(std::string_view text, NumberRange<Kind> range) const {
+        return NumberIn(range, Number(text, range.First().Number(), range.Last().Number())).value();
     }
 
     void TellUnknownTag(std::string_view tag);
@@ -229,9 +229,9 @@ void Reader::ReadRowHeights() {
 }
 
 void Reader::ReadEvent() {
-    const int row = HeadNumber(CellRows());
+    const RowNumber row = HeadNumber(CellRows());
     EventRecord& event = result_.Document.Event(row);
-    block_ = " in event row " + NumberText(row);
+    block_ = " in event row " + NumberText(row.Number());
     ReadBlock(tag::kEventEnd, [&](std::string_view tag) {
         if (const auto* text = Find(kEventTexts, tag))
             SetText(event.*text->Member, scanner_.NextValue());
@@ -241,16 +241,18 @@ void Reader::ReadEvent() {
 }
 
 void Reader::ReadState() {
-    const int number = HeadNumber(StateNumbers());
+    const StateNumber number = HeadNumber(StateNumbers());
     StateRecord& state = result_.Document.State(number);
-    block_ = " in state " + NumberText(number);
+    block_ = " in state " + NumberText(number.Number());
     ReadBlock(tag::kStateEnd, [&](std::string_view tag) {
         if (tag == tag::kTransitions)
             ReadTransitions(state);
         else if (const auto* text = Find(kStateTexts, tag))
             SetText(state.*text->Member, scanner_.NextValue());
-        else if (const auto* value = Find(kStateNumbers, tag))
-            state.*value->Member = NumberOf<std::int32_t>(scanner_.NextValue());
+        else if (const auto* width = Find(kStateWidths, tag))
+            state.*width->Member = NumberOf<std::int32_t>(scanner_.NextValue());
+        else if (tag == tag::kTimingMode)
+            state.TimingMode = NumberOf<std::int32_t>(scanner_.NextValue());
         else if (tag == tag::kLastTab)
             state.LastTab = NumberOf<std::int16_t>(scanner_.NextValue());
         else
@@ -265,15 +267,16 @@ void Reader::ReadTransitions(StateRecord& state) {
             return;
         }
         const IndexedValue value = SplitIndex(scanner_.NextValue());
-        const int row = NumberOf(value.Index, CellRows());
+        const RowNumber row = NumberOf(value.Index, CellRows());
         if (tag == tag::kTarget)
-            state.Targets[row] = static_cast<std::int16_t>(NumberOf(value.Rest, TargetNumbers()));
+            state.Targets[row] = NumberOf(value.Rest, TargetNumbers());
         else
             SetText(state.Actions[row], value.Rest);
     });
 }
 
-int Reader::HeadNumber(NumberRange range) {
+template <typename Kind>
+Kind Reader::HeadNumber(NumberRange<Kind> range) {
     const std::string_view value = scanner_.NextValue();
     RequireWholeValue();
     return NumberOf(SplitIndex(value).Index, range);

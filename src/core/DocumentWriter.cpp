@@ -24,9 +24,9 @@ class Writer {
     std::string Write() {
         WriteGeneral();
         WriteRowHeights();
-        for (const int row : EventRows())
+        for (const RowNumber row : EventRows())
             WriteEvent(row);
-        for (const int state : StateNumbers())
+        for (const StateNumber state : StateNumbers())
             WriteState(state);
         return std::move(bytes_);
     }
@@ -34,8 +34,8 @@ class Writer {
   private:
     void WriteGeneral();
     void WriteRowHeights();
-    void WriteEvent(int row);
-    void WriteState(int state);
+    void WriteEvent(RowNumber row);
+    void WriteState(StateNumber number);
     void WriteCells(const StateRecord& state);
     bool IsStored(const StateRecord& record) const {
         return !IsEmpty(record) || record.ColWidth != document_.DefaultColumnWidth();
@@ -76,7 +76,7 @@ void Writer::WriteGeneral() {
     Field(kTopLevel, tag::kNvEm0Data, general.NvEm0Data);
     Field(kTopLevel, tag::kTestSeg, general.TestSeg);
     Field(kTopLevel, tag::kInstances, general.Instances);
-    Field(kTopLevel, tag::kCol0Width, NumberText(view.Col0Width));
+    Field(kTopLevel, tag::kCol0Width, NumberText(view.Col0Width.Count()));
     // The format holds this field twice; readers keep the last one.
     Field(kTopLevel, tag::kPolytask, BooleanText(view.Polytask));
 }
@@ -84,29 +84,29 @@ void Writer::WriteGeneral() {
 void Writer::WriteRowHeights() {
     const RowHeights& heights = document_.View.RowVisible;
     Field(kTopLevel, tag::kRowVisible);
-    Field(kInSection, tag::kElse, NumberText(heights.Else));
-    Field(kInSection, tag::kExitAction, NumberText(heights.ExitAction));
-    Field(kInSection, tag::kTimingModeRow, NumberText(heights.TimingMode));
-    Field(kInSection, tag::kTimeTargetRow, NumberText(heights.TimeTarget));
+    Field(kInSection, tag::kElse, NumberText(heights.Else.Count()));
+    Field(kInSection, tag::kExitAction, NumberText(heights.ExitAction.Count()));
+    Field(kInSection, tag::kTimingModeRow, NumberText(heights.TimingMode.Count()));
+    Field(kInSection, tag::kTimeTargetRow, NumberText(heights.TimeTarget.Count()));
     Field(kTopLevel, tag::kRowVisibleEnd);
 }
 
-void Writer::WriteEvent(int row) {
+void Writer::WriteEvent(RowNumber row) {
     const EventRecord& event = document_.Event(row);
     if (IsEmpty(event))
         return;
-    Field(kTopLevel, tag::kEvent, NumberText(row), ":");
+    Field(kTopLevel, tag::kEvent, NumberText(row.Number()), ":");
     FieldUnlessEmpty(tag::kName, event.Name);
     FieldUnlessEmpty(tag::kTooltip, event.Tooltip);
     FieldUnlessEmpty(tag::kCode, event.Code);
     Field(kTopLevel, tag::kEventEnd);
 }
 
-void Writer::WriteState(int number) {
+void Writer::WriteState(StateNumber number) {
     const StateRecord& state = document_.State(number);
     if (!IsStored(state))
         return;
-    Field(kTopLevel, tag::kState, NumberText(number), ":");
+    Field(kTopLevel, tag::kState, NumberText(number.Number()), ":");
     FieldUnlessEmpty(tag::kName, state.Name);
     FieldUnlessEmpty(tag::kTooltip, state.Tooltip);
     FieldUnlessEmpty(tag::kEntry, state.EntryCode);
@@ -118,22 +118,22 @@ void Writer::WriteState(int number) {
     FieldUnlessEmpty(tag::kTimeConst, state.TimeConst);
     FieldUnlessEmpty(tag::kTimingVar, state.TimingVar);
     FieldUnlessEmpty(tag::kTimerId, state.TimerId);
-    Field(kInSection, tag::kColWidth, NumberText(state.ColWidth));
+    Field(kInSection, tag::kColWidth, NumberText(state.ColWidth.Count()));
     WriteCells(state);
     Marker(kTopLevel, tag::kStateEnd);
 }
 
 void Writer::WriteCells(const StateRecord& state) {
     bool listOpen = false;
-    const auto cellField = [&](std::string_view tag, int row, std::string_view value) {
+    const auto cellField = [&](std::string_view tag, RowNumber row, std::string_view value) {
         if (!listOpen)
             Marker(kInSection, tag::kTransitions);
         listOpen = true;
-        Field(kInCellList, tag, NumberText(row), ":", value);
+        Field(kInCellList, tag, NumberText(row.Number()), ":", value);
     };
-    for (const int row : CellRows()) {
+    for (const RowNumber row : CellRows()) {
         if (state.Targets[row] != kNoState)
-            cellField(tag::kTarget, row, NumberText(state.Targets[row]));
+            cellField(tag::kTarget, row, NumberText(state.Targets[row].Number()));
         if (!state.Actions[row].empty())
             cellField(tag::kAction, row, state.Actions[row]);
     }

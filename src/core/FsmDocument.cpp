@@ -7,7 +7,7 @@
 namespace orvane {
 
 bool IsEmpty(const StateRecord& state) {
-    const auto emptyCell = [&state](int row) {
+    const auto emptyCell = [&state](RowNumber row) {
         return state.Targets[row] == kNoState && state.Actions[row].empty();
     };
     return state.Name.empty() && state.Tooltip.empty() && state.EntryCode.empty() && state.ExitCode.empty() &&
@@ -15,29 +15,29 @@ bool IsEmpty(const StateRecord& state) {
            state.TimerId.empty() && std::all_of(CellRows().begin(), CellRows().end(), emptyCell);
 }
 
-FsmDocument::FsmDocument(std::int32_t defaultColumnWidth)
+FsmDocument::FsmDocument(Twips defaultColumnWidth)
     : defaultColumnWidth_(defaultColumnWidth), states_(kStateCount), events_(kCellRowCount) {
     ClearDataBase(false);
 }
 
-StateRecord& FsmDocument::State(int number) {
+StateRecord& FsmDocument::State(StateNumber number) {
     RequireInRange(number, StateNumbers(), "state");
-    return states_[static_cast<std::size_t>(number - StateNumbers().First())];
+    return states_[IndexIn(StateNumbers(), number)];
 }
 
-const StateRecord& FsmDocument::State(int number) const {
+const StateRecord& FsmDocument::State(StateNumber number) const {
     RequireInRange(number, StateNumbers(), "state");
-    return states_[static_cast<std::size_t>(number - StateNumbers().First())];
+    return states_[IndexIn(StateNumbers(), number)];
 }
 
-EventRecord& FsmDocument::Event(int row) {
+EventRecord& FsmDocument::Event(RowNumber row) {
     RequireInRange(row, CellRows(), "row");
-    return events_[static_cast<std::size_t>(row - CellRows().First())];
+    return events_[IndexIn(CellRows(), row)];
 }
 
-const EventRecord& FsmDocument::Event(int row) const {
+const EventRecord& FsmDocument::Event(RowNumber row) const {
     RequireInRange(row, CellRows(), "row");
-    return events_[static_cast<std::size_t>(row - CellRows().First())];
+    return events_[IndexIn(CellRows(), row)];
 }
 
 StateRecord FsmDocument::StateTemplate() const {
@@ -57,7 +57,7 @@ void FsmDocument::ClearDataBase(bool keepWidths, const TraceSink& trace) {
     const EventRecord eventTemplate = EventTemplate();
     mark("CDBc");
     for (StateRecord& state : states_) {
-        const std::int32_t width = keepWidths ? state.ColWidth : defaultColumnWidth_;
+        const Twips width = keepWidths ? state.ColWidth : defaultColumnWidth_;
         state = stateTemplate;
         state.ColWidth = width;
     }

@@ -12,7 +12,7 @@
 
 namespace orvane {
 
-inline constexpr std::int32_t kDefaultColumnWidth = 945; // twips
+inline constexpr Twips kDefaultColumnWidth = 945;
 
 // Receives the short labels that mark progress through start-up and clearing; an empty one receives nothing.
 using TraceSink = std::function<void(std::string_view label)>;
@@ -24,19 +24,19 @@ using TraceSink = std::function<void(std::string_view label)>;
 // nothing.
 class FsmDocument {
   public:
-    explicit FsmDocument(std::int32_t defaultColumnWidth = kDefaultColumnWidth);
+    explicit FsmDocument(Twips defaultColumnWidth = kDefaultColumnWidth);
 
-    StateRecord& State(int number);
-    const StateRecord& State(int number) const;
-    EventRecord& Event(int row);
-    const EventRecord& Event(int row) const;
+    StateRecord& State(StateNumber number);
+    const StateRecord& State(StateNumber number) const;
+    EventRecord& Event(RowNumber row);
+    const EventRecord& Event(RowNumber row) const;
 
     // The cleared records that clearing, inserting and deleting put in place.
     StateRecord StateTemplate() const;
     static EventRecord EventTemplate() { return {}; }
 
-    // The width in twips of a state column when nothing else says.
-    std::int32_t DefaultColumnWidth() const { return defaultColumnWidth_; }
+    // The width of a state column when nothing else says.
+    Twips DefaultColumnWidth() const { return defaultColumnWidth_; }
 
     // Empties states, events and general code; the builder script's path and the view options stay. With
     // keepWidths the columns keep their widths, else they get the default.
@@ -48,7 +48,7 @@ class FsmDocument {
     bool operator==(const FsmDocument&) const = default;
 
   private:
-    std::int32_t defaultColumnWidth_;
+    Twips defaultColumnWidth_;
     // Both have their full size for life. On the heap, because together they are too large for a stack.
     std::vector<StateRecord> states_;
     std::vector<EventRecord> events_;

@@ -12,8 +12,8 @@ namespace orvane {
 template <typename T>
 class RowArray {
   public:
-    T& operator[](int row) { return elements_[Index(row)]; }
-    const T& operator[](int row) const { return elements_[Index(row)]; }
+    T& operator[](RowNumber row) { return elements_[Index(row)]; }
+    const T& operator[](RowNumber row) const { return elements_[Index(row)]; }
 
     // All elements, from row 4 to row 54.
     auto begin() { return elements_.begin(); }
@@ -22,9 +22,9 @@ class RowArray {
     bool operator==(const RowArray&) const = default;
 
   private:
-    static std::size_t Index(int row) {
+    static std::size_t Index(RowNumber row) {
         RequireInRange(row, CellRows(), "row");
-        return static_cast<std::size_t>(row - kFirstCellRow);
+        return IndexIn(CellRows(), row);
     }
 
     std::array<T, kCellRowCount> elements_{};

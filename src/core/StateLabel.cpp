@@ -6,8 +6,8 @@
 
 namespace orvane {
 
-std::string StateLabel(int number, std::string_view name) {
-    return std::string(Trim(NumberText(number) + ":" + std::string(name)));
+std::string StateLabel(StateNumber number, std::string_view name) {
+    return std::string(Trim(NumberText(number.Number()) + ":" + std::string(name)));
 }
 
 } // namespace orvane

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "core/Length.h"
 #include "core/RowArray.h"
 
 #include <cstdint>
@@ -17,12 +18,12 @@ struct StateRecord {
     std::string EntryCode;
     std::string ExitCode;        // documentation only: never generated
     std::int32_t TimingMode = 0; // 0 none, 1..4 see core/TimingMode.h; other values come from foreign files
-    RowArray<std::int16_t> Targets; // 0 no transition, 1..100 the state to go to
+    RowArray<StateNumber> Targets; // kNoState: no transition; else the state to go to, 1..100
     RowArray<std::string> Actions;
     std::string TimeConst;
     std::string TimingVar;
     std::string TimerId;
-    std::int32_t ColWidth = 0; // twips
+    Twips ColWidth = 0;
     std::int16_t LastTab = 0;  // the tab of the state editor that was last shown
 
     bool operator==(const StateRecord&) const = default;

@@ -5,6 +5,8 @@
 // itself, rows 4..54 hold transitions: 4 the timeout, 5 the ELSE, 6..54 the events.
 #pragma once
 
+#include "core/TableNumber.h"
+
 #include <cstddef>
 #include <iterator>
 
@@ -12,6 +14,8 @@ namespace orvane {
 
 inline constexpr int kStateCount = 100;
 inline constexpr int kNoState = 0; // as a target: the cell has no transition
+
+inline constexpr int kNoRow = 0; // of what concerns no cell
 
 inline constexpr int kHeadRow = 0;
 inline constexpr int kEntryActionRow = 1;
@@ -27,46 +31,62 @@ inline constexpr int kCellRowCount = kLastRow - kFirstCellRow + 1;
 inline constexpr int kTableRows = kLastRow + 1;
 inline constexpr int kTableColumns = kStateCount + 1;
 
-// Whole numbers First..Last, both included, for range-based for.
+// The numbers First..Last of one kind, both included, for range-based for.
+template <typename Number>
 class NumberRange {
   public:
     class Iterator {
       public:
         using iterator_category = std::forward_iterator_tag;
-        using value_type = int;
+        using value_type = Number;
         using difference_type = std::ptrdiff_t;
-        using pointer = const int*;
-        using reference = int;
+        using pointer = const Number*;
+        using reference = Number;
 
         constexpr Iterator() = default;
-        constexpr explicit Iterator(int value) : value_(value) {}
-        constexpr int operator*() const { return value_; }
+        constexpr explicit Iterator(Number value) : value_(value) {}
+        constexpr Number operator*() const { return value_; }
         constexpr Iterator& operator++() {
             ++value_;
             return *this;
         }
-        constexpr Iterator operator++(int) { return Iterator(value_++); }
+        constexpr Iterator operator++(int) {
+            const Iterator before = *this;
+            ++value_;
+            return before;
+        }
         constexpr bool operator==(const Iterator&) const = default;
 
       private:
-        int value_ = 0;
+        Number value_;
     };
 
-    constexpr NumberRange(int first, int last) : first_(first), last_(last) {}
+    constexpr NumberRange(Number first, Number last) : first_(first), last_(last) {}
     constexpr Iterator begin() const { return Iterator(first_); }
     constexpr Iterator end() const { return Iterator(last_ + 1); }
-    constexpr bool Contains(long long number) const { return number >= first_ && number <= last_; }
-    constexpr int First() const { return first_; }
-    constexpr int Last() const { return last_; }
+    constexpr bool Contains(Number number) const { return number >= first_ && number <= last_; }
+    constexpr Number First() const { return first_; }
+    constexpr Number Last() const { return last_; }
 
   private:
-    int first_;
-    int last_;
+    Number first_;
+    Number last_;
 };
 
-constexpr NumberRange StateNumbers() { return {1, kStateCount}; }
-constexpr NumberRange TargetNumbers() { return {kNoState, kStateCount}; }
-constexpr NumberRange CellRows() { return {kFirstCellRow, kLastRow}; }
-constexpr NumberRange EventRows() { return {kFirstEventRow, kLastRow}; }
+using RowRange = NumberRange<RowNumber>;
+using StateRange = NumberRange<StateNumber>;
+
+constexpr StateRange StateNumbers() { return {1, kStateCount}; }
+constexpr StateRange TargetNumbers() { return {kNoState, kStateCount}; }
+constexpr StateRange TableColumns() { return {kNoState, kStateCount}; } // the row heads' one is 0
+constexpr RowRange TableRows() { return {kHeadRow, kLastRow}; }
+constexpr RowRange CellRows() { return {kFirstCellRow, kLastRow}; }
+constexpr RowRange EventRows() { return {kFirstEventRow, kLastRow}; }
+
+// Where the record of a number stands in an array of all of them.
+template <typename Number>
+constexpr std::size_t IndexIn(NumberRange<Number> range, Number number) {
+    return static_cast<std::size_t>(number - range.First());
+}
 
 } // namespace orvane

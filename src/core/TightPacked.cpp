@@ -5,6 +5,8 @@
 #include "text/ForwardSearch.h"
 #include "text/NumberText.h"
 
+#include <optional>
+
 namespace orvane {
 
 namespace {
@@ -30,11 +32,11 @@ class Packer {
     void Text(std::string_view text) { image_.append(text) += kDelimiter; }
 
     void PackEvents(const FsmDocument& document) {
-        for (const int row : CellRows()) {
+        for (const RowNumber row : CellRows()) {
             const EventRecord& event = document.Event(row);
             if (IsEmpty(event))
                 continue;
-            Number(row);
+            Number(row.Number());
             Text(event.Name);
             Text(event.Code);
             Text(event.Tooltip);
@@ -43,11 +45,11 @@ class Packer {
     }
 
     void PackStates(const FsmDocument& document) {
-        for (const int number : StateNumbers()) {
+        for (const StateNumber number : StateNumbers()) {
             const StateRecord& state = document.State(number);
             if (IsEmpty(state))
                 continue;
-            Number(number);
+            Number(number.Number());
             PackState(state);
         }
         Number(0);
@@ -58,11 +60,11 @@ class Packer {
                                         &state.TimeConst, &state.TimingVar, &state.TimerId})
             Text(*text);
         Number(state.TimingMode >= 0 && state.TimingMode < kUnknownMode ? state.TimingMode : kUnknownMode);
-        for (const int row : CellRows()) {
+        for (const RowNumber row : CellRows()) {
             if (state.Targets[row] == kNoState && state.Actions[row].empty())
                 continue;
-            Number(row);
-            Number(state.Targets[row]);
+            Number(row.Number());
+            Number(state.Targets[row].Number());
             Text(state.Actions[row]);
         }
         Number(0);
@@ -99,9 +101,11 @@ class Unpacker {
     void UnpackGeneral();
 
     int Number();
-    int Number(NumberRange range, std::string_view what);
+    template <typename Kind>
+    Kind Number(NumberRange<Kind> range, std::string_view what);
     // 0 ends a list; any other number has to lie in the range.
-    int NumberOrEnd(NumberRange range, std::string_view what);
+    template <typename Kind>
+    std::optional<Kind> NumberOrEnd(NumberRange<Kind> range, std::string_view what);
     void Text(std::string& text);
 
     std::string_view image_;
@@ -128,13 +132,13 @@ std::vector<std::string> Unpacker::Unpack() {
 // ones.
 void Unpacker::UnpackEvents() {
     EventRecord cleared = FsmDocument::EventTemplate();
-    for (const int row : CellRows()) {
+    for (const RowNumber row : CellRows()) {
         EventRecord& event = document_.Event(row);
         cleared.LastTab = event.LastTab;
         event = cleared;
     }
-    while (const int row = NumberOrEnd(CellRows(), "event row")) {
-        EventRecord& event = document_.Event(row);
+    while (const std::optional<RowNumber> row = NumberOrEnd(CellRows(), "event row")) {
+        EventRecord& event = document_.Event(*row);
         for (std::string* text : {&event.Name, &event.Code, &event.Tooltip})
             Text(*text);
     }
@@ -142,14 +146,14 @@ void Unpacker::UnpackEvents() {
 
 void Unpacker::UnpackStates() {
     StateRecord cleared = document_.StateTemplate();
-    for (const int number : StateNumbers()) {
+    for (const StateNumber number : StateNumbers()) {
         StateRecord& state = document_.State(number);
         cleared.ColWidth = state.ColWidth;
         cleared.LastTab = state.LastTab;
         state = cleared;
     }
-    while (const int number = NumberOrEnd(StateNumbers(), "state")) {
-        StateRecord& state = document_.State(number);
+    while (const std::optional<StateNumber> number = NumberOrEnd(StateNumbers(), "state")) {
+        StateRecord& state = document_.State(*number);
         for (std::string* text : {&state.Name, &state.Tooltip, &state.EntryCode, &state.ExitCode,
                                   &state.TimeConst, &state.TimingVar, &state.TimerId})
             Text(*text);
@@ -159,9 +163,9 @@ void Unpacker::UnpackStates() {
 }
 
 void Unpacker::UnpackCells(StateRecord& state) {
-    while (const int row = NumberOrEnd(CellRows(), "cell row")) {
-        state.Targets[row] = static_cast<std::int16_t>(Number(TargetNumbers(), "target"));
-        Text(state.Actions[row]);
+    while (const std::optional<RowNumber> row = NumberOrEnd(CellRows(), "cell row")) {
+        state.Targets[*row] = Number(TargetNumbers(), "target");
+        Text(state.Actions[*row]);
     }
     Number(); // the second of the two zeros
 }
@@ -181,17 +185,19 @@ int Unpacker::Number() {
     return static_cast<unsigned char>(image_[position_++]);
 }
 
-int Unpacker::Number(NumberRange range, std::string_view what) {
+template <typename Kind>
+Kind Unpacker::Number(NumberRange<Kind> range, std::string_view what) {
     const int number = Number();
     if (!range.Contains(number))
         throw BreakOff{"The snapshot holds the " + std::string(what) + " " + NumberText(number)};
     return number;
 }
 
-int Unpacker::NumberOrEnd(NumberRange range, std::string_view what) {
+template <typename Kind>
+std::optional<Kind> Unpacker::NumberOrEnd(NumberRange<Kind> range, std::string_view what) {
     if (position_ < image_.size() && image_[position_] == '\0') {
         ++position_;
-        return 0;
+        return std::nullopt;
     }
     return Number(range, what);
 }

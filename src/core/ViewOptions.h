@@ -1,19 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <cstdint>
+#include "core/Length.h"
 
 namespace orvane {
 
-inline constexpr std::int32_t kTwipsPerPixel = 15;
-inline constexpr std::int32_t kDefaultCol0Width = 1890; // twips
+inline constexpr Twips kDefaultCol0Width = 1890;
 
-// Heights of the rows that can be hidden, in twips; 0 hides the row.
+// Heights of the rows that can be hidden; 0 hides the row.
 struct RowHeights {
-    std::int32_t Else = 0;
-    std::int32_t ExitAction = 0;
-    std::int32_t TimingMode = 0;
-    std::int32_t TimeTarget = 0;
+    Twips Else = 0;
+    Twips ExitAction = 0;
+    Twips TimingMode = 0;
+    Twips TimeTarget = 0;
 
     bool operator==(const RowHeights&) const = default;
 };
@@ -25,7 +24,7 @@ struct ViewOptions {
     bool ShowTimeTarget = false;
     bool ShowTimingMode = false;
     bool ShowElse = false;
-    std::int32_t Col0Width = kDefaultCol0Width; // twips
+    Twips Col0Width = kDefaultCol0Width;
     RowHeights RowVisible;
 
     bool operator==(const ViewOptions&) const = default;

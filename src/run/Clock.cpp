@@ -143,7 +143,7 @@ void Clock::SkipTo(Units now) {
 // The earliest timeout of any state, by the timers that are not started again and again.
 std::optional<Units> Clock::NextChange() const {
     std::optional<Units> next;
-    for (const int state : StateNumbers()) {
+    for (const StateNumber state : StateNumbers()) {
         const RunState& looking = machine_.State(state);
         if (looking.Limit == LimitKind::None || config_.Started[looking.Timer] == config_.Now)
             continue;

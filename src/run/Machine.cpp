@@ -17,7 +17,9 @@ namespace orvane::run {
 
 namespace {
 
-constexpr std::uint64_t Bit(int row) { return std::uint64_t{1} << static_cast<unsigned>(row); }
+constexpr std::uint64_t Bit(RowNumber row) {
+    return std::uint64_t{1} << static_cast<unsigned>(row.Number());
+}
 
 LimitKind KindOfLimit(const StateRecord& record) {
     if (record.Targets[kTimeoutRow] == kNoState)
@@ -45,27 +47,27 @@ std::array<Units, kStateCount + 1> Inputs::NoLimits() {
 }
 
 void Inputs::Set(RowNumber row, bool there) {
-    Events = there ? Events | Bit(row.Number()) : Events & ~Bit(row.Number());
+    Events = there ? Events | Bit(row) : Events & ~Bit(row);
 }
 
 Machine::Machine(const FsmDocument& document, const Constants& constants, Readings readings)
     : states_(kStateCount + 1), polytask_(document.View.Polytask), readings_(readings) {
     const Reachability reachability = ComputeReachability(document);
-    for (const int number : StateNumbers()) {
+    for (const StateNumber number : StateNumbers()) {
         if (reachability.Reached(number))
             AddState(document, number, constants);
     }
 }
 
-void Machine::AddState(const FsmDocument& document, int number, const Constants& constants) {
+void Machine::AddState(const FsmDocument& document, StateNumber number, const Constants& constants) {
     if (start_ == StateNumber())
         start_ = number;
     const StateRecord& record = document.State(number);
-    RunState& state = states_[static_cast<std::size_t>(number)];
+    RunState& state = states_[static_cast<std::size_t>(number.Number())];
     state.HasBlock = true;
-    for (const int row : CellRows()) {
-        const int target = record.Targets[row];
-        state.Targets[static_cast<std::size_t>(row)] = static_cast<std::uint8_t>(target);
+    for (const RowNumber row : CellRows()) {
+        const StateNumber target = record.Targets[row];
+        state.Targets[IndexIn(TableRows(), row)] = static_cast<std::uint8_t>(target.Number());
         if (row < kFirstEventRow || target == kNoState || document.Event(row).Code.empty())
             continue;
         state.Events |= Bit(row);
@@ -78,7 +80,7 @@ void Machine::AddState(const FsmDocument& document, int number, const Constants&
         state.Timer = TimerIndex(TimerLabel(document, record.TimerId));
     if (state.Limit == LimitKind::Constant)
         state.LimitUnits = ConstantLimit(record.TimeConst, constants);
-    const int elseTarget = record.Targets[kElseRow];
+    const StateNumber elseTarget = record.Targets[kElseRow];
     state.LeavesByElse = elseTarget != kNoState && elseTarget != number;
 }
 
@@ -107,21 +109,21 @@ Units Machine::DueAfter(const Inputs& inputs, StateNumber number) const {
     return limit + (variable || readings_.AfterLimit ? 1 : 0);
 }
 
-std::optional<int> Machine::RowTaken(const Config& config, const Inputs& inputs) const {
+std::optional<RowNumber> Machine::RowTaken(const Config& config, const Inputs& inputs) const {
     const RunState& state = State(config.State);
     if (const std::uint64_t present = inputs.Events & state.Events)
-        return std::countr_zero(present);
+        return RowNumber(std::countr_zero(present));
     if (state.Limit != LimitKind::None) {
         const Units due = DueAfter(inputs, config.State);
         if (due == kNotGiven)
             return std::nullopt;
         if (Elapsed(config, config.State) >= due)
-            return kTimeoutRow;
+            return RowNumber(kTimeoutRow);
     }
-    return state.Targets[kElseRow] == kNoState ? kHeadRow : kElseRow;
+    return RowNumber(state.Targets[kElseRow] == kNoState ? kHeadRow : kElseRow);
 }
 
-bool Machine::Enter(Config& config, int number) const {
+bool Machine::Enter(Config& config, StateNumber number) const {
     config.State = number;
     const RunState& state = State(number);
     if (!state.StartsTimer)
@@ -130,7 +132,7 @@ bool Machine::Enter(Config& config, int number) const {
 }
 
 Machine::Looked Machine::LookOnce(Config& config, const Inputs& inputs, std::vector<Taken>& log) const {
-    const std::optional<int> row = RowTaken(config, inputs);
+    const std::optional<RowNumber> row = RowTaken(config, inputs);
     if (!row)
         return {.LimitKnown = false};
     if (*row == kHeadRow)
@@ -138,7 +140,7 @@ Machine::Looked Machine::LookOnce(Config& config, const Inputs& inputs, std::vec
     const StateNumber from = config.State;
     const RunState& state = State(from);
     const bool holds = (state.Holds & Bit(*row)) != 0;
-    const int target = state.Targets[static_cast<std::size_t>(*row)];
+    const StateNumber target = state.Targets[IndexIn(TableRows(), *row)];
     log.push_back({from, *row, target, holds});
     return {.TimerChanged = !holds && Enter(config, target)};
 }
@@ -167,7 +169,7 @@ ScanEnd Machine::LookUntilYield(Config& config, const Inputs& inputs, std::vecto
 
 ScanEnd Machine::PowerOn(Config& config, const Inputs& inputs, std::vector<Taken>& log) const {
     config = {start_, 0, std::vector<Units>(timers_.size(), kNever)};
-    Enter(config, start_.Number());
+    Enter(config, start_);
     return LookUntilYield(config, inputs, log);
 }
 

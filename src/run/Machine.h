@@ -138,11 +138,11 @@ class Machine {
         bool TimerChanged = false;
     };
 
-    void AddState(const FsmDocument& document, int number, const Constants& constants);
+    void AddState(const FsmDocument& document, StateNumber number, const Constants& constants);
     std::uint8_t TimerIndex(const std::string& label);
     // The row that is taken, kHeadRow for none; no value when a missing limit would have to be known.
-    std::optional<int> RowTaken(const Config& config, const Inputs& inputs) const;
-    bool Enter(Config& config, int state) const; // true when a timer changed
+    std::optional<RowNumber> RowTaken(const Config& config, const Inputs& inputs) const;
+    bool Enter(Config& config, StateNumber state) const; // true when a timer changed
     Looked LookOnce(Config& config, const Inputs& inputs, std::vector<Taken>& log) const;
     ScanEnd LookUntilYield(Config& config, const Inputs& inputs, std::vector<Taken>& log) const;
 

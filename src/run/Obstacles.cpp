@@ -19,7 +19,7 @@ std::string OnOneLine(std::string text) {
     return text;
 }
 
-void AddLimit(std::vector<std::string>& obstacles, const FsmDocument& document, int state) {
+void AddLimit(std::vector<std::string>& obstacles, const FsmDocument& document, StateNumber state) {
     const std::optional<std::int64_t> limit = LimitNumber(document.State(state).TimeConst);
     if (!limit || (*limit >= 0 && *limit <= kLongestTime))
         return;
@@ -43,7 +43,7 @@ std::vector<std::string> Obstacles(const FsmDocument& document) {
         obstacles.push_back("No state is entered by a transition, so that the program has none");
     for (const std::string& label : LabelClashes(document))
         obstacles.push_back("The label " + label + " stands twice in the program");
-    for (const int state : StateNumbers()) {
+    for (const StateNumber state : StateNumbers()) {
         if (machine.State(state).Limit == LimitKind::Constant)
             AddLimit(obstacles, document, state);
     }

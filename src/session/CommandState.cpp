@@ -10,7 +10,7 @@ namespace {
 
 // The marks of the generator's last run, which every edit brings up to date.
 bool IsReached(const Session& session, StateNumber state) {
-    return session.Program().Reached.test(static_cast<std::size_t>(state.Number()));
+    return session.Program().Reached.test(IndexIn(TableColumns(), state));
 }
 
 } // namespace

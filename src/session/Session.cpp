@@ -44,7 +44,7 @@ bool Session::ForceRows(const Touched& where) {
     case Touched::Extent::RowHeads:
         return false;
     case Touched::Extent::Column:
-        return ForceRowsForState(document_, where.State.Number(), standardHeight_);
+        return ForceRowsForState(document_, where.State, standardHeight_);
     case Touched::Extent::AllColumns:
     case Touched::Extent::Everything:
         break;

@@ -122,9 +122,9 @@ class Session {
     bool ShiftHeld() const { return shiftHeld_; }
     void HoldShift(bool held);
 
-    // The height of an ordinary row in the table's font, in twips: what a special row comes into sight with.
-    int StandardHeight() const { return standardHeight_; }
-    void SetStandardHeight(int twips) { standardHeight_ = twips; }
+    // The height of an ordinary row in the table's font: what a special row comes into sight with.
+    Twips StandardHeight() const { return standardHeight_; }
+    void SetStandardHeight(Twips height) { standardHeight_ = height; }
 
     // What open editors hold. A source is asked for its draft whenever somebody wants it; one that goes takes
     // itself off the list.
@@ -163,7 +163,7 @@ class Session {
     Cell pressed_;
     StateNumber currentState_;
     bool shiftHeld_ = false;
-    int standardHeight_ = 0;
+    Twips standardHeight_ = 0;
     ProgramState program_;
     std::vector<const DraftSource*> draftSources_;
     std::vector<Listener> listeners_;

@@ -2,43 +2,41 @@
 #include "table/BacktrackList.h"
 
 #include "core/StateLabel.h"
-#include "text/NumberText.h"
 
 namespace orvane {
 
 namespace {
 
-BacktrackLine LineOfRow(const FsmDocument& document, int row) {
-    switch (row) {
+BacktrackLine LineOfRow(const FsmDocument& document, RowNumber row) {
+    switch (row.Number()) {
     case kTimeoutRow:
-        return {"TimeOut", "", kTimeoutColour};
+        return {"TimeOut", kTimeoutColour, kNoState, ""};
     case kElseRow:
-        return {"ELSE", "", kElseColour};
+        return {"ELSE", kElseColour, kNoState, ""};
     default:
-        return {document.Event(row).Name, "", kEventColour};
+        return {document.Event(row).Name, kEventColour, kNoState, ""};
     }
 }
 
 } // namespace
 
-std::string BacktrackTitle(const FsmDocument& document, int state) {
+std::string BacktrackTitle(const FsmDocument& document, StateNumber state) {
     return "Backtracks for state: " + StateLabel(state, document.State(state).Name);
 }
 
-std::vector<BacktrackLine> BacktrackLines(const FsmDocument& document, int state) {
+std::vector<BacktrackLine> BacktrackLines(const FsmDocument& document, StateNumber state) {
     std::vector<BacktrackLine> lines;
-    for (const int row : CellRows()) {
+    for (const RowNumber row : CellRows()) {
         BacktrackLine line = LineOfRow(document, row);
-        for (const int from : StateNumbers()) {
+        for (const StateNumber from : StateNumbers()) {
             if (document.State(from).Targets[row] != state)
                 continue;
+            line.From = from;
             line.FromText = StateLabel(from, document.State(from).Name);
             lines.push_back(line);
         }
     }
     return lines;
 }
-
-int BacktrackedState(std::string_view fromText) { return static_cast<int>(ParseNumber(fromText)); }
 
 } // namespace orvane

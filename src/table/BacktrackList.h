@@ -6,25 +6,22 @@
 #include "table/CellColour.h"
 
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace orvane {
 
 struct BacktrackLine {
     std::string EventText; // the event's name, "TimeOut" or "ELSE"
-    std::string FromText;  // the state the transition leaves, as it is labelled
     Colour EventColour;    // that of FromText is always kStateHeadColour
+    StateNumber From;      // the state that the transition leaves ...
+    std::string FromText;  // ... and its label
 
     bool operator==(const BacktrackLine&) const = default;
 };
 
-std::string BacktrackTitle(const FsmDocument& document, int state);
+std::string BacktrackTitle(const FsmDocument& document, StateNumber state);
 
 // Row by row from the timeouts down, and within a row by the number of the state.
-std::vector<BacktrackLine> BacktrackLines(const FsmDocument& document, int state);
-
-// The number of the state that a line's FromText labels.
-int BacktrackedState(std::string_view fromText);
+std::vector<BacktrackLine> BacktrackLines(const FsmDocument& document, StateNumber state);
 
 } // namespace orvane

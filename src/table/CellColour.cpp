@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "table/CellColour.h"
 
-#include "core/TableGeometry.h"
-
 namespace orvane {
 
 namespace {
@@ -11,8 +9,8 @@ constexpr Colour kEntryActionColour{204, 255, 204};
 constexpr Colour kExitActionColour{255, 204, 153};
 constexpr Colour kEventAndActionColour{255, 221, 178};
 
-Colour RowHeadColour(int row) {
-    switch (row) {
+Colour RowHeadColour(RowNumber row) {
+    switch (row.Number()) {
     case kHeadRow:
         return kPlainCellColour;
     case kEntryActionRow:
@@ -29,8 +27,8 @@ Colour RowHeadColour(int row) {
     }
 }
 
-Colour StateColumnColour(int row) {
-    switch (row) {
+Colour StateColumnColour(RowNumber row) {
+    switch (row.Number()) {
     case kHeadRow:
         return kStateHeadColour;
     case kEntryActionRow:
@@ -46,6 +44,8 @@ Colour StateColumnColour(int row) {
 
 } // namespace
 
-Colour CellColour(int row, int column) { return column == 0 ? RowHeadColour(row) : StateColumnColour(row); }
+Colour CellColour(Cell cell) {
+    return cell.State == kNoState ? RowHeadColour(cell.Row) : StateColumnColour(cell.Row);
+}
 
 } // namespace orvane

@@ -3,6 +3,8 @@
 // whatever the desktop's own colours are.
 #pragma once
 
+#include "core/Cell.h"
+
 #include <cstdint>
 
 namespace orvane {
@@ -24,7 +26,7 @@ inline constexpr Colour kEventColour{255, 153, 204};
 inline constexpr Colour kCurrentStateColour{255, 0, 0}; // the head of the state that stepping has reached
 inline constexpr Colour kNextStateColour{255, 255, 0};  // the cell whose target is pointed out
 
-// The fixed background of a cell, rows 0..54, columns 0..100.
-Colour CellColour(int row, int column);
+// The fixed background of a cell, heads included.
+Colour CellColour(Cell cell);
 
 } // namespace orvane

@@ -5,37 +5,36 @@
 
 namespace orvane {
 
-bool CanEditCell(const FsmDocument& document, int row) {
+bool CanEditCell(const FsmDocument& document, RowNumber row) {
     return row < kFirstEventRow || !document.Event(row).Name.empty();
 }
 
-std::string CellEditText(const FsmDocument& document, int row, int state) {
-    const int target = document.State(state).Targets[row];
-    return target == kNoState ? "" : NumberText(target);
+std::string CellEditText(const FsmDocument& document, Cell cell) {
+    const StateNumber target = document.State(cell.State).Targets[cell.Row];
+    return target == kNoState ? "" : NumberText(target.Number());
 }
 
 std::optional<UserMessage> RefusalOfTarget(std::string_view text) {
-    if (TargetNumbers().Contains(ParseNumber(text)))
+    if (NumberIn(TargetNumbers(), ParseNumber(text)))
         return std::nullopt;
     return UserMessage{"The transition cell must point to a \r\n valid state column."};
 }
 
-std::optional<UserMessage> StoreTypedTarget(FsmDocument& document, int row, int state,
-                                            std::string_view text) {
-    if (std::optional<UserMessage> refusal = RefusalOfTarget(text))
-        return refusal;
-    const std::int64_t typed = ParseNumber(text);
-    StateRecord& record = document.State(state);
-    record.Targets[row] = static_cast<std::int16_t>(typed);
-    if (typed == kNoState)
-        record.Actions[row].clear();
+std::optional<UserMessage> StoreTypedTarget(FsmDocument& document, Cell cell, std::string_view text) {
+    const std::optional<StateNumber> typed = NumberIn(TargetNumbers(), ParseNumber(text));
+    if (!typed)
+        return RefusalOfTarget(text);
+    StateRecord& record = document.State(cell.State);
+    record.Targets[cell.Row] = *typed;
+    if (*typed == kNoState)
+        record.Actions[cell.Row].clear();
     return std::nullopt;
 }
 
-int StepTarget(const FsmDocument& document, int currentState, int row) {
-    if (row < kFirstCellRow || currentState == kNoState)
+StateNumber StepTarget(const FsmDocument& document, Cell cell) {
+    if (cell.Row < kFirstCellRow || cell.State == kNoState)
         return kNoState;
-    return document.State(currentState).Targets[row];
+    return document.State(cell.State).Targets[cell.Row];
 }
 
 } // namespace orvane

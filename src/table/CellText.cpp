@@ -19,10 +19,10 @@ constexpr std::string_view kActionHead = "Action";
 // A blank behind the name marks an event that has no code yet.
 std::string EventHead(const EventRecord& event) { return event.Code.empty() ? event.Name + " " : event.Name; }
 
-int ShownWidth(std::int32_t twips) { return std::clamp(twips, 0, kWidestColumn); }
+Twips ShownWidth(Twips width) { return std::clamp(width, Twips(0), kWidestColumn); }
 
-std::string RowHead(const FsmDocument& document, int row, const TextMeasurer& measure) {
-    switch (row) {
+std::string RowHead(const FsmDocument& document, RowNumber row, const TextMeasurer& measure) {
+    switch (row.Number()) {
     case kHeadRow:
         return document.General.FsmName;
     case kEntryActionRow:
@@ -39,16 +39,16 @@ std::string RowHead(const FsmDocument& document, int row, const TextMeasurer& me
 }
 
 // A star stands for an action.
-std::string TransitionText(const FsmDocument& document, const StateRecord& state, int row) {
+std::string TransitionText(const FsmDocument& document, const StateRecord& state, RowNumber row) {
     const std::string target = TargetText(document, state.Targets[row]);
     return state.Actions[row].empty() ? target : target + "*";
 }
 
-std::string StateCell(const FsmDocument& document, int row, int column) {
-    const StateRecord& state = document.State(column);
-    switch (row) {
+std::string StateCell(const FsmDocument& document, Cell cell) {
+    const StateRecord& state = document.State(cell.State);
+    switch (cell.Row.Number()) {
     case kHeadRow:
-        return StateLabel(column, state.Name);
+        return StateLabel(cell.State, state.Name);
     case kEntryActionRow:
         return Replace(state.EntryCode, '\t', ' ');
     case kExitActionRow:
@@ -56,37 +56,37 @@ std::string StateCell(const FsmDocument& document, int row, int column) {
     case kTimingModeRow:
         return TimingText(state);
     default:
-        return TransitionText(document, state, row);
+        return TransitionText(document, state, cell.Row);
     }
 }
 
 } // namespace
 
-std::string CellText(const FsmDocument& document, int row, int column, const TextMeasurer& measure) {
-    RequireInRange(row, {kHeadRow, kLastRow}, "row");
-    if (column != 0)
-        return FitTextToColumn(StateCell(document, row, column), ShownWidth(document.State(column).ColWidth),
+std::string CellText(const FsmDocument& document, Cell cell, const TextMeasurer& measure) {
+    RequireInRange(cell.Row, TableRows(), "row");
+    if (cell.State != kNoState)
+        return FitTextToColumn(StateCell(document, cell), ShownWidth(document.State(cell.State).ColWidth),
                                measure);
-    if (row > kElseRow)
-        return EventHead(document.Event(row));
-    return FitTextToColumn(RowHead(document, row, measure), ShownWidth(document.View.Col0Width), measure);
+    if (cell.Row > kElseRow)
+        return EventHead(document.Event(cell.Row));
+    return FitTextToColumn(RowHead(document, cell.Row, measure), ShownWidth(document.View.Col0Width), measure);
 }
 
-std::string ForceLREventAction(int column0Width, const TextMeasurer& measure) {
-    const int words = measure(kEventHead) + measure(kActionHead);
-    const int spare =
-        std::max(std::max(column0Width, 0) - kColumnMargin - words, 1); // widths may be negative
-    const int blank = std::max(measure(" "), 1);
+std::string ForceLREventAction(Twips column0Width, const TextMeasurer& measure) {
+    const Twips words = measure(kEventHead) + measure(kActionHead);
+    const Twips width = std::max(column0Width, Twips(0)); // a document may hold a negative one
+    const Twips spare = std::max(width - kColumnMargin - words, Twips(1));
+    const Twips blank = std::max(measure(" "), Twips(1));
     // lrint rounds to the nearest number and halves to the even one.
-    const long blanks = std::lrint(static_cast<double>(spare) / blank);
+    const long blanks = std::lrint(1.0 * spare.Count() / blank.Count());
     if (blanks < 4)
         return std::string(kEventHead) + " | " + std::string(kActionHead);
     const std::string gap(static_cast<std::size_t>(std::lrint(static_cast<double>(blanks) / 2 - 1)), ' ');
     return std::string(kEventHead) + gap + "|" + gap + std::string(kActionHead);
 }
 
-std::string TargetText(const FsmDocument& document, int state) {
-    return state == kNoState ? "" : NumberText(state) + ":" + document.State(state).Name;
+std::string TargetText(const FsmDocument& document, StateNumber state) {
+    return state == kNoState ? "" : NumberText(state.Number()) + ":" + document.State(state).Name;
 }
 
 std::string TimingText(const StateRecord& state) {

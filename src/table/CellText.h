@@ -3,6 +3,7 @@
 // table.
 #pragma once
 
+#include "core/Cell.h"
 #include "core/FsmDocument.h"
 #include "table/TextFitting.h"
 
@@ -10,16 +11,16 @@
 
 namespace orvane {
 
-// The text of a cell, heads included: rows 0..54, columns 0..100. All texts but the names of events are
+// The text of a cell, heads included. All texts but the names of events are
 // fitted to the width that the document gives the column. Any other cell throws BoundsError.
-std::string CellText(const FsmDocument& document, int row, int column, const TextMeasurer& measure);
+std::string CellText(const FsmDocument& document, Cell cell, const TextMeasurer& measure);
 
 // The head that the rows of events and the row of entry actions share, "Event" at its left and "Action" at
-// its right end as far as the column's width (in twips) allows. Not fitted yet.
-std::string ForceLREventAction(int column0Width, const TextMeasurer& measure);
+// its right end as far as the column's width allows. Not fitted yet.
+std::string ForceLREventAction(Twips column0Width, const TextMeasurer& measure);
 
-// How a cell names the state it leads to: number, ":" and name (12:Wait), nothing for 0.
-std::string TargetText(const FsmDocument& document, int state);
+// How a cell names the state it leads to: number, ":" and name (12:Wait), nothing for kNoState.
+std::string TargetText(const FsmDocument& document, StateNumber state);
 
 // How a state times out, in brief; nothing for a mode that nobody knows.
 std::string TimingText(const StateRecord& state);

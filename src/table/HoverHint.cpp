@@ -47,10 +47,10 @@ std::string TimerLine(const StateRecord& state) {
     return state.TimerId.empty() ? "\r\nUses default timer" : "\r\nUses timer " + state.TimerId;
 }
 
-Hint TransitionHint(const FsmDocument& document, int row, int column) {
-    const StateRecord& state = document.State(column);
-    const int target = state.Targets[row];
-    const std::string& action = state.Actions[row];
+Hint TransitionHint(const FsmDocument& document, Cell cell) {
+    const StateRecord& state = document.State(cell.State);
+    const StateNumber target = state.Targets[cell.Row];
+    const std::string& action = state.Actions[cell.Row];
     if (target == kNoState)
         return Code(action);
     const StateRecord& next = document.State(target);
@@ -60,17 +60,17 @@ Hint TransitionHint(const FsmDocument& document, int row, int column) {
     return Prose(action + "\r\nThen go to state " + label);
 }
 
-Hint StateHint(const FsmDocument& document, int row, int column, bool shiftHeld) {
-    const StateRecord& state = document.State(column);
-    if (row >= kFirstCellRow)
-        return TransitionHint(document, row, column);
-    if (row == kHeadRow)
+Hint StateHint(const FsmDocument& document, Cell cell, bool shiftHeld) {
+    const StateRecord& state = document.State(cell.State);
+    if (cell.Row >= kFirstCellRow)
+        return TransitionHint(document, cell);
+    if (cell.Row == kHeadRow)
         return Code(state.Tooltip);
     if (shiftHeld)
         return {};
-    if (row == kEntryActionRow)
+    if (cell.Row == kEntryActionRow)
         return Code(state.EntryCode);
-    if (row == kExitActionRow)
+    if (cell.Row == kExitActionRow)
         return Code(state.ExitCode);
     return Prose(TimingHelp(state) + TimerLine(state));
 }
@@ -81,8 +81,8 @@ Hint EventHint(const EventRecord& event, bool shiftHeld) {
     return event.Code.empty() ? Prose(event.Tooltip) : Code(event.Code);
 }
 
-Hint RowHeadHint(const FsmDocument& document, int row, bool shiftHeld) {
-    switch (row) {
+Hint RowHeadHint(const FsmDocument& document, RowNumber row, bool shiftHeld) {
+    switch (row.Number()) {
     case kHeadRow:
         return Prose("This will pre-fix all line labels in the automatically generated code. ");
     case kEntryActionRow:
@@ -103,9 +103,9 @@ Hint RowHeadHint(const FsmDocument& document, int row, bool shiftHeld) {
 
 } // namespace
 
-std::optional<Hint> HoverHint(const FsmDocument& document, int row, int column, bool shiftHeld) {
-    Hint hint =
-        column == 0 ? RowHeadHint(document, row, shiftHeld) : StateHint(document, row, column, shiftHeld);
+std::optional<Hint> HoverHint(const FsmDocument& document, Cell cell, bool shiftHeld) {
+    Hint hint = cell.State == kNoState ? RowHeadHint(document, cell.Row, shiftHeld)
+                                       : StateHint(document, cell, shiftHeld);
     if (hint.Text.empty())
         return std::nullopt;
     return hint;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "core/Cell.h"
 #include "core/FsmDocument.h"
 
 #include <optional>
@@ -15,8 +16,8 @@ struct Hint {
     bool operator==(const Hint&) const = default;
 };
 
-// What there is to say about the cell under the pointer, rows 0..54, columns 0..100; none when there is
+// What there is to say about the cell under the pointer, heads included; none when there is
 // nothing. While Shift is held the table shows where transitions lead, and hints of code stay away.
-std::optional<Hint> HoverHint(const FsmDocument& document, int row, int column, bool shiftHeld);
+std::optional<Hint> HoverHint(const FsmDocument& document, Cell cell, bool shiftHeld);
 
 } // namespace orvane

@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "table/PressTable.h"
 
-#include "core/TableGeometry.h"
-
 namespace orvane {
 
 namespace {
 
-PressAction StateMenuOfRow(int row) {
+PressAction StateMenuOfRow(RowNumber row) {
     if (row == kHeadRow)
         return PressAction::StateMenu;
     if (row == kEntryActionRow)
@@ -15,7 +13,7 @@ PressAction StateMenuOfRow(int row) {
     return row >= kFirstCellRow ? PressAction::TransitionMenu : PressAction::Nothing;
 }
 
-PressAction RowHeadEditor(int row) {
+PressAction RowHeadEditor(RowNumber row) {
     if (row == kHeadRow)
         return PressAction::EditGeneralCode;
     return EventRows().Contains(row) ? PressAction::EditEvent : PressAction::Nothing;
@@ -23,12 +21,12 @@ PressAction RowHeadEditor(int row) {
 
 } // namespace
 
-PressAction ActionOfPress(int row, int column, PressButton button, PressModifiers modifiers) {
-    const bool isRowHead = column == 0;
+PressAction ActionOfPress(Cell cell, PressButton button, PressModifiers modifiers) {
+    const bool isRowHead = cell.State == kNoState;
     if (button == PressButton::Right) {
         if (!isRowHead)
-            return StateMenuOfRow(row);
-        return EventRows().Contains(row) ? PressAction::EventMenu : PressAction::Nothing;
+            return StateMenuOfRow(cell.Row);
+        return EventRows().Contains(cell.Row) ? PressAction::EventMenu : PressAction::Nothing;
     }
     if (button != PressButton::Left)
         return PressAction::Nothing;
@@ -37,8 +35,8 @@ PressAction ActionOfPress(int row, int column, PressButton button, PressModifier
     if (modifiers != PressModifiers::None)
         return PressAction::Nothing;
     if (isRowHead)
-        return RowHeadEditor(row);
-    return row >= kFirstCellRow ? PressAction::EditTarget : PressAction::EditState;
+        return RowHeadEditor(cell.Row);
+    return cell.Row >= kFirstCellRow ? PressAction::EditTarget : PressAction::EditState;
 }
 
 } // namespace orvane

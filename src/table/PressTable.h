@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "core/Cell.h"
+
 namespace orvane {
 
 enum class PressButton { Left, Right, Other };
@@ -20,7 +22,7 @@ enum class PressAction {
     EventMenu,
 };
 
-// The press table: rows 0..54, columns 0..100, heads included.
-PressAction ActionOfPress(int row, int column, PressButton button, PressModifiers modifiers);
+// The press table, heads included.
+PressAction ActionOfPress(Cell cell, PressButton button, PressModifiers modifiers);
 
 } // namespace orvane

@@ -5,21 +5,21 @@ namespace orvane {
 
 namespace {
 
-void Renumber(std::int16_t& target, TargetChange change) {
+void Renumber(StateNumber& target, TargetChange change) {
     if (target == change.Old)
-        target = static_cast<std::int16_t>(change.New);
+        target = change.New;
 }
 
 void Renumber(StateRecord& state, TargetChange change) {
-    for (std::int16_t& target : state.Targets)
+    for (StateNumber& target : state.Targets)
         Renumber(target, change);
 }
 
 } // namespace
 
-void RenumberTargets(FsmDocument& document, TableClipboard& clipboard, NumberRange states,
+void RenumberTargets(FsmDocument& document, TableClipboard& clipboard, StateRange states,
                      TargetChange change) {
-    for (const int state : states)
+    for (const StateNumber state : states)
         Renumber(document.State(state), change);
     Renumber(clipboard.ClipState, change);
     Renumber(clipboard.ClipTarget, change);

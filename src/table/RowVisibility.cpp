@@ -19,11 +19,11 @@ bool IsMarked(const ViewOptions& view, SpecialRow row) {
     return view.ShowElse;
 }
 
-void ToggleRow(ViewOptions& view, SpecialRow row, int standardHeight) {
+void ToggleRow(ViewOptions& view, SpecialRow row, Twips standardHeight) {
     const bool mark = !IsMarked(view, row);
     switch (row) {
     case SpecialRow::ExitAction:
-        view.RowVisible.ExitAction = mark ? standardHeight : 0;
+        view.RowVisible.ExitAction = mark ? standardHeight : Twips(0);
         break;
     case SpecialRow::TimingMode:
         view.ShowTimingMode = mark;
@@ -38,15 +38,15 @@ void ToggleRow(ViewOptions& view, SpecialRow row, int standardHeight) {
     ApplyRowVisibility(view, standardHeight);
 }
 
-void ApplyRowVisibility(ViewOptions& view, int standardHeight) {
-    const auto height = [&](SpecialRow row) { return IsMarked(view, row) ? standardHeight : 0; };
+void ApplyRowVisibility(ViewOptions& view, Twips standardHeight) {
+    const auto height = [&](SpecialRow row) { return IsMarked(view, row) ? standardHeight : Twips(0); };
     view.RowVisible = {.Else = height(SpecialRow::Else),
                        .ExitAction = height(SpecialRow::ExitAction),
                        .TimingMode = height(SpecialRow::TimingMode),
                        .TimeTarget = height(SpecialRow::TimeTarget)};
 }
 
-bool ForceShowTiming(ViewOptions& view, int standardHeight) {
+bool ForceShowTiming(ViewOptions& view, Twips standardHeight) {
     const ViewOptions before = view;
     view.ShowTimingMode = true;
     view.ShowTimeTarget = true;
@@ -55,14 +55,14 @@ bool ForceShowTiming(ViewOptions& view, int standardHeight) {
     return view != before;
 }
 
-bool ForceShowElse(ViewOptions& view, int standardHeight) {
+bool ForceShowElse(ViewOptions& view, Twips standardHeight) {
     const ViewOptions before = view;
     view.ShowElse = true;
     view.RowVisible.Else = standardHeight;
     return view != before;
 }
 
-bool ForceRowsForState(FsmDocument& document, int state, int standardHeight) {
+bool ForceRowsForState(FsmDocument& document, StateNumber state, Twips standardHeight) {
     const StateRecord& record = document.State(state);
     bool changed = false;
     if (record.TimingMode != kNoTiming && IsKnownTimingMode(record.TimingMode))
@@ -72,9 +72,9 @@ bool ForceRowsForState(FsmDocument& document, int state, int standardHeight) {
     return changed;
 }
 
-bool ForceRowsForContents(FsmDocument& document, int standardHeight) {
+bool ForceRowsForContents(FsmDocument& document, Twips standardHeight) {
     bool changed = false;
-    for (const int state : StateNumbers())
+    for (const StateNumber state : StateNumbers())
         changed |= ForceRowsForState(document, state, standardHeight);
     return changed;
 }

@@ -11,16 +11,16 @@ namespace orvane {
 
 namespace {
 
-// The first state with a transition in the row, 0 when there is none.
-int StateWithTransition(const FsmDocument& document, int row) {
-    for (const int state : StateNumbers())
+// The first state with a transition in the row, kNoState when there is none.
+StateNumber StateWithTransition(const FsmDocument& document, RowNumber row) {
+    for (const StateNumber state : StateNumbers())
         if (document.State(state).Targets[row] != kNoState)
             return state;
     return kNoState;
 }
 
-void ShiftCellsDown(StateRecord& state, int row) {
-    for (int r = kLastRow; r > row; --r) {
+void ShiftCellsDown(StateRecord& state, RowNumber row) {
+    for (RowNumber r = kLastRow; r > row; --r) {
         state.Targets[r] = state.Targets[r - 1];
         state.Actions[r] = state.Actions[r - 1];
     }
@@ -29,8 +29,8 @@ void ShiftCellsDown(StateRecord& state, int row) {
 }
 
 // The action of the bottom row stays.
-void ShiftCellsUp(StateRecord& state, int row) {
-    for (int r = row; r < kLastRow; ++r) {
+void ShiftCellsUp(StateRecord& state, RowNumber row) {
+    for (RowNumber r = row; r < kLastRow; ++r) {
         state.Targets[r] = state.Targets[r + 1];
         state.Actions[r] = state.Actions[r + 1];
     }
@@ -39,15 +39,15 @@ void ShiftCellsUp(StateRecord& state, int row) {
 
 // Whether an insertion may use the column up. Timing modes and actions are not looked at.
 bool IsFree(const StateRecord& state) {
-    const auto withoutTarget = [&state](int row) { return state.Targets[row] == kNoState; };
+    const auto withoutTarget = [&state](RowNumber row) { return state.Targets[row] == kNoState; };
     return state.Name.empty() && state.Tooltip.empty() && state.EntryCode.empty() && state.ExitCode.empty() &&
            state.TimeConst.empty() && state.TimingVar.empty() && state.TimerId.empty() &&
            std::all_of(CellRows().begin(), CellRows().end(), withoutTarget);
 }
 
-// The last free column behind this one, 0 when there is none.
-int LastFreeColumnBehind(const FsmDocument& document, int state) {
-    for (int column = kStateCount; column > state; --column)
+// The last free column behind this one, kNoState when there is none.
+StateNumber LastFreeColumnBehind(const FsmDocument& document, StateNumber state) {
+    for (StateNumber column = kStateCount; column > state; --column)
         if (IsFree(document.State(column)))
             return column;
     return kNoState;
@@ -55,8 +55,8 @@ int LastFreeColumnBehind(const FsmDocument& document, int state) {
 
 void Forget(TableClipboard& clipboard) { clipboard.Kind = ClipKind::Empty; }
 
-UserMessage BottomRowInUse(int state) {
-    return {"Sorry, you can't insert an event row because at least\r\none state (" + NumberText(state) +
+UserMessage BottomRowInUse(StateNumber state) {
+    return {"Sorry, you can't insert an event row because at least\r\none state (" + NumberText(state.Number()) +
             ") has a transition in the very bottom cell.\r\n"
             "and inserting a row involves moving everything down a row."};
 }
@@ -77,42 +77,42 @@ UserMessage NoRoomForAState() {
 
 } // namespace
 
-std::optional<UserMessage> InsertEvent(FsmDocument& document, TableClipboard& clipboard, int row) {
+std::optional<UserMessage> InsertEvent(FsmDocument& document, TableClipboard& clipboard, RowNumber row) {
     RequireInRange(row, EventRows(), "event row");
-    if (const int state = StateWithTransition(document, kLastRow))
+    if (const StateNumber state = StateWithTransition(document, kLastRow); state != kNoState)
         return BottomRowInUse(state);
-    for (const int state : StateNumbers())
+    for (const StateNumber state : StateNumbers())
         ShiftCellsDown(document.State(state), row);
     ShiftCellsDown(clipboard.ClipState, row);
-    for (int r = kLastRow; r > row; --r)
+    for (RowNumber r = kLastRow; r > row; --r)
         document.Event(r) = document.Event(r - 1);
     document.Event(row) = FsmDocument::EventTemplate();
     return std::nullopt;
 }
 
-std::optional<UserMessage> QuestionBeforeDeleteEvent(const FsmDocument& document, int row) {
+std::optional<UserMessage> QuestionBeforeDeleteEvent(const FsmDocument& document, RowNumber row) {
     if (StateWithTransition(document, row) == kNoState)
         return std::nullopt;
     return EventHasTransitions();
 }
 
-void DeleteEvent(FsmDocument& document, TableClipboard& clipboard, int row) {
+void DeleteEvent(FsmDocument& document, TableClipboard& clipboard, RowNumber row) {
     RequireInRange(row, EventRows(), "event row");
-    for (const int state : StateNumbers())
+    for (const StateNumber state : StateNumbers())
         ShiftCellsUp(document.State(state), row);
     ShiftCellsUp(clipboard.ClipState, row);
     clipboard.ClipState.Actions[kLastRow].clear();
-    for (int r = row; r < kLastRow; ++r)
+    for (RowNumber r = row; r < kLastRow; ++r)
         document.Event(r) = document.Event(r + 1);
     document.Event(kLastRow) = FsmDocument::EventTemplate();
 }
 
-std::optional<UserMessage> InsertState(FsmDocument& document, TableClipboard& clipboard, int state) {
+std::optional<UserMessage> InsertState(FsmDocument& document, TableClipboard& clipboard, StateNumber state) {
     RequireInRange(state, StateNumbers(), "state");
-    const int free = LastFreeColumnBehind(document, state);
+    const StateNumber free = LastFreeColumnBehind(document, state);
     if (free == kNoState)
         return NoRoomForAState();
-    for (int k = free - 1; k >= state; --k) {
+    for (StateNumber k = free - 1; k >= state; --k) {
         document.State(k + 1) = std::move(document.State(k)); // which is given another record next
         RenumberTargets(document, clipboard, StateNumbers(), {k, k + 1});
     }
@@ -122,13 +122,13 @@ std::optional<UserMessage> InsertState(FsmDocument& document, TableClipboard& cl
     return std::nullopt;
 }
 
-void DeleteState(FsmDocument& document, TableClipboard& clipboard, int state) {
+void DeleteState(FsmDocument& document, TableClipboard& clipboard, StateNumber state) {
     RequireInRange(state, StateNumbers(), "state");
     const bool leadsHere = clipboard.Kind == ClipKind::Transition && clipboard.ClipTarget == state;
     if (leadsHere || clipboard.Kind == ClipKind::Event)
         Forget(clipboard);
     StateRecord last = document.State(kStateCount); // stays as it is
-    for (int k = state; k < kStateCount; ++k) {
+    for (StateNumber k = state; k < kStateCount; ++k) {
         RenumberTargets(document, clipboard, {1, kStateCount - 1}, {k + 1, k});
         document.State(k) = std::move(document.State(k + 1));
     }

@@ -5,87 +5,87 @@ namespace orvane {
 
 namespace {
 
-std::size_t ClipIndex(int state) { return static_cast<std::size_t>(state - StateNumbers().First()); }
+std::size_t ClipIndex(StateNumber state) { return IndexIn(StateNumbers(), state); }
 
-void ClipCell(const FsmDocument& document, TableClipboard& clipboard, int row, int state) {
-    const StateRecord& record = document.State(state);
-    clipboard.ClipAction = record.Actions[row];
-    clipboard.ClipTarget = record.Targets[row];
+void ClipCell(const FsmDocument& document, TableClipboard& clipboard, Cell cell) {
+    const StateRecord& record = document.State(cell.State);
+    clipboard.ClipAction = record.Actions[cell.Row];
+    clipboard.ClipTarget = record.Targets[cell.Row];
 }
 
 } // namespace
 
-void CopyState(const FsmDocument& document, TableClipboard& clipboard, int state) {
+void CopyState(const FsmDocument& document, TableClipboard& clipboard, StateNumber state) {
     clipboard.ClipState = document.State(state);
     clipboard.Kind = ClipKind::State;
 }
 
-void CopyEvent(const FsmDocument& document, TableClipboard& clipboard, int row) {
+void CopyEvent(const FsmDocument& document, TableClipboard& clipboard, RowNumber row) {
     clipboard.ClipEvent = document.Event(row);
-    for (const int state : StateNumbers()) {
+    for (const StateNumber state : StateNumbers()) {
         clipboard.ClipEventTargets[ClipIndex(state)] = document.State(state).Targets[row];
         clipboard.ClipEventActions[ClipIndex(state)] = document.State(state).Actions[row];
     }
     clipboard.Kind = ClipKind::Event;
 }
 
-void CopyEntryAction(const FsmDocument& document, TableClipboard& clipboard, int state) {
+void CopyEntryAction(const FsmDocument& document, TableClipboard& clipboard, StateNumber state) {
     clipboard.ClipState = document.State(state);
     clipboard.Kind = ClipKind::EntryAction;
 }
 
-void CopyTransition(const FsmDocument& document, TableClipboard& clipboard, int row, int state) {
-    ClipCell(document, clipboard, row, state);
+void CopyTransition(const FsmDocument& document, TableClipboard& clipboard, Cell cell) {
+    ClipCell(document, clipboard, cell);
     clipboard.Kind = ClipKind::Transition;
 }
 
-void CopyTransitionAction(const FsmDocument& document, TableClipboard& clipboard, int row, int state) {
-    ClipCell(document, clipboard, row, state);
+void CopyTransitionAction(const FsmDocument& document, TableClipboard& clipboard, Cell cell) {
+    ClipCell(document, clipboard, cell);
     clipboard.Kind = ClipKind::TransitionAction;
 }
 
-void CutEntryAction(FsmDocument& document, TableClipboard& clipboard, int state) {
+void CutEntryAction(FsmDocument& document, TableClipboard& clipboard, StateNumber state) {
     CopyEntryAction(document, clipboard, state);
     DeleteEntryAction(document, state);
 }
 
-void CutTransition(FsmDocument& document, TableClipboard& clipboard, int row, int state) {
-    CopyTransition(document, clipboard, row, state);
-    document.State(state).Targets[row] = kNoState;
-    document.State(state).Actions[row].clear();
+void CutTransition(FsmDocument& document, TableClipboard& clipboard, Cell cell) {
+    CopyTransition(document, clipboard, cell);
+    document.State(cell.State).Targets[cell.Row] = kNoState;
+    document.State(cell.State).Actions[cell.Row].clear();
 }
 
-void CutTransitionAction(FsmDocument& document, TableClipboard& clipboard, int row, int state) {
-    CopyTransitionAction(document, clipboard, row, state);
-    document.State(state).Actions[row].clear();
+void CutTransitionAction(FsmDocument& document, TableClipboard& clipboard, Cell cell) {
+    CopyTransitionAction(document, clipboard, cell);
+    document.State(cell.State).Actions[cell.Row].clear();
 }
 
-void PasteState(FsmDocument& document, const TableClipboard& clipboard, int state) {
+void PasteState(FsmDocument& document, const TableClipboard& clipboard, StateNumber state) {
     document.State(state) = clipboard.ClipState;
 }
 
-void PasteEvent(FsmDocument& document, const TableClipboard& clipboard, int row) {
+void PasteEvent(FsmDocument& document, const TableClipboard& clipboard, RowNumber row) {
     document.Event(row) = clipboard.ClipEvent;
-    for (const int state : StateNumbers()) {
+    for (const StateNumber state : StateNumbers()) {
         document.State(state).Targets[row] = clipboard.ClipEventTargets[ClipIndex(state)];
         document.State(state).Actions[row] = clipboard.ClipEventActions[ClipIndex(state)];
     }
 }
 
-void PasteEntryAction(FsmDocument& document, const TableClipboard& clipboard, int state) {
+void PasteEntryAction(FsmDocument& document, const TableClipboard& clipboard, StateNumber state) {
     document.State(state).EntryCode = clipboard.ClipState.EntryCode;
 }
 
-void PasteTransition(FsmDocument& document, const TableClipboard& clipboard, int row, int state) {
-    document.State(state).Actions[row] = clipboard.ClipAction;
-    document.State(state).Targets[row] = clipboard.ClipTarget;
+void PasteTransition(FsmDocument& document, const TableClipboard& clipboard, Cell cell) {
+    document.State(cell.State).Actions[cell.Row] = clipboard.ClipAction;
+    document.State(cell.State).Targets[cell.Row] = clipboard.ClipTarget;
 }
 
-void PasteTransitionAction(FsmDocument& document, const TableClipboard& clipboard, int row, int state) {
-    document.State(state).Actions[row] = clipboard.ClipAction;
+void PasteTransitionAction(FsmDocument& document, const TableClipboard& clipboard, Cell cell) {
+    document.State(cell.State).Actions[cell.Row] = clipboard.ClipAction;
 }
 
-void DeleteEntryAction(FsmDocument& document, int state) { document.State(state).EntryCode.clear(); }
+void DeleteEntryAction(FsmDocument& document, StateNumber state) { document.State(state).EntryCode.clear(); }
 
 PasteItems EnablePasteItems(ClipKind kind, PasteItems present) {
     switch (kind) {

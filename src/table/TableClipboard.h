@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "core/Cell.h"
 #include "core/FsmDocument.h"
 
 #include <array>
-#include <cstdint>
 #include <string>
 
 namespace orvane {
@@ -19,34 +19,34 @@ struct TableClipboard {
     StateRecord ClipState; // a state, or the one whose entry action was copied
 
     EventRecord ClipEvent;
-    std::array<std::int16_t, kStateCount> ClipEventTargets{}; // of states 1..100, in their order
+    std::array<StateNumber, kStateCount> ClipEventTargets{}; // of states 1..100, in their order
     std::array<std::string, kStateCount> ClipEventActions;
 
     std::string ClipAction; // a transition, or its action alone
-    std::int16_t ClipTarget = kNoState;
+    StateNumber ClipTarget = kNoState;
 
     bool operator==(const TableClipboard&) const = default;
 };
 
-void CopyState(const FsmDocument& document, TableClipboard& clipboard, int state);
-void CopyEvent(const FsmDocument& document, TableClipboard& clipboard, int row);
-void CopyEntryAction(const FsmDocument& document, TableClipboard& clipboard, int state);
-void CopyTransition(const FsmDocument& document, TableClipboard& clipboard, int row, int state);
-void CopyTransitionAction(const FsmDocument& document, TableClipboard& clipboard, int row, int state);
+void CopyState(const FsmDocument& document, TableClipboard& clipboard, StateNumber state);
+void CopyEvent(const FsmDocument& document, TableClipboard& clipboard, RowNumber row);
+void CopyEntryAction(const FsmDocument& document, TableClipboard& clipboard, StateNumber state);
+void CopyTransition(const FsmDocument& document, TableClipboard& clipboard, Cell cell);
+void CopyTransitionAction(const FsmDocument& document, TableClipboard& clipboard, Cell cell);
 
-void CutEntryAction(FsmDocument& document, TableClipboard& clipboard, int state);
-void CutTransition(FsmDocument& document, TableClipboard& clipboard, int row, int state);
-void CutTransitionAction(FsmDocument& document, TableClipboard& clipboard, int row, int state);
+void CutEntryAction(FsmDocument& document, TableClipboard& clipboard, StateNumber state);
+void CutTransition(FsmDocument& document, TableClipboard& clipboard, Cell cell);
+void CutTransitionAction(FsmDocument& document, TableClipboard& clipboard, Cell cell);
 
 // Each overwrites what stands there completely. A state comes with its name, its width and the transitions
 // that leave it, an event with its cells in all states.
-void PasteState(FsmDocument& document, const TableClipboard& clipboard, int state);
-void PasteEvent(FsmDocument& document, const TableClipboard& clipboard, int row);
-void PasteEntryAction(FsmDocument& document, const TableClipboard& clipboard, int state);
-void PasteTransition(FsmDocument& document, const TableClipboard& clipboard, int row, int state);
-void PasteTransitionAction(FsmDocument& document, const TableClipboard& clipboard, int row, int state);
+void PasteState(FsmDocument& document, const TableClipboard& clipboard, StateNumber state);
+void PasteEvent(FsmDocument& document, const TableClipboard& clipboard, RowNumber row);
+void PasteEntryAction(FsmDocument& document, const TableClipboard& clipboard, StateNumber state);
+void PasteTransition(FsmDocument& document, const TableClipboard& clipboard, Cell cell);
+void PasteTransitionAction(FsmDocument& document, const TableClipboard& clipboard, Cell cell);
 
-void DeleteEntryAction(FsmDocument& document, int state);
+void DeleteEntryAction(FsmDocument& document, StateNumber state);
 
 // Which of the commands that paste can be chosen.
 struct PasteItems {

@@ -11,7 +11,7 @@ constexpr std::size_t kFirstTrial = 32; // characters; more than most columns ho
 
 } // namespace
 
-std::string FitTextToColumn(std::string_view text, int columnWidth, const TextMeasurer& measure) {
+std::string FitTextToColumn(std::string_view text, Twips columnWidth, const TextMeasurer& measure) {
     const auto fits = [&](std::size_t length) {
         return measure(text.substr(0, length)) + kColumnMargin < columnWidth;
     };

@@ -83,7 +83,7 @@ TEST_F(Backtrack, AClickOnAStateWalksBackAndOnAnEventStays) {
 
 TEST_F(Backtrack, WalkingOnStartsAtTheTopOfTheNextList) {
     FsmDocument document = PumpDocument();
-    for (const int state : StateNumbers()) {
+    for (const StateNumber state : StateNumbers()) {
         document.State(state).Targets[6] = 1;
         document.State(state).Targets[7] = 100;
     }
@@ -157,9 +157,9 @@ std::vector<std::string> LeadingTo(const FsmDocument& document, int state) {
 
 // Texts that look the same on the screen as in the document.
 FsmDocument WithPlainNames(FsmDocument document) {
-    for (const int row : EventRows())
+    for (const RowNumber row : EventRows())
         document.Event(row).Name = "E" + std::to_string(row);
-    for (const int state : StateNumbers())
+    for (const StateNumber state : StateNumbers())
         document.State(state).Name = "S" + std::to_string(state);
     return document;
 }

@@ -76,7 +76,7 @@ TEST_F(PressTable, ACellWiderThanTheWindowIsShownFromItsBeginning) {
 
 TEST_F(PressTable, EveryCellIsPressedWhereItIsShown) {
     FsmDocument document = PumpDocument();
-    for (const int row : EventRows())
+    for (const RowNumber row : EventRows())
         document.Event(row).Name = "E" + std::to_string(row);
     StartOn(document);
     Window().resize(420, 260);

@@ -70,21 +70,21 @@ constexpr std::array kCommands = {
             [](Twin& t, const Place& at) { PasteEntryAction(t.Document, t.Clipboard, at.Column); },
             &PasteItems::EntryAction},
     Command{"mnuCopyTransition", Command::TransitionCell,
-            [](Twin& t, const Place& at) { CopyTransition(t.Document, t.Clipboard, at.Row, at.Column); }},
+            [](Twin& t, const Place& at) { CopyTransition(t.Document, t.Clipboard, {at.Row, at.Column}); }},
     Command{"mnuCutTransition", Command::TransitionCell,
-            [](Twin& t, const Place& at) { CutTransition(t.Document, t.Clipboard, at.Row, at.Column); }},
+            [](Twin& t, const Place& at) { CutTransition(t.Document, t.Clipboard, {at.Row, at.Column}); }},
     Command{"mnuPasteTransition", Command::TransitionCell,
-            [](Twin& t, const Place& at) { PasteTransition(t.Document, t.Clipboard, at.Row, at.Column); },
+            [](Twin& t, const Place& at) { PasteTransition(t.Document, t.Clipboard, {at.Row, at.Column}); },
             &PasteItems::Transition},
     Command{
         "mnuCopyTransAct", Command::TransitionCell,
-        [](Twin& t, const Place& at) { CopyTransitionAction(t.Document, t.Clipboard, at.Row, at.Column); }},
+        [](Twin& t, const Place& at) { CopyTransitionAction(t.Document, t.Clipboard, {at.Row, at.Column}); }},
     Command{
         "mnuCutTransAct", Command::TransitionCell,
-        [](Twin& t, const Place& at) { CutTransitionAction(t.Document, t.Clipboard, at.Row, at.Column); }},
+        [](Twin& t, const Place& at) { CutTransitionAction(t.Document, t.Clipboard, {at.Row, at.Column}); }},
     Command{
         "mnuPasteTransAct", Command::TransitionCell,
-        [](Twin& t, const Place& at) { PasteTransitionAction(t.Document, t.Clipboard, at.Row, at.Column); },
+        [](Twin& t, const Place& at) { PasteTransitionAction(t.Document, t.Clipboard, {at.Row, at.Column}); },
         &PasteItems::TransitionAction},
 };
 
@@ -125,7 +125,7 @@ rc::Gen<Step> AnyStep() {
 // A width for each column that tells it from the others, and is a whole number of pixels.
 FsmDocument WithColumnsToPress(FsmDocument document) {
     document.View.Col0Width = 1500;
-    for (const int state : StateNumbers())
+    for (const StateNumber state : StateNumbers())
         document.State(state).ColWidth = 600 + 15 * state;
     return document;
 }
@@ -172,14 +172,14 @@ class RandomMenuCommands : public PopUpFixture {
     void RequireWindowHolds(const std::string& image) {
         const FsmDocument saved = SavedDocument();
         RC_ASSERT(Pack(saved) == image);
-        for (const int state : StateNumbers())
-            for (const int row : CellRows())
+        for (const StateNumber state : StateNumbers())
+            for (const RowNumber row : CellRows())
                 RC_ASSERT(TargetNumbers().Contains(saved.State(state).Targets[row]));
     }
 
     void RequireWidthsTravelled() {
         const FsmDocument saved = SavedDocument();
-        for (const int state : StateNumbers())
+        for (const StateNumber state : StateNumbers())
             RC_ASSERT(saved.State(state).ColWidth == twin_.Document.State(state).ColWidth);
     }
 

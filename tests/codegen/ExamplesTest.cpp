@@ -63,7 +63,7 @@ bool AnyExample(const std::function<bool(const FsmDocument&)>& holds) {
 bool AnyState(const std::function<bool(const StateRecord&)>& holds) {
     return AnyExample([&holds](const FsmDocument& document) {
         return std::any_of(StateNumbers().begin(), StateNumbers().end(),
-                           [&](int state) { return holds(document.State(state)); });
+                           [&](StateNumber state) { return holds(document.State(state)); });
     });
 }
 
@@ -84,7 +84,7 @@ TEST_P(ExampleFile, SurvivesItsSnapshotImage) {
     FsmDocument unpacked;
     unpacked.View = document.View;
     unpacked.General.BuildFile = document.General.BuildFile;
-    for (const int state : StateNumbers())
+    for (const StateNumber state : StateNumbers())
         unpacked.State(state).ColWidth = document.State(state).ColWidth;
     EXPECT_EQ(Unpack(Pack(document), unpacked), std::vector<std::string>());
     EXPECT_EQ(unpacked, document);
@@ -96,7 +96,7 @@ TEST_P(ExampleFile, ShowsTheSpecialRowsItUses) {
     EXPECT_EQ(view.RowVisible.Else, view.ShowElse ? 240 : 0);
     EXPECT_EQ(view.RowVisible.TimingMode, view.ShowTimingMode ? 240 : 0);
     EXPECT_EQ(view.RowVisible.TimeTarget, view.ShowTimeTarget ? 240 : 0);
-    for (const int state : StateNumbers()) {
+    for (const StateNumber state : StateNumbers()) {
         const StateRecord& record = document.State(state);
         EXPECT_TRUE(view.ShowTimingMode || record.TimingMode == kNoTiming) << "state " << state;
         EXPECT_TRUE(view.ShowTimeTarget || record.Targets[kTimeoutRow] == kNoState) << "state " << state;
@@ -120,7 +120,7 @@ TEST(Examples, ReachEveryStateAndComeBackToTheFirst) {
     EXPECT_GE(documents.size(), 8u);
     for (const auto& [name, document] : documents) {
         const Reachability reachability = ComputeReachability(document);
-        for (const int state : StateNumbers())
+        for (const StateNumber state : StateNumbers())
             EXPECT_EQ(reachability.Reached(state), !IsEmpty(document.State(state)))
                 << name << ", state " << state;
     }
@@ -128,9 +128,9 @@ TEST(Examples, ReachEveryStateAndComeBackToTheFirst) {
 
 TEST(Examples, UseNoActionThatIsNeverGenerated) {
     for (const auto& [name, document] : SoundExamples()) {
-        for (const int state : StateNumbers()) {
+        for (const StateNumber state : StateNumbers()) {
             const StateRecord& record = document.State(state);
-            for (const int row : CellRows()) {
+            for (const RowNumber row : CellRows()) {
                 const bool dropped = row == kTimeoutRow && HasVariableLimit(record.TimingMode);
                 const bool generated = record.Targets[row] != kNoState && !dropped;
                 EXPECT_TRUE(generated || record.Actions[row].empty())
@@ -143,11 +143,11 @@ TEST(Examples, UseNoActionThatIsNeverGenerated) {
 TEST(Examples, ContinueOnlyTimersThatAnotherStateStarts) {
     for (const auto& [name, document] : SoundExamples()) {
         std::set<std::string> started;
-        for (const int state : StateNumbers()) {
+        for (const StateNumber state : StateNumbers()) {
             if (StartsTiming(document.State(state).TimingMode))
                 started.insert(document.State(state).TimerId);
         }
-        for (const int state : StateNumbers()) {
+        for (const StateNumber state : StateNumbers()) {
             const StateRecord& record = document.State(state);
             EXPECT_TRUE(record.TimingMode == kNoTiming || started.contains(record.TimerId))
                 << name << ", state " << state;
@@ -178,8 +178,8 @@ TEST(Examples, UseElseAndSelfTransitions) {
     EXPECT_TRUE(AnyState([](const StateRecord& state) { return state.Targets[kElseRow] != kNoState; }));
     const auto selfTransition = [](bool withAction) {
         return AnyExample([withAction](const FsmDocument& document) {
-            for (const int state : StateNumbers())
-                for (const int row : EventRows())
+            for (const StateNumber state : StateNumbers())
+                for (const RowNumber row : EventRows())
                     if (document.State(state).Targets[row] == state &&
                         document.State(state).Actions[row].empty() != withAction)
                         return true;
@@ -250,23 +250,23 @@ TEST(Examples, UseOnlyWordsOfTheirVocabulary) {
 
 TEST(Examples, FaultyRaisesEveryFindingOnce) {
     const std::vector<Finding> findings{
-        {Severity::Note, 1, kTimeoutRow,
+        {Severity::Note, {kTimeoutRow, 1},
          "State 1:Ready has a timing mode specified but no timeout transition"},
-        {Severity::Error, 2, kTimeoutRow, "State 2:Forward needs a time constant"},
-        {Severity::Error, 3, kTimeoutRow, "State 3:Slow needs a variable time."},
-        {Severity::Error, 4, kTimeoutRow,
+        {Severity::Error, {kTimeoutRow, 2}, "State 2:Forward needs a time constant"},
+        {Severity::Error, {kTimeoutRow, 3}, "State 3:Slow needs a variable time."},
+        {Severity::Error, {kTimeoutRow, 4},
          "State 4:Back has a timeout transition but the timing mode is not specified"},
-        {Severity::Error, 5, 7, "Missing event test code in row 7"},
-        {Severity::Note, 6, kElseRow, "State 6:Choose has both a timeout and an ELSE transition."},
-        {Severity::Warning, 7, 0, "State 7:Parked is a dead end"},
-        {Severity::Warning, 8, 0, "State 8:Service is unreachable"}};
+        {Severity::Error, {7, 5}, "Missing event test code in row 7"},
+        {Severity::Note, {kElseRow, 6}, "State 6:Choose has both a timeout and an ELSE transition."},
+        {Severity::Warning, {0, 7}, "State 7:Parked is a dead end"},
+        {Severity::Warning, {0, 8}, "State 8:Service is unreachable"}};
     EXPECT_EQ(Generate(Example("faulty")).Findings.Findings, findings);
 }
 
 TEST(Examples, NamelessRaisesTheMissingPrefixAlone) {
     const GeneratedProgram program = Generate(Example("nameless"));
     const std::vector<Finding> findings{
-        {Severity::Error, 0, 0,
+        {Severity::Error, {},
          "You must supply a distinguishing label prefix in the \"Name\"\r\n"
          "box of the General Code editor. This should be unique within your\r\n"
          "project as a whole. Typically this would be a 3-letter mnemonic for\r\n"

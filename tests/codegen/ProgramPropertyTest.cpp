@@ -32,12 +32,12 @@ TEST(ProgramProperties, WhatIsNeitherGeneratedNorNamedInMessagesChangesNothing) 
     ExpectProperty({.Cases = 500, .LargestSize = 200}, [] {
         const FsmDocument document = NamedDocument();
         FsmDocument other = document;
-        for (const int state : StateNumbers()) {
+        for (const StateNumber state : StateNumbers()) {
             other.State(state).ExitCode = *AnyText();
-            other.State(state).ColWidth = state;
+            other.State(state).ColWidth = 100 + state.Number();
             other.State(state).LastTab = 3;
         }
-        for (const int row : EventRows())
+        for (const RowNumber row : EventRows())
             other.Event(row).Tooltip = other.Event(row).Name = *AnyText();
         other.General.BuildFile = *AnyText();
         other.View.ShowElse = !other.View.ShowElse;

@@ -11,20 +11,20 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 struct Edge {
-    int From;
-    int Row;
-    int To;
+    StateNumber From;
+    RowNumber Row;
+    StateNumber To;
 };
 
 std::vector<int> ReachedBy(std::initializer_list<Edge> edges) {
     FsmDocument document;
     for (const Edge& edge : edges)
-        document.State(edge.From).Targets[edge.Row] = static_cast<std::int16_t>(edge.To);
+        document.State(edge.From).Targets[edge.Row] = edge.To;
     const Reachability reachability = ComputeReachability(document);
     std::vector<int> reached;
-    for (const int state : StateNumbers())
+    for (const StateNumber state : StateNumbers())
         if (reachability.Reached(state))
-            reached.push_back(state);
+            reached.push_back(state.Number());
     EXPECT_EQ(reachability.ReturnsToStart(), reachability.Reached(1));
     return reached;
 }
@@ -60,10 +60,10 @@ TEST(Reachability, ATargetThatTheTableDoesNotHaveIsABoundsError) {
 
 TEST(Reachability, AChainOfAllStatesIsReachedToItsEnd) {
     FsmDocument document;
-    for (const int state : StateNumbers())
-        document.State(state).Targets[6] = static_cast<std::int16_t>(state % kStateCount + 1);
+    for (const StateNumber state : StateNumbers())
+        document.State(state).Targets[6] = state.Number() % kStateCount + 1;
     const Reachability reachability(document);
-    for (const int state : StateNumbers())
+    for (const StateNumber state : StateNumbers())
         EXPECT_TRUE(reachability.Reached(state)) << state;
 }
 

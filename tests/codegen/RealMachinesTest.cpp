@@ -27,7 +27,7 @@ bool IsNumber(const std::string& name) {
 // Some machines call their states 0, 1, 2. The loop label of such a state can be the label behind an action
 // of the state with that number (M_2_3), which is how labels are made; users name their states.
 FsmDocument WithNamedStates(FsmDocument document) {
-    for (const int state : StateNumbers()) {
+    for (const StateNumber state : StateNumbers()) {
         std::string& name = document.State(state).Name;
         if (IsNumber(name))
             name.insert(0, "s");

@@ -6,9 +6,9 @@
 namespace orvane {
 namespace {
 
-Finding Note() { return {Severity::Note, 1, 4, "n"}; }
-Finding Warning() { return {Severity::Warning, 1, 0, "w"}; }
-Finding Error() { return {Severity::Error, 1, 6, "e"}; }
+Finding Note() { return {Severity::Note, {4, 1}, "n"}; }
+Finding Warning() { return {Severity::Warning, {0, 1}, "w"}; }
+Finding Error() { return {Severity::Error, {6, 1}, "e"}; }
 
 TEST(Report, ACleanRunLeavesTheHeading) { EXPECT_EQ(ReportText({}), "Errors and warnings\r\n"); }
 

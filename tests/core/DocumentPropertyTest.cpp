@@ -11,7 +11,7 @@ namespace {
 
 // A mode that does not fit the image's one character is packed as 255.
 FsmDocument PackedPart(FsmDocument document) {
-    for (const int state : StateNumbers()) {
+    for (const StateNumber state : StateNumbers()) {
         std::int32_t& mode = document.State(state).TimingMode;
         if (mode < 0 || mode > 255)
             mode = 255;
@@ -24,11 +24,11 @@ FsmDocument DesignOfSeenLike(const FsmDocument& design, const FsmDocument& looks
     FsmDocument both = PackedPart(design);
     both.View = looks.View;
     both.General.BuildFile = looks.General.BuildFile;
-    for (const int state : StateNumbers()) {
+    for (const StateNumber state : StateNumbers()) {
         both.State(state).ColWidth = looks.State(state).ColWidth;
         both.State(state).LastTab = looks.State(state).LastTab;
     }
-    for (const int row : CellRows())
+    for (const RowNumber row : CellRows())
         both.Event(row).LastTab = looks.Event(row).LastTab;
     return both;
 }

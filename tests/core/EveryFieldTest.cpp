@@ -93,9 +93,9 @@ TEST(EveryField, ComesBackFromItsImage) {
     const FsmDocument document = EveryFieldDocument();
     FsmDocument emptied = document;
     emptied.ClearDataBase(true); // keeps what an image does not hold, but for the last tabs
-    for (const int state : StateNumbers())
+    for (const StateNumber state : StateNumbers())
         emptied.State(state).LastTab = document.State(state).LastTab;
-    for (const int row : CellRows())
+    for (const RowNumber row : CellRows())
         emptied.Event(row).LastTab = document.Event(row).LastTab;
     EXPECT_TRUE(Unpack(Pack(document), emptied).empty());
     EXPECT_EQ(emptied, document);

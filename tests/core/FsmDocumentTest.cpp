@@ -13,13 +13,13 @@ FsmDocument Filled() {
     FsmDocument document;
     document.General = {"PMP", ";header", ";code", ";init", ";data", ";test", "4", false, "C:\\pump.b1d"};
     document.View = {true, true, true, true, 3000, {1, 2, 3, 4}};
-    for (const int row : CellRows())
+    for (const RowNumber row : CellRows())
         document.Event(row) = {"event", ";test", "hint", 1};
-    for (const int number : StateNumbers()) {
+    for (const StateNumber number : StateNumbers()) {
         StateRecord& state = document.State(number);
-        state = {"state", "hint", ";entry", ";exit", 3, {}, {}, "100", ";limit", "A", 1000 + number, 2};
-        for (const int row : CellRows()) {
-            state.Targets[row] = static_cast<std::int16_t>(number);
+        state = {"state", "hint", ";entry", ";exit", 3, {}, {}, "100", ";limit", "A", 1000 + number.Number(), 2};
+        for (const RowNumber row : CellRows()) {
+            state.Targets[row] = number;
             state.Actions[row] = ";action";
         }
     }
@@ -28,11 +28,11 @@ FsmDocument Filled() {
 
 TEST(FsmDocument, AFreshDocumentIsEmptyWithDefaultWidths) {
     const FsmDocument document;
-    for (const int number : StateNumbers()) {
+    for (const StateNumber number : StateNumbers()) {
         EXPECT_EQ(document.State(number), document.StateTemplate());
         EXPECT_EQ(document.State(number).ColWidth, 945);
     }
-    for (const int row : CellRows())
+    for (const RowNumber row : CellRows())
         EXPECT_EQ(document.Event(row), EventRecord());
     EXPECT_EQ(document.General, GeneralCode());
     EXPECT_TRUE(document.General.LaunchSeg);
@@ -46,7 +46,7 @@ TEST(FsmDocument, TheDefaultWidthIsTheInitialWidthOfEveryState) {
     const FsmDocument document(600);
     EXPECT_EQ(document.DefaultColumnWidth(), 600);
     EXPECT_EQ(document.StateTemplate().ColWidth, 600);
-    for (const int number : StateNumbers())
+    for (const StateNumber number : StateNumbers())
         EXPECT_EQ(document.State(number).ColWidth, 600);
 }
 
@@ -62,12 +62,12 @@ TEST(FsmDocument, ClearingWithoutKeptWidthsEmptiesAllButViewAndBuilderScript) {
 TEST(FsmDocument, ClearingWithKeptWidthsLeavesEveryColumnWidth) {
     FsmDocument document = Filled();
     document.ClearDataBase(true);
-    for (const int number : StateNumbers()) {
+    for (const StateNumber number : StateNumbers()) {
         StateRecord expected;
-        expected.ColWidth = 1000 + number;
+        expected.ColWidth = 1000 + number.Number();
         EXPECT_EQ(document.State(number), expected);
     }
-    for (const int row : CellRows())
+    for (const RowNumber row : CellRows())
         EXPECT_EQ(document.Event(row), EventRecord());
     EXPECT_EQ(document.General.FsmName, "");
     EXPECT_TRUE(document.General.LaunchSeg);

@@ -7,12 +7,12 @@ namespace orvane {
 namespace {
 
 TEST(RowArray, EveryCellRowHasItsOwnElement) {
-    RowArray<int> rows;
-    for (const int row : CellRows())
+    RowArray<RowNumber> rows;
+    for (const RowNumber row : CellRows())
         EXPECT_EQ(rows[row], 0);
-    for (const int row : CellRows())
+    for (const RowNumber row : CellRows())
         rows[row] = row;
-    for (const int row : CellRows())
+    for (const RowNumber row : CellRows())
         EXPECT_EQ(rows[row], row);
 }
 
@@ -28,7 +28,7 @@ TEST(RowArray, RowsOutsideAreRefusedAndChangeNothing) {
 
 TEST(TableGeometry, RangesHoldBothEnds) {
     int count = 0;
-    for ([[maybe_unused]] const int row : EventRows())
+    for ([[maybe_unused]] const RowNumber row : EventRows())
         ++count;
     EXPECT_EQ(count, 49);
     EXPECT_TRUE(CellRows().Contains(4));
@@ -37,7 +37,14 @@ TEST(TableGeometry, RangesHoldBothEnds) {
     EXPECT_FALSE(CellRows().Contains(55));
     EXPECT_TRUE(TargetNumbers().Contains(0));
     EXPECT_FALSE(StateNumbers().Contains(0));
-    EXPECT_FALSE(StateNumbers().Contains(4294967297)); // not taken as 1
+}
+
+TEST(TableGeometry, ANumberIsOneOfARangeOrNoneHoweverLargeItIs) {
+    EXPECT_EQ(NumberIn(StateNumbers(), 100), StateNumber(100));
+    EXPECT_EQ(NumberIn(StateNumbers(), 0), std::nullopt);
+    EXPECT_EQ(NumberIn(StateNumbers(), 101), std::nullopt);
+    EXPECT_EQ(NumberIn(StateNumbers(), 4294967297), std::nullopt); // not taken as 1
+    EXPECT_EQ(NumberIn(CellRows(), -4294967292), std::nullopt);    // nor this as 4
 }
 
 } // namespace

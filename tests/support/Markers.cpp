@@ -18,25 +18,25 @@ void Mark(std::string& text, const std::string& marker) {
         text = marker;
 }
 
-void MarkState(StateRecord& state, int number) {
-    const std::string name = NumberText(number);
+void MarkState(StateRecord& state, StateNumber number) {
+    const std::string name = NumberText(number.Number());
     Mark(state.EntryCode, Marker(kDo, "entry_" + name));
     Mark(state.ExitCode, Marker(kDo, "exit_" + name));
-    for (const int row : CellRows()) // of two lines, so that texts of several lines are walked too
-        Mark(state.Actions[row], Marker(kDo, "action_" + name + "_" + NumberText(row)) + "\r\n;second line");
+    for (const RowNumber row : CellRows()) // of two lines, so that texts of several lines are walked too
+        Mark(state.Actions[row], Marker(kDo, "action_" + name + "_" + NumberText(row.Number())) + "\r\n;second line");
     if (!Trim(state.TimingVar).empty())
         state.TimingVar = Marker(kLoad, name);
     if (!Trim(state.TimeConst).empty())
-        state.TimeConst = NumberText(number % 6);
+        state.TimeConst = NumberText(number.Number() % 6);
 }
 
 } // namespace
 
 FsmDocument WithMarkers(FsmDocument document) {
-    for (const int number : StateNumbers())
+    for (const StateNumber number : StateNumbers())
         MarkState(document.State(number), number);
-    for (const int row : EventRows())
-        Mark(document.Event(row).Code, Marker(kTest, NumberText(row)));
+    for (const RowNumber row : EventRows())
+        Mark(document.Event(row).Code, Marker(kTest, NumberText(row.Number())));
     GeneralCode& general = document.General;
     Mark(general.HeaderComment, ";header");
     // Without multitasking the program runs through the code segment into the first state.

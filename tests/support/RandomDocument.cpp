@@ -34,7 +34,10 @@ constexpr std::array kMarks = {&ViewOptions::Polytask, &ViewOptions::ShowTimeTar
 constexpr std::array kHeights = {&RowHeights::Else, &RowHeights::ExitAction, &RowHeights::TimingMode,
                                  &RowHeights::TimeTarget};
 
-Gen<int> AnyOf(NumberRange range) { return gen::inRange(range.First(), range.Last() + 1); }
+template <typename Number>
+Gen<int> AnyOf(NumberRange<Number> range) {
+    return gen::inRange(range.First().Number(), range.Last().Number() + 1);
+}
 
 Gen<std::int32_t> AnyInt32() {
     using Limits = std::numeric_limits<std::int32_t>;
@@ -83,7 +86,7 @@ Gen<DocumentEdit> CellEdit() {
         [](int state, int row, int target, const std::string& action) {
             return DocumentEdit{"cell " + NumberText(row) + " of state " + NumberText(state),
                                 [=](FsmDocument& document) {
-                                    document.State(state).Targets[row] = static_cast<std::int16_t>(target);
+                                    document.State(state).Targets[row] = target;
                                     document.State(state).Actions[row] = action;
                                 }};
         },
@@ -114,7 +117,7 @@ Gen<DocumentEdit> GeneralEdit() {
 
 Gen<DocumentEdit> ViewEdit() {
     return gen::apply(
-        [](bool ViewOptions::*mark, bool on, std::int32_t RowHeights::*row, std::int32_t twips) {
+        [](bool ViewOptions::*mark, bool on, Twips RowHeights::*row, std::int32_t twips) {
             return DocumentEdit{"view", [=](FsmDocument& document) {
                                     document.View.*mark = on;
                                     document.View.RowVisible.*row = twips;
@@ -129,10 +132,10 @@ Gen<DocumentEdit> ColumnEdit() {
     return gen::apply(
         [](int state, int target, const std::string& action) {
             return DocumentEdit{"all cells of state " + NumberText(state), [=](FsmDocument& document) {
-                                    for (const int row : CellRows()) {
+                                    for (const RowNumber row : CellRows()) {
                                         document.State(state).Targets[row] =
-                                            static_cast<std::int16_t>(target);
-                                        document.State(state).Actions[row] = action + NumberText(row);
+                                            target;
+                                        document.State(state).Actions[row] = action + NumberText(row.Number());
                                     }
                                 }};
         },
@@ -145,9 +148,9 @@ Gen<DocumentEdit> RowEdit() {
         [](int row, const std::string& text) {
             return DocumentEdit{"all of row " + NumberText(row), [=](FsmDocument& document) {
                                     document.Event(row) = {text, text, text, 1};
-                                    for (const int state : StateNumbers()) {
+                                    for (const StateNumber state : StateNumbers()) {
                                         document.State(state).Targets[row] =
-                                            static_cast<std::int16_t>(StateNumbers().Last() - state);
+                                            StateNumbers().Last() - state;
                                         document.State(state).Actions[row] = text;
                                     }
                                 }};
@@ -233,12 +236,12 @@ Gen<FsmDocument> AnyDocument() {
 }
 
 FsmDocument StoredPart(FsmDocument document) {
-    for (const int row : CellRows()) {
+    for (const RowNumber row : CellRows()) {
         document.Event(row).LastTab = 0;
         if (!EventRows().Contains(row))
             document.Event(row) = {};
     }
-    for (const int state : StateNumbers())
+    for (const StateNumber state : StateNumbers())
         document.State(state).LastTab = 0;
     return document;
 }

@@ -57,7 +57,7 @@ class Walker {
             trace_.push_back(kGoesRound);
             return false;
         }
-        const int elseTarget = Record().Targets[5];
+        const int elseTarget = Record().Targets[5].Number();
         const bool leavesAtOnce = elseTarget != 0 && elseTarget != state_;
         if (document_.View.Polytask && leavesAtOnce)
             return true;
@@ -87,13 +87,13 @@ class Walker {
 
     void TakeTimeout() {
         if (LimitIsVariable())
-            Enter(Record().Targets[4]);
+            Enter(Record().Targets[4].Number());
         else
             Take(4);
     }
 
     void Take(int row) {
-        const int target = Record().Targets[row];
+        const int target = Record().Targets[row].Number();
         Do(Record().Actions[row]);
         Enter(target);
     }
@@ -125,7 +125,7 @@ std::set<int> EnteredStates(const FsmDocument& document) {
         const int state = toVisit.back();
         toVisit.pop_back();
         for (int row = 4; row <= 54; ++row) {
-            const int target = document.State(state).Targets[row];
+            const int target = document.State(state).Targets[row].Number();
             const bool isNew = target != 0 && entered.insert(target).second;
             if (isNew && target != 1)
                 toVisit.push_back(target);

@@ -9,25 +9,25 @@ namespace orvane {
 namespace {
 
 TEST(CellColour, TheRowsOfAStateColumnHaveTheirColours) {
-    for (const int state : StateNumbers()) {
-        EXPECT_EQ(CellColour(0, state), (Colour{204, 255, 255}));
-        EXPECT_EQ(CellColour(1, state), (Colour{204, 255, 204}));
-        EXPECT_EQ(CellColour(2, state), (Colour{255, 204, 153}));
-        EXPECT_EQ(CellColour(3, state), (Colour{255, 255, 153}));
-        for (const int row : CellRows())
-            EXPECT_EQ(CellColour(row, state), (Colour{255, 255, 255})) << row;
+    for (const StateNumber state : StateNumbers()) {
+        EXPECT_EQ(CellColour({0, state}), (Colour{204, 255, 255}));
+        EXPECT_EQ(CellColour({1, state}), (Colour{204, 255, 204}));
+        EXPECT_EQ(CellColour({2, state}), (Colour{255, 204, 153}));
+        EXPECT_EQ(CellColour({3, state}), (Colour{255, 255, 153}));
+        for (const RowNumber row : CellRows())
+            EXPECT_EQ(CellColour({row, state}), (Colour{255, 255, 255})) << row;
     }
 }
 
 TEST(CellColour, TheRowHeadsHaveColoursOfTheirOwn) {
-    EXPECT_EQ(CellColour(0, 0), (Colour{255, 255, 255}));
-    EXPECT_EQ(CellColour(1, 0), (Colour{255, 221, 178}));
-    EXPECT_EQ(CellColour(2, 0), (Colour{255, 204, 153}));
-    EXPECT_EQ(CellColour(3, 0), (Colour{255, 255, 153}));
-    EXPECT_EQ(CellColour(4, 0), (Colour{255, 255, 153}));
-    EXPECT_EQ(CellColour(5, 0), (Colour{255, 238, 204}));
-    for (const int row : EventRows())
-        EXPECT_EQ(CellColour(row, 0), (Colour{255, 153, 204})) << row;
+    EXPECT_EQ(CellColour({0, 0}), (Colour{255, 255, 255}));
+    EXPECT_EQ(CellColour({1, 0}), (Colour{255, 221, 178}));
+    EXPECT_EQ(CellColour({2, 0}), (Colour{255, 204, 153}));
+    EXPECT_EQ(CellColour({3, 0}), (Colour{255, 255, 153}));
+    EXPECT_EQ(CellColour({4, 0}), (Colour{255, 255, 153}));
+    EXPECT_EQ(CellColour({5, 0}), (Colour{255, 238, 204}));
+    for (const RowNumber row : EventRows())
+        EXPECT_EQ(CellColour({row, 0}), (Colour{255, 153, 204})) << row;
 }
 
 } // namespace

@@ -26,21 +26,21 @@ TEST(CellEdit, ATransitionCannotBeEnteredInAnUnnamedEventRow) {
 
 TEST(CellEdit, TheEditorStartsWithTheNumberOfTheTarget) {
     const FsmDocument document = OneTransition();
-    EXPECT_EQ(CellEditText(document, 6, 3), "7");
-    EXPECT_EQ(CellEditText(document, 7, 3), "");
+    EXPECT_EQ(CellEditText(document, {6, 3}), "7");
+    EXPECT_EQ(CellEditText(document, {7, 3}), "");
 }
 
 TEST(CellEdit, ATypedNumberBecomesTheTargetAndTheActionStays) {
     FsmDocument document = OneTransition();
-    EXPECT_EQ(StoreTypedTarget(document, 6, 3, "12"), std::nullopt);
+    EXPECT_EQ(StoreTypedTarget(document, {6, 3}, "12"), std::nullopt);
     EXPECT_EQ(document.State(3).Targets[6], 12);
     EXPECT_EQ(document.State(3).Actions[6], ";act");
 }
 
 TEST(CellEdit, AnyColumnWillDoAsATargetNamedOrNot) {
     FsmDocument document = OneTransition();
-    for (const int target : StateNumbers()) {
-        EXPECT_EQ(StoreTypedTarget(document, 6, 3, std::to_string(target)), std::nullopt);
+    for (const StateNumber target : StateNumbers()) {
+        EXPECT_EQ(StoreTypedTarget(document, {6, 3}, std::to_string(target.Number())), std::nullopt);
         EXPECT_EQ(document.State(3).Targets[6], target);
     }
 }
@@ -48,7 +48,7 @@ TEST(CellEdit, AnyColumnWillDoAsATargetNamedOrNot) {
 TEST(CellEdit, ZeroOrNothingRemovesTargetAndAction) {
     for (const char* typed : {"", "0", "000"}) {
         FsmDocument document = OneTransition();
-        EXPECT_EQ(StoreTypedTarget(document, 6, 3, typed), std::nullopt);
+        EXPECT_EQ(StoreTypedTarget(document, {6, 3}, typed), std::nullopt);
         EXPECT_EQ(document, FsmDocument()) << typed;
     }
 }
@@ -56,14 +56,14 @@ TEST(CellEdit, ZeroOrNothingRemovesTargetAndAction) {
 TEST(CellEdit, ZeroRemovesAnActionThatHadNoTarget) {
     FsmDocument document;
     document.State(1).Actions[8] = ";act";
-    StoreTypedTarget(document, 8, 1, "");
+    StoreTypedTarget(document, {8, 1}, "");
     EXPECT_EQ(document, FsmDocument());
 }
 
 TEST(CellEdit, ANumberThatIsNoColumnIsToldAndTheOldTargetStays) {
     for (const char* typed : {"101", "-1", "32768", "65537", "99999999999999999999"}) {
         FsmDocument document = OneTransition();
-        const std::optional<UserMessage> message = StoreTypedTarget(document, 6, 3, typed);
+        const std::optional<UserMessage> message = StoreTypedTarget(document, {6, 3}, typed);
         ASSERT_TRUE(message) << typed;
         EXPECT_EQ(*message,
                   (UserMessage{.Text = "The transition cell must point to a \r\n valid state column.",
@@ -77,16 +77,16 @@ TEST(CellEdit, ANumberThatIsNoColumnIsToldAndTheOldTargetStays) {
 TEST(Stepping, FollowsTheTransitionOfTheCurrentState) {
     FsmDocument document = OneTransition();
     document.State(3).Targets[kTimeoutRow] = 9;
-    EXPECT_EQ(StepTarget(document, 3, 6), 7);
-    EXPECT_EQ(StepTarget(document, 3, kTimeoutRow), 9);
+    EXPECT_EQ(StepTarget(document, {6, 3}), 7);
+    EXPECT_EQ(StepTarget(document, {kTimeoutRow, 3}), 9);
 }
 
 TEST(Stepping, GoesNowhereWithoutACurrentStateOrATransition) {
     const FsmDocument document = OneTransition();
-    EXPECT_EQ(StepTarget(document, 0, 6), 0);
-    EXPECT_EQ(StepTarget(document, 3, 7), 0);
+    EXPECT_EQ(StepTarget(document, {6, 0}), 0);
+    EXPECT_EQ(StepTarget(document, {7, 3}), 0);
     for (int row = 0; row < kFirstCellRow; ++row)
-        EXPECT_EQ(StepTarget(document, 3, row), 0);
+        EXPECT_EQ(StepTarget(document, {row, 3}), 0);
 }
 
 } // namespace

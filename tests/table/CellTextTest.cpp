@@ -21,7 +21,7 @@ FsmDocument WideDocument() {
 }
 
 std::string Cell(const FsmDocument& document, int row, int column) {
-    return CellText(document, row, column, WidthOf);
+    return CellText(document, {row, column}, WidthOf);
 }
 
 TEST(CellText, TheHeadOfTheTableIsTheNamePrefix) {
@@ -139,14 +139,14 @@ TEST(CellText, TheSmallestAndTheLargestWidthsAreTakenAsTheyAre) {
     for (const std::int32_t width : {std::numeric_limits<std::int32_t>::min(), -1, 0}) {
         document.View.Col0Width = width;
         document.State(1).ColWidth = width;
-        EXPECT_EQ(CellText(document, 0, 0, WidthOf), "");
-        EXPECT_EQ(CellText(document, 1, 0, WidthOf), "");
-        EXPECT_EQ(CellText(document, 0, 1, WidthOf), "");
+        EXPECT_EQ(CellText(document, {0, 0}, WidthOf), "");
+        EXPECT_EQ(CellText(document, {1, 0}, WidthOf), "");
+        EXPECT_EQ(CellText(document, {0, 1}, WidthOf), "");
     }
     document.View.Col0Width = 100'000;
     document.State(1).ColWidth = std::numeric_limits<std::int32_t>::max();
-    EXPECT_EQ(CellText(document, 0, 0, WidthOf), "PMP");
-    EXPECT_EQ(CellText(document, 0, 1, WidthOf), "1:Idle");
+    EXPECT_EQ(CellText(document, {0, 0}, WidthOf), "PMP");
+    EXPECT_EQ(CellText(document, {0, 1}, WidthOf), "1:Idle");
 }
 
 TEST(CellText, CellsOutsideTheTableAreRefused) {

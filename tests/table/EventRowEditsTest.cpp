@@ -93,7 +93,7 @@ TEST(DeleteEvent, EverythingBelowMovesUpByOneRow) {
 
 TEST(DeleteEvent, IsAskedAboutWhereSomeStateHasATransition) {
     FsmDocument document;
-    for (const int state : StateNumbers())
+    for (const StateNumber state : StateNumbers())
         document.State(state).Targets[8] = 1;
     EXPECT_EQ(QuestionBeforeDeleteEvent(document, 8),
               (UserMessage{.Text = "The event row contains one or more state transitions.\r\n"

@@ -20,7 +20,7 @@ class HoverHintTest : public testing::Test {
     }
 
     std::optional<Hint> HintAt(int row, int column, bool shiftHeld = false) const {
-        return HoverHint(Document, row, column, shiftHeld);
+        return HoverHint(Document, {row, column}, shiftHeld);
     }
 
     FsmDocument Document;
@@ -30,8 +30,8 @@ class HoverHintTest : public testing::Test {
 TEST_F(HoverHintTest, AnEmptyDocumentHasHintsOnlyForTimingAndTheSpecialHeads) {
     const FsmDocument empty;
     for (int row = 0; row < kTableRows; ++row) {
-        EXPECT_EQ(HoverHint(empty, row, 1, false).has_value(), row == kTimingModeRow) << row;
-        EXPECT_EQ(HoverHint(empty, row, 0, false).has_value(), row <= kElseRow) << row;
+        EXPECT_EQ(HoverHint(empty, {row, 1}, false).has_value(), row == kTimingModeRow) << row;
+        EXPECT_EQ(HoverHint(empty, {row, 0}, false).has_value(), row <= kElseRow) << row;
     }
 }
 

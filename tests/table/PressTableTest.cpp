@@ -8,12 +8,12 @@
 namespace orvane {
 namespace {
 
-PressAction Left(int row, int column, PressModifiers modifiers = PressModifiers::None) {
-    return ActionOfPress(row, column, PressButton::Left, modifiers);
+PressAction Left(RowNumber row, StateNumber column, PressModifiers modifiers = PressModifiers::None) {
+    return ActionOfPress({row, column}, PressButton::Left, modifiers);
 }
 
-PressAction Right(int row, int column) {
-    return ActionOfPress(row, column, PressButton::Right, PressModifiers::None);
+PressAction Right(RowNumber row, StateNumber column) {
+    return ActionOfPress({row, column}, PressButton::Right, PressModifiers::None);
 }
 
 TEST(PressTable, TheTopRowsOfAStateOpenItsEditor) {
@@ -22,7 +22,7 @@ TEST(PressTable, TheTopRowsOfAStateOpenItsEditor) {
 }
 
 TEST(PressTable, CellsTakeATarget) {
-    for (const int row : CellRows())
+    for (const RowNumber row : CellRows())
         EXPECT_EQ(Left(row, 100), PressAction::EditTarget);
 }
 
@@ -37,7 +37,7 @@ TEST(PressTable, RowHeadsOpenTheGeneralCodeAndTheEvents) {
     EXPECT_EQ(Left(0, 0), PressAction::EditGeneralCode);
     for (const int row : {1, 2, 3, 4, 5})
         EXPECT_EQ(Left(row, 0), PressAction::Nothing);
-    for (const int row : EventRows())
+    for (const RowNumber row : EventRows())
         EXPECT_EQ(Left(row, 0), PressAction::EditEvent);
 }
 
@@ -52,17 +52,17 @@ TEST(PressTable, TheRightButtonPopsUpTheMenuOfTheRow) {
     EXPECT_EQ(Right(1, 1), PressAction::EntryActionMenu);
     EXPECT_EQ(Right(2, 1), PressAction::Nothing);
     EXPECT_EQ(Right(3, 1), PressAction::Nothing);
-    for (const int row : CellRows())
+    for (const RowNumber row : CellRows())
         EXPECT_EQ(Right(row, 1), PressAction::TransitionMenu);
     for (const int row : {0, 1, 2, 3, 4, 5})
         EXPECT_EQ(Right(row, 0), PressAction::Nothing);
-    for (const int row : EventRows())
+    for (const RowNumber row : EventRows())
         EXPECT_EQ(Right(row, 0), PressAction::EventMenu);
 }
 
 TEST(PressTable, OtherButtonsDoNothing) {
-    EXPECT_EQ(ActionOfPress(0, 0, PressButton::Other, PressModifiers::None), PressAction::Nothing);
-    EXPECT_EQ(ActionOfPress(6, 1, PressButton::Other, PressModifiers::None), PressAction::Nothing);
+    EXPECT_EQ(ActionOfPress({0, 0}, PressButton::Other, PressModifiers::None), PressAction::Nothing);
+    EXPECT_EQ(ActionOfPress({6, 1}, PressButton::Other, PressModifiers::None), PressAction::Nothing);
 }
 
 } // namespace

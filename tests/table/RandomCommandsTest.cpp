@@ -43,7 +43,7 @@ constexpr std::array kCommands = {
             }},
     Command{"type",
             [](User& user, const Place& at) {
-                StoreTypedTarget(user.Document, at.Row, at.State, std::to_string(at.Number));
+                StoreTypedTarget(user.Document, {at.Row, at.State}, std::to_string(at.Number));
             }},
     Command{"copy state",
             [](User& user, const Place& at) { CopyState(user.Document, user.Clipboard, at.State); }},
@@ -53,13 +53,13 @@ constexpr std::array kCommands = {
             [](User& user, const Place& at) { CutEntryAction(user.Document, user.Clipboard, at.State); }},
     Command{
         "copy transition",
-        [](User& user, const Place& at) { CopyTransition(user.Document, user.Clipboard, at.Row, at.State); }},
+        [](User& user, const Place& at) { CopyTransition(user.Document, user.Clipboard, {at.Row, at.State}); }},
     Command{
         "cut transition",
-        [](User& user, const Place& at) { CutTransition(user.Document, user.Clipboard, at.Row, at.State); }},
+        [](User& user, const Place& at) { CutTransition(user.Document, user.Clipboard, {at.Row, at.State}); }},
     Command{"cut action",
             [](User& user, const Place& at) {
-                CutTransitionAction(user.Document, user.Clipboard, at.Row, at.State);
+                CutTransitionAction(user.Document, user.Clipboard, {at.Row, at.State});
             }},
     Command{"paste",
             [](User& user, const Place& at) {
@@ -71,9 +71,9 @@ constexpr std::array kCommands = {
                 if (user.Offered.EntryAction)
                     PasteEntryAction(user.Document, user.Clipboard, at.State);
                 if (user.Offered.Transition)
-                    PasteTransition(user.Document, user.Clipboard, at.Row, at.State);
+                    PasteTransition(user.Document, user.Clipboard, {at.Row, at.State});
                 if (user.Offered.TransitionAction)
-                    PasteTransitionAction(user.Document, user.Clipboard, at.Row, at.State);
+                    PasteTransitionAction(user.Document, user.Clipboard, {at.Row, at.State});
             }},
 };
 
@@ -101,8 +101,8 @@ rc::Gen<Step> AnyStep() {
 }
 
 void RequireValid(const User& user) {
-    for (const int state : StateNumbers())
-        for (const int row : CellRows())
+    for (const StateNumber state : StateNumbers())
+        for (const RowNumber row : CellRows())
             RC_ASSERT(TargetNumbers().Contains(user.Document.State(state).Targets[row]));
     RC_ASSERT(TargetNumbers().Contains(user.Clipboard.ClipTarget));
 }
@@ -111,9 +111,9 @@ void RequireValid(const User& user) {
 void RequireEveryTransitionInOneList(const FsmDocument& document) {
     std::size_t transitions = 0;
     std::size_t listed = 0;
-    for (const int state : StateNumbers()) {
+    for (const StateNumber state : StateNumbers()) {
         listed += BacktrackLines(document, state).size();
-        for (const int row : CellRows())
+        for (const RowNumber row : CellRows())
             transitions += document.State(state).Targets[row] != kNoState;
     }
     RC_ASSERT(listed == transitions);

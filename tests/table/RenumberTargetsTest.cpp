@@ -8,12 +8,12 @@ namespace {
 
 TEST(RenumberTargets, EveryCellRowOfTheStatesFollowsAndNothingElse) {
     FsmDocument document;
-    for (const int row : CellRows())
-        document.State(1).Targets[row] = row % 2 == 0 ? 7 : 6;
+    for (const RowNumber row : CellRows())
+        document.State(1).Targets[row] = row.Number() % 2 == 0 ? 7 : 6;
     TableClipboard clipboard;
     RenumberTargets(document, clipboard, StateNumbers(), {7, 8});
-    for (const int row : CellRows())
-        EXPECT_EQ(document.State(1).Targets[row], row % 2 == 0 ? 8 : 6);
+    for (const RowNumber row : CellRows())
+        EXPECT_EQ(document.State(1).Targets[row], row.Number() % 2 == 0 ? 8 : 6);
 }
 
 TEST(RenumberTargets, StatesOutsideTheRangeKeepTheirTargets) {

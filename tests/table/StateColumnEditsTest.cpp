@@ -89,7 +89,7 @@ TEST(InsertState, IsRefusedWhenNoColumnBehindIsFree) {
     TableClipboard clipboard;
     clipboard.Kind = ClipKind::Event;
     const TableClipboard copied = clipboard;
-    for (const int state : StateNumbers())
+    for (const StateNumber state : StateNumbers())
         EXPECT_EQ(InsertState(document, clipboard, state), kNoRoom) << state;
     EXPECT_EQ(document, original);
     EXPECT_EQ(clipboard, copied);

@@ -8,7 +8,10 @@ namespace {
 
 using namespace test;
 
-rc::Gen<int> AnyOf(NumberRange range) { return rc::gen::inRange(range.First(), range.Last() + 1); }
+template <typename Number>
+rc::Gen<int> AnyOf(NumberRange<Number> range) {
+    return rc::gen::inRange(range.First().Number(), range.Last().Number() + 1);
+}
 
 // A clipboard with a state of the document on it.
 TableClipboard WithCopiedState(const FsmDocument& document) {
@@ -22,7 +25,7 @@ TableClipboard WithCopiedState(const FsmDocument& document) {
 FsmDocument WithRoomForAnEvent() {
     FsmDocument document = *AnyDocument();
     document.Event(kLastRow) = {};
-    for (const int state : StateNumbers()) {
+    for (const StateNumber state : StateNumbers()) {
         document.State(state).Targets[kLastRow] = kNoState;
         document.State(state).Actions[kLastRow - 1].clear();
         document.State(state).Actions[kLastRow].clear();
@@ -35,8 +38,8 @@ FsmDocument WithRoomForAState() {
     FsmDocument document = *AnyDocument();
     document.State(kStateCount - 1) = document.StateTemplate();
     document.State(kStateCount) = document.StateTemplate();
-    for (const int state : StateNumbers())
-        for (const int row : CellRows())
+    for (const StateNumber state : StateNumbers())
+        for (const RowNumber row : CellRows())
             if (document.State(state).Targets[row] == kStateCount)
                 document.State(state).Targets[row] = kStateCount - 1;
     return document;
@@ -63,7 +66,7 @@ TEST(InsertedState, DeletedAgainGivesTheTableBackWhenTheLastColumnsWereEmpty) {
         FsmDocument document = original;
         const TableClipboard copied = WithCopiedState(document);
         TableClipboard clipboard = copied;
-        const int state = *AnyOf({1, kStateCount - 1});
+        const int state = *AnyOf(StateRange(1, kStateCount - 1));
         RC_ASSERT(!InsertState(document, clipboard, state));
         DeleteState(document, clipboard, state);
         RC_ASSERT(document == original);
@@ -76,13 +79,13 @@ TEST(InsertedState, EveryTransitionStillLeadsFromTheSameToTheSameState) {
         const FsmDocument before = WithRoomForAState();
         FsmDocument after = before;
         TableClipboard clipboard;
-        const int inserted = *AnyOf({1, kStateCount - 1});
-        const auto moved = [inserted](int state) { return state < inserted ? state : state + 1; };
+        const int inserted = *AnyOf(StateRange(1, kStateCount - 1));
+        const auto moved = [inserted](StateNumber state) { return state < inserted ? state : state + 1; };
         RC_ASSERT(!InsertState(after, clipboard, inserted));
         for (int state = 1; state < kStateCount; ++state) {
             StateRecord expected = before.State(state);
-            for (const int row : CellRows())
-                expected.Targets[row] = static_cast<std::int16_t>(moved(expected.Targets[row]));
+            for (const RowNumber row : CellRows())
+                expected.Targets[row] = moved(expected.Targets[row]);
             RC_ASSERT(after.State(moved(state)) == expected);
         }
         RC_ASSERT(after.State(inserted) == after.StateTemplate());

@@ -46,7 +46,7 @@ TEST_F(TableClipboardTest, APastedEventBringsItsCellsInAllStates) {
     EXPECT_EQ(Clipboard.Kind, ClipKind::Event);
     PasteEvent(Document, Clipboard, 7);
     EXPECT_EQ(Document.Event(7), Original.Event(6));
-    for (const int state : StateNumbers()) {
+    for (const StateNumber state : StateNumbers()) {
         EXPECT_EQ(Document.State(state).Targets[7], Original.State(state).Targets[6]) << state;
         EXPECT_EQ(Document.State(state).Actions[7], Original.State(state).Actions[6]) << state;
     }
@@ -80,32 +80,32 @@ TEST_F(TableClipboardTest, DeletingAnEntryActionLeavesTheClipboardAlone) {
 }
 
 TEST_F(TableClipboardTest, ACutTransitionLeavesAnEmptyCellAndIsRestoredByPastingElsewhere) {
-    CutTransition(Document, Clipboard, 6, 3);
+    CutTransition(Document, Clipboard, {6, 3});
     EXPECT_EQ(Clipboard.Kind, ClipKind::Transition);
     EXPECT_EQ(Document.State(3).Targets[6], 0);
     EXPECT_EQ(Document.State(3).Actions[6], "");
-    PasteTransition(Document, Clipboard, kTimeoutRow, 8);
+    PasteTransition(Document, Clipboard, {kTimeoutRow, 8});
     EXPECT_EQ(Document.State(8).Targets[kTimeoutRow], 4);
     EXPECT_EQ(Document.State(8).Actions[kTimeoutRow], ";act");
 }
 
 TEST_F(TableClipboardTest, ACutActionLeavesItsTransition) {
-    CutTransitionAction(Document, Clipboard, 6, 3);
+    CutTransitionAction(Document, Clipboard, {6, 3});
     EXPECT_EQ(Clipboard.Kind, ClipKind::TransitionAction);
     EXPECT_EQ(Document.State(3).Targets[6], 4);
     EXPECT_EQ(Document.State(3).Actions[6], "");
 }
 
 TEST_F(TableClipboardTest, APastedActionLeavesTheTargetOfItsCell) {
-    CopyTransitionAction(Document, Clipboard, 6, 3);
-    PasteTransitionAction(Document, Clipboard, 7, 5);
+    CopyTransitionAction(Document, Clipboard, {6, 3});
+    PasteTransitionAction(Document, Clipboard, {7, 5});
     EXPECT_EQ(Document.State(5).Targets[7], 9);
     EXPECT_EQ(Document.State(5).Actions[7], ";act");
 }
 
 TEST_F(TableClipboardTest, TheActionOfACopiedTransitionCanBePastedAlone) {
-    CopyTransition(Document, Clipboard, 6, 3);
-    PasteTransitionAction(Document, Clipboard, 7, 5);
+    CopyTransition(Document, Clipboard, {6, 3});
+    PasteTransitionAction(Document, Clipboard, {7, 5});
     EXPECT_EQ(Document.State(5).Targets[7], 9);
     EXPECT_EQ(Document.State(5).Actions[7], ";act");
 }
@@ -114,8 +114,8 @@ TEST_F(TableClipboardTest, CopyingChangesNothingInTheDocument) {
     CopyState(Document, Clipboard, 3);
     CopyEvent(Document, Clipboard, 6);
     CopyEntryAction(Document, Clipboard, 3);
-    CopyTransition(Document, Clipboard, 6, 3);
-    CopyTransitionAction(Document, Clipboard, 6, 3);
+    CopyTransition(Document, Clipboard, {6, 3});
+    CopyTransitionAction(Document, Clipboard, {6, 3});
     EXPECT_EQ(Document, Original);
 }
 

@@ -59,8 +59,8 @@ void GeneratorRoom::Prepare(const CommandEntry& next) {
         return;
     const Reachability reachability = ComputeReachability(session_.Document());
     ProgramState program = session_.Program();
-    for (const int state : StateNumbers())
-        program.Reached.set(static_cast<std::size_t>(state), reachability.Reached(state));
+    for (const StateNumber state : StateNumbers())
+        program.Reached.set(IndexIn(TableColumns(), state), reachability.Reached(state));
     session_.SetProgram(program);
 }
 
@@ -105,9 +105,7 @@ frmGenerator& GeneratorRoom::Window() {
     if (!frmGenerator_) {
         frmGenerator_ = std::make_unique<frmGenerator>();
         frmGenerator_->SetVocabulary(words_);
-        connect(frmGenerator_.get(), &frmGenerator::PlaceChosen, this, [this](int state, int row) {
-            Q_EMIT PlaceChosen({row, state});
-        });
+        connect(frmGenerator_.get(), &frmGenerator::PlaceChosen, this, &Room::PlaceChosen);
         ShowRun();
     }
     return *frmGenerator_;

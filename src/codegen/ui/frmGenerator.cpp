@@ -96,8 +96,8 @@ void frmGenerator::ShowCaret() { Panel2->setText(txtCode->CaretReadOut()); }
 
 void frmGenerator::ChoosePlace(int reportLine) {
     const Finding* finding = FindingAtLine(run_.Findings, static_cast<std::size_t>(reportLine));
-    if (finding && finding->State != kNoState)
-        Q_EMIT PlaceChosen(finding->State, finding->Row);
+    if (finding && finding->Place.State != kNoState)
+        Q_EMIT PlaceChosen(finding->Place);
 }
 
 void frmGenerator::resizeEvent(QResizeEvent* event) {

@@ -35,8 +35,8 @@ class frmGenerator : public QWidget {
     void Present();
 
   Q_SIGNALS:
-    // A line of the report that has a place in the table was double-clicked: state 1..100, row 0..54.
-    void PlaceChosen(int state, int row);
+    // A line of the report that has a place in the table was double-clicked.
+    void PlaceChosen(orvane::Cell cell);
 
   protected:
     void resizeEvent(QResizeEvent* event) override;

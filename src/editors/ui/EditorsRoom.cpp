@@ -90,25 +90,24 @@ void EditorsRoom::BeginDraft(Cell place) {
 
 void EditorsRoom::EditState(Cell place) {
     frmStateEdit& dialog = Made(frmStateEdit_);
-    const int state = place.State.Number();
     dialog.SetExitTabVisible(exitTab_);
     dialog.SetTimeoutTabVisible(timeoutTab_);
     BeginDraft(place);
-    StateRecord record = session_.Document().State(state);
-    dialog.Execute(place.Row.Number(), record);
+    StateRecord record = session_.Document().State(place.State);
+    dialog.Execute(place.Row, record);
     hasDraft_ = false;
     session_.Edit({"state", {Extent::AllColumns, {}}},
-                  [&](const Editable& open) { open.Document.State(state) = record; });
+                  [&](const Editable& open) { open.Document.State(place.State) = record; });
 }
 
 void EditorsRoom::EditEvent(RowNumber row) {
     frmEventEdit& dialog = Made(frmEventEdit_);
     BeginDraft({row, kNoState});
-    EventRecord record = session_.Document().Event(row.Number());
+    EventRecord record = session_.Document().Event(row);
     dialog.Execute(record);
     hasDraft_ = false;
     session_.Edit({"event", {Extent::RowHeads, {}}},
-                  [&](const Editable& open) { open.Document.Event(row.Number()) = record; });
+                  [&](const Editable& open) { open.Document.Event(row) = record; });
 }
 
 // Each letter is in the document at once, so that the program made meanwhile shows it; the step comes when
@@ -136,14 +135,13 @@ void EditorsRoom::WriteGeneralCodeThrough() {
 
 void EditorsRoom::EditTransitionAction(Cell place) {
     frmTransitionAction& dialog = Made(frmTransitionAction_);
-    const int row = place.Row.Number();
-    const int state = place.State.Number();
     BeginDraft(place);
-    dialog.SetCode(session_.Document().State(state).Actions[row]);
+    dialog.SetCode(session_.Document().State(place.State).Actions[place.Row]);
     dialog.Execute();
     hasDraft_ = false;
-    session_.Edit({EntryOf(Command::EditAction).Step, {Extent::Column, place.State}},
-                  [&](const Editable& open) { open.Document.State(state).Actions[row] = dialog.Code(); });
+    session_.Edit(
+        {EntryOf(Command::EditAction).Step, {Extent::Column, place.State}},
+        [&](const Editable& open) { open.Document.State(place.State).Actions[place.Row] = dialog.Code(); });
 }
 
 std::optional<Draft> EditorsRoom::CurrentDraft() const {

@@ -88,7 +88,7 @@ void frmStateEdit::SetTimeoutTabVisible(bool visible) { SSTab1->setTabVisible(kT
 
 void frmStateEdit::SetExitTabVisible(bool visible) { SSTab1->setTabVisible(kExitTab, visible); }
 
-void frmStateEdit::Execute(int row, StateRecord& editState) {
+void frmStateEdit::Execute(RowNumber row, StateRecord& editState) {
     workingState_ = editState;
     Fill([this, row] {
         ChooseTab(row);
@@ -98,7 +98,7 @@ void frmStateEdit::Execute(int row, StateRecord& editState) {
     editState = workingState_;
 }
 
-void frmStateEdit::ChooseTab(int row) {
+void frmStateEdit::ChooseTab(RowNumber row) {
     if (row == kHeadRow)
         SSTab1->setCurrentIndex(workingState_.LastTab);
     else if (row == kEntryActionRow)

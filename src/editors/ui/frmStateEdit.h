@@ -24,7 +24,7 @@ class frmStateEdit : public TabbedEditorDialog {
 
     // Shows the state until the dialog closes. Cancel leaves it as it is. The row of the table, 0..3, that
     // was pressed chooses a tab, which the first tab takes over from as soon as the dialog is up.
-    void Execute(int row, StateRecord& editState);
+    void Execute(RowNumber row, StateRecord& editState);
 
     // The state as the fields have it now; the timing mode only where the options make one.
     StateRecord Typed() const;
@@ -35,7 +35,7 @@ class frmStateEdit : public TabbedEditorDialog {
   private:
     void BuildTabs();
     void ConnectFields();
-    void ChooseTab(int row);
+    void ChooseTab(RowNumber row);
     void ShowState();
     void ShowTimingMode();
     void Accept();

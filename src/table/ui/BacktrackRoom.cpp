@@ -21,9 +21,9 @@ BacktrackRoom::~BacktrackRoom() = default;
 
 std::span<const Command> BacktrackRoom::Commands() const { return kOwnCommands; }
 
-void BacktrackRoom::Run(Command) { BackTrack(session_.Pressed().State.Number()); }
+void BacktrackRoom::Run(Command) { BackTrack(session_.Pressed().State); }
 
-void BacktrackRoom::BackTrack(int state) {
+void BacktrackRoom::BackTrack(StateNumber state) {
     if (!frmBackTrack_) {
         frmBackTrack_ = std::make_unique<frmBackTrack>();
         connect(frmBackTrack_.get(), &frmBackTrack::StateChosen, this, &BacktrackRoom::BackTrack);

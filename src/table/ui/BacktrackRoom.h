@@ -25,7 +25,7 @@ class BacktrackRoom : public Room {
     void Close() override;
 
   private:
-    void BackTrack(int state);
+    void BackTrack(StateNumber state);
 
     Session& session_;
     std::unique_ptr<frmBackTrack>

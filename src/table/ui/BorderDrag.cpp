@@ -21,22 +21,22 @@ int ReachIn(const FsmGridView& view, const QPoint& position) {
 
 } // namespace
 
-int BorderDrag::ColumnAt(const QPoint& position) const {
+std::optional<StateNumber> BorderDrag::ColumnAt(const QPoint& position) const {
     const QSize frozen = view_.FrozenSize();
     if (position.y() < 0 || position.y() >= frozen.height())
-        return -1;
+        return std::nullopt;
     const int reach = ReachIn(view_, position);
-    int nearest = -1;
-    for (int column = 0; column < kTableColumns; ++column) {
+    std::optional<StateNumber> nearest;
+    for (const StateNumber column : TableColumns()) {
         const int border = BorderOf(column);
-        if (column > 0 && border < frozen.width())
+        if (column != kNoState && border < frozen.width())
             continue;
         const int distance = std::abs(position.x() - border);
         if (distance > reach)
             continue;
         // Of borders in one place, the pointer at the right takes the last one: that column was dragged shut.
-        const bool behind = nearest >= 0 && BorderOf(nearest) == border && position.x() >= border;
-        if (nearest < 0 || behind || distance < std::abs(position.x() - BorderOf(nearest)))
+        const bool behind = nearest && BorderOf(*nearest) == border && position.x() >= border;
+        if (!nearest || behind || distance < std::abs(position.x() - BorderOf(*nearest)))
             nearest = column;
     }
     return nearest;
@@ -44,23 +44,24 @@ int BorderDrag::ColumnAt(const QPoint& position) const {
 
 bool BorderDrag::Begin(const QPoint& position) {
     column_ = ColumnAt(position);
-    grip_ = IsActive() ? position.x() - BorderOf(column_) : 0;
+    grip_ = column_ ? position.x() - BorderOf(*column_) : 0;
     return IsActive();
 }
 
 bool BorderDrag::MoveTo(const QPoint& position) {
-    const int left = column_ == 0 ? 0 : view_.columnViewportPosition(column_);
-    const int width = std::max(position.x() - grip_ - left, 0);
-    if (width == view_.columnWidth(column_))
+    if (!column_)
         return false;
-    view_.setColumnWidth(column_, width);
+    const int width = std::max(position.x() - grip_ - view_.ColumnLeft(*column_), 0);
+    if (width == view_.columnWidth(column_->Number()))
+        return false;
+    view_.setColumnWidth(column_->Number(), width);
     return true;
 }
 
-int BorderDrag::BorderOf(int column) const {
-    if (column == 0)
+int BorderDrag::BorderOf(StateNumber column) const {
+    if (column == kNoState)
         return view_.FrozenSize().width();
-    return view_.columnViewportPosition(column) + view_.columnWidth(column);
+    return view_.ColumnLeft(column) + view_.columnWidth(column.Number());
 }
 
 } // namespace orvane

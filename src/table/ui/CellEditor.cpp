@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "table/ui/CellEditor.h"
 
+#include "table/ui/CellIndex.h"
 #include "table/ui/FsmGridView.h"
 
 #include <QKeyEvent>
@@ -32,9 +33,8 @@ CellEditor::CellEditor(FsmGridView& view) : QLineEdit(view.viewport()), view_(vi
     connect(&view, &FsmGridView::CellsMoved, this, &CellEditor::CoverCell);
 }
 
-void CellEditor::Begin(int row, int column, const QString& text) {
-    editRow_ = row;
-    editColumn_ = column;
+void CellEditor::Begin(Cell cell, const QString& text) {
+    cell_ = cell;
     setText(text);
     show();
     CoverCell();
@@ -55,8 +55,8 @@ void CellEditor::Abandon() {
 void CellEditor::CoverCell() {
     if (!IsOpen())
         return;
-    const QRect cell = view_.VisibleRect(view_.model()->index(editRow_, editColumn_));
-    setGeometry(cell.isEmpty() ? QRect(-1, -1, 1, 1) : cell);
+    const QRect area = view_.VisibleRect(IndexOf(*view_.model(), cell_));
+    setGeometry(area.isEmpty() ? QRect(-1, -1, 1, 1) : area);
 }
 
 bool CellEditor::event(QEvent* event) {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "core/Cell.h"
+
 #include <QLineEdit>
 
 namespace orvane {
@@ -17,13 +19,13 @@ class CellEditor : public QLineEdit {
     explicit CellEditor(FsmGridView& view);
 
     // Opens over a cell that can be seen.
-    void Begin(int row, int column, const QString& text);
+    void Begin(Cell cell, const QString& text);
     // Hides and clears the box; what was typed is forgotten.
     void Abandon();
 
     bool IsOpen() const { return isVisibleTo(parentWidget()); }
-    int EditRow() const { return editRow_; }
-    int EditColumn() const { return editColumn_; }
+    // The cell it was last opened over.
+    Cell EditedCell() const { return cell_; }
 
   Q_SIGNALS:
     void CommitWanted();
@@ -40,8 +42,7 @@ class CellEditor : public QLineEdit {
     void CoverCell();
 
     FsmGridView& view_;
-    int editRow_ = 0;
-    int editColumn_ = 0;
+    Cell cell_;
 };
 
 } // namespace orvane

@@ -39,22 +39,22 @@ void CellPictures::Draw(QPainter& painter, const QRect& area, const QString& tex
     painter.drawPixmap(area.topLeft(), Picture({text, size, painter.pen().color().rgb(), background}));
 }
 
-QPixmap CellPictures::Picture(const Cell& cell) {
-    if (const QPixmap* kept = pictures_.object(cell))
+QPixmap CellPictures::Picture(const Look& look) {
+    if (const QPixmap* kept = pictures_.object(look))
         return *kept;
-    QPixmap picture = Painted(cell);
-    pictures_.insert(cell, new QPixmap(picture), qsizetype{picture.width()} * picture.height() * 4);
+    QPixmap picture = Painted(look);
+    pictures_.insert(look, new QPixmap(picture), qsizetype{picture.width()} * picture.height() * 4);
     return picture;
 }
 
-QPixmap CellPictures::Painted(const Cell& cell) const {
-    QPixmap picture(cell.Size);
+QPixmap CellPictures::Painted(const Look& look) const {
+    QPixmap picture(look.Size);
     picture.setDevicePixelRatio(scale_);
-    picture.fill(QColor(cell.Background));
+    picture.fill(QColor(look.Background));
     QPainter painter(&picture);
     painter.setFont(font_);
-    painter.setPen(QColor(cell.Pen));
-    DrawLine(painter, {QPoint(0, 0), picture.deviceIndependentSize().toSize()}, cell.Text);
+    painter.setPen(QColor(look.Pen));
+    DrawLine(painter, {QPoint(0, 0), picture.deviceIndependentSize().toSize()}, look.Text);
     return picture;
 }
 

@@ -20,27 +20,27 @@ class CellPictures {
     void Draw(QPainter& painter, const QRect& area, const QString& text, QRgb background);
 
   private:
-    struct Cell {
+    struct Look {
         QString Text;
         QSize Size; // pixels of the screen
         QRgb Pen = 0;
         QRgb Background = 0;
 
-        bool operator==(const Cell&) const = default;
-        friend size_t qHash(const Cell& cell, size_t seed) {
-            return qHashMulti(seed, cell.Text, cell.Size.width(), cell.Size.height(), cell.Pen,
-                              cell.Background);
+        bool operator==(const Look&) const = default;
+        friend size_t qHash(const Look& look, size_t seed) {
+            return qHashMulti(seed, look.Text, look.Size.width(), look.Size.height(), look.Pen,
+                              look.Background);
         }
     };
 
-    QPixmap Picture(const Cell& cell);
-    QPixmap Painted(const Cell& cell) const;
+    QPixmap Picture(const Look& look);
+    QPixmap Painted(const Look& look) const;
 
     static constexpr qsizetype kMostBytes = 64 << 20; // a large screen has 32 million
 
     QFont font_; // what is kept is drawn in this one, at this scale
     qreal scale_ = 1;
-    QCache<Cell, QPixmap> pictures_{kMostBytes};
+    QCache<Look, QPixmap> pictures_{kMostBytes};
 };
 
 } // namespace orvane

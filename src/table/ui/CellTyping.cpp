@@ -6,6 +6,7 @@
 #include "session/Session.h"
 #include "table/CellEdit.h"
 #include "table/ui/CellEditor.h"
+#include "table/ui/CellIndex.h"
 #include "table/ui/FsmGridModel.h"
 #include "table/ui/FsmGridView.h"
 #include "table/ui/TableGrid.h"
@@ -22,28 +23,25 @@ CellTyping::~CellTyping() { session_.RemoveDraftSource(*this); }
 void CellTyping::BeginCellEdit(Cell cell) {
     if (grid_.Editor().IsOpen())
         CommitCellEdit();
-    const int row = cell.Row.Number();
-    const int column = cell.State.Number();
-    if (row < kFirstCellRow || column == 0 || !CanEditCell(session_.Document(), row))
+    if (cell.Row < kFirstCellRow || cell.State == kNoState || !CanEditCell(session_.Document(), cell.Row))
         return;
-    if (grid_.View().CellRect(row, column).isEmpty())
+    if (grid_.View().CellRect(cell).isEmpty())
         return;
-    grid_.View().setCurrentIndex(grid_.Model().index(row, column));
-    grid_.Editor().Begin(row, column, FromAnsi(CellEditText(session_.Document(), row, column)));
+    grid_.View().setCurrentIndex(IndexOf(grid_.Model(), cell));
+    grid_.Editor().Begin(cell, FromAnsi(CellEditText(session_.Document(), cell)));
 }
 
 // A number that is refused changes nothing in the cell; the rest of an edit happens all the same.
 void CellTyping::CommitCellEdit() {
     CellEditor& editor = grid_.Editor();
-    const Cell cell{editor.EditRow(), editor.EditColumn()};
+    const Cell cell = editor.EditedCell();
     const std::string typed = ToAnsi(editor.text()).Text;
     const std::optional<UserMessage> refusal = RefusalOfTarget(typed);
     if (refusal)
         Show(&window_, *refusal);
     editor.Abandon();
-    session_.Edit({"transition", {Touched::Extent::Column, cell.State}}, [&](Editable open) {
-        StoreTypedTarget(open.Document, cell.Row.Number(), cell.State.Number(), typed);
-    });
+    session_.Edit({"transition", {Touched::Extent::Column, cell.State}},
+                  [&](Editable open) { StoreTypedTarget(open.Document, cell, typed); });
 }
 
 void CellTyping::Finish() {
@@ -60,7 +58,7 @@ std::optional<Draft> CellTyping::CurrentDraft() const {
     const CellEditor& editor = grid_.Editor();
     if (!editor.IsOpen() || !editor.isModified())
         return std::nullopt;
-    return Draft{{editor.EditRow(), editor.EditColumn()}, TypedTarget{ToAnsi(editor.text()).Text}};
+    return Draft{editor.EditedCell(), TypedTarget{ToAnsi(editor.text()).Text}};
 }
 
 } // namespace orvane

@@ -4,6 +4,7 @@
 #include "kit/AnsiString.h"
 #include "table/CellColour.h"
 #include "table/CellText.h"
+#include "table/ui/CellIndex.h"
 
 #include <utility>
 
@@ -23,9 +24,9 @@ QVariant FsmGridModel::data(const QModelIndex& index, int role) const {
         return {};
     switch (role) {
     case Qt::DisplayRole:
-        return FromAnsi(CellText(document_, index.row(), index.column(), measure_));
+        return FromAnsi(CellText(document_, CellOf(index), measure_));
     case Qt::BackgroundRole:
-        return Background(index.row(), index.column());
+        return Background(CellOf(index));
     case Qt::ForegroundRole: // Every background is light, also on a dark desktop.
         return QColor(Qt::black);
     default:
@@ -38,42 +39,43 @@ void FsmGridModel::SetMeasurer(TextMeasurer measure) {
     AllChanged();
 }
 
-void FsmGridModel::ColumnChanged(int column) {
-    Q_EMIT dataChanged(index(0, column), index(kLastRow, column));
+void FsmGridModel::ColumnChanged(StateNumber column) {
+    Q_EMIT dataChanged(IndexOf(*this, {kHeadRow, column}), IndexOf(*this, {kLastRow, column}));
 }
 
 void FsmGridModel::AllChanged() { Q_EMIT dataChanged(index(0, 0), index(kLastRow, kStateCount)); }
 
-void FsmGridModel::SetCurrentState(int state) {
-    const int previous = std::exchange(currentState_, state);
-    for (const int head : {previous, state}) {
+void FsmGridModel::SetCurrentState(StateNumber state) {
+    const StateNumber previous = std::exchange(currentState_, state);
+    for (const StateNumber head : {previous, state}) {
         if (head != kNoState)
-            CellChanged(index(kHeadRow, head));
+            BackgroundChanged({kHeadRow, head});
     }
 }
 
-void FsmGridModel::Highlight(int row, int column) {
+void FsmGridModel::Highlight(Cell cell) {
     ClearHighlight();
-    highlighted_ = index(row, column);
-    CellChanged(highlighted_);
+    highlighted_ = cell;
+    BackgroundChanged(cell);
 }
 
 void FsmGridModel::ClearHighlight() {
-    if (highlighted_.isValid())
-        CellChanged(std::exchange(highlighted_, {}));
+    if (const std::optional<Cell> cell = std::exchange(highlighted_, std::nullopt))
+        BackgroundChanged(*cell);
 }
 
-QColor FsmGridModel::Background(int row, int column) const {
-    Colour colour = CellColour(row, column);
-    if (highlighted_ == index(row, column))
+QColor FsmGridModel::Background(Cell cell) const {
+    Colour colour = CellColour(cell);
+    if (highlighted_ == cell)
         colour = kNextStateColour;
-    else if (row == kHeadRow && column != 0 && column == currentState_)
+    else if (currentState_ != kNoState && cell == Cell{kHeadRow, currentState_})
         colour = kCurrentStateColour;
     return {colour.Red, colour.Green, colour.Blue};
 }
 
-void FsmGridModel::CellChanged(const QModelIndex& cell) {
-    Q_EMIT dataChanged(cell, cell, {Qt::BackgroundRole});
+void FsmGridModel::BackgroundChanged(Cell cell) {
+    const QModelIndex changed = IndexOf(*this, cell);
+    Q_EMIT dataChanged(changed, changed, {Qt::BackgroundRole});
 }
 
 } // namespace orvane

@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "core/Cell.h"
 #include "core/FsmDocument.h"
 #include "table/TextFitting.h"
 
 #include <QAbstractTableModel>
 #include <QColor>
+
+#include <optional>
 
 namespace orvane {
 
@@ -25,26 +28,26 @@ class FsmGridModel : public QAbstractTableModel {
     void SetMeasurer(TextMeasurer measure);
 
     // What the document changed, for whoever shows it. A column changes with its head.
-    void ColumnChanged(int column);
-    void RowHeadsChanged() { ColumnChanged(0); }
+    void ColumnChanged(StateNumber column);
+    void RowHeadsChanged() { ColumnChanged(kNoState); }
     void AllChanged();
 
-    // The state that stepping has reached; its head is red. 0 is none.
-    int CurrentState() const { return currentState_; }
-    void SetCurrentState(int state);
+    // The state that stepping has reached; its head is red.
+    StateNumber CurrentState() const { return currentState_; }
+    void SetCurrentState(StateNumber state);
 
     // The one cell whose transition is pointed out, yellow.
-    void Highlight(int row, int column);
+    void Highlight(Cell cell);
     void ClearHighlight();
 
   private:
-    QColor Background(int row, int column) const;
-    void CellChanged(const QModelIndex& cell);
+    QColor Background(Cell cell) const;
+    void BackgroundChanged(Cell cell);
 
     const FsmDocument& document_;
     TextMeasurer measure_;
-    int currentState_ = kNoState;
-    QModelIndex highlighted_;
+    StateNumber currentState_ = kNoState;
+    std::optional<Cell> highlighted_;
 };
 
 } // namespace orvane

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "table/ui/FsmGridView.h"
 
-#include "core/TableGeometry.h"
+#include "table/ui/CellIndex.h"
 #include "table/ui/GridPainter.h"
 
 #include <QApplication>
@@ -78,14 +78,14 @@ QRect FsmGridView::VisibleRect(const QModelIndex& index) const {
     return visualRect(index).intersected(area);
 }
 
-QRect FsmGridView::CellRect(int row, int col) {
+QRect FsmGridView::CellRect(Cell cell) {
     if (model() == nullptr)
         return {};
-    const QModelIndex cell = model()->index(row, col);
-    if (!cell.isValid() || visualRect(cell).isEmpty())
+    const QModelIndex index = IndexOf(*model(), cell);
+    if (!index.isValid() || visualRect(index).isEmpty())
         return {};
-    scrollTo(cell);
-    return VisibleRect(cell);
+    scrollTo(index);
+    return VisibleRect(index);
 }
 
 QModelIndex FsmGridView::indexAt(const QPoint& position) const {
@@ -205,7 +205,7 @@ void FsmGridView::PressCell(const QMouseEvent& event) {
         return;
     if (event.button() == Qt::LeftButton)
         setCurrentIndex(cell);
-    Q_EMIT CellPressed({cell.row(), cell.column(), ButtonOf(event.button()), ModifiersOf(event.modifiers()),
+    Q_EMIT CellPressed({CellOf(cell), ButtonOf(event.button()), ModifiersOf(event.modifiers()),
                         event.globalPosition().toPoint()});
 }
 
@@ -214,10 +214,10 @@ void FsmGridView::mouseMoveEvent(QMouseEvent* event) {
     const QPoint position = event->position().toPoint();
     if (DragBorder(*event))
         return;
-    viewport()->setCursor(borderDrag_.ColumnAt(position) >= 0 ? Qt::SplitHCursor : Qt::ArrowCursor);
+    viewport()->setCursor(borderDrag_.ColumnAt(position) ? Qt::SplitHCursor : Qt::ArrowCursor);
     const QModelIndex cell = indexAt(position);
     if (cell.isValid())
-        Q_EMIT PointerMoved(cell.row(), cell.column());
+        Q_EMIT PointerMoved(CellOf(cell));
     else
         Q_EMIT PointerLeft();
 }
@@ -269,7 +269,7 @@ void FsmGridView::PressCurrentCell(Qt::MouseButton button, Qt::KeyboardModifiers
         return;
     scrollTo(cell);
     const QPoint middle = VisibleRect(cell).center();
-    Q_EMIT CellPressed({cell.row(), cell.column(), ButtonOf(button), ModifiersOf(modifiers),
+    Q_EMIT CellPressed({CellOf(cell), ButtonOf(button), ModifiersOf(modifiers),
                         viewport()->mapToGlobal(middle)});
 }
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "core/TableGeometry.h"
+#include "core/Cell.h"
 #include "table/PressTable.h"
 #include "table/ui/BorderDrag.h"
 #include "table/ui/CellPictures.h"
@@ -13,8 +13,7 @@ namespace orvane {
 
 // A mouse button pressed on a cell, heads included.
 struct GridPress {
-    int Row = 0;
-    int Column = 0;
+    Cell Place;
     PressButton Button = PressButton::Other;
     PressModifiers Modifiers = PressModifiers::None;
     QPoint GlobalPosition;
@@ -35,14 +34,17 @@ class FsmGridView : public QTableView {
 
     // Scrolls the cell into sight and returns the part of it that can be seen; empty for a cell that is
     // hidden or does not exist.
-    Q_INVOKABLE QRect CellRect(int row, int col);
+    Q_INVOKABLE QRect CellRect(int row, int col) { return CellRect(Cell{row, col}); }
+    QRect CellRect(Cell cell);
 
     // The part of the cell that can be seen now; empty when nothing can.
     QRect VisibleRect(const QModelIndex& index) const;
 
     // Where a row and a column begin in the viewport; the heads do not scroll along.
-    int RowTop(int row) const { return row == kHeadRow ? 0 : rowViewportPosition(row); }
-    int ColumnLeft(int column) const { return column == 0 ? 0 : columnViewportPosition(column); }
+    int RowTop(RowNumber row) const { return row == kHeadRow ? 0 : rowViewportPosition(row.Number()); }
+    int ColumnLeft(StateNumber column) const {
+        return column == kNoState ? 0 : columnViewportPosition(column.Number());
+    }
 
     // Where the cell would be if nothing cut it off.
     QRect visualRect(const QModelIndex& index) const override;
@@ -62,7 +64,7 @@ class FsmGridView : public QTableView {
 
   Q_SIGNALS:
     void CellPressed(const orvane::GridPress& press);
-    void PointerMoved(int row, int column);
+    void PointerMoved(orvane::Cell cell);
     void PointerLeft(); // it is outside all cells
     void ColumnWidthDragged();
     void ShiftChanged(bool held);

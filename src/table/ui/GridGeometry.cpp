@@ -14,35 +14,33 @@ namespace orvane {
 
 namespace {
 
-constexpr int kLargestPixels = kWidestColumn / kTwipsPerPixel;
-constexpr int kRowPadding = 6; // pixels above and below the text together
+constexpr Pixels kRowPadding = 6; // above and below the text together
 
-int PixelsFromTwips(std::int32_t twips) {
-    return (std::clamp(twips, 0, kWidestColumn) + kTwipsPerPixel / 2) / kTwipsPerPixel;
-}
+// As the table shows a width or height of the document, which may be any number.
+Pixels ShownLength(Twips length) { return PixelsFromTwips(std::clamp(length, Twips(0), kWidestColumn)); }
 
 } // namespace
 
 GridGeometry::GridGeometry(const FsmDocument& document, QTableView& view)
     : document_(document),
       view_(view),
-      standardHeight_((QFontMetrics(view.font()).height() + kRowPadding) * kTwipsPerPixel) {
-    view_.verticalHeader()->setDefaultSectionSize(PixelsFromTwips(standardHeight_));
-    view_.horizontalHeader()->setMaximumSectionSize(kLargestPixels);
+      standardHeight_(TwipsFromPixels(QFontMetrics(view.font()).height() + kRowPadding)) {
+    view_.verticalHeader()->setDefaultSectionSize(ShownLength(standardHeight_).Count());
+    view_.horizontalHeader()->setMaximumSectionSize(ShownLength(kWidestColumn).Count());
     connect(view_.horizontalHeader(), &QHeaderView::sectionResized, this,
             [this](int column, int, int pixels) { ColumnResized(column, pixels); });
 }
 
-void GridGeometry::ApplyColumnWidth(int column) {
-    const int pixels = PixelsFromTwips(DocumentWidth(column));
-    laidOut_[static_cast<std::size_t>(column)] = pixels;
+void GridGeometry::ApplyColumnWidth(StateNumber column) {
+    const Pixels width = ShownLength(DocumentWidth(column));
+    laidOut_[IndexIn(TableColumns(), column)] = width;
     dragged_.erase(column);
-    if (view_.columnWidth(column) != pixels)
-        view_.setColumnWidth(column, pixels);
+    if (view_.columnWidth(column.Number()) != width)
+        view_.setColumnWidth(column.Number(), width.Count());
 }
 
 void GridGeometry::ApplyColumnWidths() {
-    for (int column = 0; column < kTableColumns; ++column)
+    for (const StateNumber column : TableColumns())
         ApplyColumnWidth(column);
 }
 
@@ -51,34 +49,34 @@ void GridGeometry::ApplyRowHeights() {
     for (const auto& [row, twips] :
          {std::pair{kExitActionRow, heights.ExitAction}, std::pair{kTimingModeRow, heights.TimingMode},
           std::pair{kTimeoutRow, heights.TimeTarget}, std::pair{kElseRow, heights.Else}}) {
-        const int pixels = PixelsFromTwips(twips);
-        view_.setRowHidden(row, pixels == 0);
-        if (pixels != 0)
-            view_.setRowHeight(row, pixels);
+        const Pixels height = ShownLength(twips);
+        view_.setRowHidden(row, height == 0);
+        if (height != 0)
+            view_.setRowHeight(row, height.Count());
     }
 }
 
 // The view tells of every change of a width, our own ones too.
-void GridGeometry::ColumnResized(int column, int pixels) {
-    if (pixels == laidOut_[static_cast<std::size_t>(column)])
+void GridGeometry::ColumnResized(StateNumber column, Pixels width) {
+    if (width == laidOut_[IndexIn(TableColumns(), column)])
         dragged_.erase(column);
     else
-        dragged_[column] = pixels;
+        dragged_[column] = width;
 }
 
 std::vector<DraggedWidth> GridGeometry::TakeDraggedWidths() {
     std::vector<DraggedWidth> widths;
     if (dragged_.empty() || QApplication::activeModalWidget() != nullptr)
         return widths;
-    for (const auto& [column, pixels] : std::exchange(dragged_, {})) {
-        laidOut_[static_cast<std::size_t>(column)] = pixels;
-        widths.push_back({column, pixels * kTwipsPerPixel});
+    for (const auto& [column, width] : std::exchange(dragged_, {})) {
+        laidOut_[IndexIn(TableColumns(), column)] = width;
+        widths.push_back({column, TwipsFromPixels(width)});
     }
     return widths;
 }
 
-std::int32_t GridGeometry::DocumentWidth(int column) const {
-    return column == 0 ? document_.View.Col0Width : document_.State(column).ColWidth;
+Twips GridGeometry::DocumentWidth(StateNumber column) const {
+    return column == kNoState ? document_.View.Col0Width : document_.State(column).ColWidth;
 }
 
 } // namespace orvane

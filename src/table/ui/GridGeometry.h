@@ -12,10 +12,10 @@
 
 namespace orvane {
 
-// A column that the user has dragged, and how wide it is now, in twips.
+// A column that the user has dragged, and how wide it is now.
 struct DraggedWidth {
-    int Column = 0;
-    std::int32_t Width = 0;
+    StateNumber Column;
+    Twips Width;
 };
 
 // Lays the table's view out as the document says. The document counts in twips, the view in whole pixels; a
@@ -27,11 +27,11 @@ class GridGeometry : public QObject {
     // Both outlive this.
     GridGeometry(const FsmDocument& document, QTableView& view);
 
-    // The height of an ordinary row, in twips.
-    int StandardHeight() const { return standardHeight_; }
+    // The height of an ordinary row.
+    Twips StandardHeight() const { return standardHeight_; }
 
     // Bring the view into line with the document.
-    void ApplyColumnWidth(int column);
+    void ApplyColumnWidth(StateNumber column);
     void ApplyColumnWidths();
     void ApplyRowHeights();
 
@@ -39,14 +39,14 @@ class GridGeometry : public QObject {
     std::vector<DraggedWidth> TakeDraggedWidths();
 
   private:
-    void ColumnResized(int column, int pixels);
-    std::int32_t DocumentWidth(int column) const;
+    void ColumnResized(StateNumber column, Pixels width);
+    Twips DocumentWidth(StateNumber column) const;
 
     const FsmDocument& document_;
     QTableView& view_;
-    int standardHeight_;
-    std::array<int, kTableColumns> laidOut_{}; // pixels
-    std::map<int, int> dragged_;               // columns that are no longer laid out so, pixels
+    Twips standardHeight_;
+    std::array<Pixels, kTableColumns> laidOut_;
+    std::map<StateNumber, Pixels> dragged_; // columns that are no longer laid out so
 };
 
 } // namespace orvane

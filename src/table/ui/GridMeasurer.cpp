@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "table/ui/GridMeasurer.h"
 
-#include "core/ViewOptions.h"
 #include "kit/AnsiString.h"
 
 #include <QFontMetrics>
@@ -19,12 +18,12 @@ class CachedWidths {
   public:
     explicit CachedWidths(const QFont& font) : metrics_(font) {}
 
-    int operator()(std::string_view text) {
+    Twips operator()(std::string_view text) {
         if (text.size() > kLongestKept)
             return Measure(text);
         if (widths_.size() > kMostKept)
             widths_.clear();
-        const auto [entry, isNew] = widths_.try_emplace(std::string(text), 0);
+        const auto [entry, isNew] = widths_.try_emplace(std::string(text));
         if (isNew)
             entry->second = Measure(text);
         return entry->second;
@@ -34,12 +33,12 @@ class CachedWidths {
     static constexpr std::size_t kLongestKept = 256; // characters
     static constexpr std::size_t kMostKept = 20000;  // texts; a full table has 5555, each cut a few times
 
-    int Measure(std::string_view text) const {
-        return metrics_.horizontalAdvance(CellLine(text)) * kTwipsPerPixel;
+    Twips Measure(std::string_view text) const {
+        return TwipsFromPixels(metrics_.horizontalAdvance(CellLine(text)));
     }
 
     QFontMetrics metrics_;
-    std::unordered_map<std::string, int> widths_;
+    std::unordered_map<std::string, Twips> widths_;
 };
 
 } // namespace

@@ -14,7 +14,7 @@ namespace orvane {
 QString CellLine(std::string_view text);
 QString CellLine(QString text);
 
-// Measures cell lines in this font, in twips.
+// Measures cell lines in this font.
 TextMeasurer GridMeasurer(const QFont& font);
 
 } // namespace orvane

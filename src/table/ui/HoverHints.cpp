@@ -4,6 +4,7 @@
 #include "core/FsmDocument.h"
 #include "kit/AnsiString.h"
 #include "table/HoverHint.h"
+#include "table/ui/CellIndex.h"
 #include "table/ui/FsmGridModel.h"
 #include "table/ui/FsmGridView.h"
 #include "table/ui/NextStateMarker.h"
@@ -16,7 +17,7 @@ namespace orvane {
 
 namespace {
 
-constexpr int kLowestHighlight = 26 / kTwipsPerPixel; // pixels; lower rows show no head to set off
+constexpr int kLowestHighlight = 1; // pixels; 26 twips; lower rows show no head to set off
 constexpr int kHighlightIndent = 2;                   // pixels at its left
 constexpr int kHighlightGap = 1;                      // pixels at its right
 
@@ -57,25 +58,24 @@ HoverHints::HoverHints(const FsmDocument& document, FsmGridModel& model, FsmGrid
     });
 }
 
-void HoverHints::PointerAt(int row, int column) {
+void HoverHints::PointerAt(Cell cell) {
     Q_EMIT CellEntered();
-    const std::pair cell{row, column};
     if (pointer_ == cell)
         return;
     pointer_ = cell;
     ClearHoverEffects();
-    ShowCellHint(row, column);
+    ShowCellHint(cell);
 }
 
-void HoverHints::ShowCellHint(int row, int column) {
+void HoverHints::ShowCellHint(Cell cell) {
     Q_EMIT HintGone();
-    if (const std::optional<Hint> hint = HoverHint(document_, row, column, shiftHeld_))
+    if (const std::optional<Hint> hint = HoverHint(document_, cell, shiftHeld_))
         Q_EMIT HintWanted(FromAnsi(hint->Text), hint->Wrap);
-    if (column == 0 || row < kFirstCellRow)
+    if (cell.State == kNoState || cell.Row < kFirstCellRow)
         return;
-    ShowRowHeaderHighlight(row);
+    ShowRowHeaderHighlight(cell.Row);
     if (shiftHeld_)
-        ShowNextState(row, column);
+        ShowNextState(cell);
 }
 
 void HoverHints::ClearHoverEffects() {
@@ -84,11 +84,11 @@ void HoverHints::ClearHoverEffects() {
     HideNextState();
 }
 
-void HoverHints::ShowNextState(int row, int column) {
-    const int target = document_.State(column).Targets[row];
+void HoverHints::ShowNextState(Cell cell) {
+    const StateNumber target = document_.State(cell.State).Targets[cell.Row];
     if (target == kNoState)
         return;
-    model_.Highlight(row, column);
+    model_.Highlight(cell);
     markedState_ = target;
     picNextStateMarker_->show();
     picNextStateMarker_->raise();
@@ -105,21 +105,21 @@ void HoverHints::HideNextState() {
 void HoverHints::PlaceMarker() {
     if (markedState_ == kNoState)
         return;
-    const QRect head = view_.visualRect(model_.index(kHeadRow, markedState_));
+    const QRect head = view_.visualRect(IndexOf(model_, {kHeadRow, markedState_}));
     const int first = view_.FrozenSize().width();
     const int last = view_.viewport()->width() - picNextStateMarker_->width();
     picNextStateMarker_->move(std::clamp(head.left(), first, std::max(first, last)), head.top());
 }
 
-void HoverHints::ShowRowHeaderHighlight(int row) {
+void HoverHints::ShowRowHeaderHighlight(RowNumber row) {
     txtRowheader_->hide();
-    const QModelIndex head = model_.index(row, 0);
+    const QModelIndex head = IndexOf(model_, {row, kNoState});
     const QString text = head.data().toString();
-    const QRect cell = view_.VisibleRect(head);
-    if (text.trimmed().isEmpty() || view_.rowHeight(row) <= kLowestHighlight || cell.isEmpty())
+    const QRect area = view_.VisibleRect(head);
+    if (text.trimmed().isEmpty() || view_.rowHeight(row.Number()) <= kLowestHighlight || area.isEmpty())
         return;
-    txtRowheader_->setGeometry(cell.left() + kHighlightIndent, cell.top(), cell.width() - kHighlightGap,
-                               cell.height());
+    txtRowheader_->setGeometry(area.left() + kHighlightIndent, area.top(), area.width() - kHighlightGap,
+                               area.height());
     txtRowheader_->setText(text);
     txtRowheader_->setCursorPosition(0);
     txtRowheader_->show();

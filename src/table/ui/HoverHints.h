@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "core/Cell.h"
+
 #include <QLineEdit>
 #include <QObject>
 
 #include <optional>
-#include <utility>
 
 namespace orvane {
 
@@ -27,7 +28,7 @@ class HoverHints : public QObject {
     void ClearHoverEffects();
 
     // Points out the cell, yellow, and the head of the state it leads to. Nothing without a transition.
-    void ShowNextState(int row, int column);
+    void ShowNextState(Cell cell);
     void HideNextState();
 
   Q_SIGNALS:
@@ -40,9 +41,9 @@ class HoverHints : public QObject {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
-    void PointerAt(int row, int column);
-    void ShowCellHint(int row, int column);
-    void ShowRowHeaderHighlight(int row);
+    void PointerAt(Cell cell);
+    void ShowCellHint(Cell cell);
+    void ShowRowHeaderHighlight(RowNumber row);
     void PlaceMarker();
 
     const FsmDocument& document_;
@@ -51,8 +52,8 @@ class HoverHints : public QObject {
     QLineEdit* txtRowheader_;
     QWidget* picNextStateMarker_;
     bool shiftHeld_ = false;
-    int markedState_ = 0;                        // at whose head the marker is
-    std::optional<std::pair<int, int>> pointer_; // row and column it was in last
+    StateNumber markedState_ = kNoState; // at whose head the marker is
+    std::optional<Cell> pointer_;        // the cell it was in last
 };
 
 } // namespace orvane

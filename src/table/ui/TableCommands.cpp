@@ -25,39 +25,29 @@ struct CellEdit {
 
 constexpr auto kEdits = std::to_array<CellEdit>({
     {Command::DeleteEvent, Extent::Everything,
-     [](const Editable& open, Cell at) { DeleteEvent(open.Document, open.Clipboard, at.Row.Number()); }},
+     [](const Editable& open, Cell at) { DeleteEvent(open.Document, open.Clipboard, at.Row); }},
     {Command::DeleteState, Extent::AllColumns,
-     [](const Editable& open, Cell at) { DeleteState(open.Document, open.Clipboard, at.State.Number()); }},
+     [](const Editable& open, Cell at) { DeleteState(open.Document, open.Clipboard, at.State); }},
     // The cell shows that its action is gone when its column is next drawn.
     {Command::CutEntryAction, Extent::Nothing,
-     [](const Editable& open, Cell at) { CutEntryAction(open.Document, open.Clipboard, at.State.Number()); }},
+     [](const Editable& open, Cell at) { CutEntryAction(open.Document, open.Clipboard, at.State); }},
     {Command::DeleteEntryAction, Extent::Everything,
-     [](const Editable& open, Cell at) { DeleteEntryAction(open.Document, at.State.Number()); }},
+     [](const Editable& open, Cell at) { DeleteEntryAction(open.Document, at.State); }},
     {Command::CutAction, Extent::Everything,
-     [](const Editable& open, Cell at) {
-         CutTransitionAction(open.Document, open.Clipboard, at.Row.Number(), at.State.Number());
-     }},
+     [](const Editable& open, Cell at) { CutTransitionAction(open.Document, open.Clipboard, at); }},
     {Command::CutTransition, Extent::Everything,
-     [](const Editable& open, Cell at) {
-         CutTransition(open.Document, open.Clipboard, at.Row.Number(), at.State.Number());
-     }},
+     [](const Editable& open, Cell at) { CutTransition(open.Document, open.Clipboard, at); }},
     {Command::PasteState, Extent::Everything,
-     [](const Editable& open, Cell at) { PasteState(open.Document, open.Clipboard, at.State.Number()); }},
+     [](const Editable& open, Cell at) { PasteState(open.Document, open.Clipboard, at.State); }},
     {Command::PasteEvent, Extent::Everything,
-     [](const Editable& open, Cell at) { PasteEvent(open.Document, open.Clipboard, at.Row.Number()); }},
+     [](const Editable& open, Cell at) { PasteEvent(open.Document, open.Clipboard, at.Row); }},
     {Command::PasteEntryAction, Extent::Everything,
-     [](const Editable& open, Cell at) {
-         PasteEntryAction(open.Document, open.Clipboard, at.State.Number());
-     }},
+     [](const Editable& open, Cell at) { PasteEntryAction(open.Document, open.Clipboard, at.State); }},
     {Command::PasteAction, Extent::Everything,
-     [](const Editable& open, Cell at) {
-         PasteTransitionAction(open.Document, open.Clipboard, at.Row.Number(), at.State.Number());
-     }},
+     [](const Editable& open, Cell at) { PasteTransitionAction(open.Document, open.Clipboard, at); }},
     // The cell shows its new content when its column is next drawn.
     {Command::PasteTransition, Extent::Nothing,
-     [](const Editable& open, Cell at) {
-         PasteTransition(open.Document, open.Clipboard, at.Row.Number(), at.State.Number());
-     }},
+     [](const Editable& open, Cell at) { PasteTransition(open.Document, open.Clipboard, at); }},
 });
 
 // The edits that can be refused: where the table is full nothing can be put in.
@@ -69,13 +59,9 @@ struct Insertion {
 
 constexpr auto kInsertions = std::to_array<Insertion>({
     {Command::InsertEvent, Extent::Everything,
-     [](const Editable& open, Cell at) {
-         return InsertEvent(open.Document, open.Clipboard, at.Row.Number());
-     }},
+     [](const Editable& open, Cell at) { return InsertEvent(open.Document, open.Clipboard, at.Row); }},
     {Command::InsertState, Extent::AllColumns,
-     [](const Editable& open, Cell at) {
-         return InsertState(open.Document, open.Clipboard, at.State.Number());
-     }},
+     [](const Editable& open, Cell at) { return InsertState(open.Document, open.Clipboard, at.State); }},
 });
 
 struct CellCopy {
@@ -85,19 +71,15 @@ struct CellCopy {
 
 constexpr auto kCopies = std::to_array<CellCopy>({
     {Command::CopyState, [](const FsmDocument& document, TableClipboard& clipboard,
-                            Cell at) { CopyState(document, clipboard, at.State.Number()); }},
+                            Cell at) { CopyState(document, clipboard, at.State); }},
     {Command::CopyEvent, [](const FsmDocument& document, TableClipboard& clipboard,
-                            Cell at) { CopyEvent(document, clipboard, at.Row.Number()); }},
+                            Cell at) { CopyEvent(document, clipboard, at.Row); }},
     {Command::CopyEntryAction, [](const FsmDocument& document, TableClipboard& clipboard,
-                                  Cell at) { CopyEntryAction(document, clipboard, at.State.Number()); }},
-    {Command::CopyAction,
-     [](const FsmDocument& document, TableClipboard& clipboard, Cell at) {
-         CopyTransitionAction(document, clipboard, at.Row.Number(), at.State.Number());
-     }},
-    {Command::CopyTransition,
-     [](const FsmDocument& document, TableClipboard& clipboard, Cell at) {
-         CopyTransition(document, clipboard, at.Row.Number(), at.State.Number());
-     }},
+                                  Cell at) { CopyEntryAction(document, clipboard, at.State); }},
+    {Command::CopyAction, [](const FsmDocument& document, TableClipboard& clipboard,
+                             Cell at) { CopyTransitionAction(document, clipboard, at); }},
+    {Command::CopyTransition, [](const FsmDocument& document, TableClipboard& clipboard,
+                                 Cell at) { CopyTransition(document, clipboard, at); }},
 });
 
 struct RowToggle {
@@ -153,7 +135,7 @@ void TableCommands::Edit(const Row& edit) {
 bool TableCommands::IsWanted(Command command) {
     if (command != Command::DeleteEvent)
         return true;
-    const Refusal question = QuestionBeforeDeleteEvent(session_.Document(), session_.Pressed().Row.Number());
+    const Refusal question = QuestionBeforeDeleteEvent(session_.Document(), session_.Pressed().Row);
     return !question || Show(&window_, *question) == QMessageBox::Yes;
 }
 

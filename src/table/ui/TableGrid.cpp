@@ -3,6 +3,7 @@
 
 #include "session/Session.h"
 #include "table/ui/CellEditor.h"
+#include "table/ui/CellIndex.h"
 #include "table/ui/FsmGridModel.h"
 #include "table/ui/FsmGridView.h"
 #include "table/ui/GridMeasurer.h"
@@ -17,11 +18,11 @@ namespace {
 
 constexpr int kGridLeft = 1; // pixels; 20 twips
 
-void SetColumnWidth(FsmDocument& document, int column, std::int32_t twips) {
-    if (column == 0)
-        document.View.Col0Width = twips;
+void SetColumnWidth(FsmDocument& document, const DraggedWidth& dragged) {
+    if (dragged.Column == kNoState)
+        document.View.Col0Width = dragged.Width;
     else
-        document.State(column).ColWidth = twips;
+        document.State(dragged.Column).ColWidth = dragged.Width;
 }
 
 } // namespace
@@ -32,7 +33,7 @@ TableGrid::TableGrid(Session& session, QWidget* parent)
       MSFlexGrid1(new FsmGridView(this)),
       model_(new FsmGridModel(session.Document(), GridMeasurer(MSFlexGrid1->font()), this)) {
     MSFlexGrid1->setModel(model_);
-    MSFlexGrid1->setCurrentIndex(model_->index(kEntryActionRow, StateNumbers().First()));
+    MSFlexGrid1->setCurrentIndex(IndexOf(*model_, {kEntryActionRow, StateNumbers().First()}));
     geometry_ = std::make_unique<GridGeometry>(session.Document(), *MSFlexGrid1);
     session_.SetStandardHeight(geometry_->StandardHeight());
     txtCellEdit = new CellEditor(*MSFlexGrid1);
@@ -49,7 +50,7 @@ void TableGrid::Draw(const Touched& part) {
     case Touched::Extent::Nothing:
         break;
     case Touched::Extent::Column:
-        PopulateStateColumn(part.State.Number());
+        PopulateStateColumn(part.State);
         break;
     case Touched::Extent::RowHeads:
         PopulateRowHeaders();
@@ -63,7 +64,7 @@ void TableGrid::Draw(const Touched& part) {
     }
 }
 
-void TableGrid::PopulateStateColumn(int column) {
+void TableGrid::PopulateStateColumn(StateNumber column) {
     geometry_->ApplyColumnWidth(column);
     model_->ColumnChanged(column);
 }
@@ -80,12 +81,10 @@ void TableGrid::ApplyRowVisibility() { geometry_->ApplyRowHeights(); }
 void TableGrid::TestForColumWidthChange() {
     for (const DraggedWidth& dragged : geometry_->TakeDraggedWidths()) {
         txtCellEdit->Abandon();
-        const Touched drawn = dragged.Column == 0
-                                  ? Touched{Touched::Extent::RowHeads, {}}
-                                  : Touched{Touched::Extent::Column, StateNumber(dragged.Column)};
-        session_.Edit({"column width", drawn, EditKind::View}, [&dragged](Editable open) {
-            SetColumnWidth(open.Document, dragged.Column, dragged.Width);
-        });
+        const Touched drawn = dragged.Column == kNoState ? Touched{Touched::Extent::RowHeads, {}}
+                                                         : Touched{Touched::Extent::Column, dragged.Column};
+        session_.Edit({"column width", drawn, EditKind::View},
+                      [&dragged](Editable open) { SetColumnWidth(open.Document, dragged); });
     }
 }
 

@@ -41,7 +41,7 @@ class TableGrid : public QWidget {
     void changeEvent(QEvent* event) override;
 
   private:
-    void PopulateStateColumn(int column);
+    void PopulateStateColumn(StateNumber column);
     void PopulateAllStateColumns();
     void PopulateRowHeaders();
 

@@ -9,6 +9,7 @@
 #include "table/CellEdit.h"
 #include "table/PressTable.h"
 #include "table/ui/CellEditor.h"
+#include "table/ui/CellIndex.h"
 #include "table/ui/FsmGridModel.h"
 #include "table/ui/FsmGridView.h"
 #include "table/ui/HoverHints.h"
@@ -125,16 +126,16 @@ void TableRoom::ShowAnotherDocument() {
 
 void TableRoom::ShowWhereTheUserIs() {
     grid_->Hints().SetShiftHeld(session_.ShiftHeld());
-    grid_->Model().SetCurrentState(session_.CurrentState().Number());
+    grid_->Model().SetCurrentState(session_.CurrentState());
 }
 
 void TableRoom::PressGrid(const GridPress& press) {
     grid_->TestForColumWidthChange();
-    const Cell cell{press.Row, press.Column};
+    const Cell cell = press.Place;
     session_.Press(cell);
-    if (press.Column == 0)
+    if (cell.State == kNoState)
         typing_.Abandon();
-    switch (ActionOfPress(press.Row, press.Column, press.Button, press.Modifiers)) {
+    switch (ActionOfPress(cell, press.Button, press.Modifiers)) {
     case PressAction::Nothing:
         return;
     case PressAction::EditState:
@@ -167,20 +168,17 @@ void TableRoom::PopUp(Command menu, const GridPress& press) {
 
 // Fires the event of this row: the machine goes where the current state's transition leads.
 void TableRoom::StepMachine(RowNumber row) {
-    const StateNumber target =
-        StepTarget(session_.Document(), session_.CurrentState().Number(), row.Number());
+    const StateNumber target = StepTarget(session_.Document(), {row, session_.CurrentState()});
     if (target == kNoState)
         return;
     grid_->Hints().HideNextState();
     session_.SetCurrentState(target);
-    grid_->Hints().ShowNextState(row.Number(), target.Number());
+    grid_->Hints().ShowNextState({row, target});
 }
 
 void TableRoom::ShowPlace(Cell place) {
-    const int row = place.Row.Number();
-    const int column = place.State.Number();
-    grid_->View().CellRect(row, column); // brings the cell into view
-    grid_->View().setCurrentIndex(grid_->Model().index(row, column));
+    grid_->View().CellRect(place); // brings the cell into view
+    grid_->View().setCurrentIndex(IndexOf(grid_->Model(), place));
     window_.raise();
     window_.activateWindow();
     grid_->View().setFocus();

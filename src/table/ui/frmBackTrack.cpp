@@ -22,7 +22,7 @@ constexpr int kFromColumn = 1;
 constexpr int kEventPercent = 45; // of the grid's width; the other column has the rest
 
 // The grounds are light on every desktop, so the text is dark on every desktop.
-QTableWidgetItem* Cell(const std::string& text, Colour ground) {
+QTableWidgetItem* ListItem(const std::string& text, Colour ground) {
     auto* item = new QTableWidgetItem(FromAnsi(text));
     item->setBackground(QColor(ground.Red, ground.Green, ground.Blue));
     item->setForeground(Qt::black);
@@ -55,7 +55,7 @@ void frmBackTrack::BuildGrid() {
     connect(MSFlexGrid1, &QTableWidget::cellPressed, this, &frmBackTrack::Choose);
 }
 
-void frmBackTrack::BackTrack(const FsmDocument& document, int state) {
+void frmBackTrack::BackTrack(const FsmDocument& document, StateNumber state) {
     backtrackState_ = state;
     Fill(document);
     MSFlexGrid1->scrollToTop();
@@ -81,8 +81,8 @@ void frmBackTrack::Fill(const FsmDocument& document) {
 }
 
 void frmBackTrack::AddBacktrackLine(int row, const BacktrackLine& line) {
-    MSFlexGrid1->setItem(row, kEventColumn, Cell(line.EventText, line.EventColour));
-    MSFlexGrid1->setItem(row, kFromColumn, Cell(line.FromText, kStateHeadColour));
+    MSFlexGrid1->setItem(row, kEventColumn, ListItem(line.EventText, line.EventColour));
+    MSFlexGrid1->setItem(row, kFromColumn, ListItem(line.FromText, kStateHeadColour));
 }
 
 void frmBackTrack::FitColumns() {
@@ -100,7 +100,7 @@ bool frmBackTrack::eventFilter(QObject* watched, QEvent* event) {
 
 void frmBackTrack::Choose(int row, int column) {
     if (column == kFromColumn)
-        Q_EMIT StateChosen(BacktrackedState(lines_[static_cast<std::size_t>(row)].FromText));
+        Q_EMIT StateChosen(lines_[static_cast<std::size_t>(row)].From);
 }
 
 } // namespace orvane

@@ -18,14 +18,14 @@ class frmBackTrack : public QWidget {
     explicit frmBackTrack(QWidget* parent = nullptr);
 
     // Fills the list for the state, 1..100, and shows the window.
-    void BackTrack(const FsmDocument& document, int state);
+    void BackTrack(const FsmDocument& document, StateNumber state);
 
     // Fills the list anew after the document has changed. Nothing while the window is not shown.
     void RefreshBackTrack(const FsmDocument& document);
 
   Q_SIGNALS:
     // The user walks backwards through the machine.
-    void StateChosen(int state);
+    void StateChosen(orvane::StateNumber state);
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -38,7 +38,7 @@ class frmBackTrack : public QWidget {
     void Choose(int row, int column);
 
     QTableWidget* MSFlexGrid1 = nullptr;
-    int backtrackState_ = kNoState;
+    StateNumber backtrackState_ = kNoState;
     std::vector<BacktrackLine> lines_; // what the grid shows
 };
 

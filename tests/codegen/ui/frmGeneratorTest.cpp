@@ -44,7 +44,7 @@ class frmGeneratorTest : public testing::Test {
 };
 
 TEST_F(frmGeneratorTest, ARunMadeWhileHiddenIsShownLater) {
-    window_.TakeRun(ARun(";PMP\r\n", {{Severity::Warning, 2, 0, "State 2:Run is a dead end"}}), QString());
+    window_.TakeRun(ARun(";PMP\r\n", {{Severity::Warning, {0, 2}, "State 2:Run is a dead end"}}), QString());
     Show();
     EXPECT_EQ(Find<CodePane>("txtCode").Text(), ";PMP\r\n");
     EXPECT_EQ(Find<QPlainTextEdit>("txtErrors").toPlainText(),
@@ -166,9 +166,9 @@ TEST_F(frmGeneratorTest, TheReportTakesThreeTenthsOfTheHeight) {
 
 TEST_F(frmGeneratorTest, ADoubleClickOnAFindingChoosesItsPlace) {
     QSignalSpy chosen(&window_, &frmGenerator::PlaceChosen);
-    window_.TakeRun(ARun("", {{Severity::Error, 3, 7, "Missing event test code in row 7"},
-                              {Severity::Warning, 5, 0, "State 5:Odd\r\nname is a dead end"},
-                              {Severity::Note, 6, 4, "State 6: has"}}),
+    window_.TakeRun(ARun("", {{Severity::Error, {7, 3}, "Missing event test code in row 7"},
+                              {Severity::Warning, {0, 5}, "State 5:Odd\r\nname is a dead end"},
+                              {Severity::Note, {4, 6}, "State 6: has"}}),
                     QString());
     Show();
     QWidget* report = Find<QPlainTextEdit>("txtErrors").viewport();

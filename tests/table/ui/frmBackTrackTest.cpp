@@ -123,7 +123,7 @@ TEST_F(frmBackTrackTest, AHiddenListStaysHidden) {
 }
 
 TEST_F(frmBackTrackTest, ARefreshThatChangesNothingStaysWhereItIsScrolledTo) {
-    for (const int state : StateNumbers())
+    for (const StateNumber state : StateNumbers())
         Document.State(state).Targets[6] = 2;
     Window.BackTrack(Document, 2);
     Grid->scrollToBottom();
@@ -136,7 +136,7 @@ TEST_F(frmBackTrackTest, ARefreshThatChangesNothingStaysWhereItIsScrolledTo) {
 }
 
 TEST_F(frmBackTrackTest, TheColumnsKeepTheirShareOfTheWidth) {
-    for (const int state : StateNumbers())
+    for (const StateNumber state : StateNumbers())
         Document.State(state).Targets[6] = 2; // a scroll bar takes some of the width
     for (const int width : {300, 700}) {
         Window.resize(width, 300);
