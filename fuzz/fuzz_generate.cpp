@@ -82,7 +82,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
     Require(GenerateProgram(document, context).Text == program.Text, "the same input gives the same bytes");
     for (const Finding& finding : program.Findings.Findings)
-        Require(finding.Kind != Severity::Error ||
+        Require(finding.Level() != Severity::Error ||
                     program.Text.find("Orvane reports " + finding.Message + "\r\n") != std::string::npos,
                 "an error is marked in the program");
 

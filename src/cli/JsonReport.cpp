@@ -51,17 +51,19 @@ void AppendAscii(std::string& json, char character) {
 std::string NumberOrNull(std::int64_t number) { return number == 0 ? "null" : NumberText(number); }
 
 std::string FindingObject(const Finding& finding, const FsmDocument& document) {
-    const std::string stateName =
-        finding.Place.State == kNoState ? "null" : JsonString(ToUtf8(document.State(finding.Place.State).Name));
-    return "{\"severity\":" + JsonString(SeverityName(finding.Kind)) +
-           ",\"state\":" + NumberOrNull(finding.Place.State.Number()) +
-           ",\"stateName\":" + stateName + ",\"row\":" + NumberOrNull(finding.Place.Row.Number()) +
+    const std::string stateName = finding.Place.State == kNoState
+                                      ? "null"
+                                      : JsonString(ToUtf8(document.State(finding.Place.State).Name));
+    return "{\"severity\":" + JsonString(SeverityName(finding.Level())) +
+           ",\"kind\":" + JsonString(KindName(finding.Kind)) +
+           ",\"state\":" + NumberOrNull(finding.Place.State.Number()) + ",\"stateName\":" + stateName +
+           ",\"row\":" + NumberOrNull(finding.Place.Row.Number()) +
            ",\"message\":" + JsonString(StreamText(finding.Message)) + "}";
 }
 
 std::string MessageObject(const ReaderMessage& message) {
-    return "{\"line\":" + NumberOrNull(static_cast<std::int64_t>(message.Line)) + ",\"message\":" + JsonString(ShownMessage(message)) +
-           "}";
+    return "{\"line\":" + NumberOrNull(static_cast<std::int64_t>(message.Line)) +
+           ",\"message\":" + JsonString(ShownMessage(message)) + "}";
 }
 
 template <typename Item, typename Object>

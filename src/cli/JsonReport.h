@@ -24,7 +24,8 @@ struct CheckedDocument {
 
 // One line:
 // {"path":...,"complete":...,"counts":{"notes":...,"warnings":...,"errors":...},"findings":[...],"messages":[...]}
-// A finding is {"severity":...,"state":...,"stateName":...,"row":...,"message":...}, a message of the reader
+// A finding is {"severity":...,"kind":...,"state":...,"stateName":...,"row":...,"message":...}, a message of
+// the reader
 // {"line":...,"message":...}. What there is none of is null.
 std::string JsonLine(const CheckedDocument& checked);
 

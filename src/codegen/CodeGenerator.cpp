@@ -282,7 +282,7 @@ void CodeGenerator::EmitAction(const StateRecord& record, Cell cell, std::string
 bool CodeGenerator::Tell(std::optional<Finding> finding) {
     if (!finding)
         return false;
-    const bool isError = finding->Kind == Severity::Error;
+    const bool isError = finding->Level() == Severity::Error;
     if (isError)
         text_.EmitLine("Orvane reports ", finding->Message);
     report_.Findings.push_back(std::move(*finding));

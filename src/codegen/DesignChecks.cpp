@@ -19,8 +19,8 @@ constexpr std::string_view kMissingPrefix =
     "the overall function of this FSM, for example \"PMP\" for a pump\r\n"
     "control FSM";
 
-Finding StateFinding(Severity severity, const FsmDocument& document, Cell place, std::string_view what) {
-    return {severity, place, "State " + StateTitle(document, place.State) + std::string(what)};
+Finding StateFinding(FindingKind kind, const FsmDocument& document, Cell place, std::string_view what) {
+    return {kind, place, "State " + StateTitle(document, place.State) + std::string(what)};
 }
 
 } // namespace
@@ -32,35 +32,37 @@ std::string StateTitle(const FsmDocument& document, StateNumber state) {
 std::optional<Finding> CheckPrefix(const FsmDocument& document) {
     if (!document.General.FsmName.empty())
         return std::nullopt;
-    return Finding{Severity::Error, {}, std::string(kMissingPrefix)};
+    return Finding{FindingKind::MissingPrefix, {}, std::string(kMissingPrefix)};
 }
 
 std::optional<Finding> CheckEventCode(const FsmDocument& document, Cell cell) {
     const bool hasTransition = document.State(cell.State).Targets[cell.Row] != kNoState;
     if (!hasTransition || !document.Event(cell.Row).Code.empty())
         return std::nullopt;
-    return Finding{Severity::Error, cell,
+    return Finding{FindingKind::MissingEventCode, cell,
                    "Missing event test code in row" + SignedNumberText(cell.Row.Number())};
 }
 
 std::optional<Finding> CheckTimeout(const FsmDocument& document, StateNumber state) {
     const StateRecord& record = document.State(state);
-    const auto finding = [&](Severity severity, std::string_view what) {
-        return StateFinding(severity, document, {kTimeoutRow, state}, what);
+    const auto finding = [&](FindingKind kind, std::string_view what) {
+        return StateFinding(kind, document, {kTimeoutRow, state}, what);
     };
     if (record.Targets[kTimeoutRow] == kNoState) {
         if (record.TimingMode == kNoTiming)
             return std::nullopt;
-        return finding(Severity::Note, " has a timing mode specified but no timeout transition");
+        return finding(FindingKind::TimingModeWithoutTimeout,
+                       " has a timing mode specified but no timeout transition");
     }
     if (HasConstantLimit(record.TimingMode)) {
         if (Trim(record.TimeConst).empty())
-            return finding(Severity::Error, " needs a time constant");
+            return finding(FindingKind::MissingTimeConstant, " needs a time constant");
     } else if (HasVariableLimit(record.TimingMode)) {
         if (Trim(record.TimingVar).empty())
-            return finding(Severity::Error, " needs a variable time.");
+            return finding(FindingKind::MissingVariableTime, " needs a variable time.");
     } else {
-        return finding(Severity::Error, " has a timeout transition but the timing mode is not specified");
+        return finding(FindingKind::MissingTimingMode,
+                       " has a timeout transition but the timing mode is not specified");
     }
     return std::nullopt;
 }
@@ -72,14 +74,14 @@ std::optional<Finding> CheckDeadEnd(const FsmDocument& document, StateNumber sta
     };
     if (std::any_of(CellRows().begin(), CellRows().end(), leavesState))
         return std::nullopt;
-    return StateFinding(Severity::Warning, document, {kNoRow, state}, " is a dead end");
+    return StateFinding(FindingKind::DeadEnd, document, {kNoRow, state}, " is a dead end");
 }
 
 std::optional<Finding> CheckTimeoutAndElse(const FsmDocument& document, StateNumber state) {
     const StateRecord& record = document.State(state);
     if (record.Targets[kTimeoutRow] == kNoState || record.Targets[kElseRow] == kNoState)
         return std::nullopt;
-    return StateFinding(Severity::Note, document, {kElseRow, state},
+    return StateFinding(FindingKind::TimeoutAndElse, document, {kElseRow, state},
                         " has both a timeout and an ELSE transition.");
 }
 
@@ -91,7 +93,7 @@ std::optional<Finding> CheckUnreachable(const FsmDocument& document, const Reach
     const auto hasTarget = [&](RowNumber row) { return record.Targets[row] != kNoState; };
     if (record.Name.empty() && std::none_of(CellRows().begin(), CellRows().end(), hasTarget))
         return std::nullopt;
-    return StateFinding(Severity::Warning, document, {kNoRow, state}, " is unreachable");
+    return StateFinding(FindingKind::UnreachableState, document, {kNoRow, state}, " is unreachable");
 }
 
 } // namespace orvane

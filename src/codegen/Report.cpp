@@ -22,68 +22,56 @@ std::string_view Prefix(Severity severity) {
     return "** Error ** ";
 }
 
-void AppendLine(std::string& text, std::string_view line) { text.append(line).append(kLineEnd); }
-
-// A message from a foreign file may hold line ends of any kind.
-std::size_t LineCount(std::string_view message) {
-    std::size_t lines = 1;
-    for (std::size_t i = 0; i < message.size(); ++i) {
-        const bool insidePair = message[i] == '\n' && i > 0 && message[i - 1] == '\r';
-        if ((message[i] == '\r' || message[i] == '\n') && !insidePair)
-            ++lines;
+// Adds the text line by line. A message of a document from elsewhere may hold line ends of any kind.
+void AppendLines(std::vector<ReportLine>& lines, std::string_view text, Cell place) {
+    lines.push_back({"", place});
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const bool insidePair = text[i] == '\n' && i > 0 && text[i - 1] == '\r';
+        if (text[i] != '\r' && text[i] != '\n')
+            lines.back().Text += text[i];
+        else if (!insidePair)
+            lines.push_back({"", place});
     }
-    return lines;
 }
 
 std::string CountText(const Report& report, Severity severity) {
     return SignedNumberText(static_cast<std::int64_t>(report.Count(severity)));
 }
 
-} // namespace
-
-std::string_view SeverityName(Severity severity) {
-    switch (severity) {
-    case Severity::Note:
-        return "note";
-    case Severity::Warning:
-        return "warning";
-    case Severity::Error:
-        break;
-    }
-    return "error";
+// Gives `take` the report piece by piece: the heading, each finding with its place, the counts.
+template <typename Take>
+void VisitReport(const Report& report, Take take) {
+    if (!report.EndedEarly)
+        take("Errors and warnings", Cell());
+    for (const Finding& finding : report.Findings)
+        take(std::string(Prefix(finding.Level())) + finding.Message, finding.Place);
+    if (report.EndedEarly)
+        return;
+    if (report.Count(Severity::Note) != 0)
+        take(CountText(report, Severity::Note) + " Notes", Cell());
+    if (report.Count(Severity::Warning) != 0)
+        take(CountText(report, Severity::Warning) + " Warnings", Cell());
+    if (report.Count(Severity::Error) != 0)
+        take("****" + CountText(report, Severity::Error) + " Errors ****", Cell());
 }
 
+} // namespace
+
 std::size_t Report::Count(Severity severity) const {
-    const auto matches = [severity](const Finding& finding) { return finding.Kind == severity; };
+    const auto matches = [severity](const Finding& finding) { return finding.Level() == severity; };
     return static_cast<std::size_t>(std::count_if(Findings.begin(), Findings.end(), matches));
 }
 
 std::string ReportText(const Report& report) {
     std::string text;
-    if (!report.EndedEarly)
-        AppendLine(text, "Errors and warnings");
-    for (const Finding& finding : report.Findings)
-        AppendLine(text, std::string(Prefix(finding.Kind)) + finding.Message);
-    if (report.EndedEarly)
-        return text;
-    if (report.Count(Severity::Note) != 0)
-        AppendLine(text, CountText(report, Severity::Note) + " Notes");
-    if (report.Count(Severity::Warning) != 0)
-        AppendLine(text, CountText(report, Severity::Warning) + " Warnings");
-    if (report.Count(Severity::Error) != 0)
-        AppendLine(text, "****" + CountText(report, Severity::Error) + " Errors ****");
+    VisitReport(report, [&text](std::string_view line, Cell) { text.append(line).append(kLineEnd); });
     return text;
 }
 
-const Finding* FindingAtLine(const Report& report, std::size_t line) {
-    std::size_t next = report.EndedEarly ? 0 : 1; // the first line of the finding looked at
-    for (const Finding& finding : report.Findings) {
-        const std::size_t lines = LineCount(finding.Message);
-        if (line >= next && line < next + lines)
-            return &finding;
-        next += lines;
-    }
-    return nullptr;
+std::vector<ReportLine> ReportLines(const Report& report) {
+    std::vector<ReportLine> lines;
+    VisitReport(report, [&lines](std::string_view line, Cell place) { AppendLines(lines, line, place); });
+    return lines;
 }
 
 } // namespace orvane

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "codegen/FindingKind.h"
 #include "core/Cell.h"
 
 #include <cstddef>
@@ -10,17 +11,13 @@
 
 namespace orvane {
 
-enum class Severity { Note, Warning, Error };
-
-// "note", "warning" or "error".
-std::string_view SeverityName(Severity severity);
-
 // Something a generation run found in the design, and where.
 struct Finding {
-    Severity Kind = Severity::Note;
+    FindingKind Kind{};
     Cell Place; // kNoState when it concerns the machine as a whole, kNoRow when it concerns no row
     std::string Message;
 
+    Severity Level() const { return SeverityOf(Kind); }
     bool operator==(const Finding&) const = default;
 };
 
@@ -36,8 +33,16 @@ struct Report {
 // The report as the error pane shows it, CR LF line ends: the heading, a line for each finding, the counts.
 std::string ReportText(const Report& report);
 
-// The finding that a line of that text tells of, lines counted from 0; null for the heading and the counts.
-// The report must outlive the pointer.
-const Finding* FindingAtLine(const Report& report, std::size_t line);
+// A line of the report as a window shows it.
+struct ReportLine {
+    std::string Text; // without a line end
+    Cell Place;       // of its finding; kNoState for lines that lead nowhere
+
+    bool operator==(const ReportLine&) const = default;
+};
+
+// The lines of that text. A finding whose message has line ends, which may be of any kind in a document from
+// elsewhere, has several lines, all with its place.
+std::vector<ReportLine> ReportLines(const Report& report);
 
 } // namespace orvane

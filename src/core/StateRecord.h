@@ -16,15 +16,15 @@ struct StateRecord {
     std::string Name;
     std::string Tooltip;
     std::string EntryCode;
-    std::string ExitCode;        // documentation only: never generated
-    std::int32_t TimingMode = 0; // 0 none, 1..4 see core/TimingMode.h; other values come from foreign files
+    std::string ExitCode;          // documentation only: never generated
+    std::int32_t TimingMode = 0;   // 0 none, 1..4 see core/TimingMode.h; other values come from foreign files
     RowArray<StateNumber> Targets; // kNoState: no transition; else the state to go to, 1..100
     RowArray<std::string> Actions;
     std::string TimeConst;
     std::string TimingVar;
     std::string TimerId;
     Twips ColWidth = 0;
-    std::int16_t LastTab = 0;  // the tab of the state editor that was last shown
+    std::int16_t LastTab = 0; // the tab of the state editor that was last shown
 
     bool operator==(const StateRecord&) const = default;
 };

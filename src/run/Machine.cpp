@@ -17,9 +17,7 @@ namespace orvane::run {
 
 namespace {
 
-constexpr std::uint64_t Bit(RowNumber row) {
-    return std::uint64_t{1} << static_cast<unsigned>(row.Number());
-}
+constexpr std::uint64_t Bit(RowNumber row) { return std::uint64_t{1} << static_cast<unsigned>(row.Number()); }
 
 LimitKind KindOfLimit(const StateRecord& record) {
     if (record.Targets[kTimeoutRow] == kNoState)
@@ -46,9 +44,7 @@ std::array<Units, kStateCount + 1> Inputs::NoLimits() {
     return limits;
 }
 
-void Inputs::Set(RowNumber row, bool there) {
-    Events = there ? Events | Bit(row) : Events & ~Bit(row);
-}
+void Inputs::Set(RowNumber row, bool there) { Events = there ? Events | Bit(row) : Events & ~Bit(row); }
 
 Machine::Machine(const FsmDocument& document, const Constants& constants, Readings readings)
     : states_(kStateCount + 1), polytask_(document.View.Polytask), readings_(readings) {

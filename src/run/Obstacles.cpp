@@ -33,7 +33,7 @@ void AddLimit(std::vector<std::string>& obstacles, const FsmDocument& document, 
 std::vector<std::string> Obstacles(const FsmDocument& document) {
     std::vector<std::string> obstacles;
     for (const Finding& finding : GenerateProgram(document, {}).Findings.Findings) {
-        if (finding.Kind == Severity::Error)
+        if (finding.Level() == Severity::Error)
             obstacles.push_back(OnOneLine(finding.Message));
     }
     if (!obstacles.empty())

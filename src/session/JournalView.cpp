@@ -22,7 +22,7 @@ std::uint8_t Marks(const ViewOptions& view) {
     return marks & 0xFF;
 }
 
-std::int32_t ReadLength(JournalBytesReader& bytes) {
+Twips ReadLength(JournalBytesReader& bytes) {
     using Limits = std::numeric_limits<std::int32_t>;
     return bytes.Signed(Limits::min(), Limits::max());
 }
@@ -34,14 +34,14 @@ void WriteWidths(const JournalView& view, JournalBytesWriter& bytes) {
         while (at < view.Widths.size() && view.Widths[at] == view.Widths[first])
             ++at;
         bytes.Count(at - first);
-        bytes.Signed(view.Widths[first]);
+        bytes.Signed(view.Widths[first].Count());
     }
 }
 
 void ReadWidths(JournalView& view, JournalBytesReader& bytes) {
     for (std::size_t at = 0; at < view.Widths.size() && !bytes.Failed();) {
         const std::uint64_t run = bytes.Count();
-        const std::int32_t width = ReadLength(bytes);
+        const Twips width = ReadLength(bytes);
         bytes.Require(run > 0 && run <= view.Widths.size() - at);
         for (std::uint64_t i = 0; i < run && !bytes.Failed(); ++i)
             view.Widths[at++] = width;
@@ -53,7 +53,7 @@ void ReadWidths(JournalView& view, JournalBytesReader& bytes) {
 JournalView ViewOf(const FsmDocument& document) {
     JournalView view{document.View, {}, document.General.BuildFile};
     auto width = view.Widths.begin();
-    for (const int number : StateNumbers())
+    for (const StateNumber number : StateNumbers())
         *width++ = document.State(number).ColWidth;
     return view;
 }
@@ -62,17 +62,16 @@ void ApplyView(const JournalView& view, FsmDocument& document) {
     document.View = view.Options;
     document.General.BuildFile = view.BuildFile;
     auto width = view.Widths.begin();
-    for (const int number : StateNumbers())
+    for (const StateNumber number : StateNumbers())
         document.State(number).ColWidth = *width++;
 }
 
 void WriteView(const JournalView& view, JournalBytesWriter& bytes) {
     bytes.Byte(Marks(view.Options));
-    bytes.Signed(view.Options.Col0Width);
+    bytes.Signed(view.Options.Col0Width.Count());
     const RowHeights& heights = view.Options.RowVisible;
-    for (const std::int32_t height :
-         {heights.Else, heights.ExitAction, heights.TimingMode, heights.TimeTarget})
-        bytes.Signed(height);
+    for (const Twips height : {heights.Else, heights.ExitAction, heights.TimingMode, heights.TimeTarget})
+        bytes.Signed(height.Count());
     WriteWidths(view, bytes);
     bytes.Text(view.BuildFile);
 }
@@ -86,8 +85,7 @@ JournalView ReadView(JournalBytesReader& bytes) {
     view.Options.ShowElse = (marks & kShowElse) != 0;
     view.Options.Col0Width = ReadLength(bytes);
     RowHeights& heights = view.Options.RowVisible;
-    for (std::int32_t* height :
-         {&heights.Else, &heights.ExitAction, &heights.TimingMode, &heights.TimeTarget})
+    for (Twips* height : {&heights.Else, &heights.ExitAction, &heights.TimingMode, &heights.TimeTarget})
         *height = ReadLength(bytes);
     ReadWidths(view, bytes);
     view.BuildFile = bytes.Text();

@@ -15,7 +15,7 @@ class JournalBytesWriter;
 // What belongs to a document and is in none of its images: how it is looked at, and the script it names.
 struct JournalView {
     ViewOptions Options;
-    std::array<std::int32_t, kStateCount> Widths{}; // twips, of states 1..100
+    std::array<Twips, kStateCount> Widths; // of states 1..100
     std::string BuildFile;
 
     bool operator==(const JournalView&) const = default;

@@ -69,7 +69,8 @@ std::string CellText(const FsmDocument& document, Cell cell, const TextMeasurer&
                                measure);
     if (cell.Row > kElseRow)
         return EventHead(document.Event(cell.Row));
-    return FitTextToColumn(RowHead(document, cell.Row, measure), ShownWidth(document.View.Col0Width), measure);
+    return FitTextToColumn(RowHead(document, cell.Row, measure), ShownWidth(document.View.Col0Width),
+                           measure);
 }
 
 std::string ForceLREventAction(Twips column0Width, const TextMeasurer& measure) {

@@ -56,7 +56,8 @@ StateNumber LastFreeColumnBehind(const FsmDocument& document, StateNumber state)
 void Forget(TableClipboard& clipboard) { clipboard.Kind = ClipKind::Empty; }
 
 UserMessage BottomRowInUse(StateNumber state) {
-    return {"Sorry, you can't insert an event row because at least\r\none state (" + NumberText(state.Number()) +
+    return {"Sorry, you can't insert an event row because at least\r\none state (" +
+            NumberText(state.Number()) +
             ") has a transition in the very bottom cell.\r\n"
             "and inserting a row involves moving everything down a row."};
 }

@@ -70,22 +70,31 @@ constexpr std::array kCommands = {
             [](Twin& t, const Place& at) { PasteEntryAction(t.Document, t.Clipboard, at.Column); },
             &PasteItems::EntryAction},
     Command{"mnuCopyTransition", Command::TransitionCell,
-            [](Twin& t, const Place& at) { CopyTransition(t.Document, t.Clipboard, {at.Row, at.Column}); }},
+            [](Twin& t, const Place& at) {
+                CopyTransition(t.Document, t.Clipboard, {at.Row, at.Column});
+            }},
     Command{"mnuCutTransition", Command::TransitionCell,
-            [](Twin& t, const Place& at) { CutTransition(t.Document, t.Clipboard, {at.Row, at.Column}); }},
+            [](Twin& t, const Place& at) {
+                CutTransition(t.Document, t.Clipboard, {at.Row, at.Column});
+            }},
     Command{"mnuPasteTransition", Command::TransitionCell,
-            [](Twin& t, const Place& at) { PasteTransition(t.Document, t.Clipboard, {at.Row, at.Column}); },
+            [](Twin& t, const Place& at) {
+                PasteTransition(t.Document, t.Clipboard, {at.Row, at.Column});
+            },
             &PasteItems::Transition},
-    Command{
-        "mnuCopyTransAct", Command::TransitionCell,
-        [](Twin& t, const Place& at) { CopyTransitionAction(t.Document, t.Clipboard, {at.Row, at.Column}); }},
-    Command{
-        "mnuCutTransAct", Command::TransitionCell,
-        [](Twin& t, const Place& at) { CutTransitionAction(t.Document, t.Clipboard, {at.Row, at.Column}); }},
-    Command{
-        "mnuPasteTransAct", Command::TransitionCell,
-        [](Twin& t, const Place& at) { PasteTransitionAction(t.Document, t.Clipboard, {at.Row, at.Column}); },
-        &PasteItems::TransitionAction},
+    Command{"mnuCopyTransAct", Command::TransitionCell,
+            [](Twin& t, const Place& at) {
+                CopyTransitionAction(t.Document, t.Clipboard, {at.Row, at.Column});
+            }},
+    Command{"mnuCutTransAct", Command::TransitionCell,
+            [](Twin& t, const Place& at) {
+                CutTransitionAction(t.Document, t.Clipboard, {at.Row, at.Column});
+            }},
+    Command{"mnuPasteTransAct", Command::TransitionCell,
+            [](Twin& t, const Place& at) {
+                PasteTransitionAction(t.Document, t.Clipboard, {at.Row, at.Column});
+            },
+            &PasteItems::TransitionAction},
 };
 
 struct Step {

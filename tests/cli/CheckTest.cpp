@@ -92,11 +92,14 @@ TEST_F(Check, JsonNamesStateAndRowOfEachFinding) {
     EXPECT_EQ(run.Status, 1);
     EXPECT_EQ(run.Output, "{\"path\":\"bad.zfsm\",\"complete\":true,"
                           "\"counts\":{\"notes\":0,\"warnings\":1,\"errors\":2},\"findings\":["
-                          "{\"severity\":\"error\",\"state\":1,\"stateName\":\"K\xC3\xBChl\",\"row\":6,"
+                          "{\"severity\":\"error\",\"kind\":\"missing-event-code\",\"state\":1,\"stateName\":"
+                          "\"K\xC3\xBChl\",\"row\":6,"
                           "\"message\":\"Missing event test code in row 6\"},"
-                          "{\"severity\":\"error\",\"state\":1,\"stateName\":\"K\xC3\xBChl\",\"row\":4,"
+                          "{\"severity\":\"error\",\"kind\":\"missing-time-constant\",\"state\":1,"
+                          "\"stateName\":\"K\xC3\xBChl\",\"row\":4,"
                           "\"message\":\"State 1:K\xC3\xBChl needs a time constant\"},"
-                          "{\"severity\":\"warning\",\"state\":1,\"stateName\":\"K\xC3\xBChl\",\"row\":null,"
+                          "{\"severity\":\"warning\",\"kind\":\"dead-end\",\"state\":1,\"stateName\":"
+                          "\"K\xC3\xBChl\",\"row\":null,"
                           "\"message\":\"State 1:K\xC3\xBChl is a dead end\"}],\"messages\":[]}\n");
 }
 

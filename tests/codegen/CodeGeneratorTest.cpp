@@ -163,14 +163,17 @@ TEST(CodeGenerator, FindingsComeStateByStateInTheOrderOfTheBlockUnreachableState
     const GeneratedProgram program = GenerateProgram(document, kPumpContext);
     EXPECT_THAT(
         program.Findings.Findings,
-        ElementsAre(Finding{Severity::Error, {7, 1}, "Missing event test code in row 7"},
-                    Finding{Severity::Error, {54, 1}, "Missing event test code in row 54"},
-                    Finding{Severity::Error, {4, 1}, "State 1: needs a variable time."},
-                    Finding{Severity::Note, {5, 1}, "State 1: has both a timeout and an ELSE transition."},
-                    Finding{Severity::Note, {4, 4},
+        ElementsAre(Finding{FindingKind::MissingEventCode, {7, 1}, "Missing event test code in row 7"},
+                    Finding{FindingKind::MissingEventCode, {54, 1}, "Missing event test code in row 54"},
+                    Finding{FindingKind::MissingVariableTime, {4, 1}, "State 1: needs a variable time."},
+                    Finding{FindingKind::TimeoutAndElse,
+                            {5, 1},
+                            "State 1: has both a timeout and an ELSE transition."},
+                    Finding{FindingKind::TimingModeWithoutTimeout,
+                            {4, 4},
                             "State 4:End has a timing mode specified but no timeout transition"},
-                    Finding{Severity::Warning, {0, 4}, "State 4:End is a dead end"},
-                    Finding{Severity::Warning, {0, 3}, "State 3:Lost is unreachable"}));
+                    Finding{FindingKind::DeadEnd, {0, 4}, "State 4:End is a dead end"},
+                    Finding{FindingKind::UnreachableState, {0, 3}, "State 3:Lost is unreachable"}));
     EXPECT_EQ(ReportText(program.Findings),
               "Errors and warnings\r\n"
               "** Error ** Missing event test code in row 7\r\n"

@@ -20,7 +20,8 @@ TEST(DesignChecks, StatesAreNamedByNumberAndName) {
 TEST(DesignChecks, AMachineWithoutNameIsAnErrorInFiveLines) {
     FsmDocument document;
     EXPECT_EQ(CheckPrefix(document),
-              (Finding{Severity::Error, {},
+              (Finding{FindingKind::MissingPrefix,
+                       {},
                        "You must supply a distinguishing label prefix in the \"Name\"\r\n"
                        "box of the General Code editor. This should be unique within your\r\n"
                        "project as a whole. Typically this would be a 3-letter mnemonic for\r\n"
@@ -36,9 +37,9 @@ TEST(DesignChecks, ATransitionWithoutTestCodeNamesTheRowAndNoState) {
     document.State(9).Targets[6] = 1;
     document.State(9).Targets[54] = 9;
     EXPECT_EQ(CheckEventCode(document, {6, 9}),
-              (Finding{Severity::Error, {6, 9}, "Missing event test code in row 6"}));
+              (Finding{FindingKind::MissingEventCode, {6, 9}, "Missing event test code in row 6"}));
     EXPECT_EQ(CheckEventCode(document, {54, 9}),
-              (Finding{Severity::Error, {54, 9}, "Missing event test code in row 54"}));
+              (Finding{FindingKind::MissingEventCode, {54, 9}, "Missing event test code in row 54"}));
     document.Event(6).Code = " ";
     EXPECT_EQ(CheckEventCode(document, {6, 9}), std::nullopt);
 }
@@ -55,7 +56,8 @@ TEST(DesignChecks, ATimingModeWithoutTimeoutTransitionIsANote) {
     for (const int mode : {1, 2, 3, 4, 5, -1}) {
         document.State(3).TimingMode = mode;
         EXPECT_EQ(CheckTimeout(document, 3),
-                  (Finding{Severity::Note, {4, 3},
+                  (Finding{FindingKind::TimingModeWithoutTimeout,
+                           {4, 3},
                            "State 3:Idle has a timing mode specified but no timeout transition"}));
     }
 }
@@ -67,8 +69,9 @@ TEST(DesignChecks, AConstantTimeoutNeedsATimeConstant) {
         document.State(3).TimingMode = mode;
         for (const char* blank : {"", " "}) {
             document.State(3).TimeConst = blank;
-            EXPECT_EQ(CheckTimeout(document, 3),
-                      (Finding{Severity::Error, {4, 3}, "State 3:Idle needs a time constant"}));
+            EXPECT_EQ(
+                CheckTimeout(document, 3),
+                (Finding{FindingKind::MissingTimeConstant, {4, 3}, "State 3:Idle needs a time constant"}));
         }
         document.State(3).TimeConst = "0";
         EXPECT_EQ(CheckTimeout(document, 3), std::nullopt);
@@ -82,8 +85,9 @@ TEST(DesignChecks, AVariableTimeoutNeedsAVariableTime) {
         document.State(3).TimingMode = mode;
         for (const char* blank : {"", "  "}) {
             document.State(3).TimingVar = blank;
-            EXPECT_EQ(CheckTimeout(document, 3),
-                      (Finding{Severity::Error, {4, 3}, "State 3:Idle needs a variable time."}));
+            EXPECT_EQ(
+                CheckTimeout(document, 3),
+                (Finding{FindingKind::MissingVariableTime, {4, 3}, "State 3:Idle needs a variable time."}));
         }
         document.State(3).TimingVar = "\tfLoad";
         EXPECT_EQ(CheckTimeout(document, 3), std::nullopt);
@@ -98,14 +102,15 @@ TEST(DesignChecks, ATimeoutTransitionNeedsAKnownTimingMode) {
     for (const int mode : {0, 5, 255, -1}) {
         document.State(3).TimingMode = mode;
         EXPECT_EQ(CheckTimeout(document, 3),
-                  (Finding{Severity::Error, {4, 3},
+                  (Finding{FindingKind::MissingTimingMode,
+                           {4, 3},
                            "State 3:Idle has a timeout transition but the timing mode is not specified"}));
     }
 }
 
 TEST(DesignChecks, AStateWithoutTransitionToAnotherIsADeadEnd) {
     FsmDocument document = WithState(3, "Idle");
-    const Finding deadEnd{Severity::Warning, {0, 3}, "State 3:Idle is a dead end"};
+    const Finding deadEnd{FindingKind::DeadEnd, {0, 3}, "State 3:Idle is a dead end"};
     EXPECT_EQ(CheckDeadEnd(document, 3), deadEnd);
     document.State(3).Targets[6] = 3;
     document.State(3).Targets[kTimeoutRow] = 3;
@@ -124,7 +129,9 @@ TEST(DesignChecks, TimeoutAndElseTogetherAreANote) {
     EXPECT_EQ(CheckTimeoutAndElse(document, 3), std::nullopt);
     document.State(3).Targets[kElseRow] = 3;
     EXPECT_EQ(CheckTimeoutAndElse(document, 3),
-              (Finding{Severity::Note, {5, 3}, "State 3:Idle has both a timeout and an ELSE transition."}));
+              (Finding{FindingKind::TimeoutAndElse,
+                       {5, 3},
+                       "State 3:Idle has both a timeout and an ELSE transition."}));
     document.State(3).Targets[kTimeoutRow] = 0;
     EXPECT_EQ(CheckTimeoutAndElse(document, 3), std::nullopt);
 }
@@ -136,9 +143,9 @@ TEST(DesignChecks, AStateInUseThatIsNotReachedIsUnreachable) {
     document.State(5).Actions[6] = ";alone";
     const Reachability reachability = ComputeReachability(document);
     EXPECT_EQ(CheckUnreachable(document, reachability, 3),
-              (Finding{Severity::Warning, {0, 3}, "State 3:Idle is unreachable"}));
+              (Finding{FindingKind::UnreachableState, {0, 3}, "State 3:Idle is unreachable"}));
     EXPECT_EQ(CheckUnreachable(document, reachability, 4),
-              (Finding{Severity::Warning, {0, 4}, "State 4: is unreachable"}));
+              (Finding{FindingKind::UnreachableState, {0, 4}, "State 4: is unreachable"}));
     EXPECT_EQ(CheckUnreachable(document, reachability, 5), std::nullopt); // neither name nor target
     EXPECT_EQ(CheckUnreachable(document, reachability, 6), std::nullopt);
 }

@@ -250,23 +250,28 @@ TEST(Examples, UseOnlyWordsOfTheirVocabulary) {
 
 TEST(Examples, FaultyRaisesEveryFindingOnce) {
     const std::vector<Finding> findings{
-        {Severity::Note, {kTimeoutRow, 1},
+        {FindingKind::TimingModeWithoutTimeout,
+         {kTimeoutRow, 1},
          "State 1:Ready has a timing mode specified but no timeout transition"},
-        {Severity::Error, {kTimeoutRow, 2}, "State 2:Forward needs a time constant"},
-        {Severity::Error, {kTimeoutRow, 3}, "State 3:Slow needs a variable time."},
-        {Severity::Error, {kTimeoutRow, 4},
+        {FindingKind::MissingTimeConstant, {kTimeoutRow, 2}, "State 2:Forward needs a time constant"},
+        {FindingKind::MissingVariableTime, {kTimeoutRow, 3}, "State 3:Slow needs a variable time."},
+        {FindingKind::MissingTimingMode,
+         {kTimeoutRow, 4},
          "State 4:Back has a timeout transition but the timing mode is not specified"},
-        {Severity::Error, {7, 5}, "Missing event test code in row 7"},
-        {Severity::Note, {kElseRow, 6}, "State 6:Choose has both a timeout and an ELSE transition."},
-        {Severity::Warning, {0, 7}, "State 7:Parked is a dead end"},
-        {Severity::Warning, {0, 8}, "State 8:Service is unreachable"}};
+        {FindingKind::MissingEventCode, {7, 5}, "Missing event test code in row 7"},
+        {FindingKind::TimeoutAndElse,
+         {kElseRow, 6},
+         "State 6:Choose has both a timeout and an ELSE transition."},
+        {FindingKind::DeadEnd, {0, 7}, "State 7:Parked is a dead end"},
+        {FindingKind::UnreachableState, {0, 8}, "State 8:Service is unreachable"}};
     EXPECT_EQ(Generate(Example("faulty")).Findings.Findings, findings);
 }
 
 TEST(Examples, NamelessRaisesTheMissingPrefixAlone) {
     const GeneratedProgram program = Generate(Example("nameless"));
     const std::vector<Finding> findings{
-        {Severity::Error, {},
+        {FindingKind::MissingPrefix,
+         {},
          "You must supply a distinguishing label prefix in the \"Name\"\r\n"
          "box of the General Code editor. This should be unique within your\r\n"
          "project as a whole. Typically this would be a 3-letter mnemonic for\r\n"

@@ -6,9 +6,9 @@
 namespace orvane {
 namespace {
 
-Finding Note() { return {Severity::Note, {4, 1}, "n"}; }
-Finding Warning() { return {Severity::Warning, {0, 1}, "w"}; }
-Finding Error() { return {Severity::Error, {6, 1}, "e"}; }
+Finding Note() { return {FindingKind::TimeoutAndElse, {4, 1}, "n"}; }
+Finding Warning() { return {FindingKind::DeadEnd, {0, 1}, "w"}; }
+Finding Error() { return {FindingKind::MissingEventCode, {6, 1}, "e"}; }
 
 TEST(Report, ACleanRunLeavesTheHeading) { EXPECT_EQ(ReportText({}), "Errors and warnings\r\n"); }
 
@@ -35,10 +35,18 @@ TEST(Report, OnlyErrorsAreErrors) {
     EXPECT_EQ((Report{{Note(), Error(), Note()}}).Count(Severity::Note), 2u);
 }
 
-TEST(Report, SeveritiesHaveNames) {
-    EXPECT_EQ(SeverityName(Severity::Note), "note");
-    EXPECT_EQ(SeverityName(Severity::Warning), "warning");
-    EXPECT_EQ(SeverityName(Severity::Error), "error");
+TEST(Report, EveryLineOfAFindingLeadsToItsPlaceAndHeadingAndCountsNowhere) {
+    Finding odd = Warning();
+    odd.Message = "a\rb\nc\r\nd";
+    EXPECT_EQ(ReportLines({{Error(), odd}}), (std::vector<ReportLine>{{"Errors and warnings", {}},
+                                                                      {"** Error ** e", {6, 1}},
+                                                                      {"Warning: a", {0, 1}},
+                                                                      {"b", {0, 1}},
+                                                                      {"c", {0, 1}},
+                                                                      {"d", {0, 1}},
+                                                                      {" 1 Warnings", {}},
+                                                                      {"**** 1 Errors ****", {}}}));
+    EXPECT_EQ(ReportLines({{Error()}, true}), (std::vector<ReportLine>{{"** Error ** e", {6, 1}}}));
 }
 
 } // namespace

@@ -17,7 +17,8 @@ FsmDocument Filled() {
         document.Event(row) = {"event", ";test", "hint", 1};
     for (const StateNumber number : StateNumbers()) {
         StateRecord& state = document.State(number);
-        state = {"state", "hint", ";entry", ";exit", 3, {}, {}, "100", ";limit", "A", 1000 + number.Number(), 2};
+        state = {"state", "hint", ";entry", ";exit", 3, {}, {}, "100", ";limit", "A", 1000 + number.Number(),
+                 2};
         for (const RowNumber row : CellRows()) {
             state.Targets[row] = number;
             state.Actions[row] = ";action";

@@ -18,7 +18,9 @@ template <typename From, typename To>
 concept Becomes = std::is_convertible_v<From, To> || std::is_constructible_v<To, From>;
 
 template <typename Row, typename State>
-concept MakesCell = requires(Row row, State state) { Cell{row, state}; };
+concept MakesCell = requires(Row row, State state) {
+    Cell{row, state};
+};
 
 template <typename Row, typename State>
 concept NamesTransition = requires(const FsmDocument& document, Row row, State state) {
@@ -28,13 +30,19 @@ concept NamesTransition = requires(const FsmDocument& document, Row row, State s
 };
 
 template <typename A, typename B>
-concept Comparable = requires(A a, B b) { a == b; };
+concept Comparable = requires(A a, B b) {
+    a == b;
+};
 
 template <typename A, typename B>
-concept Addable = requires(A a, B b) { a + b; };
+concept Addable = requires(A a, B b) {
+    a + b;
+};
 
 template <typename Height>
-concept ShowsRows = requires(ViewOptions view, Height height) { ForceShowElse(view, height); };
+concept ShowsRows = requires(ViewOptions view, Height height) {
+    ForceShowElse(view, height);
+};
 
 TEST(MixUp, RowAndStateCannotBeExchanged) {
     static_assert(MakesCell<RowNumber, StateNumber> && NamesTransition<RowNumber, StateNumber>);

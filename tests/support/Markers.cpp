@@ -23,7 +23,8 @@ void MarkState(StateRecord& state, StateNumber number) {
     Mark(state.EntryCode, Marker(kDo, "entry_" + name));
     Mark(state.ExitCode, Marker(kDo, "exit_" + name));
     for (const RowNumber row : CellRows()) // of two lines, so that texts of several lines are walked too
-        Mark(state.Actions[row], Marker(kDo, "action_" + name + "_" + NumberText(row.Number())) + "\r\n;second line");
+        Mark(state.Actions[row],
+             Marker(kDo, "action_" + name + "_" + NumberText(row.Number())) + "\r\n;second line");
     if (!Trim(state.TimingVar).empty())
         state.TimingVar = Marker(kLoad, name);
     if (!Trim(state.TimeConst).empty())

@@ -133,9 +133,9 @@ Gen<DocumentEdit> ColumnEdit() {
         [](int state, int target, const std::string& action) {
             return DocumentEdit{"all cells of state " + NumberText(state), [=](FsmDocument& document) {
                                     for (const RowNumber row : CellRows()) {
-                                        document.State(state).Targets[row] =
-                                            target;
-                                        document.State(state).Actions[row] = action + NumberText(row.Number());
+                                        document.State(state).Targets[row] = target;
+                                        document.State(state).Actions[row] =
+                                            action + NumberText(row.Number());
                                     }
                                 }};
         },
@@ -149,8 +149,7 @@ Gen<DocumentEdit> RowEdit() {
             return DocumentEdit{"all of row " + NumberText(row), [=](FsmDocument& document) {
                                     document.Event(row) = {text, text, text, 1};
                                     for (const StateNumber state : StateNumbers()) {
-                                        document.State(state).Targets[row] =
-                                            StateNumbers().Last() - state;
+                                        document.State(state).Targets[row] = StateNumbers().Last() - state;
                                         document.State(state).Actions[row] = text;
                                     }
                                 }};

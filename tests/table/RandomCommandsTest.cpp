@@ -51,12 +51,14 @@ constexpr std::array kCommands = {
             [](User& user, const Place& at) { CopyEvent(user.Document, user.Clipboard, at.EventRow); }},
     Command{"cut entry action",
             [](User& user, const Place& at) { CutEntryAction(user.Document, user.Clipboard, at.State); }},
-    Command{
-        "copy transition",
-        [](User& user, const Place& at) { CopyTransition(user.Document, user.Clipboard, {at.Row, at.State}); }},
-    Command{
-        "cut transition",
-        [](User& user, const Place& at) { CutTransition(user.Document, user.Clipboard, {at.Row, at.State}); }},
+    Command{"copy transition",
+            [](User& user, const Place& at) {
+                CopyTransition(user.Document, user.Clipboard, {at.Row, at.State});
+            }},
+    Command{"cut transition",
+            [](User& user, const Place& at) {
+                CutTransition(user.Document, user.Clipboard, {at.Row, at.State});
+            }},
     Command{"cut action",
             [](User& user, const Place& at) {
                 CutTransitionAction(user.Document, user.Clipboard, {at.Row, at.State});

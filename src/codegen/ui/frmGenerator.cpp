@@ -11,6 +11,8 @@
 #include <QPlainTextEdit>
 #include <QStatusBar>
 
+#include <iterator>
+
 namespace orvane {
 
 namespace {
@@ -88,16 +90,27 @@ void frmGenerator::Present() {
 void frmGenerator::ShowRun() {
     runDue_.stop();
     ReplaceText(*txtCode, run_.Text);
-    txtErrors->setPlainText(FromAnsi(ReportText(run_.Findings)));
+    ShowReport();
     ShowCaret();
+}
+
+// One line of the pane for each line of the report, so that the one's number is the other's.
+void frmGenerator::ShowReport() {
+    reportLines_ = ReportLines(run_.Findings);
+    QString text;
+    for (const ReportLine& line : reportLines_)
+        text += FromAnsi(line.Text) + QLatin1Char('\n');
+    txtErrors->setPlainText(text);
 }
 
 void frmGenerator::ShowCaret() { Panel2->setText(txtCode->CaretReadOut()); }
 
 void frmGenerator::ChoosePlace(int reportLine) {
-    const Finding* finding = FindingAtLine(run_.Findings, static_cast<std::size_t>(reportLine));
-    if (finding && finding->Place.State != kNoState)
-        Q_EMIT PlaceChosen(finding->Place);
+    if (reportLine >= std::ssize(reportLines_)) // below the last one
+        return;
+    const Cell place = reportLines_[static_cast<std::size_t>(reportLine)].Place;
+    if (place.State != kNoState)
+        Q_EMIT PlaceChosen(place);
 }
 
 void frmGenerator::resizeEvent(QResizeEvent* event) {

@@ -7,6 +7,8 @@
 #include <QTimer>
 #include <QWidget>
 
+#include <vector>
+
 class QLabel;
 class QPlainTextEdit;
 class QStatusBar;
@@ -48,6 +50,7 @@ class frmGenerator : public QWidget {
     void BuildStatusBar();
     void LayOut();
     void ShowRun();
+    void ShowReport();
     void ShowCaret();
     void ChoosePlace(int reportLine);
 
@@ -58,7 +61,8 @@ class frmGenerator : public QWidget {
     QLabel* Panel2 = nullptr;
 
     GeneratedProgram run_;
-    QTimer runDue_; // started while a run waits to be shown
+    std::vector<ReportLine> reportLines_; // what the report pane shows
+    QTimer runDue_;                       // started while a run waits to be shown
 };
 
 } // namespace orvane

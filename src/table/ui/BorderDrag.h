@@ -32,7 +32,7 @@ class BorderDrag {
 
     FsmGridView& view_;
     std::optional<StateNumber> column_; // whose border is held
-    int grip_ = 0; // from the border to where it was taken hold of, pixels
+    int grip_ = 0;                      // from the border to where it was taken hold of, pixels
 };
 
 } // namespace orvane

@@ -269,8 +269,8 @@ void FsmGridView::PressCurrentCell(Qt::MouseButton button, Qt::KeyboardModifiers
         return;
     scrollTo(cell);
     const QPoint middle = VisibleRect(cell).center();
-    Q_EMIT CellPressed({CellOf(cell), ButtonOf(button), ModifiersOf(modifiers),
-                        viewport()->mapToGlobal(middle)});
+    Q_EMIT CellPressed(
+        {CellOf(cell), ButtonOf(button), ModifiersOf(modifiers), viewport()->mapToGlobal(middle)});
 }
 
 void FsmGridView::keyReleaseEvent(QKeyEvent* event) {

@@ -18,8 +18,8 @@ namespace orvane {
 namespace {
 
 constexpr int kLowestHighlight = 1; // pixels; 26 twips; lower rows show no head to set off
-constexpr int kHighlightIndent = 2;                   // pixels at its left
-constexpr int kHighlightGap = 1;                      // pixels at its right
+constexpr int kHighlightIndent = 2; // pixels at its left
+constexpr int kHighlightGap = 1;    // pixels at its right
 
 QLineEdit* MakeRowHeader(QWidget* parent) {
     auto* box = new QLineEdit(parent);

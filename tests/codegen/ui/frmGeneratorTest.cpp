@@ -44,7 +44,8 @@ class frmGeneratorTest : public testing::Test {
 };
 
 TEST_F(frmGeneratorTest, ARunMadeWhileHiddenIsShownLater) {
-    window_.TakeRun(ARun(";PMP\r\n", {{Severity::Warning, {0, 2}, "State 2:Run is a dead end"}}), QString());
+    window_.TakeRun(ARun(";PMP\r\n", {{FindingKind::DeadEnd, {0, 2}, "State 2:Run is a dead end"}}),
+                    QString());
     Show();
     EXPECT_EQ(Find<CodePane>("txtCode").Text(), ";PMP\r\n");
     EXPECT_EQ(Find<QPlainTextEdit>("txtErrors").toPlainText(),
@@ -84,7 +85,7 @@ TEST_F(frmGeneratorTest, AWindowComesUpWithTheLatestRunHoweverLarge) {
 
 TEST_F(frmGeneratorTest, ADoubleClickOnAFindingWithoutAPlaceChoosesNothing) {
     const QSignalSpy chosen(&window_, &frmGenerator::PlaceChosen);
-    window_.TakeRun(ARun("", {{Severity::Warning, 0, 0, "Nothing leads anywhere"}}), QString());
+    window_.TakeRun(ARun("", {{FindingKind::MissingPrefix, {}, "Nothing leads anywhere"}}), QString());
     Show();
     QTest::mouseDClick(Find<QPlainTextEdit>("txtErrors").viewport(), Qt::LeftButton, Qt::NoModifier,
                        MiddleOfLine(1));
@@ -166,9 +167,9 @@ TEST_F(frmGeneratorTest, TheReportTakesThreeTenthsOfTheHeight) {
 
 TEST_F(frmGeneratorTest, ADoubleClickOnAFindingChoosesItsPlace) {
     QSignalSpy chosen(&window_, &frmGenerator::PlaceChosen);
-    window_.TakeRun(ARun("", {{Severity::Error, {7, 3}, "Missing event test code in row 7"},
-                              {Severity::Warning, {0, 5}, "State 5:Odd\r\nname is a dead end"},
-                              {Severity::Note, {4, 6}, "State 6: has"}}),
+    window_.TakeRun(ARun("", {{FindingKind::MissingEventCode, {7, 3}, "Missing event test code in row 7"},
+                              {FindingKind::DeadEnd, {0, 5}, "State 5:Odd\r\nname is a dead end"},
+                              {FindingKind::TimingModeWithoutTimeout, {4, 6}, "State 6: has"}}),
                     QString());
     Show();
     QWidget* report = Find<QPlainTextEdit>("txtErrors").viewport();
