@@ -2,12 +2,11 @@
 #include "core/DocumentReader.h"
 
 #include "core/DocumentTags.h"
+#include "core/RecordFields.h"
 #include "core/TagScanner.h"
 #include "text/AnsiText.h"
 #include "text/NumberText.h"
 
-#include <algorithm>
-#include <array>
 #include <limits>
 #include <optional>
 #include <utility>
@@ -15,62 +14,6 @@
 namespace orvane {
 
 namespace {
-
-template <typename Record>
-struct TextField {
-    std::string_view Tag;
-    std::string Record::*Member;
-};
-
-template <typename Record>
-struct LengthField {
-    std::string_view Tag;
-    Twips Record::*Member;
-};
-
-struct BooleanField {
-    std::string_view Tag;
-    bool ViewOptions::*Member;
-};
-
-constexpr auto kGeneralTexts =
-    std::to_array<TextField<GeneralCode>>({{tag::kFsmName, &GeneralCode::FsmName},
-                                           {tag::kBuildFile, &GeneralCode::BuildFile},
-                                           {tag::kCodeSeg, &GeneralCode::CodeSeg},
-                                           {tag::kHeaderComment, &GeneralCode::HeaderComment},
-                                           {tag::kInitSeg, &GeneralCode::InitSeg},
-                                           {tag::kNvEm0Data, &GeneralCode::NvEm0Data},
-                                           {tag::kTestSeg, &GeneralCode::TestSeg},
-                                           {tag::kInstances, &GeneralCode::Instances}});
-constexpr auto kEventTexts = std::to_array<TextField<EventRecord>>({{tag::kName, &EventRecord::Name},
-                                                                    {tag::kTooltip, &EventRecord::Tooltip},
-                                                                    {tag::kCode, &EventRecord::Code}});
-constexpr auto kStateTexts =
-    std::to_array<TextField<StateRecord>>({{tag::kName, &StateRecord::Name},
-                                           {tag::kTooltip, &StateRecord::Tooltip},
-                                           {tag::kEntry, &StateRecord::EntryCode},
-                                           {tag::kExit, &StateRecord::ExitCode},
-                                           {tag::kTimeConst, &StateRecord::TimeConst},
-                                           {tag::kTimingVar, &StateRecord::TimingVar},
-                                           {tag::kTimerId, &StateRecord::TimerId}});
-constexpr auto kStateWidths = std::to_array<LengthField<StateRecord>>(
-    {{tag::kColWidth, &StateRecord::ColWidth}, {tag::kOldColWidth, &StateRecord::ColWidth}});
-constexpr auto kRowHeights =
-    std::to_array<LengthField<RowHeights>>({{tag::kElse, &RowHeights::Else},
-                                            {tag::kExitAction, &RowHeights::ExitAction},
-                                            {tag::kTimingModeRow, &RowHeights::TimingMode},
-                                            {tag::kTimeTargetRow, &RowHeights::TimeTarget}});
-constexpr auto kViewMarks = std::to_array<BooleanField>({{tag::kPolytask, &ViewOptions::Polytask},
-                                                         {tag::kShowTimeTarget, &ViewOptions::ShowTimeTarget},
-                                                         {tag::kShowTimingMode, &ViewOptions::ShowTimingMode},
-                                                         {tag::kShowElse, &ViewOptions::ShowElse}});
-
-template <typename Table>
-const auto* Find(const Table& table, std::string_view wanted) {
-    const auto found =
-        std::find_if(table.begin(), table.end(), [wanted](const auto& field) { return field.Tag == wanted; });
-    return found == table.end() ? nullptr : &*found;
-}
 
 bool IsTrue(std::string_view text) { return ToUpper(text) == "TRUE"; }
 
@@ -113,26 +56,37 @@ class Reader {
 
   private:
     void ReadTopLevel();
-    void ReadGeneralField(std::string_view tag);
+    void ReadMachineField(std::string_view tag);
     void ReadRowHeights();
     void ReadEvent();
     void ReadState();
     void ReadTransitions(StateRecord& state);
 
-    // Calls `field(tag)` for each tag up to the closing one.
-    template <typename Field>
-    void ReadBlock(std::string_view closer, Field field);
+    // Calls `read(tag)` for each tag up to the closing one.
+    template <typename ReadTagged>
+    void ReadBlock(std::string_view closer, ReadTagged read);
 
     // The number in the head of an event or a state.
     template <typename Kind>
     Kind HeadNumber(NumberRange<Kind> range);
     void RequireWholeValue() const;
     void SetText(std::string& text, std::string_view value);
+
+    // Reads the value of the record's field that has the tag; tells a tag that none has.
+    template <typename Fields, typename Record>
+    void ReadField(const Fields& fields, Record& record, std::string_view tag);
+    void ReadValue(const FieldInFile&, std::string& text) { SetText(text, scanner_.NextValue()); }
+    void ReadValue(const FieldInFile& file, bool& mark);
+    void ReadValue(const FieldInFile&, std::int16_t& number) { number = NextNumber<std::int16_t>(); }
+    void ReadValue(const FieldInFile&, std::int32_t& number) { number = NextNumber<std::int32_t>(); }
+    void ReadValue(const FieldInFile&, Twips& length) { length = NextNumber<std::int32_t>(); }
+
     // The number at the front of the text; outside the range reading breaks off.
     std::int64_t Number(std::string_view text, std::int64_t first, std::int64_t last) const;
     template <typename T>
-    T NumberOf(std::string_view text) const {
-        return static_cast<T>(Number(text, std::numeric_limits<T>::min(), std::numeric_limits<T>::max()));
+    T NextNumber() {
+        using Limits = std::numeric_limits<T>;
+        return static_cast<T>(Number(scanner_.NextValue(), Limits::min(), Limits::max()));
     }
     template <typename Kind>
     Kind NumberOf(std::string_view text, NumberRange<Kind> range) const {
@@ -184,28 +138,32 @@ void Reader::ReadTopLevel() {
         else if (tag_ == tag::kState)
             ReadState();
         else
-            ReadGeneralField(tag_);
+            ReadMachineField(tag_);
         RequireWholeValue();
     }
 }
 
-void Reader::ReadGeneralField(std::string_view tag) {
-    GeneralCode& general = result_.Document.General;
-    ViewOptions& view = result_.Document.View;
-    if (const auto* text = Find(kGeneralTexts, tag))
-        SetText(general.*text->Member, scanner_.NextValue());
-    else if (const auto* mark = Find(kViewMarks, tag))
-        view.*mark->Member = IsTrue(scanner_.NextValue());
-    else if (tag == tag::kLaunchSeg)
-        general.LaunchSeg = NumberOf<std::int16_t>(scanner_.NextValue()) != 0;
-    else if (tag == tag::kCol0Width)
-        view.Col0Width = NumberOf<std::int32_t>(scanner_.NextValue());
-    else
+void Reader::ReadMachineField(std::string_view tag) {
+    const auto read = [this](const auto& field) {
+        ReadValue(field.File, PartOf(result_.Document, field).*field.Member);
+    };
+    if (!VisitTagged(kMachineFields, tag, read))
         TellUnknownTag(tag);
 }
 
-template <typename Field>
-void Reader::ReadBlock(std::string_view closer, Field field) {
+template <typename Fields, typename Record>
+void Reader::ReadField(const Fields& fields, Record& record, std::string_view tag) {
+    const auto read = [&](const auto& field) { ReadValue(field.File, record.*field.Member); };
+    if (!VisitTagged(fields, tag, read))
+        TellUnknownTag(tag);
+}
+
+void Reader::ReadValue(const FieldInFile& file, bool& mark) {
+    mark = file.AsDigit ? NextNumber<std::int16_t>() != 0 : IsTrue(scanner_.NextValue());
+}
+
+template <typename ReadTagged>
+void Reader::ReadBlock(std::string_view closer, ReadTagged read) {
     while (true) {
         const std::optional<std::string_view> found = scanner_.NextTag();
         if (!found)
@@ -213,31 +171,21 @@ void Reader::ReadBlock(std::string_view closer, Field field) {
         tag_ = *found;
         if (tag_ == closer)
             return;
-        field(tag_);
+        read(tag_);
         RequireWholeValue();
     }
 }
 
 void Reader::ReadRowHeights() {
     RowHeights& heights = result_.Document.View.RowVisible;
-    ReadBlock(tag::kRowVisibleEnd, [&](std::string_view tag) {
-        if (const auto* height = Find(kRowHeights, tag))
-            heights.*height->Member = NumberOf<std::int32_t>(scanner_.NextValue());
-        else
-            TellUnknownTag(tag);
-    });
+    ReadBlock(tag::kRowVisibleEnd, [&](std::string_view tag) { ReadField(kRowHeightFields, heights, tag); });
 }
 
 void Reader::ReadEvent() {
     const RowNumber row = HeadNumber(CellRows());
     EventRecord& event = result_.Document.Event(row);
     block_ = " in event row " + NumberText(row.Number());
-    ReadBlock(tag::kEventEnd, [&](std::string_view tag) {
-        if (const auto* text = Find(kEventTexts, tag))
-            SetText(event.*text->Member, scanner_.NextValue());
-        else
-            TellUnknownTag(tag);
-    });
+    ReadBlock(tag::kEventEnd, [&](std::string_view tag) { ReadField(kEventFields, event, tag); });
 }
 
 void Reader::ReadState() {
@@ -247,16 +195,8 @@ void Reader::ReadState() {
     ReadBlock(tag::kStateEnd, [&](std::string_view tag) {
         if (tag == tag::kTransitions)
             ReadTransitions(state);
-        else if (const auto* text = Find(kStateTexts, tag))
-            SetText(state.*text->Member, scanner_.NextValue());
-        else if (const auto* width = Find(kStateWidths, tag))
-            state.*width->Member = NumberOf<std::int32_t>(scanner_.NextValue());
-        else if (tag == tag::kTimingMode)
-            state.TimingMode = NumberOf<std::int32_t>(scanner_.NextValue());
-        else if (tag == tag::kLastTab)
-            state.LastTab = NumberOf<std::int16_t>(scanner_.NextValue());
         else
-            TellUnknownTag(tag);
+            ReadField(kStateFields, state, tag);
     });
 }
 

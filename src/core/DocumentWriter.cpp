@@ -2,6 +2,7 @@
 #include "core/DocumentWriter.h"
 
 #include "core/DocumentTags.h"
+#include "core/RecordFields.h"
 #include "text/AnsiText.h"
 #include "text/NumberText.h"
 
@@ -15,7 +16,14 @@ constexpr std::string_view kTopLevel = "";
 constexpr std::string_view kInSection = "  ";
 constexpr std::string_view kInCellList = "    ";
 
-std::string_view BooleanText(bool value) { return value ? "True" : "False"; }
+std::string_view ValueText(const FieldInFile&, const std::string& text) { return text; }
+std::string ValueText(const FieldInFile&, std::int32_t number) { return NumberText(number); }
+std::string ValueText(const FieldInFile&, Twips length) { return NumberText(length.Count()); }
+std::string ValueText(const FieldInFile& file, bool mark) {
+    if (file.AsDigit)
+        return mark ? "1" : "0";
+    return mark ? "True" : "False";
+}
 
 class Writer {
   public:
@@ -51,9 +59,18 @@ class Writer {
         (bytes_.append(std::string_view(value)), ...);
         bytes_.append(kValueEnd).append(kLineEnd);
     }
-    void FieldUnlessEmpty(std::string_view tag, std::string_view value) {
-        if (!value.empty())
-            Field(kInSection, tag, value);
+    // The record's fields, each in a line of its own.
+    template <const auto& kFields, typename Record>
+    void Fields(const Record& record) {
+        ForEachFieldInOrder<kFields, FieldOrder::File>(
+            [&]<typename Value>(const orvane::Field<Record, Value>& field) {
+                WriteValue(kInSection, field, record.*field.Member);
+            });
+    }
+    template <typename Record, typename Value>
+    void WriteValue(std::string_view indent, const orvane::Field<Record, Value>& field, const Value& value) {
+        if (field.File.EvenEmpty || value != Value())
+            Field(indent, field.File.Tag, ValueText(field.File, value));
     }
 
     const FsmDocument& document_;
@@ -61,33 +78,13 @@ class Writer {
 };
 
 void Writer::WriteGeneral() {
-    const GeneralCode& general = document_.General;
-    const ViewOptions& view = document_.View;
-    Field(kTopLevel, tag::kFsmName, general.FsmName);
-    Field(kTopLevel, tag::kPolytask, BooleanText(view.Polytask));
-    Field(kTopLevel, tag::kShowTimeTarget, BooleanText(view.ShowTimeTarget));
-    Field(kTopLevel, tag::kShowTimingMode, BooleanText(view.ShowTimingMode));
-    Field(kTopLevel, tag::kShowElse, BooleanText(view.ShowElse));
-    Field(kTopLevel, tag::kBuildFile, general.BuildFile);
-    Field(kTopLevel, tag::kLaunchSeg, general.LaunchSeg ? "1" : "0");
-    Field(kTopLevel, tag::kCodeSeg, general.CodeSeg);
-    Field(kTopLevel, tag::kHeaderComment, general.HeaderComment);
-    Field(kTopLevel, tag::kInitSeg, general.InitSeg);
-    Field(kTopLevel, tag::kNvEm0Data, general.NvEm0Data);
-    Field(kTopLevel, tag::kTestSeg, general.TestSeg);
-    Field(kTopLevel, tag::kInstances, general.Instances);
-    Field(kTopLevel, tag::kCol0Width, NumberText(view.Col0Width.Count()));
-    // The format holds this field twice; readers keep the last one.
-    Field(kTopLevel, tag::kPolytask, BooleanText(view.Polytask));
+    ForEachFieldInOrder<kMachineFields, FieldOrder::File>(
+        [this](const auto& field) { WriteValue(kTopLevel, field, PartOf(document_, field).*field.Member); });
 }
 
 void Writer::WriteRowHeights() {
-    const RowHeights& heights = document_.View.RowVisible;
     Field(kTopLevel, tag::kRowVisible);
-    Field(kInSection, tag::kElse, NumberText(heights.Else.Count()));
-    Field(kInSection, tag::kExitAction, NumberText(heights.ExitAction.Count()));
-    Field(kInSection, tag::kTimingModeRow, NumberText(heights.TimingMode.Count()));
-    Field(kInSection, tag::kTimeTargetRow, NumberText(heights.TimeTarget.Count()));
+    Fields<kRowHeightFields>(document_.View.RowVisible);
     Field(kTopLevel, tag::kRowVisibleEnd);
 }
 
@@ -96,9 +93,7 @@ void Writer::WriteEvent(RowNumber row) {
     if (IsEmpty(event))
         return;
     Field(kTopLevel, tag::kEvent, NumberText(row.Number()), ":");
-    FieldUnlessEmpty(tag::kName, event.Name);
-    FieldUnlessEmpty(tag::kTooltip, event.Tooltip);
-    FieldUnlessEmpty(tag::kCode, event.Code);
+    Fields<kEventFields>(event);
     Field(kTopLevel, tag::kEventEnd);
 }
 
@@ -107,18 +102,7 @@ void Writer::WriteState(StateNumber number) {
     if (!IsStored(state))
         return;
     Field(kTopLevel, tag::kState, NumberText(number.Number()), ":");
-    FieldUnlessEmpty(tag::kName, state.Name);
-    FieldUnlessEmpty(tag::kTooltip, state.Tooltip);
-    FieldUnlessEmpty(tag::kEntry, state.EntryCode);
-    // The format holds the exit code twice; readers keep the last one.
-    FieldUnlessEmpty(tag::kExit, state.ExitCode);
-    FieldUnlessEmpty(tag::kExit, state.ExitCode);
-    if (state.TimingMode != 0)
-        Field(kInSection, tag::kTimingMode, NumberText(state.TimingMode));
-    FieldUnlessEmpty(tag::kTimeConst, state.TimeConst);
-    FieldUnlessEmpty(tag::kTimingVar, state.TimingVar);
-    FieldUnlessEmpty(tag::kTimerId, state.TimerId);
-    Field(kInSection, tag::kColWidth, NumberText(state.ColWidth.Count()));
+    Fields<kStateFields>(state);
     WriteCells(state);
     Marker(kTopLevel, tag::kStateEnd);
 }

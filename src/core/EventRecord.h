@@ -17,8 +17,6 @@ struct EventRecord {
 };
 
 // No name, no code and no tooltip: such a row is not stored.
-inline bool IsEmpty(const EventRecord& event) {
-    return event.Name.empty() && event.Code.empty() && event.Tooltip.empty();
-}
+bool IsEmpty(const EventRecord& event);
 
 } // namespace orvane

@@ -1,18 +1,34 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/FsmDocument.h"
 
+#include "core/RecordFields.h"
+
 #include <algorithm>
-#include <string>
+#include <utility>
 
 namespace orvane {
+
+namespace {
+
+// Nothing in the fields that an image holds.
+template <typename Fields, typename Record>
+bool HoldsNothing(const Fields& fields, const Record& record) {
+    bool nothing = true;
+    ForEachField(fields, [&]<typename Value>(const Field<Record, Value>& field) {
+        nothing = nothing && (field.ImagePlace == 0 || record.*field.Member == Value());
+    });
+    return nothing;
+}
+
+} // namespace
+
+bool IsEmpty(const EventRecord& event) { return HoldsNothing(kEventFields, event); }
 
 bool IsEmpty(const StateRecord& state) {
     const auto emptyCell = [&state](RowNumber row) {
         return state.Targets[row] == kNoState && state.Actions[row].empty();
     };
-    return state.Name.empty() && state.Tooltip.empty() && state.EntryCode.empty() && state.ExitCode.empty() &&
-           state.TimingMode == 0 && state.TimeConst.empty() && state.TimingVar.empty() &&
-           state.TimerId.empty() && std::all_of(CellRows().begin(), CellRows().end(), emptyCell);
+    return HoldsNothing(kStateFields, state) && std::all_of(CellRows().begin(), CellRows().end(), emptyCell);
 }
 
 FsmDocument::FsmDocument(Twips defaultColumnWidth)
@@ -46,33 +62,18 @@ StateRecord FsmDocument::StateTemplate() const {
     return cleared;
 }
 
-void FsmDocument::ClearDataBase(bool keepWidths, const TraceSink& trace) {
-    const auto mark = [&trace](std::string_view label) {
-        if (trace)
-            trace(label);
-    };
-    mark("In ClearDataBase");
-    const StateRecord stateTemplate = StateTemplate();
-    mark("CDBb");
-    const EventRecord eventTemplate = EventTemplate();
-    mark("CDBc");
+void FsmDocument::ClearStates(const StateRecord& cleared, bool keepWidths) {
     for (StateRecord& state : states_) {
         const Twips width = keepWidths ? state.ColWidth : defaultColumnWidth_;
-        state = stateTemplate;
+        state = cleared;
         state.ColWidth = width;
     }
-    mark("CDBd");
-    std::fill(events_.begin(), events_.end(), eventTemplate);
-    mark("CDBe");
-    mark("CDBe1");
-    General.LaunchSeg = true;
-    int step = 2;
-    for (std::string* text : {&General.CodeSeg, &General.HeaderComment, &General.InitSeg, &General.NvEm0Data,
-                              &General.TestSeg, &General.FsmName, &General.Instances}) {
-        mark("CDBe" + std::to_string(step++));
-        text->clear();
-    }
-    mark("CDBf");
+}
+
+void FsmDocument::ClearGeneral() {
+    GeneralCode cleared;
+    cleared.BuildFile = std::move(General.BuildFile);
+    General = std::move(cleared);
 }
 
 } // namespace orvane

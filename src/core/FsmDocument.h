@@ -6,16 +6,13 @@
 #include "core/StateRecord.h"
 #include "core/ViewOptions.h"
 
-#include <functional>
+#include <algorithm>
 #include <string_view>
 #include <vector>
 
 namespace orvane {
 
 inline constexpr Twips kDefaultColumnWidth = 945;
-
-// Receives the short labels that mark progress through start-up and clearing; an empty one receives nothing.
-using TraceSink = std::function<void(std::string_view label)>;
 
 // One finite-state machine as a table: 100 states, 49 events, a cell at every crossing, and what belongs to
 // the machine as a whole. A fresh document is empty, with every column at its default width.
@@ -40,7 +37,14 @@ class FsmDocument {
 
     // Empties states, events and general code; the builder script's path and the view options stay. With
     // keepWidths the columns keep their widths, else they get the default.
-    void ClearDataBase(bool keepWidths, const TraceSink& trace = {});
+    void ClearDataBase(bool keepWidths) {
+        ClearDataBase(keepWidths, [](std::string_view) {});
+    }
+
+    // The same with a call of mark(label) before each step: the short labels by which a trace of the start
+    // tells how far it came.
+    template <typename Mark>
+    void ClearDataBase(bool keepWidths, Mark mark);
 
     GeneralCode General;
     ViewOptions View;
@@ -48,10 +52,32 @@ class FsmDocument {
     bool operator==(const FsmDocument&) const = default;
 
   private:
+    void ClearStates(const StateRecord& cleared, bool keepWidths);
+    void ClearGeneral();
+
     Twips defaultColumnWidth_;
     // Both have their full size for life. On the heap, because together they are too large for a stack.
     std::vector<StateRecord> states_;
     std::vector<EventRecord> events_;
 };
+
+template <typename Mark>
+void FsmDocument::ClearDataBase(bool keepWidths, Mark mark) {
+    mark("In ClearDataBase");
+    const StateRecord stateTemplate = StateTemplate();
+    mark("CDBb");
+    const EventRecord eventTemplate = EventTemplate();
+    mark("CDBc");
+    ClearStates(stateTemplate, keepWidths);
+    mark("CDBd");
+    std::fill(events_.begin(), events_.end(), eventTemplate);
+    mark("CDBe");
+    mark("CDBe1");
+    General.LaunchSeg = GeneralCode().LaunchSeg;
+    for (const char* text : {"CDBe2", "CDBe3", "CDBe4", "CDBe5", "CDBe6", "CDBe7", "CDBe8"})
+        mark(text);
+    ClearGeneral();
+    mark("CDBf");
+}
 
 } // namespace orvane

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/TightPacked.h"
 
+#include "core/RecordFields.h"
 #include "text/AnsiText.h"
 #include "text/ForwardSearch.h"
 #include "text/NumberText.h"
@@ -23,7 +24,7 @@ class Packer {
         Number(kTableColumns);
         PackEvents(document);
         PackStates(document);
-        PackGeneral(document.General);
+        PackFields<kGeneralFields>(document.General);
         return std::move(image_);
     }
 
@@ -31,15 +32,23 @@ class Packer {
     void Number(int number) { image_ += static_cast<char>(number); }
     void Text(std::string_view text) { image_.append(text) += kDelimiter; }
 
+    void Value(const std::string& text) { Text(text); }
+    void Value(bool mark) { Number(mark ? 1 : 0); }
+    void Value(std::int32_t mode) { Number(mode >= 0 && mode < kUnknownMode ? mode : kUnknownMode); }
+
+    template <const auto& kFields, typename Record>
+    void PackFields(const Record& record) {
+        ForEachFieldInOrder<kFields, FieldOrder::Image>(
+            [&](const auto& field) { Value(record.*field.Member); });
+    }
+
     void PackEvents(const FsmDocument& document) {
         for (const RowNumber row : CellRows()) {
             const EventRecord& event = document.Event(row);
             if (IsEmpty(event))
                 continue;
             Number(row.Number());
-            Text(event.Name);
-            Text(event.Code);
-            Text(event.Tooltip);
+            PackFields<kEventFields>(event);
         }
         Number(0);
     }
@@ -50,16 +59,13 @@ class Packer {
             if (IsEmpty(state))
                 continue;
             Number(number.Number());
-            PackState(state);
+            PackFields<kStateFields>(state);
+            PackCells(state);
         }
         Number(0);
     }
 
-    void PackState(const StateRecord& state) {
-        for (const std::string* text : {&state.Name, &state.Tooltip, &state.EntryCode, &state.ExitCode,
-                                        &state.TimeConst, &state.TimingVar, &state.TimerId})
-            Text(*text);
-        Number(state.TimingMode >= 0 && state.TimingMode < kUnknownMode ? state.TimingMode : kUnknownMode);
+    void PackCells(const StateRecord& state) {
         for (const RowNumber row : CellRows()) {
             if (state.Targets[row] == kNoState && state.Actions[row].empty())
                 continue;
@@ -69,14 +75,6 @@ class Packer {
         }
         Number(0);
         Number(0);
-    }
-
-    void PackGeneral(const GeneralCode& general) {
-        for (const std::string* text : {&general.FsmName, &general.CodeSeg, &general.HeaderComment,
-                                        &general.InitSeg, &general.NvEm0Data, &general.TestSeg})
-            Text(*text);
-        Number(general.LaunchSeg ? 1 : 0);
-        Text(general.Instances);
     }
 
     std::string image_;
@@ -98,7 +96,11 @@ class Unpacker {
     void UnpackEvents();
     void UnpackStates();
     void UnpackCells(StateRecord& state);
-    void UnpackGeneral();
+    template <const auto& kFields, typename Record>
+    void UnpackFields(Record& record);
+    void Value(std::string& text) { Text(text); }
+    void Value(bool& mark) { mark = Number() != 0; }
+    void Value(std::int32_t& mode) { mode = Number(); }
 
     int Number();
     template <typename Kind>
@@ -121,44 +123,44 @@ std::vector<std::string> Unpacker::Unpack() {
         Number();
         UnpackEvents();
         UnpackStates();
-        UnpackGeneral();
+        UnpackFields<kGeneralFields>(document_.General);
     } catch (const BreakOff& breakOff) {
         messages_.push_back(breakOff.Why);
     }
     return std::move(messages_);
 }
 
-// Records are cleared by copying a cleared one over them, which keeps the memory of their texts for the new
-// ones.
+// A record is cleared by copying a cleared one over it, which keeps the memory of its texts for the new ones.
+// What no image holds stays.
+template <typename Fields, typename Record>
+void Clear(const Fields& fields, Record& record, Record& cleared) {
+    ForEachField(fields, [&](const auto& field) {
+        if (field.ImagePlace == 0)
+            cleared.*field.Member = record.*field.Member;
+    });
+    record = cleared;
+}
+
+template <const auto& kFields, typename Record>
+void Unpacker::UnpackFields(Record& record) {
+    ForEachFieldInOrder<kFields, FieldOrder::Image>([&](const auto& field) { Value(record.*field.Member); });
+}
+
 void Unpacker::UnpackEvents() {
     EventRecord cleared = FsmDocument::EventTemplate();
-    for (const RowNumber row : CellRows()) {
-        EventRecord& event = document_.Event(row);
-        cleared.LastTab = event.LastTab;
-        event = cleared;
-    }
-    while (const std::optional<RowNumber> row = NumberOrEnd(CellRows(), "event row")) {
-        EventRecord& event = document_.Event(*row);
-        for (std::string* text : {&event.Name, &event.Code, &event.Tooltip})
-            Text(*text);
-    }
+    for (const RowNumber row : CellRows())
+        Clear(kEventFields, document_.Event(row), cleared);
+    while (const std::optional<RowNumber> row = NumberOrEnd(CellRows(), "event row"))
+        UnpackFields<kEventFields>(document_.Event(*row));
 }
 
 void Unpacker::UnpackStates() {
     StateRecord cleared = document_.StateTemplate();
-    for (const StateNumber number : StateNumbers()) {
-        StateRecord& state = document_.State(number);
-        cleared.ColWidth = state.ColWidth;
-        cleared.LastTab = state.LastTab;
-        state = cleared;
-    }
+    for (const StateNumber number : StateNumbers())
+        Clear(kStateFields, document_.State(number), cleared);
     while (const std::optional<StateNumber> number = NumberOrEnd(StateNumbers(), "state")) {
-        StateRecord& state = document_.State(*number);
-        for (std::string* text : {&state.Name, &state.Tooltip, &state.EntryCode, &state.ExitCode,
-                                  &state.TimeConst, &state.TimingVar, &state.TimerId})
-            Text(*text);
-        state.TimingMode = Number();
-        UnpackCells(state);
+        UnpackFields<kStateFields>(document_.State(*number));
+        UnpackCells(document_.State(*number));
     }
 }
 
@@ -168,15 +170,6 @@ void Unpacker::UnpackCells(StateRecord& state) {
         Text(state.Actions[*row]);
     }
     Number(); // the second of the two zeros
-}
-
-void Unpacker::UnpackGeneral() {
-    GeneralCode& general = document_.General;
-    for (std::string* text : {&general.FsmName, &general.CodeSeg, &general.HeaderComment, &general.InitSeg,
-                              &general.NvEm0Data, &general.TestSeg})
-        Text(*text);
-    general.LaunchSeg = Number() != 0;
-    Text(general.Instances);
 }
 
 int Unpacker::Number() {

@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "table/StructuralEdits.h"
 
+#include "core/RecordFields.h"
 #include "table/RenumberTargets.h"
 #include "text/NumberText.h"
 
 #include <algorithm>
+#include <string>
+#include <type_traits>
 #include <utility>
 
 namespace orvane {
@@ -39,10 +42,13 @@ void ShiftCellsUp(StateRecord& state, RowNumber row) {
 
 // Whether an insertion may use the column up. Timing modes and actions are not looked at.
 bool IsFree(const StateRecord& state) {
+    bool hasText = false;
+    ForEachField(kStateFields, [&]<typename Value>(const Field<StateRecord, Value>& field) {
+        if constexpr (std::is_same_v<Value, std::string>)
+            hasText = hasText || !(state.*field.Member).empty();
+    });
     const auto withoutTarget = [&state](RowNumber row) { return state.Targets[row] == kNoState; };
-    return state.Name.empty() && state.Tooltip.empty() && state.EntryCode.empty() && state.ExitCode.empty() &&
-           state.TimeConst.empty() && state.TimingVar.empty() && state.TimerId.empty() &&
-           std::all_of(CellRows().begin(), CellRows().end(), withoutTarget);
+    return !hasText && std::all_of(CellRows().begin(), CellRows().end(), withoutTarget);
 }
 
 // The last free column behind this one, kNoState when there is none.
