@@ -4,32 +4,13 @@
 #include "cli/MessageText.h"
 #include "text/AnsiText.h"
 #include "text/NumberText.h"
+#include "text/Utf8.h"
 
 namespace orvane::cli {
 
 namespace {
 
 constexpr std::string_view kReplacement = "\xEF\xBF\xBD";
-
-bool IsTail(char byte) { return (static_cast<unsigned char>(byte) & 0xC0) == 0x80; }
-
-// The number of bytes of the character at the front of a non-empty text, 0 when it is malformed.
-std::size_t CharacterLength(std::string_view utf8) {
-    const auto at = [utf8](std::size_t i) { return static_cast<unsigned char>(utf8[i]); };
-    if (at(0) < 0x80)
-        return 1;
-    const std::size_t length = at(0) >= 0xF0 ? 4 : at(0) >= 0xE0 ? 3 : 2;
-    if (at(0) < 0xC2 || at(0) > 0xF4 || utf8.size() < length)
-        return 0;
-    for (std::size_t i = 1; i < length; ++i) {
-        if (!IsTail(utf8[i]))
-            return 0;
-    }
-    const bool overlong = (at(0) == 0xE0 && at(1) < 0xA0) || (at(0) == 0xF0 && at(1) < 0x90);
-    const bool surrogate = at(0) == 0xED && at(1) >= 0xA0;
-    const bool tooLarge = at(0) == 0xF4 && at(1) >= 0x90;
-    return overlong || surrogate || tooLarge ? 0 : length;
-}
 
 void AppendAscii(std::string& json, char character) {
     constexpr std::string_view digits = "0123456789abcdef";
@@ -79,12 +60,12 @@ std::string Array(const std::vector<Item>& items, Object object) {
 std::string JsonString(std::string_view utf8) {
     std::string json = "\"";
     while (!utf8.empty()) {
-        const std::size_t length = CharacterLength(utf8);
-        if (length == 1)
-            AppendAscii(json, utf8.front());
+        const std::string_view before = utf8;
+        const std::optional<char32_t> character = TakeCharacter(utf8);
+        if (character && *character < 0x80)
+            AppendAscii(json, before.front());
         else
-            json.append(length == 0 ? kReplacement : utf8.substr(0, length));
-        utf8.remove_prefix(length == 0 ? 1 : length);
+            json.append(character ? before.substr(0, before.size() - utf8.size()) : kReplacement);
     }
     return json + "\"";
 }

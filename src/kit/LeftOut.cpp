@@ -2,7 +2,6 @@
 #include "kit/LeftOut.h"
 
 #include "kit/AnsiString.h"
-#include "text/AnsiText.h"
 
 namespace orvane {
 
@@ -26,13 +25,6 @@ QString LeftOutMessage(const QString& characters) {
     return QStringLiteral("Left out, because a document cannot hold it: %1").arg(shown);
 }
 
-std::string FieldText(const QString& shown) {
-    std::string text;
-    text.reserve(static_cast<std::size_t>(shown.size()));
-    for (const QChar character : shown)
-        if (const std::optional<char> byte = ToAnsi(char32_t{character.unicode()}))
-            text += *byte;
-    return text;
-}
+std::string FieldText(const QString& shown) { return ToAnsi(shown, Delimiter::Kept).Text; }
 
 } // namespace orvane

@@ -44,6 +44,7 @@ TEST(AnsiText, MalformedUtf8BecomesTheSubstitute) {
     EXPECT_EQ(FromUtf8("a\xE4", '?'), "a?");    // cut off
     EXPECT_EQ(FromUtf8("\xC0\x80", '?'), "??"); // longer than needed
     EXPECT_EQ(FromUtf8("\xE0\x80\x80", '?'), "???");
+    EXPECT_EQ(FromUtf8("\xED\xA0\x80", '?'), "???"); // half of a surrogate pair
     EXPECT_EQ(FromUtf8("\x80z", '?'), "?z");
     EXPECT_EQ(FromUtf8("\xC3z", '?'), "?z"); // what follows is not swallowed
 }

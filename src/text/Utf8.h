@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace orvane {
+
+// Takes the first character off the front of a text that is not empty. Malformed bytes are taken one at a
+// time and give none: what is cut off, longer than needed, half of a surrogate pair, or beyond U+10FFFF.
+std::optional<char32_t> TakeCharacter(std::string_view& utf8);
+
+// The character must be one that TakeCharacter can give.
+void AppendUtf8(std::string& utf8, char32_t character);
+
+} // namespace orvane
