@@ -14,7 +14,7 @@ namespace orvane {
 namespace {
 
 QString Text(std::string_view text) {
-    return QLatin1String(text.data(), static_cast<qsizetype>(text.size()));
+    return QLatin1String(text.data(), text.size());
 }
 
 } // namespace

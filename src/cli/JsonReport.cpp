@@ -3,6 +3,7 @@
 
 #include "cli/MessageText.h"
 #include "text/AnsiText.h"
+#include "text/ByteOf.h"
 #include "text/NumberText.h"
 #include "text/Utf8.h"
 
@@ -14,7 +15,7 @@ constexpr std::string_view kReplacement = "\xEF\xBF\xBD";
 
 void AppendAscii(std::string& json, char character) {
     constexpr std::string_view digits = "0123456789abcdef";
-    const auto code = static_cast<unsigned char>(character);
+    const auto code = ByteOf(character);
     if (character == '\n') {
         json += "\\n";
     } else if (character == '\t') {
@@ -43,8 +44,8 @@ std::string FindingObject(const Finding& finding, const FsmDocument& document) {
 }
 
 std::string MessageObject(const ReaderMessage& message) {
-    return "{\"line\":" + NumberOrNull(static_cast<std::int64_t>(message.Line)) +
-           ",\"message\":" + JsonString(ShownMessage(message)) + "}";
+    return "{\"line\":" + NumberOrNull(message.Line) + ",\"message\":" + JsonString(ShownMessage(message)) +
+           "}";
 }
 
 template <typename Item, typename Object>
@@ -71,9 +72,7 @@ std::string JsonString(std::string_view utf8) {
 }
 
 std::string JsonLine(const CheckedDocument& checked) {
-    const auto count = [&](Severity severity) {
-        return NumberText(static_cast<std::int64_t>(checked.Findings.Count(severity)));
-    };
+    const auto count = [&](Severity severity) { return NumberText(checked.Findings.Count(severity)); };
     const auto finding = [&](const Finding& item) { return FindingObject(item, checked.Document); };
     return "{\"path\":" + JsonString(checked.Path) +
            ",\"complete\":" + (checked.Complete ? "true" : "false") +

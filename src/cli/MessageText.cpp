@@ -2,6 +2,7 @@
 #include "cli/MessageText.h"
 
 #include "text/AnsiText.h"
+#include "text/ByteOf.h"
 #include "text/NumberText.h"
 
 namespace orvane::cli {
@@ -10,7 +11,7 @@ namespace {
 
 void AppendEscaped(std::string& shown, char byte) {
     constexpr std::string_view digits = "0123456789ABCDEF";
-    const auto code = static_cast<unsigned char>(byte);
+    const auto code = ByteOf(byte);
     shown += "\\x";
     shown += digits[code >> 4];
     shown += digits[code & 0xF];
@@ -23,7 +24,7 @@ bool IsControl(char32_t character) { return character < 0x20 || (character >= 0x
 std::string ShownName(std::string_view name) {
     std::string shown;
     for (const char byte : name) {
-        const auto code = static_cast<unsigned char>(byte);
+        const auto code = ByteOf(byte);
         if (code < 0x80 && IsControl(code)) // bytes above are parts of UTF-8 characters
             AppendEscaped(shown, byte);
         else
@@ -44,8 +45,7 @@ std::string ShownMessage(const ReaderMessage& message) {
 }
 
 std::string MessageLine(std::string_view document, const ReaderMessage& message) {
-    const std::string line =
-        message.Line == 0 ? "" : ":" + NumberText(static_cast<std::int64_t>(message.Line));
+    const std::string line = message.Line == 0 ? "" : ":" + NumberText(message.Line);
     return ShownName(document) + line + ": " + ShownMessage(message) + "\n";
 }
 

@@ -35,7 +35,7 @@ void AppendLines(std::vector<ReportLine>& lines, std::string_view text, Cell pla
 }
 
 std::string CountText(const Report& report, Severity severity) {
-    return SignedNumberText(static_cast<std::int64_t>(report.Count(severity)));
+    return SignedNumberText(report.Count(severity));
 }
 
 // Gives `take` the report piece by piece: the heading, each finding with its place, the counts.
@@ -59,7 +59,7 @@ void VisitReport(const Report& report, Take take) {
 
 std::size_t Report::Count(Severity severity) const {
     const auto matches = [severity](const Finding& finding) { return finding.Level() == severity; };
-    return static_cast<std::size_t>(std::count_if(Findings.begin(), Findings.end(), matches));
+    return std::count_if(Findings.begin(), Findings.end(), matches);
 }
 
 std::string ReportText(const Report& report) {

@@ -113,9 +113,8 @@ ReadResult Reader::Read() {
         brokeOff = breakOff;
     }
     if (unknownTags_ > kMostUnknownTags)
-        result_.Messages.push_back({NumberText(static_cast<std::int64_t>(unknownTags_ - kMostUnknownTags)) +
-                                        " more unknown tags were skipped",
-                                    0});
+        result_.Messages.push_back(
+            {NumberText(unknownTags_ - kMostUnknownTags) + " more unknown tags were skipped", 0});
     result_.BrokeOff = brokeOff.has_value();
     if (brokeOff)
         Tell(brokeOff->Why + "; reading stopped there");

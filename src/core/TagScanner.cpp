@@ -17,7 +17,7 @@ bool HasOnlyCrLf(std::string_view bytes) {
         return true;
     unsigned alone = bytes.front() == '\n' || bytes.back() == '\r';
     for (std::size_t i = 1; i < bytes.size(); ++i)
-        alone |= static_cast<unsigned>(bytes[i - 1] == '\r') ^ static_cast<unsigned>(bytes[i] == '\n');
+        alone |= (bytes[i - 1] == '\r') ^ (bytes[i] == '\n');
     return alone == 0;
 }
 

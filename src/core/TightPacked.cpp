@@ -3,6 +3,7 @@
 
 #include "core/RecordFields.h"
 #include "text/AnsiText.h"
+#include "text/ByteOf.h"
 #include "text/ForwardSearch.h"
 #include "text/NumberText.h"
 
@@ -175,7 +176,7 @@ void Unpacker::UnpackCells(StateRecord& state) {
 int Unpacker::Number() {
     if (position_ >= image_.size())
         throw BreakOff{"The snapshot ends too early"};
-    return static_cast<unsigned char>(image_[position_++]);
+    return ByteOf(image_[position_++]);
 }
 
 template <typename Kind>

@@ -7,7 +7,7 @@ namespace orvane {
 
 QString FromAnsi(std::string_view text) {
     QString unicode;
-    unicode.reserve(static_cast<qsizetype>(text.size()));
+    unicode.reserve(text.size());
     for (const char byte : text)
         unicode += QChar(static_cast<char16_t>(ToUnicode(byte)));
     return unicode;
@@ -15,7 +15,7 @@ QString FromAnsi(std::string_view text) {
 
 AnsiText ToAnsi(const QString& text, Delimiter delimiter) {
     AnsiText ansi;
-    ansi.Text.reserve(static_cast<std::size_t>(text.size()));
+    ansi.Text.reserve(text.size());
     for (const QChar character : text) {
         const std::optional<char> byte = ToAnsi(char32_t{character.unicode()});
         if (byte && (*byte != kDelimiter || delimiter == Delimiter::Kept))

@@ -107,7 +107,7 @@ std::string CodePane::Text() const {
 }
 
 std::string_view CodePane::Utf8() const {
-    const auto size = static_cast<std::size_t>(SendScintilla(SCI_GETLENGTH));
+    const std::size_t size = SendScintilla(SCI_GETLENGTH);
     return {static_cast<const char*>(SendScintillaPtrResult(SCI_GETCHARACTERPOINTER)), size};
 }
 
@@ -128,8 +128,7 @@ void CodePane::CompleteWord() {
     const auto caret = SendScintilla(SCI_GETCURRENTPOS);
     const auto start = SendScintilla(SCI_WORDSTARTPOSITION, static_cast<unsigned long>(caret), 1L);
     const std::string_view text = Utf8();
-    const std::string_view prefix =
-        text.substr(static_cast<std::size_t>(start), static_cast<std::size_t>(caret - start));
+    const std::string_view prefix = text.substr(start, caret - start);
     std::string list;
     for (const std::string& word : CompletionWords(text, prefix, lexer_->Words()))
         list += (list.empty() ? "" : std::string(1, kListSeparator)) + word;

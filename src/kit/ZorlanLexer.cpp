@@ -72,7 +72,7 @@ void ZorlanLexer::styleText(int start, int end) {
     QByteArray bytes(end - start + 1, '\0'); // the editor ends what it gives with a zero
     editor()->SendScintilla(QsciScintillaBase::SCI_GETTEXTRANGE, start, end, bytes.data());
     startStyling(start);
-    const std::string_view text(bytes.constData(), static_cast<std::size_t>(end - start));
+    const std::string_view text(bytes.constData(), end - start);
     for (const Token& token : ScanZorlan(text, words_))
         setStyling(static_cast<int>(token.Length), static_cast<int>(token.Kind));
 }

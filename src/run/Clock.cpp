@@ -57,7 +57,7 @@ Outcome Clock::Scan(int count) {
 Outcome Clock::SettleOn() {
     std::bitset<kStateCount + 1> met;
     while (log_.size() <= kMostHappenings) {
-        met.set(static_cast<std::size_t>(config_.State.Number()));
+        met.set(config_.State.Number());
         if (const std::optional<Outcome> broken = ScanOnce(0))
             return *broken;
         Record(false);
@@ -65,7 +65,7 @@ Outcome Clock::SettleOn() {
             return Moved(scan_) ? Outcome::Again : Outcome::Quiet;
         if (config_.Started != before_.Started)
             met.reset();
-        else if (met.test(static_cast<std::size_t>(config_.State.Number())))
+        else if (met.test(config_.State.Number()))
             return Outcome::Oscillates;
     }
     return Outcome::Endless;

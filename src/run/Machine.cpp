@@ -17,7 +17,7 @@ namespace orvane::run {
 
 namespace {
 
-constexpr std::uint64_t Bit(RowNumber row) { return std::uint64_t{1} << static_cast<unsigned>(row.Number()); }
+constexpr std::uint64_t Bit(RowNumber row) { return std::uint64_t{1} << row.Number(); }
 
 LimitKind KindOfLimit(const StateRecord& record) {
     if (record.Targets[kTimeoutRow] == kNoState)
@@ -59,7 +59,7 @@ void Machine::AddState(const FsmDocument& document, StateNumber number, const Co
     if (start_ == StateNumber())
         start_ = number;
     const StateRecord& record = document.State(number);
-    RunState& state = states_[static_cast<std::size_t>(number.Number())];
+    RunState& state = states_[number.Number()];
     state.HasBlock = true;
     for (const RowNumber row : CellRows()) {
         const StateNumber target = record.Targets[row];
@@ -98,8 +98,7 @@ Units Machine::Elapsed(const Config& config, StateNumber state) const {
 Units Machine::DueAfter(const Inputs& inputs, StateNumber number) const {
     const RunState& state = State(number);
     const bool variable = state.Limit == LimitKind::Variable;
-    const Units limit =
-        variable ? inputs.Limits[static_cast<std::size_t>(number.Number())] : state.LimitUnits;
+    const Units limit = variable ? inputs.Limits[number.Number()] : state.LimitUnits;
     if (limit == kNotGiven)
         return kNotGiven;
     return limit + (variable || readings_.AfterLimit ? 1 : 0);
@@ -150,7 +149,7 @@ bool Machine::Look(Config& config, const Inputs& inputs, std::vector<Taken>& log
 ScanEnd Machine::LookUntilYield(Config& config, const Inputs& inputs, std::vector<Taken>& log) const {
     std::bitset<kStateCount + 1> met;
     while (!Yields(config.State)) {
-        const auto state = static_cast<std::size_t>(config.State.Number());
+        const int state = config.State.Number();
         if (met.test(state))
             return ScanEnd::Spins;
         met.set(state);

@@ -50,7 +50,7 @@ struct Config {
 
 // What surrounds a machine at one moment.
 struct Inputs {
-    bool Has(RowNumber row) const { return (Events >> static_cast<unsigned>(row.Number()) & 1U) != 0; }
+    bool Has(RowNumber row) const { return (Events >> row.Number() & 1U) != 0; }
     void Set(RowNumber row, bool there);
 
     std::uint64_t Events = 0; // bit r: the event of row r is true
@@ -99,9 +99,7 @@ class Machine {
     explicit Machine(const FsmDocument& document, const Constants& constants = {}, Readings readings = {});
 
     // State 1..100.
-    const RunState& State(StateNumber state) const {
-        return states_[static_cast<std::size_t>(state.Number())];
-    }
+    const RunState& State(StateNumber state) const { return states_[state.Number()]; }
 
     // The lowest state that has a block; none when no state has one.
     StateNumber Start() const { return start_; }

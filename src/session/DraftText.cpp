@@ -27,12 +27,12 @@ struct Keeper {
 
     JournalDraft operator()(const StateRecord& state) const {
         FsmDocument alone;
-        alone.State(Place.State.Number()) = state;
+        alone.State(Place.State) = state;
         return {JournalDraftKind::State, Place, {{kDocument, WriteDocument(alone)}}};
     }
     JournalDraft operator()(const EventRecord& event) const {
         FsmDocument alone;
-        alone.Event(Place.Row.Number()) = event;
+        alone.Event(Place.Row) = event;
         return {JournalDraftKind::Event, Place, {{kDocument, WriteDocument(alone)}}};
     }
     JournalDraft operator()(const GeneralCode& general) const {
@@ -54,14 +54,14 @@ struct Keeper {
 // What no file holds stays as the document has it.
 void ApplyRecord(JournalDraftKind kind, Cell place, const FsmDocument& alone, FsmDocument& document) {
     if (kind == JournalDraftKind::State) {
-        StateRecord& state = document.State(place.State.Number());
-        const std::int32_t width = state.ColWidth;
+        StateRecord& state = document.State(place.State);
+        const Twips width = state.ColWidth;
         const std::int16_t tab = state.LastTab;
-        state = alone.State(place.State.Number());
+        state = alone.State(place.State);
         state.ColWidth = width;
         state.LastTab = tab;
     } else if (kind == JournalDraftKind::Event) {
-        document.Event(place.Row.Number()) = alone.Event(place.Row.Number());
+        document.Event(place.Row) = alone.Event(place.Row);
     } else {
         std::string buildFile = std::move(document.General.BuildFile);
         document.General = alone.General;
@@ -71,9 +71,9 @@ void ApplyRecord(JournalDraftKind kind, Cell place, const FsmDocument& alone, Fs
 
 void ApplyText(JournalDraftKind kind, Cell place, const std::string& text, FsmDocument& document) {
     if (kind == JournalDraftKind::Action)
-        document.State(place.State.Number()).Actions[place.Row.Number()] = text;
+        document.State(place.State).Actions[place.Row] = text;
     else if (kind == JournalDraftKind::Target)
-        StoreTypedTarget(document, place.Row.Number(), place.State.Number(), text);
+        StoreTypedTarget(document, place, text);
 }
 
 } // namespace

@@ -82,7 +82,7 @@ std::string ForceLREventAction(Twips column0Width, const TextMeasurer& measure) 
     const long blanks = std::lrint(1.0 * spare.Count() / blank.Count());
     if (blanks < 4)
         return std::string(kEventHead) + " | " + std::string(kActionHead);
-    const std::string gap(static_cast<std::size_t>(std::lrint(static_cast<double>(blanks) / 2 - 1)), ' ');
+    const std::string gap(std::lrint(static_cast<double>(blanks) / 2 - 1), ' ');
     return std::string(kEventHead) + gap + "|" + gap + std::string(kActionHead);
 }
 

@@ -3,14 +3,17 @@
 
 #include "core/Length.h"
 
-#include <functional>
 #include <string>
 #include <string_view>
 
 namespace orvane {
 
 // The width of a text in the font of the table. A longer text is never narrower than its beginning.
-using TextMeasurer = std::function<Twips(std::string_view text)>;
+class TextMeasurer {
+  public:
+    virtual ~TextMeasurer() = default;
+    virtual Twips operator()(std::string_view text) const = 0;
+};
 
 // What a column keeps free of text.
 inline constexpr Twips kColumnMargin = 200;

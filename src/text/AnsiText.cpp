@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "text/AnsiText.h"
 
+#include "text/ByteOf.h"
 #include "text/Utf8.h"
 
 #include <algorithm>
@@ -22,7 +23,7 @@ constexpr std::array<char16_t, 32> kSpecials = {
 } // namespace
 
 char32_t ToUnicode(char ansi) {
-    const auto byte = static_cast<unsigned char>(ansi);
+    const auto byte = ByteOf(ansi);
     return byte >= kFirstSpecial && byte <= kLastSpecial ? kSpecials[byte - kFirstSpecial] : byte;
 }
 
@@ -66,7 +67,7 @@ std::string Replace(std::string_view text, char from, char to) {
 }
 
 char ToUpper(char ansi) {
-    const auto byte = static_cast<unsigned char>(ansi);
+    const auto byte = ByteOf(ansi);
     const bool plain = byte >= 'a' && byte <= 'z';
     const bool accented = byte >= 0xE0 && byte <= 0xFE && byte != 0xF7;
     if (plain || accented)

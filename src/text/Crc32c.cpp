@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "text/Crc32c.h"
 
+#include "text/ByteOf.h"
+
 #include <array>
 #include <cstddef>
 
@@ -32,7 +34,7 @@ constexpr std::array<Table, kStride> MakeTables() {
 
 constexpr std::array<Table, kStride> kTables = MakeTables();
 
-constexpr std::uint32_t Byte(char character) { return static_cast<unsigned char>(character); }
+constexpr std::uint32_t Byte(char character) { return ByteOf(character); }
 
 constexpr std::uint32_t FourBytes(std::string_view bytes) {
     return Byte(bytes[0]) | Byte(bytes[1]) << 8 | Byte(bytes[2]) << 16 | Byte(bytes[3]) << 24;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "text/Utf8.h"
 
+#include "text/ByteOf.h"
+
 #include <array>
 #include <cstddef>
 
@@ -8,11 +10,9 @@ namespace orvane {
 
 namespace {
 
-constexpr unsigned kTailBits = 6;
+constexpr std::size_t kTailBits = 6;
 
-unsigned Code(char byte) { return static_cast<unsigned char>(byte); }
-
-bool IsTail(char byte) { return (Code(byte) & 0xC0) == 0x80; }
+bool IsTail(char byte) { return (ByteOf(byte) & 0xC0) == 0x80; }
 
 // How many bytes follow a leading one.
 std::size_t TailsOf(unsigned lead) { return lead >= 0xF0 ? 3 : lead >= 0xE0 ? 2 : lead >= 0x80 ? 1 : 0; }
@@ -26,7 +26,7 @@ bool IsCharacter(char32_t code, std::size_t tails) {
 } // namespace
 
 std::optional<char32_t> TakeCharacter(std::string_view& utf8) {
-    const unsigned lead = Code(utf8.front());
+    const unsigned lead = ByteOf(utf8.front());
     const std::size_t tails = TailsOf(lead);
     utf8.remove_prefix(1);
     if ((lead >= 0x80 && lead < 0xC0) || lead >= 0xF8 || utf8.size() < tails)
@@ -35,7 +35,7 @@ std::optional<char32_t> TakeCharacter(std::string_view& utf8) {
     for (const char byte : utf8.substr(0, tails)) {
         if (!IsTail(byte))
             return std::nullopt;
-        character = character << kTailBits | (Code(byte) & 0x3F);
+        character = character << kTailBits | (ByteOf(byte) & 0x3F);
     }
     if (!IsCharacter(character, tails))
         return std::nullopt;
@@ -46,7 +46,7 @@ std::optional<char32_t> TakeCharacter(std::string_view& utf8) {
 void AppendUtf8(std::string& utf8, char32_t character) {
     constexpr std::array<unsigned char, 4> leads = {0, 0xC0, 0xE0, 0xF0};
     const std::size_t tails = character < 0x80 ? 0 : character < 0x800 ? 1 : character < 0x10000 ? 2 : 3;
-    auto shift = static_cast<unsigned>(tails) * kTailBits;
+    std::size_t shift = tails * kTailBits;
     utf8 += static_cast<char>(leads[tails] | character >> shift);
     while (shift != 0) {
         shift -= kTailBits;

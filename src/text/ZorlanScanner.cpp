@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "text/ZorlanScanner.h"
 
+#include "text/ByteOf.h"
+
 #include <algorithm>
 #include <map>
 
@@ -15,17 +17,16 @@ std::string Capitals(std::string_view word) {
     return capitals;
 }
 
-bool IsLineEnd(char c) { return c == '\r' || c == '\n'; }
 bool StartsComment(char c) { return c == ';' || c == '*'; }
 bool StartsString(char c) { return c == '"'; }
 
-bool IsAlwaysWordCharacter(unsigned char byte) {
+bool IsAlwaysWordCharacter(std::size_t byte) {
     return (byte >= 'a' && byte <= 'z') || (byte >= 'A' && byte <= 'Z') || (byte >= '0' && byte <= '9') ||
            byte == '_' || byte >= 0x80;
 }
 
 std::size_t LengthUpToLineEnd(std::string_view text) {
-    return static_cast<std::size_t>(std::find_if(text.begin(), text.end(), IsLineEnd) - text.begin());
+    return std::min(text.find_first_of("\r\n"), text.size());
 }
 
 std::size_t StringLength(std::string_view text) {
@@ -35,9 +36,10 @@ std::size_t StringLength(std::string_view text) {
 }
 
 std::size_t WordLength(std::string_view text, const ZorlanWords& words) {
-    const auto end =
-        std::find_if_not(text.begin(), text.end(), [&](char c) { return words.IsWordCharacter(c); });
-    return static_cast<std::size_t>(end - text.begin());
+    std::size_t length = 0;
+    while (length < text.size() && words.IsWordCharacter(text[length]))
+        ++length;
+    return length;
 }
 
 // The token that a non-empty text starts with.
@@ -55,7 +57,7 @@ Token FirstToken(std::string_view text, const ZorlanWords& words) {
 
 ZorlanWords::ZorlanWords(const Vocabulary& vocabulary) {
     for (std::size_t byte = 0; byte < wordCharacters_.size(); ++byte)
-        wordCharacters_[byte] = IsAlwaysWordCharacter(static_cast<unsigned char>(byte));
+        wordCharacters_[byte] = IsAlwaysWordCharacter(byte);
     Add(vocabulary.InstructionWords, TokenKind::Instruction);
     Add(vocabulary.DirectiveWords, TokenKind::Directive);
 }
@@ -67,8 +69,7 @@ void ZorlanWords::Add(std::string_view words, TokenKind kind) {
         if (word.empty())
             continue;
         for (const char c : word)
-            wordCharacters_[static_cast<unsigned char>(c)] |=
-                c > ' ' && !StartsComment(c) && !StartsString(c);
+            wordCharacters_[ByteOf(c)] |= c > ' ' && !StartsComment(c) && !StartsString(c);
         entries_.try_emplace(Capitals(word), Entry{std::string(word), kind});
     }
 }
@@ -78,9 +79,7 @@ TokenKind ZorlanWords::KindOf(std::string_view word) const {
     return entry == entries_.end() ? TokenKind::Plain : entry->second.Kind;
 }
 
-bool ZorlanWords::IsWordCharacter(char character) const {
-    return wordCharacters_[static_cast<unsigned char>(character)];
-}
+bool ZorlanWords::IsWordCharacter(char character) const { return wordCharacters_[ByteOf(character)]; }
 
 std::vector<std::string> ZorlanWords::All() const {
     std::vector<std::string> all;

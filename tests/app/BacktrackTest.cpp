@@ -158,9 +158,9 @@ std::vector<std::string> LeadingTo(const FsmDocument& document, int state) {
 // Texts that look the same on the screen as in the document.
 FsmDocument WithPlainNames(FsmDocument document) {
     for (const RowNumber row : EventRows())
-        document.Event(row).Name = "E" + std::to_string(row);
+        document.Event(row).Name = "E" + std::to_string(row.Number());
     for (const StateNumber state : StateNumbers())
-        document.State(state).Name = "S" + std::to_string(state);
+        document.State(state).Name = "S" + std::to_string(state.Number());
     return document;
 }
 

@@ -60,7 +60,7 @@ TEST_F(Hover, APointerThatComesBackToTheCellItLeftGetsItsHint) {
 
 TEST_F(Hover, APointerBesideTheLastColumnHasNoHint) {
     FsmDocument document = PumpDocument();
-    for (const int state : StateNumbers())
+    for (const StateNumber state : StateNumbers())
         document.State(state).ColWidth = state == 1 ? 945 : 15;
     StartOn(document);
     MoveTo(6, 1);

@@ -77,7 +77,7 @@ TEST_F(PressTable, ACellWiderThanTheWindowIsShownFromItsBeginning) {
 TEST_F(PressTable, EveryCellIsPressedWhereItIsShown) {
     FsmDocument document = PumpDocument();
     for (const RowNumber row : EventRows())
-        document.Event(row).Name = "E" + std::to_string(row);
+        document.Event(row).Name = "E" + std::to_string(row.Number());
     StartOn(document);
     Window().resize(420, 260);
     for (int row = 6; row <= 54; row += 8) {

@@ -135,7 +135,7 @@ rc::Gen<Step> AnyStep() {
 FsmDocument WithColumnsToPress(FsmDocument document) {
     document.View.Col0Width = 1500;
     for (const StateNumber state : StateNumbers())
-        document.State(state).ColWidth = 600 + 15 * state;
+        document.State(state).ColWidth = 600 + 15 * state.Number();
     return document;
 }
 

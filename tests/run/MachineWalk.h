@@ -12,10 +12,10 @@ namespace orvane::test {
 
 inline run::Inputs InputsOf(const World& world) {
     run::Inputs inputs;
-    for (const int row : EventRows())
-        inputs.Set(row, world.HasEvent(row));
-    for (const int state : StateNumbers())
-        inputs.Limits[static_cast<std::size_t>(state)] = world.LimitOf(state);
+    for (const RowNumber row : EventRows())
+        inputs.Set(row, world.HasEvent(row.Number()));
+    for (const StateNumber state : StateNumbers())
+        inputs.Limits[IndexIn(TableColumns(), state)] = world.LimitOf(state.Number());
     return inputs;
 }
 

@@ -16,7 +16,7 @@ void RuledStep::Look(Config& config, const Inputs& inputs, std::vector<Taken>& l
     if (row == kHeadRow)
         return;
     const StateNumber from = config.State;
-    const int target = document_.State(from.Number()).Targets[row];
+    const int target = document_.State(from.Number()).Targets[row].Number();
     const bool holds = Stays(from, row);
     log.push_back({from, row, target, holds});
     if (holds)
@@ -63,10 +63,10 @@ int RuledStep::RowTaken(const Config& config, const Inputs& inputs) const {
 
 int RuledStep::EventTaken(const Inputs& inputs, const RunState& state) const {
     int taken = kHeadRow;
-    for (const int row : EventRows()) {
-        const bool there = inputs.Has(row) && (state.Events >> static_cast<unsigned>(row) & 1U) != 0;
+    for (const RowNumber row : EventRows()) {
+        const bool there = inputs.Has(row) && (state.Events >> static_cast<unsigned>(row.Number()) & 1U) != 0;
         if (there && (taken == kHeadRow || broken_.HighestRowFirst))
-            taken = row;
+            taken = row.Number();
     }
     return taken;
 }

@@ -260,8 +260,10 @@ void DoSomething(Window& window) {
         window.Open.MarkSaved("/home/me/pump.zfsm", JournalStamp{3, 4, {}});
         break;
     case 3:
-        window.Open.Edit({"column width", {}, EditKind::View},
-                         [&](const Editable& open) { open.Document.State(state).ColWidth += 15; });
+        window.Open.Edit({"column width", {}, EditKind::View}, [&](const Editable& open) {
+            StateRecord& record = open.Document.State(state);
+            record.ColWidth = record.ColWidth + 15;
+        });
         break;
     case 4:
         window.Open.Edit({"insert state", {Touched::Extent::AllColumns, {}}}, [&](const Editable& open) {

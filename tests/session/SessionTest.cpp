@@ -140,7 +140,8 @@ TEST_F(SessionTest, HowTheDocumentIsLookedAtIsNoStep) {
     for (const EditKind kind : {EditKind::View, EditKind::ToggledRows, EditKind::Multitasking}) {
         session.Edit({"view", {}, kind}, [](const Editable& open) {
             open.Document.View.Polytask = !open.Document.View.Polytask;
-            open.Document.State(1).ColWidth += 15;
+            Twips& width = open.Document.State(1).ColWidth;
+            width = width + 15;
         });
         EXPECT_FALSE(ear.Heard.back().Committed);
     }

@@ -10,7 +10,10 @@
 namespace orvane {
 namespace {
 
-int WidthOf(std::string_view text) { return 100 * static_cast<int>(text.size()); }
+// Every letter is as wide as the others.
+const struct : TextMeasurer {
+    Twips operator()(std::string_view text) const override { return 100 * static_cast<int>(text.size()); }
+} WidthOf;
 
 constexpr int kWide = 6000;
 

@@ -9,12 +9,16 @@ namespace orvane {
 namespace {
 
 // A font with narrow, middle and wide letters, and marks that take no room of their own.
-int WidthOf(std::string_view text) {
-    int width = 0;
-    for (const char letter : text)
-        width += letter == 'i' ? 40 : letter == 'W' ? 190 : letter == '^' ? 0 : 100;
-    return width;
-}
+struct Letters : TextMeasurer {
+    Twips operator()(std::string_view text) const override {
+        int width = 0;
+        for (const char letter : text)
+            width += letter == 'i' ? 40 : letter == 'W' ? 190 : letter == '^' ? 0 : 100;
+        return width;
+    }
+};
+
+const Letters WidthOf;
 
 std::string FitCharacterByCharacter(std::string text, int columnWidth) {
     const int limit = columnWidth - 200;
@@ -68,11 +72,17 @@ TEST(TextFitting, LongCodeInANarrowColumnCostsFewAndShortMeasurements) {
     const std::string code(64 * 1024, 'x');
     int calls = 0;
     std::size_t characters = 0;
-    const auto counting = [&](std::string_view text) {
-        ++calls;
-        characters += text.size();
-        return WidthOf(text);
+    struct Counting : Letters {
+        Counting(int& calls, std::size_t& characters) : Calls(calls), Characters(characters) {}
+        Twips operator()(std::string_view text) const override {
+            ++Calls;
+            Characters += text.size();
+            return Letters::operator()(text);
+        }
+        int& Calls;
+        std::size_t& Characters;
     };
+    const Counting counting(calls, characters);
     EXPECT_EQ(FitTextToColumn(code, 945, counting), "xxxxxxx..");
     EXPECT_LE(calls, 8);
     EXPECT_LE(characters, 100u);

@@ -3,6 +3,7 @@
 
 #include "kit/CodePane.h"
 #include "text/AnsiText.h"
+#include "text/ByteOf.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -17,21 +18,20 @@ using Sci = QsciScintilla;
 // The pane keeps its text as UTF-8 and counts in its bytes.
 std::string_view PaneBytes(CodePane& pane) {
     const auto* bytes = static_cast<const char*>(pane.SendScintillaPtrResult(Sci::SCI_GETCHARACTERPOINTER));
-    return {bytes, static_cast<std::size_t>(pane.SendScintilla(Sci::SCI_GETLENGTH))};
+    return std::string_view(bytes, pane.SendScintilla(Sci::SCI_GETLENGTH));
 }
 
 std::size_t FirstLineLength(std::string_view text) { return std::min(text.find('\n'), text.size() - 1) + 1; }
 
 bool IsInsideCharacter(std::string_view text, std::size_t place) {
-    return place < text.size() && (static_cast<unsigned char>(text[place]) & 0xC0) == 0x80;
+    return place < text.size() && (ByteOf(text[place]) & 0xC0) == 0x80;
 }
 
 std::size_t CommonBeginning(std::string_view a, std::string_view b) {
-    auto length = static_cast<std::size_t>(
-        std::mismatch(a.begin(), a.begin() + static_cast<std::ptrdiff_t>(std::min(a.size(), b.size())),
-                      b.begin())
-            .first -
-        a.begin());
+    const std::size_t most = std::min(a.size(), b.size());
+    std::size_t length = 0;
+    while (length < most && a[length] == b[length])
+        ++length;
     while (length > 0 && (IsInsideCharacter(a, length) || IsInsideCharacter(b, length)))
         --length;
     return length;

@@ -108,7 +108,7 @@ void frmGenerator::ShowCaret() { Panel2->setText(txtCode->CaretReadOut()); }
 void frmGenerator::ChoosePlace(int reportLine) {
     if (reportLine >= std::ssize(reportLines_)) // below the last one
         return;
-    const Cell place = reportLines_[static_cast<std::size_t>(reportLine)].Place;
+    const Cell place = reportLines_[reportLine].Place;
     if (place.State != kNoState)
         Q_EMIT PlaceChosen(place);
 }

@@ -15,6 +15,8 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
+#include <iterator>
+
 namespace orvane {
 
 namespace {
@@ -243,14 +245,14 @@ void frmGeneralCodeEdit::Cancel() {
 }
 
 void frmGeneralCodeEdit::FocusPaneOfTab() {
-    const auto tab = static_cast<std::size_t>(SSTab1->currentIndex());
-    if (tab < panes_.size())
+    const int tab = SSTab1->currentIndex();
+    if (tab < std::ssize(panes_))
         panes_[tab]->setFocus();
 }
 
 void frmGeneralCodeEdit::RefreshCaretReadOut() {
-    const auto tab = static_cast<std::size_t>(SSTab1->currentIndex());
-    StatusBar1->ShowCaret(tab < panes_.size() ? panes_[tab]->CaretReadOut() : QString());
+    const int tab = SSTab1->currentIndex();
+    StatusBar1->ShowCaret(tab < std::ssize(panes_) ? panes_[tab]->CaretReadOut() : QString());
 }
 
 } // namespace orvane

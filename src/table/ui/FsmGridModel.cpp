@@ -10,7 +10,8 @@
 
 namespace orvane {
 
-FsmGridModel::FsmGridModel(const FsmDocument& document, TextMeasurer measure, QObject* parent)
+FsmGridModel::FsmGridModel(const FsmDocument& document, std::unique_ptr<TextMeasurer> measure,
+                           QObject* parent)
     : QAbstractTableModel(parent), document_(document), measure_(std::move(measure)) {}
 
 int FsmGridModel::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : kTableRows; }
@@ -24,7 +25,7 @@ QVariant FsmGridModel::data(const QModelIndex& index, int role) const {
         return {};
     switch (role) {
     case Qt::DisplayRole:
-        return FromAnsi(CellText(document_, CellOf(index), measure_));
+        return FromAnsi(CellText(document_, CellOf(index), *measure_));
     case Qt::BackgroundRole:
         return Background(CellOf(index));
     case Qt::ForegroundRole: // Every background is light, also on a dark desktop.
@@ -34,7 +35,7 @@ QVariant FsmGridModel::data(const QModelIndex& index, int role) const {
     }
 }
 
-void FsmGridModel::SetMeasurer(TextMeasurer measure) {
+void FsmGridModel::SetMeasurer(std::unique_ptr<TextMeasurer> measure) {
     measure_ = std::move(measure);
     AllChanged();
 }

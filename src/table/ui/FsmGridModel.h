@@ -8,6 +8,7 @@
 #include <QAbstractTableModel>
 #include <QColor>
 
+#include <memory>
 #include <optional>
 
 namespace orvane {
@@ -19,13 +20,14 @@ class FsmGridModel : public QAbstractTableModel {
 
   public:
     // The document outlives the model.
-    FsmGridModel(const FsmDocument& document, TextMeasurer measure, QObject* parent = nullptr);
+    FsmGridModel(const FsmDocument& document, std::unique_ptr<TextMeasurer> measure,
+                 QObject* parent = nullptr);
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
 
-    void SetMeasurer(TextMeasurer measure);
+    void SetMeasurer(std::unique_ptr<TextMeasurer> measure);
 
     // What the document changed, for whoever shows it. A column changes with its head.
     void ColumnChanged(StateNumber column);
@@ -45,7 +47,7 @@ class FsmGridModel : public QAbstractTableModel {
     void BackgroundChanged(Cell cell);
 
     const FsmDocument& document_;
-    TextMeasurer measure_;
+    std::unique_ptr<TextMeasurer> measure_;
     StateNumber currentState_ = kNoState;
     std::optional<Cell> highlighted_;
 };

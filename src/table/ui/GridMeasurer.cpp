@@ -14,11 +14,11 @@ namespace {
 
 // A redraw asks for the same few thousand texts again and again, and shaping a text costs a hundred times
 // what finding it costs.
-class CachedWidths {
+class CachedWidths final : public TextMeasurer {
   public:
     explicit CachedWidths(const QFont& font) : metrics_(font) {}
 
-    Twips operator()(std::string_view text) {
+    Twips operator()(std::string_view text) const override {
         if (text.size() > kLongestKept)
             return Measure(text);
         if (widths_.size() > kMostKept)
@@ -38,7 +38,7 @@ class CachedWidths {
     }
 
     QFontMetrics metrics_;
-    std::unordered_map<std::string, Twips> widths_;
+    mutable std::unordered_map<std::string, Twips> widths_;
 };
 
 } // namespace
@@ -51,6 +51,6 @@ QString CellLine(QString text) {
         .replace(QLatin1Char('\r'), QLatin1Char(' '));
 }
 
-TextMeasurer GridMeasurer(const QFont& font) { return CachedWidths(font); }
+std::unique_ptr<TextMeasurer> GridMeasurer(const QFont& font) { return std::make_unique<CachedWidths>(font); }
 
 } // namespace orvane

@@ -6,6 +6,7 @@
 #include <QFont>
 #include <QString>
 
+#include <memory>
 #include <string_view>
 
 namespace orvane {
@@ -15,6 +16,6 @@ QString CellLine(std::string_view text);
 QString CellLine(QString text);
 
 // Measures cell lines in this font.
-TextMeasurer GridMeasurer(const QFont& font);
+std::unique_ptr<TextMeasurer> GridMeasurer(const QFont& font);
 
 } // namespace orvane

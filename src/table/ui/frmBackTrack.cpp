@@ -100,7 +100,7 @@ bool frmBackTrack::eventFilter(QObject* watched, QEvent* event) {
 
 void frmBackTrack::Choose(int row, int column) {
     if (column == kFromColumn)
-        Q_EMIT StateChosen(lines_[static_cast<std::size_t>(row)].From);
+        Q_EMIT StateChosen(lines_[row].From);
 }
 
 } // namespace orvane

@@ -38,9 +38,9 @@ void UpdateCheck::Start(const QUrl& page) {
 void UpdateCheck::ReadChunk() {
     if (!reply_)
         return;
-    const qint64 room = kLargestPage - static_cast<qint64>(page_.size());
+    const qint64 room = kLargestPage - std::ssize(page_);
     const QByteArray chunk = reply_->isReadable() ? reply_->read(qMin(kChunk, room)) : QByteArray();
-    page_.append(chunk.constData(), static_cast<std::size_t>(chunk.size()));
+    page_.append(chunk.constData(), chunk.size());
     if (!chunk.isEmpty() && chunk.size() < room)
         QMetaObject::invokeMethod(this, &UpdateCheck::ReadChunk, Qt::QueuedConnection);
     else if (complete_ || chunk.size() == room)
