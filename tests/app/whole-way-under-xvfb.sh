@@ -7,8 +7,8 @@ set -euo pipefail
 cmake=$1
 build=$2
 
-# shellcheck source-path=SCRIPTDIR source=../support/xvfb.sh
-. "$(dirname "${BASH_SOURCE[0]}")/../support/xvfb.sh"
+# shellcheck source-path=SCRIPTDIR source=../support/by-name.sh
+. "$(dirname "${BASH_SOURCE[0]}")/../support/by-name.sh"
 
 # What the program hands to the desktop is written down instead.
 make_desktop() {
@@ -19,89 +19,72 @@ make_desktop() {
 
 start_program() {
     (cd "$work/home" && exec env PATH="$work/bin:$PATH" HOME="$work/home" XDG_CONFIG_HOME="$work/config" \
-        XDG_RUNTIME_DIR="$work" APPDATA="$work/home" SOURCE_DATE_EPOCH=0 QT_QPA_PLATFORM=xcb QT_SCALE_FACTOR=1 \
-        QT_STYLE_OVERRIDE=Fusion "$work/orvane/bin/orvane" "$@" 2>"$work/orvane.log") &
+        XDG_RUNTIME_DIR="$work" APPDATA="$work/home" SOURCE_DATE_EPOCH=0 QT_QPA_PLATFORM=xcb \
+        QT_STYLE_OVERRIDE=Fusion "${places[@]}" "$work/orvane/bin/orvane" "$@" 2>"$work/orvane.log") &
     started+=("$!")
 }
 
 define_event() { # ROW NAME CODE
     click_cell "$1" 0
-    dialog 'Event Definition'
-    [ -z "$3" ] || write "$3"
-    click "$dialog" 200 20
-    press ctrl+a
-    write "$2"
+    if [ -n "$3" ]; then
+        in_pane txtEventCode "$3"
+    fi
+    in_field txtName "$2"
     press Return
-    in_table
 }
 
 draw_machine() {
     step "naming the machine"
     click_cell 0 0
-    dialog 'General code'
-    click "$dialog" 200 20
-    write PMP
+    in_field txtName PMP
     press Return
-    in_table
 
     step "two states, the second with a timeout"
     click_cell 0 1
-    dialog 'State Definition'
-    write ';idle entry'
-    click "$dialog" 200 20
-    write Idle
+    in_pane txtEntryCode ';idle entry'
+    in_field txtName Idle
     press Return
-    in_table
     click_cell 0 2
-    dialog 'State Definition'
-    write ';run entry'
-    # The tab, "Start on entry", "Constant" and its field, as the dialog stands when it first comes up.
-    click "$dialog" 230 50
-    click "$dialog" 80 155
-    click "$dialog" 305 131
-    click "$dialog" -120 187
-    write 100
-    click "$dialog" 200 20
-    write Run
+    in_pane txtEntryCode ';run entry'
+    click_on 'SSTab1#Timeout'
+    click_on optStartTiming
+    click_on optTimeCONST
+    in_field txtTimeCONST 100
+    in_field txtName Run
     press Return
-    in_table
 
     step "two events, the second still without code"
-    # The timing rows have come up with the timeout: heads, actions, timeout mode and target, then the events.
-    define_event 4 Start ';start?'
-    define_event 5 Stop ''
+    define_event 6 Start ';start?'
+    define_event 7 Stop ''
 
     step "transitions and an action"
-    type_target 4 1 2
-    type_target 5 2 1
-    type_target 3 2 1
-    click_cell 5 2 3
-    press Down Right Return
-    dialog 'Transition action'
-    click "$dialog" 100 100
-    write ';stop action'
-    click "$dialog" -135 -20
-    in_table
+    type_target 6 1 2
+    type_target 7 2 1
+    type_target 4 2 1
+    click_cell 7 2 3
+    click_on mnuTransAct
+    click_on mnuEditTransAct
+    in_pane txtCode ';stop action'
+    click_on cmdOK
 }
 
 # The name is asked for when there is none yet; from then on the program is written after every change.
 save_as() {
-    press ctrl+s
-    dialog 'Save As'
-    press ctrl+a
-    write "$1"
-    press Return
     in_table
+    press ctrl+s
+    in_field fileNameEdit "$1"
+    press Return
 }
 
 wrote() { grep -aqF -- "$1" "$work/home/pump.zls"; }
 
 start_display
+by_name "$build"
 make_desktop
 "$cmake" --install "$build" --prefix "$work/orvane" >/dev/null
 step "starting the installed program without a document"
 start_program /nosplash
-find_table ' - Orvane V'
+await_table ' - Orvane V'
 draw_machine
 step "saving"
 save_as "$work/home/pump.zfsm"
@@ -109,8 +92,8 @@ await "the saved document" title_starts 'pump.zfsm - Orvane V'
 [ ! -e "$work/home/pump.zls" ] || fail "a design with an error was written"
 
 step "generating, and reading the report"
-choose 97 2
-dialog 'Generated code'
+choose mnuCode mnuCodeGenerate
+await "the program in the generator" there txtCode
 press alt+F4
 await "the generator to close" gone 'Generated code'
 report=$("$work/orvane/bin/orvanec" check "$work/home/pump.zfsm" || true)
@@ -118,25 +101,26 @@ report=$("$work/orvane/bin/orvanec" check "$work/home/pump.zfsm" || true)
     fail "the report is: $report"
 
 step "mending the fault"
-define_event 5 Stop ';stop?'
+define_event 7 Stop ';stop?'
 await "the program" wrote ';stop?'
 
 step "saving, closing and opening again"
+in_table
 press ctrl+s
 await "the saved document" title_is "$(xdotool getwindowname "$table" | sed 's/^\*//')"
 press alt+F4
 await "the program to end" gone ' - Orvane V'
 start_program "$work/home/pump.zfsm"
-find_table '^pump.zfsm - Orvane V'
+await_table '^pump.zfsm - Orvane V'
 
 step "a change, and undo"
-type_target 4 2 1
+type_target 6 2 1
 await "the changed program" title_starts '*pump.zfsm'
 press ctrl+z
 await "the undone change" title_starts 'pump.zfsm'
 
 step "building"
-choose 97 4
+choose mnuCode mnuBuildAndTest
 await "the builder script in the desktop" grep -q 'pump.b1d' "$work/opened"
 [ -s "$work/home/pump.b1d" ] || fail "the builder script was not written"
 

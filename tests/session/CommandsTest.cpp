@@ -45,7 +45,7 @@ mnuPref: Preferences
 mnuHelp: Help
   mnuHelpPages: Help pages
   mnuRecent: Recent files
-  
+
   mnuAbout: About Orvane
 mnuColumnHead: ColumnHead
   mnuCopyState: Copy state

@@ -24,6 +24,8 @@ trap clean_up EXIT
 
 fail() {
     echo "FAILED: $*"
+    echo "on the screen: $(xdotool search --onlyvisible --name . getwindowname %@ 2>&1 | paste -sd'|')"
+    echo "running: $(jobs -r | sed 's/.*Running *//' | paste -sd'|')"
     [ -s "$work/orvane.log" ] && cat "$work/orvane.log"
     [ -n "${ORVANE_SCREENSHOT-}" ] && import -window root "$ORVANE_SCREENSHOT"
     exit 1
