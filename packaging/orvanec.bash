@@ -8,6 +8,13 @@ _orvanec_documents() {
     COMPREPLY+=($(compgen -f -X '!*.[zZ][fF][sS][mM]' -- "$typed") $(compgen -d -- "$typed"))
 }
 
+# The same with files of tests.
+_orvanec_tests() {
+    local IFS=$'\n' typed=$1
+    _orvanec_documents "$typed"
+    COMPREPLY+=($(compgen -f -X '!*.[zZ][tT][eE][sS][tT]' -- "$typed"))
+}
+
 _orvanec() {
     local typed=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} verb=
     [ "$COMP_CWORD" -gt 1 ] && verb=${COMP_WORDS[1]}
@@ -18,7 +25,12 @@ _orvanec() {
 
     case $verb:$before in
         check:--format) COMPREPLY=($(compgen -W 'text json' -- "$typed")) && return ;;
-        generate:-o | generate:--output | format:-o | format:--output)
+        test:--reading)
+            COMPREPLY=($(compgen -W 'at-limit after-limit unstarted-since-power-on unstarted-expired' -- "$typed"))
+            return
+            ;;
+        test:--filter | test:-j | test:--jobs) return ;;
+        generate:-o | generate:--output | format:-o | format:--output | test:--junit | test:--markdown)
             local IFS=$'\n'
             compopt -o filenames 2>/dev/null
             COMPREPLY=($(compgen -f -- "$typed"))
@@ -27,9 +39,14 @@ _orvanec() {
     esac
     case $verb:$typed in
         :-*) COMPREPLY=($(compgen -W '--help --version' -- "$typed")) ;;
-        :*) COMPREPLY=($(compgen -W 'generate check format' -- "$typed")) ;;
+        :*) COMPREPLY=($(compgen -W 'generate check format test' -- "$typed")) ;;
         check:-*) COMPREPLY=($(compgen -W '--format --help' -- "$typed")) ;;
         generate:-* | format:-*) COMPREPLY=($(compgen -W '--output --help' -- "$typed")) ;;
+        test:-*)
+            COMPREPLY=($(compgen -W '--coverage --filter --help --jobs --json --junit --list --markdown
+                --notes-fail --reading --rename --strict --update' -- "$typed"))
+            ;;
+        test:*) _orvanec_tests "$typed" ;;
         *) _orvanec_documents "$typed" ;;
     esac
 }

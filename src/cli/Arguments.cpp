@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/Arguments.h"
 
+#include "cli/BracketArgument.h"
 #include "cli/MessageText.h"
+#include "cli/TestOptions.h"
 #include "core/ProgramVersion.h"
 
 #include <CLI/CLI.hpp>
@@ -13,7 +15,7 @@ namespace {
 constexpr const char* kProgramNotes =
     "Example: orvanec generate pump.zfsm\n"
     "         writes pump.zls beside the document, and what was found to standard error\n\n"
-    "Exit status: 0 no design errors, 1 a design error, 2 wrong usage,\n"
+    "Exit status: 0 no design errors, 1 a design error or a failed test, 2 wrong usage,\n"
     "             3 a file could not be read or written, or a document broke off";
 constexpr const char* kGenerateNotes =
     "Example: SOURCE_DATE_EPOCH=0 orvanec generate -o - pump.zfsm\n"
@@ -25,18 +27,12 @@ constexpr const char* kFormatNotes =
     "Example: orvanec format pump.zfsm -o tidy.zfsm\n\n"
     "A document that breaks off is only written with -o, never over the original.";
 
-// The parser takes a value in brackets for a list. No argument can hold a NUL, so one at the end hides the
-// closing bracket from it.
-std::string HideBracket(std::string value) {
-    if (!value.empty() && value.back() == ']')
-        value += '\0';
-    return value;
-}
-
-void ShowBracket(std::string& value) {
-    if (!value.empty() && value.back() == '\0')
-        value.pop_back();
-}
+constexpr const char* kTestNotes =
+    "Example: orvanec test --coverage=100 pump.zfsm\n"
+    "         runs the tests in pump.ztest and wants every transition to be taken\n\n"
+    "Without a name all tests in the folder and below it are run. Exit status 1 is a failed test, 3 one "
+    "that\n"
+    "could not be understood.";
 
 class CommandLine {
   public:
@@ -50,6 +46,7 @@ class CommandLine {
         AddGenerate();
         AddCheck();
         AddFormat();
+        AddTest();
     }
 
     Arguments Parse(int count, const char* const* values);
@@ -76,6 +73,12 @@ class CommandLine {
         AddOutput(verb, "Write to FILE instead of over the document; - is standard output");
     }
 
+    void AddTest() {
+        CLI::App& verb = AddVerb("test", "Run the tests of machines", kTestNotes);
+        verb.add_option("FILE", documents_, "Files of tests, documents, or folders")->type_name("");
+        tests_.AddTo(verb);
+    }
+
     CLI::App& AddVerb(const char* name, const char* purpose, const char* notes) {
         CLI::App* verb = app_.add_subcommand(name, purpose);
         verb->group("Verbs");
@@ -94,6 +97,7 @@ class CommandLine {
     std::string document_;
     std::optional<std::string> output_;
     std::string format_ = "text";
+    TestOptions tests_;
     std::string firstWord_;
 };
 
@@ -108,9 +112,14 @@ Arguments CommandLine::Parse(int count, const char* const* values) {
     Arguments arguments;
     arguments.What = app_.got_subcommand("generate") ? Verb::Generate
                      : app_.got_subcommand("check")  ? Verb::Check
+                     : app_.got_subcommand("test")   ? Verb::Test
                                                      : Verb::Format;
     arguments.Documents =
         arguments.What == Verb::Format ? std::vector{std::move(document_)} : std::move(documents_);
+    if (arguments.What == Verb::Test)
+        arguments.Testing = tests_.Take();
+    if (arguments.What == Verb::Test && arguments.Documents.empty())
+        arguments.Documents = {"."};
     std::for_each(arguments.Documents.begin(), arguments.Documents.end(), ShowBracket);
     arguments.Output = std::move(output_);
     if (arguments.Output)
@@ -134,7 +143,7 @@ std::string CommandLine::WhatIsMissing() const {
         return "No document is given";
     return (firstWord_.empty() ? std::string("No verb is given")
                                : "There is no verb " + ShownName(firstWord_)) +
-           "; the verbs are generate, check and format";
+           "; the verbs are generate, check, format and test";
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "cli/Outcome.h"
+#include "cli/TestArguments.h"
 
 #include <optional>
 #include <string>
@@ -10,16 +11,17 @@
 
 namespace orvane::cli {
 
-enum class Verb { Generate, Check, Format };
+enum class Verb { Generate, Check, Format, Test };
 enum class ReportFormat { Text, Json };
 
 inline constexpr const char* kStandardOutput = "-";
 
 struct Arguments {
     Verb What = Verb::Check;
-    std::vector<std::string> Documents; // at least one, as they were given
+    std::vector<std::string> Documents; // at least one, as they were given; of Test files and folders, too
     std::optional<std::string> Output;  // a path or kStandardOutput; only with one document
     ReportFormat Format = ReportFormat::Text;
+    TestArguments Testing;
 };
 
 // What the command line asks for. When there is nothing to do, or no way to do it, the outcome of that: the

@@ -11,8 +11,6 @@ namespace orvane::cli {
 
 namespace {
 
-constexpr std::string_view kReplacement = "\xEF\xBF\xBD";
-
 void AppendAscii(std::string& json, char character) {
     constexpr std::string_view digits = "0123456789abcdef";
     const auto code = ByteOf(character);
@@ -60,13 +58,11 @@ std::string Array(const std::vector<Item>& items, Object object) {
 
 std::string JsonString(std::string_view utf8) {
     std::string json = "\"";
-    while (!utf8.empty()) {
-        const std::string_view before = utf8;
-        const std::optional<char32_t> character = TakeCharacter(utf8);
-        if (character && *character < 0x80)
-            AppendAscii(json, before.front());
+    for (const char byte : ValidUtf8(utf8)) {
+        if (ByteOf(byte) < 0x80)
+            AppendAscii(json, byte);
         else
-            json.append(character ? before.substr(0, before.size() - utf8.size()) : kReplacement);
+            json += byte;
     }
     return json + "\"";
 }

@@ -17,10 +17,11 @@ namespace {
 
 class Pool {
   public:
-    Pool(std::size_t count, const std::function<Outcome(std::size_t)>& work) : outcomes_(count), work_(work) {
+    Pool(std::size_t count, const std::function<Outcome(std::size_t)>& work, std::size_t most)
+        : outcomes_(count), work_(work) {
         const std::size_t cores = std::max(1u, std::thread::hardware_concurrency());
         try {
-            while (threads_.size() < std::min(cores, count))
+            while (threads_.size() < std::min(most == 0 ? cores : most, count))
                 threads_.emplace_back([this] { WorkOff(); });
         } catch (const std::system_error&) {
             if (threads_.empty()) // as many as the system gives will do, also none
@@ -63,12 +64,12 @@ class Pool {
 } // namespace
 
 void WorkInOrder(std::size_t count, const std::function<Outcome(std::size_t)>& work,
-                 const std::function<void(const Outcome&)>& deliver) {
+                 const std::function<void(const Outcome&)>& deliver, std::size_t most) {
     if (count == 1) {
         deliver(work(0));
         return;
     }
-    Pool pool(count, work);
+    Pool pool(count, work, most);
     for (std::size_t index = 0; index < count; ++index)
         deliver(pool.Take(index));
 }

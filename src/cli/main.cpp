@@ -5,6 +5,7 @@
 #include "cli/MessageText.h"
 #include "cli/OrderedWork.h"
 #include "cli/StandardStreams.h"
+#include "cli/TestVerb.h"
 #include "cli/Verbs.h"
 #include "codegen/BannerDate.h"
 #include "files/NativeFiles.h"
@@ -42,6 +43,8 @@ int Do(const Arguments& arguments) {
     const auto unfinished = std::make_shared<UnfinishedFiles>(files);
     if (arguments.What != Verb::Check)
         RemoveWhenTold(unfinished);
+    if (arguments.What == Verb::Test)
+        return RunTests(arguments, TestFiles(files, *unfinished));
     const Run run{arguments, date.Date, files, *unfinished};
     int status = kSuccess;
     WorkInOrder(

@@ -35,7 +35,10 @@ Outcome Clock::Settle() {
 
 Outcome Clock::Pulse(std::uint64_t events) {
     last_.clear();
-    if (const std::optional<Outcome> broken = ScanOnce(events))
+    std::swap(inputs_.Events, events);
+    const std::optional<Outcome> broken = ScanOnce();
+    std::swap(inputs_.Events, events);
+    if (broken)
         return *broken;
     Record(true);
     return Settle();
@@ -43,7 +46,7 @@ Outcome Clock::Pulse(std::uint64_t events) {
 
 Outcome Clock::Scan(int count) {
     for (int i = 0; i < count; ++i) {
-        if (const std::optional<Outcome> broken = ScanOnce(0))
+        if (const std::optional<Outcome> broken = ScanOnce())
             return *broken;
         Record(true);
         if (log_.size() > kMostHappenings)
@@ -58,7 +61,7 @@ Outcome Clock::SettleOn() {
     std::bitset<kStateCount + 1> met;
     while (log_.size() <= kMostHappenings) {
         met.set(config_.State.Number());
-        if (const std::optional<Outcome> broken = ScanOnce(0))
+        if (const std::optional<Outcome> broken = ScanOnce())
             return *broken;
         Record(false);
         if (config_ == before_)
@@ -71,13 +74,11 @@ Outcome Clock::SettleOn() {
     return Outcome::Endless;
 }
 
-std::optional<Outcome> Clock::ScanOnce(std::uint64_t moreEvents) {
+std::optional<Outcome> Clock::ScanOnce() {
     before_ = config_;
     std::swap(scan_, last_);
     scan_.clear();
-    const std::uint64_t events = std::exchange(inputs_.Events, inputs_.Events | moreEvents);
     const ScanEnd end = machine_.Scan(config_, inputs_, scan_);
-    inputs_.Events = events;
     WatchForOverrun();
     if (end == ScanEnd::Yields)
         return std::nullopt;

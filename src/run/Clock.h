@@ -50,7 +50,7 @@ class Clock {
     // Scans until the machine is idle, or never will be.
     Outcome Settle();
 
-    // One scan with these events (bit r: row r) beside the inputs, then Settle() without them.
+    // One scan with these events (bit r: row r) in place of those that are there, then Settle() with those.
     Outcome Pulse(std::uint64_t events);
 
     // As many scans as are said, whatever they do; at least one. Quiet means no more than that they ended.
@@ -72,7 +72,7 @@ class Clock {
   private:
     Outcome SettleOn();
     Outcome GoOnAgain(Units end);
-    std::optional<Outcome> ScanOnce(std::uint64_t moreEvents);
+    std::optional<Outcome> ScanOnce();
     void Record(bool repetitionsToo);
     void WatchForOverrun();
     void SkipTo(Units now);

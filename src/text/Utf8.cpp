@@ -54,4 +54,32 @@ void AppendUtf8(std::string& utf8, char32_t character) {
     }
 }
 
+std::size_t CharacterLength(std::string_view utf8) {
+    const std::size_t before = utf8.size();
+    return TakeCharacter(utf8) ? before - utf8.size() : 0;
+}
+
+std::size_t SoundLength(std::string_view utf8) {
+    std::size_t length = 0;
+    while (length < utf8.size()) {
+        const std::size_t character = CharacterLength(utf8.substr(length));
+        if (character == 0)
+            break;
+        length += character;
+    }
+    return length;
+}
+
+std::string ValidUtf8(std::string_view utf8) {
+    std::string valid;
+    while (true) {
+        const std::size_t sound = SoundLength(utf8);
+        valid.append(utf8.substr(0, sound));
+        if (sound == utf8.size())
+            return valid;
+        valid += "\xEF\xBF\xBD";
+        utf8.remove_prefix(sound + 1);
+    }
+}
+
 } // namespace orvane

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "run/Machine.h"
 
-#include "support/RandomDocument.h"
 #include "support/SmallTable.h"
 
 #include <gmock/gmock.h>

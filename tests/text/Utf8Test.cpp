@@ -41,5 +41,30 @@ TEST(Utf8, OfMalformedBytesOneIsTakenAtATime) {
     }
 }
 
+TEST(Utf8, CharactersHaveOneToFourBytes) {
+    EXPECT_EQ(CharacterLength("a\xC3\xBC"), 1U);
+    EXPECT_EQ(CharacterLength("\xC3\xBC"), 2U);
+    EXPECT_EQ(CharacterLength("\xE2\x82\xAC"), 3U);
+    EXPECT_EQ(CharacterLength("\xF0\x9F\x98\x80"), 4U);
+    EXPECT_EQ(CharacterLength("\xF4\x8F\xBF\xBF"), 4U);
+}
+
+TEST(Utf8, WhatIsCutOverlongOrBeyondIsMalformed) {
+    for (const char* bytes : {"\x80", "\xC3", "\xC3z", "\xC1\xBF", "\xE0\x9F\xBF", "\xED\xA0\x80",
+                              "\xF0\x8F\xBF\xBF", "\xF4\x90\x80\x80", "\xF5\x80\x80\x80", "\xFF"})
+        EXPECT_EQ(CharacterLength(bytes), 0U) << bytes;
+}
+
+TEST(Utf8, SoundBytesAreCountedUpToTheFirstMalformedOne) {
+    EXPECT_EQ(SoundLength(""), 0U);
+    EXPECT_EQ(SoundLength("a\xC3\xBC"), 3U);
+    EXPECT_EQ(SoundLength("a\xC3\xBC\xFFz"), 3U);
+}
+
+TEST(Utf8, EachMalformedByteIsReplaced) {
+    EXPECT_EQ(ValidUtf8("a\xFF\xFE\xC3\xBCz\xC3"), "a\xEF\xBF\xBD\xEF\xBF\xBD\xC3\xBCz\xEF\xBF\xBD");
+    EXPECT_EQ(ValidUtf8("all \xC3\xBC"), "all \xC3\xBC");
+}
+
 } // namespace
 } // namespace orvane

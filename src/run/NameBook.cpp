@@ -1,0 +1,114 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "run/NameBook.h"
+
+#include "run/NearestName.h"
+#include "run/TestLexer.h"
+#include "run/TestWriter.h"
+#include "text/AnsiText.h"
+#include "text/NumberText.h"
+
+#include <algorithm>
+
+namespace orvane::run {
+
+struct NameBook::Kind {
+    bool IsEvent;
+    const char* Word;
+    const char* Plural;
+    NumberRange Numbers;
+};
+
+const NameBook::Kind NameBook::kStates = {false, "state", "states", StateNumbers()};
+const NameBook::Kind NameBook::kEvents = {true, "event", "events", EventRows()};
+
+void NameBook::Remember(const NamesHead& head) {
+    remembered_.insert(remembered_.end(), head.Entries.begin(), head.Entries.end());
+}
+
+void NameBook::AddInputNames(const std::vector<std::string>& names) {
+    inputNames_.insert(inputNames_.end(), names.begin(), names.end());
+}
+
+std::optional<StateNumber> NameBook::State(const TestName& name) {
+    const std::optional<int> found = Find(kStates, name);
+    return found ? std::optional<StateNumber>(*found) : std::nullopt;
+}
+
+std::optional<RowNumber> NameBook::Event(const TestName& name) {
+    const std::optional<int> found = Find(kEvents, name);
+    return found ? std::optional<RowNumber>(*found) : std::nullopt;
+}
+
+std::string NameBook::NameAt(const Kind& kind, int number) const {
+    const std::string& name = kind.IsEvent ? document_.Event(number).Name : document_.State(number).Name;
+    return std::string(Trim(name));
+}
+
+std::vector<int> NameBook::Called(const Kind& kind, const std::string& text) const {
+    const std::string ansi(Trim(FromUtf8(text, kDelimiter))); // no name holds the delimiter
+    std::vector<int> called;
+    for (const int number : kind.Numbers) {
+        if (!ansi.empty() && NameAt(kind, number) == ansi)
+            called.push_back(number);
+    }
+    return called;
+}
+
+std::optional<int> NameBook::Find(const Kind& kind, const TestName& name) {
+    if (name.Number && name.Text.empty()) {
+        if (kind.Numbers.Contains(*name.Number))
+            return name.Number;
+        Slip(name.At, std::string(kind.Plural) + " have the numbers " + NumberText(kind.Numbers.First()) +
+                          " to " + NumberText(kind.Numbers.Last()));
+        return std::nullopt;
+    }
+    const std::vector<int> called = Called(kind, name.Text);
+    if (called.size() == 1)
+        return called.front();
+    if (called.empty())
+        return FindRenamed(kind, name);
+    if (name.Number && std::find(called.begin(), called.end(), *name.Number) != called.end())
+        return name.Number;
+    std::string choice;
+    for (const int number : called)
+        choice += (choice.empty() ? "" : " or ") + NumberText(number) + ":" + QuotedWhereNeeded(name.Text);
+    Slip(name.At, NumberText(static_cast<std::int64_t>(called.size())) + " " + kind.Plural + " are called " +
+                      Quoted(name.Text) + " in " + documentName_ + "; write " + choice);
+    return std::nullopt;
+}
+
+// The name is recognised when it was recorded with a number under which now a name stands that is new.
+std::optional<int> NameBook::FindRenamed(const Kind& kind, const TestName& name) {
+    const auto remembers = [&](const std::string& text) {
+        return std::find_if(remembered_.begin(), remembered_.end(), [&](const NamesHead::Entry& entry) {
+            return entry.IsEvent == kind.IsEvent && entry.Name.Text == text;
+        });
+    };
+    const auto entry = remembers(name.Text);
+    if (entry != remembered_.end() && kind.Numbers.Contains(*entry->Name.Number)) {
+        const std::string now = ToUtf8(NameAt(kind, *entry->Name.Number));
+        if (!now.empty() && remembers(now) == remembered_.end()) {
+            renamed_.push_back({kind.IsEvent, name, now});
+            return entry->Name.Number;
+        }
+    }
+    std::vector<std::string> candidates = kind.IsEvent ? inputNames_ : std::vector<std::string>();
+    for (const int number : kind.Numbers)
+        candidates.push_back(ToUtf8(NameAt(kind, number)));
+    const char* orSignal = kind.IsEvent && !inputNames_.empty() ? " or signal" : "";
+    Slip(name.At, std::string("no ") + kind.Word + orSignal + " is called " + Quoted(name.Text) + " in " +
+                      documentName_ + DidYouMean(name.Text, candidates));
+    return std::nullopt;
+}
+
+TestName NameBook::NameOfNumber(const Kind& kind, int number) const {
+    TestName name = NameOf(ToUtf8(NameAt(kind, number)));
+    if (name.Text.empty() || Called(kind, name.Text).size() > 1)
+        name.Number = number;
+    return name;
+}
+
+TestName NameBook::NameOfState(StateNumber state) const { return NameOfNumber(kStates, state.Number()); }
+TestName NameBook::NameOfEvent(RowNumber row) const { return NameOfNumber(kEvents, row.Number()); }
+
+} // namespace orvane::run
