@@ -4,6 +4,7 @@
 
 #include "codegen/Reachability.h"
 #include "core/TightPacked.h"
+#include "support/PopUpCommands.h"
 #include "support/Property.h"
 #include "support/RandomDocument.h"
 #include "table/StructuralEdits.h"
@@ -30,81 +31,86 @@ struct Place {
     int Column;
 };
 
-struct Command {
-    const char* Item;
+struct MenuCommand {
+    Command Id;
     enum { StateHead, EventHead, EntryCell, TransitionCell } Where;
     void (*Run)(Twin& twin, const Place& at);
     bool PasteItems::*Needs = nullptr;
 };
 
-constexpr std::array kCommands = {
-    Command{"mnuInsertState", Command::StateHead,
-            [](Twin& t, const Place& at) { t.Told = InsertState(t.Document, t.Clipboard, at.Column); }},
-    Command{"mnuDeleteState", Command::StateHead,
-            [](Twin& t, const Place& at) { DeleteState(t.Document, t.Clipboard, at.Column); }},
-    Command{"mnuCopyState", Command::StateHead,
-            [](Twin& t, const Place& at) { CopyState(t.Document, t.Clipboard, at.Column); }},
-    Command{"mnuPasteState", Command::StateHead,
-            [](Twin& t, const Place& at) { PasteState(t.Document, t.Clipboard, at.Column); },
-            &PasteItems::State},
-    Command{"mnuInsertEvent", Command::EventHead,
-            [](Twin& t, const Place& at) { t.Told = InsertEvent(t.Document, t.Clipboard, at.Row); }},
-    Command{"mnuDeleteEvent", Command::EventHead,
-            [](Twin& t, const Place& at) {
-                t.Told = QuestionBeforeDeleteEvent(t.Document, at.Row);
-                if (!t.Told || t.Yes)
-                    DeleteEvent(t.Document, t.Clipboard, at.Row);
-            }},
-    Command{"mnuCopyEvent", Command::EventHead,
-            [](Twin& t, const Place& at) { CopyEvent(t.Document, t.Clipboard, at.Row); }},
-    Command{"mnuPasteEvent", Command::EventHead,
-            [](Twin& t, const Place& at) { PasteEvent(t.Document, t.Clipboard, at.Row); },
-            &PasteItems::Event},
-    Command{"mnuCopyEntryAction", Command::EntryCell,
-            [](Twin& t, const Place& at) { CopyEntryAction(t.Document, t.Clipboard, at.Column); }},
-    Command{"mnuCutEntryAction", Command::EntryCell,
-            [](Twin& t, const Place& at) { CutEntryAction(t.Document, t.Clipboard, at.Column); }},
-    Command{"mnuDeleteEntryAction", Command::EntryCell,
-            [](Twin& t, const Place& at) { DeleteEntryAction(t.Document, at.Column); }},
-    Command{"mnuPasteEntryAction", Command::EntryCell,
-            [](Twin& t, const Place& at) { PasteEntryAction(t.Document, t.Clipboard, at.Column); },
-            &PasteItems::EntryAction},
-    Command{"mnuCopyTransition", Command::TransitionCell,
-            [](Twin& t, const Place& at) {
-                CopyTransition(t.Document, t.Clipboard, {at.Row, at.Column});
-            }},
-    Command{"mnuCutTransition", Command::TransitionCell,
-            [](Twin& t, const Place& at) {
-                CutTransition(t.Document, t.Clipboard, {at.Row, at.Column});
-            }},
-    Command{"mnuPasteTransition", Command::TransitionCell,
-            [](Twin& t, const Place& at) {
-                PasteTransition(t.Document, t.Clipboard, {at.Row, at.Column});
-            },
-            &PasteItems::Transition},
-    Command{"mnuCopyTransAct", Command::TransitionCell,
-            [](Twin& t, const Place& at) {
-                CopyTransitionAction(t.Document, t.Clipboard, {at.Row, at.Column});
-            }},
-    Command{"mnuCutTransAct", Command::TransitionCell,
-            [](Twin& t, const Place& at) {
-                CutTransitionAction(t.Document, t.Clipboard, {at.Row, at.Column});
-            }},
-    Command{"mnuPasteTransAct", Command::TransitionCell,
-            [](Twin& t, const Place& at) {
-                PasteTransitionAction(t.Document, t.Clipboard, {at.Row, at.Column});
-            },
-            &PasteItems::TransitionAction},
+constexpr std::array kMenuCommands = {
+    MenuCommand{Command::InsertState, MenuCommand::StateHead,
+                [](Twin& t, const Place& at) { t.Told = InsertState(t.Document, t.Clipboard, at.Column); }},
+    MenuCommand{Command::DeleteState, MenuCommand::StateHead,
+                [](Twin& t, const Place& at) { DeleteState(t.Document, t.Clipboard, at.Column); }},
+    MenuCommand{Command::CopyState, MenuCommand::StateHead,
+                [](Twin& t, const Place& at) { CopyState(t.Document, t.Clipboard, at.Column); }},
+    MenuCommand{Command::PasteState, MenuCommand::StateHead,
+                [](Twin& t, const Place& at) { PasteState(t.Document, t.Clipboard, at.Column); },
+                &PasteItems::State},
+    MenuCommand{Command::InsertEvent, MenuCommand::EventHead,
+                [](Twin& t, const Place& at) { t.Told = InsertEvent(t.Document, t.Clipboard, at.Row); }},
+    MenuCommand{Command::DeleteEvent, MenuCommand::EventHead,
+                [](Twin& t, const Place& at) {
+                    t.Told = QuestionBeforeDeleteEvent(t.Document, at.Row);
+                    if (!t.Told || t.Yes)
+                        DeleteEvent(t.Document, t.Clipboard, at.Row);
+                }},
+    MenuCommand{Command::CopyEvent, MenuCommand::EventHead,
+                [](Twin& t, const Place& at) { CopyEvent(t.Document, t.Clipboard, at.Row); }},
+    MenuCommand{Command::PasteEvent, MenuCommand::EventHead,
+                [](Twin& t, const Place& at) { PasteEvent(t.Document, t.Clipboard, at.Row); },
+                &PasteItems::Event},
+    MenuCommand{Command::CopyEntryAction, MenuCommand::EntryCell,
+                [](Twin& t, const Place& at) { CopyEntryAction(t.Document, t.Clipboard, at.Column); }},
+    MenuCommand{Command::CutEntryAction, MenuCommand::EntryCell,
+                [](Twin& t, const Place& at) { CutEntryAction(t.Document, t.Clipboard, at.Column); }},
+    MenuCommand{Command::DeleteEntryAction, MenuCommand::EntryCell,
+                [](Twin& t, const Place& at) { DeleteEntryAction(t.Document, at.Column); }},
+    MenuCommand{Command::PasteEntryAction, MenuCommand::EntryCell,
+                [](Twin& t, const Place& at) { PasteEntryAction(t.Document, t.Clipboard, at.Column); },
+                &PasteItems::EntryAction},
+    MenuCommand{Command::CopyTransition, MenuCommand::TransitionCell,
+                [](Twin& t, const Place& at) {
+                    CopyTransition(t.Document, t.Clipboard, {at.Row, at.Column});
+                }},
+    MenuCommand{Command::CutTransition, MenuCommand::TransitionCell,
+                [](Twin& t, const Place& at) {
+                    CutTransition(t.Document, t.Clipboard, {at.Row, at.Column});
+                }},
+    MenuCommand{Command::PasteTransition, MenuCommand::TransitionCell,
+                [](Twin& t, const Place& at) {
+                    PasteTransition(t.Document, t.Clipboard, {at.Row, at.Column});
+                },
+                &PasteItems::Transition},
+    MenuCommand{Command::CopyAction, MenuCommand::TransitionCell,
+                [](Twin& t, const Place& at) {
+                    CopyTransitionAction(t.Document, t.Clipboard, {at.Row, at.Column});
+                }},
+    MenuCommand{Command::CutAction, MenuCommand::TransitionCell,
+                [](Twin& t, const Place& at) {
+                    CutTransitionAction(t.Document, t.Clipboard, {at.Row, at.Column});
+                }},
+    MenuCommand{Command::PasteAction, MenuCommand::TransitionCell,
+                [](Twin& t, const Place& at) {
+                    PasteTransitionAction(t.Document, t.Clipboard, {at.Row, at.Column});
+                },
+                &PasteItems::TransitionAction},
 };
 
+static_assert(test::EachPopUpCommandIsTried([](Command command) {
+    return std::any_of(kMenuCommands.begin(), kMenuCommands.end(),
+                       [command](const MenuCommand& tried) { return tried.Id == command; });
+}));
+
 struct Step {
-    Command Do;
+    MenuCommand Do;
     Place At;
     bool Yes;
 };
 
 void showValue(const Step& step, std::ostream& out) {
-    out << step.Do.Item << " at row " << step.At.Row << ", column " << step.At.Column
+    out << EntryOf(step.Do.Id).Name << " at row " << step.At.Row << ", column " << step.At.Column
         << (step.Yes ? ", yes" : ", no");
 }
 
@@ -115,19 +121,19 @@ rc::Gen<Step> AnyStep() {
             {{4, rc::gen::inRange(first, corner + 1)}, {1, rc::gen::inRange(first, last + 1)}});
     };
     return rc::gen::apply(
-        [](const Command& command, int row, int column, bool yes) {
+        [](const MenuCommand& command, int row, int column, bool yes) {
             switch (command.Where) {
-            case Command::StateHead:
+            case MenuCommand::StateHead:
                 return Step{command, {kHeadRow, column}, yes};
-            case Command::EventHead:
+            case MenuCommand::EventHead:
                 return Step{command, {row, 0}, yes};
-            case Command::EntryCell:
+            case MenuCommand::EntryCell:
                 return Step{command, {kEntryActionRow, column}, yes};
             default:
                 return Step{command, {row, column}, yes};
             }
         },
-        rc::gen::elementOf(kCommands), number(kFirstEventRow, 12, kLastRow), number(1, 8, kStateCount),
+        rc::gen::elementOf(kMenuCommands), number(kFirstEventRow, 12, kLastRow), number(1, 8, kStateCount),
         rc::gen::arbitrary<bool>());
 }
 
@@ -149,7 +155,7 @@ class RandomMenuCommands : public PopUpFixture {
 
     // The command in the window and on the twin; the window must offer it exactly when it should.
     void Take(const Step& step) {
-        QAction* item = PopUpWith(step.At.Row, step.At.Column, step.Do.Item);
+        QAction* item = PopUpWith(step.At.Row, step.At.Column, EntryOf(step.Do.Id).Name);
         PoppedUp();
         twin_.Offered = EnablePasteItems(twin_.Clipboard.Kind, twin_.Offered);
         RC_ASSERT(item != nullptr);
@@ -173,7 +179,7 @@ class RandomMenuCommands : public PopUpFixture {
     bool ShouldBeOffered(const Step& step) const {
         if (step.Do.Needs != nullptr)
             return twin_.Offered.*step.Do.Needs;
-        if (std::string_view(step.Do.Item) == "mnuDeleteState")
+        if (step.Do.Id == Command::DeleteState)
             return !ComputeReachability(twin_.Document).Reached(step.At.Column);
         return true;
     }

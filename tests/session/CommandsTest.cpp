@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "session/CommandState.h"
 #include "session/Session.h"
+#include "support/FileBytes.h"
+#include "support/Folders.h"
 
 #include <gmock/gmock.h>
 
@@ -14,7 +16,8 @@ std::string MenuTree() {
         const bool isTop = entry.Kind == EntryKind::BarMenu || entry.Kind == EntryKind::PopUpMenu;
         const bool isDeep = entry.Kind == EntryKind::SubItem;
         tree.append(isTop ? 0 : isDeep ? 4 : 2, ' ');
-        tree.append(entry.Name).append(entry.Caption.empty() ? "" : ": ").append(entry.Caption).append("\n");
+        tree.append(entry.Name.empty() ? "(a line)" : entry.Name);
+        tree.append(entry.Caption.empty() ? "" : ": ").append(entry.Caption).append("\n");
     }
     return tree;
 }
@@ -46,6 +49,7 @@ mnuHelp: Help
   mnuHelpPages: Help pages
   mnuRecent: Recent files
 
+  (a line)
   mnuAbout: About Orvane
 mnuColumnHead: ColumnHead
   mnuCopyState: Copy state
@@ -76,6 +80,38 @@ mnuEntryAction: EntryAction
   mnuDeleteEntryAction: Delete entry action
   mnuCutEntryAction: Cut entry action
 )");
+}
+
+// A command is named as the menu shows it; what stands in a submenu is in the row of that.
+std::map<std::string, std::string> RowsOfTheHelpPage() {
+    std::map<std::string, std::string> rows; // by the menu's name: the captions
+    std::string menu;
+    std::string subMenu;
+    for (const CommandEntry& entry : kCommands) {
+        if (entry.Kind == EntryKind::Divider)
+            continue;
+        if (entry.Kind == EntryKind::BarMenu || entry.Kind == EntryKind::PopUpMenu) {
+            menu = entry.Name;
+            continue;
+        }
+        if (entry.Kind == EntryKind::SubMenu)
+            subMenu = entry.Name;
+        std::string caption(entry.Caption);
+        std::erase(caption, '&');
+        std::string& row = rows[entry.Kind == EntryKind::SubItem ? subMenu : menu];
+        row += (row.empty() ? "" : ", ") + caption;
+    }
+    return rows;
+}
+
+TEST(Commands, EveryCommandStandsInTheHelpPageOfTheTableUnderItsMenu) {
+    const std::string page = FileBytes(std::string(test::kHelpFolder) + "/4835.htm");
+    for (const auto& [menu, captions] : RowsOfTheHelpPage()) {
+        const std::size_t begin = page.find("<tr id=\"" + menu + "\">");
+        ASSERT_NE(begin, std::string::npos) << menu;
+        const std::string row = page.substr(begin, page.find('\n', begin) - begin);
+        EXPECT_TRUE(row.ends_with("<td>" + captions + "</td></tr>")) << row << " should tell " << captions;
+    }
 }
 
 TEST(Commands, EveryPieceOfTheTableIsPastedOnlyWhenItIsOnTheClipboard) {

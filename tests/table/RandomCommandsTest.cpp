@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/PopUpCommands.h"
 #include "support/Property.h"
 #include "support/RandomDocument.h"
 #include "table/BacktrackList.h"
@@ -15,6 +16,12 @@ struct User {
     FsmDocument Document;
     TableClipboard Clipboard;
     PasteItems Offered;
+
+    // As a menu that comes up now.
+    bool IsOffered(bool PasteItems::*item) {
+        Offered = EnablePasteItems(Clipboard.Kind, Offered);
+        return Offered.*item;
+    }
 };
 
 struct Place {
@@ -24,69 +31,94 @@ struct Place {
     int Number;   // that is typed; its parity is the answer to a question
 };
 
-struct Command {
-    const char* What;
+struct UserCommand {
+    std::optional<Command> Id; // none: a number is typed
     void (*Run)(User& user, const Place& at);
 };
 
-constexpr std::array kCommands = {
-    Command{"insert state",
-            [](User& user, const Place& at) { InsertState(user.Document, user.Clipboard, at.State); }},
-    Command{"delete state",
-            [](User& user, const Place& at) { DeleteState(user.Document, user.Clipboard, at.State); }},
-    Command{"insert event",
-            [](User& user, const Place& at) { InsertEvent(user.Document, user.Clipboard, at.EventRow); }},
-    Command{"delete event",
-            [](User& user, const Place& at) {
-                if (!QuestionBeforeDeleteEvent(user.Document, at.EventRow) || at.Number % 2 == 0)
-                    DeleteEvent(user.Document, user.Clipboard, at.EventRow);
-            }},
-    Command{"type",
-            [](User& user, const Place& at) {
-                StoreTypedTarget(user.Document, {at.Row, at.State}, std::to_string(at.Number));
-            }},
-    Command{"copy state",
-            [](User& user, const Place& at) { CopyState(user.Document, user.Clipboard, at.State); }},
-    Command{"copy event",
-            [](User& user, const Place& at) { CopyEvent(user.Document, user.Clipboard, at.EventRow); }},
-    Command{"cut entry action",
-            [](User& user, const Place& at) { CutEntryAction(user.Document, user.Clipboard, at.State); }},
-    Command{"copy transition",
-            [](User& user, const Place& at) {
-                CopyTransition(user.Document, user.Clipboard, {at.Row, at.State});
-            }},
-    Command{"cut transition",
-            [](User& user, const Place& at) {
-                CutTransition(user.Document, user.Clipboard, {at.Row, at.State});
-            }},
-    Command{"cut action",
-            [](User& user, const Place& at) {
-                CutTransitionAction(user.Document, user.Clipboard, {at.Row, at.State});
-            }},
-    Command{"paste",
-            [](User& user, const Place& at) {
-                user.Offered = EnablePasteItems(user.Clipboard.Kind, user.Offered);
-                if (user.Offered.State)
-                    PasteState(user.Document, user.Clipboard, at.State);
-                if (user.Offered.Event)
-                    PasteEvent(user.Document, user.Clipboard, at.EventRow);
-                if (user.Offered.EntryAction)
-                    PasteEntryAction(user.Document, user.Clipboard, at.State);
-                if (user.Offered.Transition)
-                    PasteTransition(user.Document, user.Clipboard, {at.Row, at.State});
-                if (user.Offered.TransitionAction)
-                    PasteTransitionAction(user.Document, user.Clipboard, {at.Row, at.State});
-            }},
+constexpr std::array kUserCommands = {
+    UserCommand{Command::InsertState,
+                [](User& user, const Place& at) { InsertState(user.Document, user.Clipboard, at.State); }},
+    UserCommand{Command::DeleteState,
+                [](User& user, const Place& at) { DeleteState(user.Document, user.Clipboard, at.State); }},
+    UserCommand{Command::InsertEvent,
+                [](User& user, const Place& at) { InsertEvent(user.Document, user.Clipboard, at.EventRow); }},
+    UserCommand{Command::DeleteEvent,
+                [](User& user, const Place& at) {
+                    if (!QuestionBeforeDeleteEvent(user.Document, at.EventRow) || at.Number % 2 == 0)
+                        DeleteEvent(user.Document, user.Clipboard, at.EventRow);
+                }},
+    UserCommand{std::nullopt,
+                [](User& user, const Place& at) {
+                    StoreTypedTarget(user.Document, {at.Row, at.State}, std::to_string(at.Number));
+                }},
+    UserCommand{Command::CopyState,
+                [](User& user, const Place& at) { CopyState(user.Document, user.Clipboard, at.State); }},
+    UserCommand{Command::CopyEvent,
+                [](User& user, const Place& at) { CopyEvent(user.Document, user.Clipboard, at.EventRow); }},
+    UserCommand{Command::CutEntryAction,
+                [](User& user, const Place& at) { CutEntryAction(user.Document, user.Clipboard, at.State); }},
+    UserCommand{Command::CopyTransition,
+                [](User& user, const Place& at) {
+                    CopyTransition(user.Document, user.Clipboard, {at.Row, at.State});
+                }},
+    UserCommand{Command::CutTransition,
+                [](User& user, const Place& at) {
+                    CutTransition(user.Document, user.Clipboard, {at.Row, at.State});
+                }},
+    UserCommand{Command::CutAction,
+                [](User& user, const Place& at) {
+                    CutTransitionAction(user.Document, user.Clipboard, {at.Row, at.State});
+                }},
+    UserCommand{
+        Command::CopyEntryAction,
+        [](User& user, const Place& at) { CopyEntryAction(user.Document, user.Clipboard, at.State); }},
+    UserCommand{Command::DeleteEntryAction,
+                [](User& user, const Place& at) { DeleteEntryAction(user.Document, at.State); }},
+    UserCommand{Command::CopyAction,
+                [](User& user, const Place& at) {
+                    CopyTransitionAction(user.Document, user.Clipboard, {at.Row, at.State});
+                }},
+    UserCommand{Command::PasteState,
+                [](User& user, const Place& at) {
+                    if (user.IsOffered(&PasteItems::State))
+                        PasteState(user.Document, user.Clipboard, at.State);
+                }},
+    UserCommand{Command::PasteEvent,
+                [](User& user, const Place& at) {
+                    if (user.IsOffered(&PasteItems::Event))
+                        PasteEvent(user.Document, user.Clipboard, at.EventRow);
+                }},
+    UserCommand{Command::PasteEntryAction,
+                [](User& user, const Place& at) {
+                    if (user.IsOffered(&PasteItems::EntryAction))
+                        PasteEntryAction(user.Document, user.Clipboard, at.State);
+                }},
+    UserCommand{Command::PasteTransition,
+                [](User& user, const Place& at) {
+                    if (user.IsOffered(&PasteItems::Transition))
+                        PasteTransition(user.Document, user.Clipboard, {at.Row, at.State});
+                }},
+    UserCommand{Command::PasteAction,
+                [](User& user, const Place& at) {
+                    if (user.IsOffered(&PasteItems::TransitionAction))
+                        PasteTransitionAction(user.Document, user.Clipboard, {at.Row, at.State});
+                }},
 };
 
+static_assert(EachPopUpCommandIsTried([](Command command) {
+    return std::any_of(kUserCommands.begin(), kUserCommands.end(),
+                       [command](const UserCommand& tried) { return tried.Id == command; });
+}));
+
 struct Step {
-    Command Do;
+    UserCommand Do;
     Place At;
 };
 
 void showValue(const Step& step, std::ostream& out) {
-    out << step.Do.What << " at state " << step.At.State << ", row " << step.At.Row << ", event row "
-        << step.At.EventRow << ", number " << step.At.Number;
+    out << (step.Do.Id ? EntryOf(*step.Do.Id).Name : "typing") << " at state " << step.At.State << ", row "
+        << step.At.Row << ", event row " << step.At.EventRow << ", number " << step.At.Number;
 }
 
 rc::Gen<Step> AnyStep() {
@@ -96,10 +128,10 @@ rc::Gen<Step> AnyStep() {
                               rc::gen::set(&Place::EventRow, rc::gen::inRange(kFirstEventRow, kLastRow + 1)),
                               rc::gen::set(&Place::Number, rc::gen::inRange(-5, 111)));
     return rc::gen::apply(
-        [](const Command& command, const Place& at) {
+        [](const UserCommand& command, const Place& at) {
             return Step{command, at};
         },
-        rc::gen::elementOf(kCommands), place);
+        rc::gen::elementOf(kUserCommands), place);
 }
 
 void RequireValid(const User& user) {

@@ -8,20 +8,20 @@
 
 namespace orvane {
 
-QAction* PopUpFixture::PopUpWith(int row, int column, const char* item) {
+QAction* PopUpFixture::PopUpWith(int row, int column, std::string_view item) {
     Click(row, column, Qt::RightButton);
     const auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-    return menu == nullptr ? nullptr : menu->findChild<QAction*>(QLatin1String(item));
+    return menu == nullptr ? nullptr : menu->findChild<QAction*>(QLatin1String(QByteArrayView(item)));
 }
 
-bool PopUpFixture::IsOffered(int row, int column, const char* item) {
+bool PopUpFixture::IsOffered(int row, int column, std::string_view item) {
     const QAction* action = PopUpWith(row, column, item);
     EXPECT_NE(action, nullptr) << "no " << item << " at row " << row << ", column " << column;
     PoppedUp();
     return action != nullptr && action->isEnabled();
 }
 
-void PopUpFixture::Choose(int row, int column, const char* item) {
+void PopUpFixture::Choose(int row, int column, std::string_view item) {
     QAction* action = PopUpWith(row, column, item);
     PoppedUp();
     ASSERT_NE(action, nullptr) << "no " << item << " at row " << row << ", column " << column;

@@ -5,6 +5,7 @@
 
 #include <functional>
 #include <map>
+#include <string_view>
 
 class QMenu;
 
@@ -14,10 +15,10 @@ namespace orvane {
 class PopUpFixture : public TableFixture {
   protected:
     // Presses the right button on the cell; whether the menu that comes up there offers the item.
-    bool IsOffered(int row, int column, const char* item);
+    bool IsOffered(int row, int column, std::string_view item);
 
     // Presses the right button on the cell and picks the item, which must be offered there.
-    void Choose(int row, int column, const char* item);
+    void Choose(int row, int column, std::string_view item);
 
     // Which of the paste commands are offered, each in the menu that it stands in.
     std::map<std::string, bool> OfferedPastes();
@@ -29,7 +30,7 @@ class PopUpFixture : public TableFixture {
     int UndoSteps();
 
     // The item in the menu that comes up by a right press on the cell, and stays open; null when it has none.
-    QAction* PopUpWith(int row, int column, const char* item);
+    QAction* PopUpWith(int row, int column, std::string_view item);
 };
 
 } // namespace orvane
