@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The snapshot image of a document: one string, kept in memory for undo and to tell whether the document is
-// modified. It is never written to a file.
+// modified, and in the journal. It is no format for documents: it drops what undo need not bring back.
 //
 // Two kinds of item. A number is one character whose code is the number, 0..255. A text is the text followed
 // by the delimiter; it cannot hold the delimiter, which would break the order of the fields behind it.

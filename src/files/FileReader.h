@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The one reader of files: all of a file or none of it.
+// Reads a file as a whole, for both programs: all of it or none.
 #pragma once
 
 #include "files/FileError.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The one writer of files: all or nothing.
+// Writes a file as a whole, for both programs: all or nothing.
 #pragma once
 
 #include "files/FileError.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The one pair of functions between document text (Windows-1252 bytes) and what windows show (Unicode).
+// From document text (Windows-1252 bytes) to what windows show (Unicode), and back.
 #pragma once
 
 #include <QString>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The one door to the desktop: everything that the program has opened for it passes here.
+// Whatever the desktop is to open for the program is asked for here.
 #pragma once
 
 #include <QUrl>

@@ -47,4 +47,11 @@ QMessageBox::StandardButton AskYesNoCancel(QWidget* parent, const QString& title
     return Run(box);
 }
 
+bool Ask(QWidget* parent, const YesNoQuestion& question) {
+    QMessageBox box(question.Icon, question.Title, question.Text, QMessageBox::Yes | QMessageBox::No, parent);
+    box.setDefaultButton(question.ByReturn);
+    box.setEscapeButton(QMessageBox::No);
+    return Run(box) == QMessageBox::Yes;
+}
+
 } // namespace orvane

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The one place where messages become message boxes.
+// Messages and questions in boxes, their text as it stands: a path is not taken for markup.
 #pragma once
 
 #include "core/UserMessage.h"
@@ -16,5 +16,15 @@ void Tell(QWidget* parent, const QString& text, QMessageBox::Icon icon = QMessag
 
 // Asks with the buttons Yes, No and Cancel; closing the box is Cancel.
 QMessageBox::StandardButton AskYesNoCancel(QWidget* parent, const QString& title, const QString& text);
+
+struct YesNoQuestion {
+    QString Title;
+    QString Text;
+    QMessageBox::Icon Icon;
+    QMessageBox::StandardButton ByReturn; // what Return presses; closing the box is No
+};
+
+// Whether the answer is Yes.
+[[nodiscard]] bool Ask(QWidget* parent, const YesNoQuestion& question);
 
 } // namespace orvane

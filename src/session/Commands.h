@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The catalogue of commands: menus, keys, tests and help read it, and nobody names a command otherwise.
+// The catalogue of commands: menus and keys are made from it, tests and the check of the help read it.
 #pragma once
 
 #include <array>

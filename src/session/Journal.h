@@ -15,8 +15,8 @@ namespace orvane {
 
 class Session;
 
-// Keeps a journal of what happens in a session, so that whenever the program ends nothing drawn is lost. It
-// is told of every change before anything else can fail.
+// Keeps a journal of what happens in a session, so that however the program ends nothing drawn is lost but
+// the last letters in an open editor. It is told of a change before what writes the program or asks the user.
 class Journal final : public SessionObserver, private JournalSource {
   public:
     // The session outlives this and tells it from now on.

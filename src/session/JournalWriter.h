@@ -31,8 +31,9 @@ struct JournalPlace {
 // goes when the disk has the new one; so whenever the process ends there is a journal of everything up to the
 // last call.
 //
-// A call never fails and never waits for the disk. What could not be written is in the file that is begun
-// next; while none can be begun the user is told and drawing goes on.
+// A call does not fail, and drawing does not wait for the disk: SyncNow does, and Closed for what is
+// discarded. What could not be written is in the file that is begun next; while none can be begun the user is
+// told.
 class JournalWriter {
   public:
     static constexpr std::size_t kMostBytes = 32u << 20; // written to a file since it was begun

@@ -229,10 +229,8 @@ bool frmBuilder::ChooseNameToSave() {
 bool frmBuilder::MayReplace(const QString& path) {
     if (path == knownFile_ || !QFileInfo::exists(path))
         return true;
-    const auto answer = QMessageBox::question(this, QStringLiteral("Orvane"),
-                                              tr("%1 exists already. Do you want to replace it?").arg(path),
-                                              QMessageBox::Yes | QMessageBox::No, QMessageBox::No);
-    return answer == QMessageBox::Yes;
+    return Ask(this, {QStringLiteral("Orvane"), tr("%1 exists already. Do you want to replace it?").arg(path),
+                      QMessageBox::Question, QMessageBox::No});
 }
 
 void frmBuilder::SelectFile() {

@@ -12,7 +12,7 @@ namespace orvane {
 
 class frmGenerator;
 
-// The program of the document: written after every change, and shown in a window with its report.
+// The program of the document: made anew when the design has changed, and shown with its report.
 class GeneratorRoom : public Room {
     Q_OBJECT
 

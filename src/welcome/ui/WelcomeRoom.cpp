@@ -51,11 +51,9 @@ class OncePainted : public QObject {
 };
 
 void OfferUpdate(QWidget* window, const std::string& latestVersion) {
-    QMessageBox box(QMessageBox::Information, QStringLiteral("Update available"),
-                    QString::fromStdString(UpdateQuestion(ProgramVersion(), latestVersion)),
-                    QMessageBox::Yes | QMessageBox::No, window);
-    box.setTextFormat(Qt::PlainText);
-    if (box.exec() == QMessageBox::Yes)
+    if (Ask(window, {QStringLiteral("Update available"),
+                     QString::fromStdString(UpdateQuestion(ProgramVersion(), latestVersion)),
+                     QMessageBox::Information, QMessageBox::Yes}))
         OpenInDesktop(DownloadPage());
 }
 
