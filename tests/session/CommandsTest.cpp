@@ -48,7 +48,6 @@ mnuPref: Preferences
 mnuHelp: Help
   mnuHelpPages: Help pages
   mnuRecent: Recent files
-
   (a line)
   mnuAbout: About Orvane
 mnuColumnHead: ColumnHead
