@@ -122,6 +122,15 @@ TEST(JournalRecord, ABodyThatIsLongerThanItsRecordDoesNotPass) {
     }
 }
 
+TEST(JournalRecord, AFlagIsZeroOrOne) {
+    for (const std::string_view body : {std::string_view("\0\0\0", 3), std::string_view("\1\0\0", 3)}) {
+        JournalBytesReader reader(body);
+        EXPECT_TRUE(ReadContent(TypeOf(ImageRecord{}), reader));
+    }
+    JournalBytesReader reader(std::string_view("\2\0\0", 3));
+    EXPECT_FALSE(ReadContent(TypeOf(ImageRecord{}), reader));
+}
+
 TEST(JournalRecord, APlaceOutsideTheTableDoesNotPass) {
     for (const auto& [row, state] :
          {std::pair(55, 1), std::pair(1, 101), std::pair(-1, 0), std::pair(0, -1)}) {

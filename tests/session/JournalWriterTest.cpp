@@ -169,6 +169,7 @@ TEST_F(JournalWriterTest, WhatTheUserDidNotWantIsKeptAmongTheDiscarded) {
 TEST_F(JournalWriterTest, TheNextDocumentHasAJournalOfItsOwn) {
     JournaledWindow window(Place());
     window.Edit("0 second");
+    window.Writer.Adopt({}, 0); // begins a file that replaces the first
     window.Writer.Closed(JournalClose::NothingUnsaved);
     window.Images = {{"0 other document", "", {}}};
     window.Current = 0;
@@ -320,6 +321,20 @@ TEST_F(JournalWriterTest, AFailedSyncBeginsANewFile) {
     window.Writer.SyncNow();
     window.Edit("0 third");
     EXPECT_NE(window.Writer.Name(), first);
+}
+
+TEST_F(JournalWriterTest, AnOldFileStaysUntilASyncOfSomethingNewerSucceeds) {
+    JournaledWindow window(Place());
+    window.Edit("0 second");
+    const std::string first = std::string(kFolder) + "/" + window.Writer.Name();
+    window.Writer.Adopt({}, 0); // begins a file that replaces the first
+    Files.FailAt(1, make_error_code(std::errc::io_error));
+    window.Writer.SyncNow();
+    EXPECT_EQ(Files.OpenLocked(first, Existence::Old).Failure, std::errc::device_or_resource_busy);
+    window.Edit("0 third");
+    EXPECT_THAT(Found(), SizeIs(3));
+    window.Writer.SyncNow();
+    EXPECT_EQ(Differences(Only(), window), "");
 }
 
 // One session with every kind of call, and then every call to the system failing in turn, for each reason
