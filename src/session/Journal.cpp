@@ -34,8 +34,18 @@ Journal::Journal(Session& session, JournalPlace place)
 }
 
 void Journal::Told(const Change& change) {
+    const bool isOver = change.Kind == ChangeKind::Saved || change.Kind == ChangeKind::Replaced ||
+                        change.Kind == ChangeKind::Left;
     if (keeps_)
         Write(change);
+    else if (isOver)
+        Close(change);
+}
+
+// Steps that are not told would be missing in front of the next one, which says only what it changed.
+void Journal::Keep(bool keep) {
+    keeps_ = keep;
+    writer_.Pause();
 }
 
 void Journal::Write(const Change& change) {

@@ -33,8 +33,8 @@ class Journal final : public SessionObserver, private JournalSource {
     // becomes one more step each. From the first moment on this journal holds all of it.
     void GoOnWith(AdoptedJournal recovered);
 
-    // Whether a journal is kept at all. What was written so far stays.
-    void Keep(bool keep) { keeps_ = keep; }
+    // Whether a journal is kept at all. What was written so far stays until the document is saved or left.
+    void Keep(bool keep);
 
     // Waits until the disk has everything.
     void SyncNow() { writer_.SyncNow(); }

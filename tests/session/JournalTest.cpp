@@ -234,6 +234,27 @@ TEST_F(JournalTest, WhereCopiesAreForbiddenNothingIsWritten) {
     EXPECT_THAT(Files.AllNames(), IsEmpty());
 }
 
+// The names are of one length, so that nothing but the switch itself says that a step is missing.
+TEST_F(JournalTest, WhatWasDrawnWhileNoneWasKeptIsThereWhenOneIsKeptAgain) {
+    Window window(Files, FsmDocument(), "/home/me/pump.zfsm");
+    window.Name(1, "Idle");
+    window.Keeper.Keep(false);
+    window.Name(2, "Wait");
+    window.Keeper.Keep(true);
+    window.Name(3, "Stop");
+    window.Keeper.SyncNow();
+    ExpectTheSameAfterACrash(window);
+}
+
+TEST_F(JournalTest, WhatWasWrittenBeforeTheSwitchGoesWithTheSave) {
+    Window window(Files, FsmDocument(), "/home/me/pump.zfsm");
+    window.Name(1, "Idle");
+    window.Keeper.Keep(false);
+    EXPECT_THAT(Files.AllNames(), SizeIs(1));
+    window.Open.MarkSaved("/home/me/pump.zfsm", JournalStamp{5, 6, {}});
+    EXPECT_THAT(Files.AllNames(), IsEmpty());
+}
+
 TEST_F(JournalTest, ADocumentThatUndoCannotCarryComesBackAsItWas) {
     FsmDocument document;
     document.State(1).EntryCode = "a \xA4 b";
