@@ -29,6 +29,8 @@ class DocumentLifecycle : public Room {
     void NewGrid();
     // Opens the document, after the question about unsaved work.
     void OpenFile(const QString& path);
+    // Whether another document may take the place of this one, after the question about unsaved work.
+    bool GuardBeforeOpen();
 
   private:
     void New();
@@ -45,7 +47,6 @@ class DocumentLifecycle : public Room {
     void TellBreakOff(const QString& path, const ReaderMessage& message);
     // Whether the command that would lose unsaved work may go on.
     bool GuardUnsavedWork(const QString& title, const QString& question);
-    bool GuardBeforeOpen();
     bool WriteTo(const QString& path);
     QString FileName() const;
     QString StartFolder() const;

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/Remembered.h"
 
-#include <QSettings>
+#include "kit/Settings.h"
+
 #include <QWidget>
 
 namespace orvane {
@@ -9,14 +10,6 @@ namespace orvane {
 namespace {
 
 constexpr int kMostFiles = 9;
-
-// A file of its own under the user's settings, also on Windows: nothing is left behind in a registry.
-class Settings : public QSettings {
-  public:
-    Settings()
-        : QSettings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("Orvane"),
-                    QStringLiteral("orvane")) {}
-};
 
 QString FilesKey() { return QStringLiteral("RecentFiles"); }
 

@@ -85,6 +85,10 @@ void frmTable::AddRoom(std::unique_ptr<Room> room) {
     });
     connect(room.get(), &Room::CommandWanted, this, &frmTable::Run);
     connect(room.get(), &Room::MenuWanted, this, &frmTable::PopUp);
+    connect(room.get(), &Room::LeaveWanted, this, [this](bool& mayLeave) {
+        Prepare(Command::FileOpen);
+        mayLeave = lifecycle_->GuardBeforeOpen();
+    });
     connect(room.get(), &Room::Said, status_, &TableStatusBar::Say);
     ears_.push_back(std::make_unique<RoomEar>(*room));
     session_.Observe(room->Rank(), *ears_.back());

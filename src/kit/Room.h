@@ -63,6 +63,9 @@ class Room : public QObject {
     void EditWanted(orvane::Cell place);
     void CommandWanted(orvane::Command command);
     void MenuWanted(orvane::Command menu, const QPoint& globalPosition);
+    // The open document is about to be left for another one: asks the user about unsaved work. The answer is
+    // there when the signal returns.
+    void LeaveWanted(bool& mayLeave);
     // A line for the status bar.
     void Said(const QString& text);
 };

@@ -39,6 +39,14 @@ void Tell(QWidget* parent, const QString& text, QMessageBox::Icon icon) {
     Run(box);
 }
 
+bool AskYesNo(QWidget* parent, const QString& text) {
+    QMessageBox box(QMessageBox::NoIcon, QStringLiteral("Orvane"), text, QMessageBox::Yes | QMessageBox::No,
+                    parent);
+    box.setDefaultButton(QMessageBox::No);
+    box.setEscapeButton(QMessageBox::No);
+    return Run(box) == QMessageBox::Yes;
+}
+
 QMessageBox::StandardButton AskYesNoCancel(QWidget* parent, const QString& title, const QString& text) {
     QMessageBox box(QMessageBox::NoIcon, title, text,
                     QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, parent);

@@ -14,6 +14,9 @@ QMessageBox::StandardButton Show(QWidget* parent, const UserMessage& message);
 // Tells something with the program's name as the title.
 void Tell(QWidget* parent, const QString& text, QMessageBox::Icon icon = QMessageBox::NoIcon);
 
+// Asks with the buttons Yes and No before something that cannot be taken back; No is what Return presses.
+[[nodiscard]] bool AskYesNo(QWidget* parent, const QString& text);
+
 // Asks with the buttons Yes, No and Cancel; closing the box is Cancel.
 QMessageBox::StandardButton AskYesNoCancel(QWidget* parent, const QString& title, const QString& text);
 

@@ -28,6 +28,8 @@ TEST(Commands, TheMenusAreTheGivenOnesWithHelpBehindThem) {
   mnuFOpen: Open
   mnuFSave: Save
   mnuFSaveAs: Save &As
+  
+  mnuFRecover: Recover earlier work
 mnuEdit: Edit
   mnuUndo: Undo
   mnuRedo: Redo

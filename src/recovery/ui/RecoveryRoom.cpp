@@ -2,20 +2,31 @@
 #include "recovery/ui/RecoveryRoom.h"
 
 #include "core/ProgramVersion.h"
+#include "kit/AnsiString.h"
+#include "kit/KeepsJournal.h"
+#include "kit/UserMessageBox.h"
+#include "recovery/ui/RecoveryTexts.h"
+#include "recovery/ui/WorkList.h"
+#include "recovery/ui/frmRecovery.h"
+#include "session/Commands.h"
+#include "session/Session.h"
 
-#include <chrono>
+#include <QEvent>
+#include <QMainWindow>
+#include <QWindow>
+
+#include <array>
+#include <utility>
 
 namespace orvane {
 
 namespace {
 
+constexpr auto kOwnCommands = std::to_array<Command>({Command::RecoverWork});
+
 std::string Variable(const char* name) { return qEnvironmentVariable(name).toStdString(); }
 
-JournalTime Now() {
-    return std::chrono::time_point_cast<std::chrono::milliseconds>(std::chrono::system_clock::now());
-}
-
-std::optional<FileSystem::Path> Folder() {
+std::optional<FileSystem::Path> FolderPath() {
     return RecoveryFolderPath({.XdgStateHome = Variable("XDG_STATE_HOME"),
                                .Home = Variable("HOME"),
                                .LocalAppData = Variable("LOCALAPPDATA")});
@@ -23,11 +34,25 @@ std::optional<FileSystem::Path> Folder() {
 
 } // namespace
 
-RecoveryRoom::RecoveryRoom(const RoomPlace& place) {
+RecoveryRoom::RecoveryRoom(const RoomPlace& place) : session_(place.Open), main_(place.Window) {
     draftsDue_.setSingleShot(true);
     connect(&draftsDue_, &QTimer::timeout, this, &RecoveryRoom::WaitForDrafts);
-    if (const std::optional<FileSystem::Path> folder = Folder())
-        journal_.emplace(place.Open, JournalPlace{files_, *folder, "Orvane " + ProgramVersion(), &Now});
+    if (const std::optional<FileSystem::Path> path = FolderPath()) {
+        folder_.emplace(files_, *path);
+        journal_.emplace(place.Open, JournalPlace{files_, *path, "Orvane " + ProgramVersion(), &TimeNow});
+        journal_->Keep(KeepsJournal());
+    }
+}
+
+RecoveryRoom::~RecoveryRoom() = default;
+
+std::span<const Command> RecoveryRoom::Commands() const { return kOwnCommands; }
+
+void RecoveryRoom::Run(Command) {
+    Refresh();
+    Window().show();
+    Window().raise();
+    Window().activateWindow();
 }
 
 ObserverRank RecoveryRoom::Rank() const { return ObserverRank::Rooms; }
@@ -50,6 +75,109 @@ void RecoveryRoom::WaitForDrafts() {
         draftsDue_.start(left);
     else
         journal_->WriteDrafts();
+}
+
+// The user sees the table first; what the folder costs comes afterwards.
+void RecoveryRoom::Start(const CommandLine&) {
+    QWindow* window = main_.windowHandle();
+    if (window == nullptr || window->isExposed())
+        QTimer::singleShot(0, this, &RecoveryRoom::LookAround);
+    else
+        window->installEventFilter(this);
+}
+
+bool RecoveryRoom::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Expose) {
+        watched->removeEventFilter(this);
+        QTimer::singleShot(0, this, &RecoveryRoom::LookAround);
+    }
+    return Room::eventFilter(watched, event);
+}
+
+// The window comes up by itself, so it does not take the keys that are meant for the table.
+void RecoveryRoom::LookAround() {
+    if (!folder_)
+        return;
+    folder_->Age(TimeNow());
+    WorkList work = Work();
+    if (work.Left.empty())
+        return;
+    Window().ShowWork(std::move(work));
+    Window().setAttribute(Qt::WA_ShowWithoutActivating);
+    Window().show();
+    Window().setAttribute(Qt::WA_ShowWithoutActivating, false);
+}
+
+WorkList RecoveryRoom::Work() { return folder_ ? ListWork(files_, *folder_) : WorkList(); }
+
+frmRecovery& RecoveryRoom::Window() {
+    if (frmRecovery_ == nullptr) {
+        frmRecovery_ = new frmRecovery(&main_);
+        frmRecovery_->ShowKeepJournal(KeepsJournal());
+        connect(frmRecovery_, &frmRecovery::RecoverWanted, this, &RecoveryRoom::Recover);
+        connect(frmRecovery_, &frmRecovery::DiscardWanted, this, &RecoveryRoom::Discard);
+        connect(frmRecovery_, &frmRecovery::DeleteAllWanted, this, &RecoveryRoom::DeleteAll);
+        connect(frmRecovery_, &frmRecovery::KeepJournalChosen, this, &RecoveryRoom::Keep);
+    }
+    return *frmRecovery_;
+}
+
+void RecoveryRoom::Refresh() { Window().ShowWork(Work()); }
+
+void RecoveryRoom::Recover(const std::string& name) {
+    bool mayLeave = false;
+    Q_EMIT LeaveWanted(mayLeave);
+    if (!mayLeave)
+        return;
+    Result<AdoptedJournal> adopted = folder_->Adopt(name, TimeNow());
+    if (adopted.Failure)
+        Tell(frmRecovery_, WhyNotTaken(adopted.Failure));
+    else if (!adopted.Got.Journal.History.empty())
+        return GoOnWith(std::move(adopted.Got));
+    else {
+        folder_->LetGo(adopted.Got);
+        Tell(frmRecovery_, NothingReadable());
+    }
+    Refresh();
+}
+
+void RecoveryRoom::GoOnWith(AdoptedJournal recovered) {
+    const RecoveredNews news = NewsOf(recovered.Journal);
+    const std::vector<std::string> messages = recovered.Journal.Messages;
+    journal_->GoOnWith(std::move(recovered));
+    const WorkList work = Work();
+    Window().ShowWork(work);
+    if (work.Left.empty())
+        Window().hide();
+    main_.activateWindow();
+    Q_EMIT Said(news.Line);
+    if (!news.Loss.isEmpty())
+        Tell(&main_, news.Loss);
+    for (const std::string& message : messages)
+        Tell(&main_, FromAnsi(message));
+}
+
+void RecoveryRoom::Discard(const std::string& name) {
+    if (const std::error_code failure = folder_->Discard(name, TimeNow()))
+        Tell(frmRecovery_, WhyNotTaken(failure));
+    Refresh();
+}
+
+void RecoveryRoom::DeleteAll() {
+    if (const std::size_t left = folder_->DeleteAll())
+        Tell(frmRecovery_, NotAllDeleted(left, *FolderPath()));
+    Refresh();
+}
+
+void RecoveryRoom::Keep(bool keep) {
+    SetKeepsJournal(keep);
+    if (journal_)
+        journal_->Keep(keep);
+}
+
+void RecoveryRoom::Close() {
+    if (frmRecovery_ != nullptr)
+        frmRecovery_->hide();
 }
 
 } // namespace orvane

@@ -7,27 +7,53 @@
 
 #include <QTimer>
 
+#include <memory>
 #include <optional>
 
 namespace orvane {
 
-// Keeps the journal of what is drawn in this window.
+class frmRecovery;
+struct WorkList;
+
+// Keeps the journal of what is drawn in this window, and gives back what other windows have left behind.
 class RecoveryRoom : public Room {
     Q_OBJECT
 
   public:
     explicit RecoveryRoom(const RoomPlace& place);
+    ~RecoveryRoom() override;
 
+    std::span<const Command> Commands() const override;
+    void Run(Command command) override;
     ObserverRank Rank() const override;
     bool Listens() const override { return journal_.has_value(); }
     void Told(const Change& change) override;
+    void Start(const CommandLine& commandLine) override;
+    void Close() override;
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     void WaitForDrafts();
+    // Looks for work that was left behind, and offers it when there is any.
+    void LookAround();
+    WorkList Work();
+    frmRecovery& Window();
+    void Refresh();
+    void Recover(const std::string& name);
+    void GoOnWith(AdoptedJournal recovered);
+    void Discard(const std::string& name);
+    void DeleteAll();
+    void Keep(bool keep);
 
+    Session& session_;
+    QMainWindow& main_;
     NativeFiles files_;
-    std::optional<Journal> journal_; // none where there is no place for it
+    std::optional<RecoveryFolder> folder_; // none where there is no place for it, and then no journal
+    std::optional<Journal> journal_;
     QTimer draftsDue_;
+    frmRecovery* frmRecovery_ = nullptr; // belongs to the main window, which it stands in front of
 };
 
 } // namespace orvane

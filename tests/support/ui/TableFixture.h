@@ -27,6 +27,8 @@ class TableFixture : public testing::Test {
     void StartOnBytes(const std::string& bytes);
     // Starts it with these arguments in the folder as it is.
     void Start(const QStringList& arguments = {});
+    // The window is gone without a word, as after a kill: only the journal is left of what was not saved.
+    void Crash() { window_.reset(); }
 
     QString Path(const QString& name) const { return folder_.filePath(name); }
     void WriteFile(const QString& name, const std::string& bytes) const;

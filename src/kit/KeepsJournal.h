@@ -1,0 +1,11 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+namespace orvane {
+
+// Whether unsaved changes are kept for recovery: yes, unless the user has switched that off for good, as
+// plants do in which no copies of a design may lie about.
+bool KeepsJournal();
+void SetKeepsJournal(bool keeps);
+
+} // namespace orvane

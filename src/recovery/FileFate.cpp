@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "recovery/FileFate.h"
+
+namespace orvane {
+
+std::optional<FileFate> FateBySizeAndTime(const FileAsKnown& known, std::uint64_t size, std::int64_t modified) {
+    if (size != known.Size)
+        return FileFate::ChangedSince;
+    if (modified == known.Modified)
+        return FileFate::AsItWas;
+    return std::nullopt;
+}
+
+FileFate FateByBytes(const FileAsKnown& known, const std::array<std::uint8_t, 32>& sha256) {
+    return sha256 == known.Sha256 ? FileFate::AsItWas : FileFate::ChangedSince;
+}
+
+} // namespace orvane

@@ -1,0 +1,353 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The real main window, left in the middle of the work and started again.
+#include "core/DocumentWriter.h"
+#include "files/NativeFiles.h"
+#include "session/RecoveryFolder.h"
+#include "support/ui/Controls.h"
+#include "support/ui/TableFixture.h"
+
+#include <QAbstractItemModel>
+#include <QCheckBox>
+#include <QDir>
+#include <QLabel>
+#include <QTest>
+#include <QTreeView>
+
+namespace orvane {
+namespace {
+
+const QString kNoDocument = QStringLiteral("/nosplash");
+
+JournalTime Now() { return std::chrono::floor<std::chrono::milliseconds>(std::chrono::system_clock::now()); }
+
+class RecoveryTest : public TableFixture {
+  protected:
+    RecoveryFolder Folder() { return {files_, FolderPath().toStdString()}; }
+    QString FolderPath() const { return Path(QStringLiteral("state/orvane/recovery")); }
+    QStringList Journals() const { return QDir(FolderPath()).entryList({QStringLiteral("*.orj")}); }
+
+    // A window that drew transitions of event 6 in the states from 1 on, each to itself, and was killed.
+    void LoseTransitions(const QString& document, int count) {
+        WriteFile(document, WriteDocument(PumpDocument()));
+        Start({Path(document)});
+        for (int state = 1; state <= count; ++state)
+            TypeTarget(6, state, QString::number(state));
+        Crash();
+    }
+    void LoseWork() { LoseTransitions(QStringLiteral("machine.zfsm"), 2); }
+
+    bool IsOffered() {
+        const QWidget* window = Find<QWidget>("frmRecovery");
+        return window != nullptr && window->isVisible();
+    }
+    // Starts again and waits until what was lost is offered.
+    void StartAgain() {
+        Start({kNoDocument});
+        ASSERT_TRUE(QTest::qWaitFor([this] { return IsOffered(); }));
+    }
+    QWidget& Recovery() { return *Find<QWidget>("frmRecovery"); }
+    QTreeView& List(const char* name) { return Named<QTreeView>(Recovery(), name); }
+    int Count(const char* list) { return List(list).model()->rowCount(); }
+    std::string Shown(const char* list, int row, int column) {
+        return List(list).model()->index(row, column).data().toString().toStdString();
+    }
+    void Choose(const char* list, int row) { List(list).setCurrentIndex(List(list).model()->index(row, 0)); }
+    bool IsEnabled(const char* button) { return Named<QPushButton>(Recovery(), button).isEnabled(); }
+
+  private:
+    NativeFiles files_;
+};
+
+TEST_F(RecoveryTest, WhatAKilledWindowHadDrawnIsOfferedAndComesBack) {
+    LoseWork();
+    StartAgain();
+    ASSERT_EQ(Count("lstRecovered"), 1);
+    EXPECT_EQ(Shown("lstRecovered", 0, 0), "machine.zfsm");
+    EXPECT_EQ(Shown("lstRecovered", 0, 1), QFileInfo(Path(QStringLiteral("x"))).path().toStdString());
+    EXPECT_TRUE(Shown("lstRecovered", 0, 2).starts_with("today "));
+    EXPECT_EQ(Shown("lstRecovered", 0, 3), "2");
+    EXPECT_EQ(Shown("lstRecovered", 0, 4), "as it was");
+
+    Press(Recovery(), "cmdRecover");
+    EXPECT_EQ(Text(6, 1), "1");
+    EXPECT_EQ(Text(6, 2), "2");
+    EXPECT_TRUE(Title().starts_with("*machine.zfsm"));
+    EXPECT_TRUE(Panel("Panel3").starts_with("Recovered: machine.zfsm"));
+    EXPECT_FALSE(IsOffered());
+}
+
+TEST_F(RecoveryTest, UndoAndRedoGoAcrossTheCrash) {
+    LoseWork();
+    StartAgain();
+    Press(Recovery(), "cmdRecover");
+    Trigger("mnuUndo");
+    EXPECT_EQ(Text(6, 2), "");
+    EXPECT_TRUE(Panel("Panel3").starts_with("Undone: transition"));
+    Trigger("mnuUndo");
+    EXPECT_EQ(Text(6, 1), "2");
+    EXPECT_FALSE(Title().starts_with("*")) << "this is what the file has";
+    EXPECT_FALSE(Item("mnuUndo")->isEnabled());
+    Trigger("mnuRedo");
+    Trigger("mnuRedo");
+    EXPECT_EQ(Text(6, 2), "2");
+    EXPECT_TRUE(Title().starts_with("*"));
+}
+
+TEST_F(RecoveryTest, ASaveBeforeTheCrashIsWhereTheStarGoes) {
+    StartOn(PumpDocument());
+    TypeTarget(6, 1, QStringLiteral("1"));
+    Trigger("mnuFSave");
+    TypeTarget(6, 2, QStringLiteral("1"));
+    Crash();
+    StartAgain();
+    EXPECT_EQ(Shown("lstRecovered", 0, 3), "1");
+    EXPECT_EQ(Shown("lstRecovered", 0, 4), "as it was");
+    Press(Recovery(), "cmdRecover");
+    EXPECT_TRUE(Title().starts_with("*"));
+    Trigger("mnuUndo");
+    EXPECT_FALSE(Title().starts_with("*"));
+    EXPECT_EQ(Text(6, 1), "1");
+}
+
+TEST_F(RecoveryTest, ASecondCrashLosesNothing) {
+    LoseWork();
+    StartAgain();
+    Press(Recovery(), "cmdRecover");
+    TypeTarget(7, 1, QStringLiteral("1"));
+    Crash();
+    StartAgain();
+    ASSERT_EQ(Count("lstRecovered"), 1);
+    EXPECT_EQ(Shown("lstRecovered", 0, 3), "3");
+    Press(Recovery(), "cmdRecover");
+    EXPECT_EQ(Text(7, 1), "1");
+    for (int step = 0; step < 3; ++step)
+        Trigger("mnuUndo");
+    EXPECT_EQ(Text(6, 1), "2");
+    EXPECT_FALSE(Title().starts_with("*"));
+}
+
+TEST_F(RecoveryTest, RecoveredAndSavedWorkIsNotOfferedAgain) {
+    LoseWork();
+    StartAgain();
+    Press(Recovery(), "cmdRecover");
+    EXPECT_EQ(SavedDocument().State(2).Targets[6], 2);
+    Window().close();
+    EXPECT_TRUE(Journals().isEmpty());
+}
+
+TEST_F(RecoveryTest, NothingIsOfferedAfterAnOrderlyEnd) {
+    StartOn(PumpDocument());
+    TypeTarget(6, 2, QStringLiteral("1"));
+    Trigger("mnuFSave");
+    Window().close();
+    Crash();
+    // What a broken start has left goes when the folder has been looked at.
+    QDir().mkpath(FolderPath());
+    const QString rest = QStringLiteral("state/orvane/recovery/20200101T000000Z-00000000.orj.new");
+    WriteFile(rest, "");
+    Start({kNoDocument});
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !QFile::exists(Path(rest)); }));
+    EXPECT_EQ(Find<QWidget>("frmRecovery"), nullptr);
+}
+
+TEST_F(RecoveryTest, TwoWindowsThatWereKilledAreTwoRowsTheLatestFirst) {
+    LoseTransitions(QStringLiteral("older.zfsm"), 1);
+    LoseTransitions(QStringLiteral("newer.zfsm"), 2);
+    StartAgain();
+    ASSERT_EQ(Count("lstRecovered"), 2);
+    EXPECT_EQ(Shown("lstRecovered", 0, 0), "newer.zfsm");
+    EXPECT_EQ(Shown("lstRecovered", 1, 0), "older.zfsm");
+    Choose("lstRecovered", 1);
+    Press(Recovery(), "cmdRecover");
+    EXPECT_TRUE(Title().starts_with("*older.zfsm"));
+    EXPECT_EQ(Text(6, 1), "1");
+    EXPECT_EQ(Text(6, 2), "");
+    EXPECT_TRUE(IsOffered()) << "there is more to recover";
+    ASSERT_EQ(Count("lstRecovered"), 1);
+    EXPECT_EQ(Shown("lstRecovered", 0, 0), "newer.zfsm");
+}
+
+TEST_F(RecoveryTest, TwoWindowsOfOneDocumentKeepTheirOwnWork) {
+    LoseTransitions(QStringLiteral("machine.zfsm"), 1);
+    LoseTransitions(QStringLiteral("machine.zfsm"), 3);
+    StartAgain();
+    ASSERT_EQ(Count("lstRecovered"), 2);
+    EXPECT_EQ(Shown("lstRecovered", 0, 3), "3");
+    EXPECT_EQ(Shown("lstRecovered", 1, 3), "1");
+}
+
+TEST_F(RecoveryTest, UnsavedWorkIsAskedForBeforeOtherWorkTakesItsPlace) {
+    LoseWork();
+    StartAgain();
+    TypeTarget(10, 5, QStringLiteral("7"));
+    Answers.Press(QMessageBox::Cancel);
+    Press(Recovery(), "cmdRecover");
+    EXPECT_EQ(Text(10, 5), "7");
+    EXPECT_EQ(Count("lstRecovered"), 1);
+    Answers.Press(QMessageBox::No);
+    Press(Recovery(), "cmdRecover");
+    EXPECT_EQ(Text(10, 5), "");
+    EXPECT_EQ(Text(6, 2), "2");
+    ASSERT_EQ(Answers.Seen().size(), 2u);
+    EXPECT_EQ(Answers.Seen()[0].Title, "Save?");
+    EXPECT_EQ(Answers.Seen()[0].Text, "Save current file?");
+    Trigger("mnuFRecover");
+    ASSERT_EQ(Count("lstDiscarded"), 1);
+    EXPECT_EQ(Shown("lstDiscarded", 0, 0), "[Untitled]");
+    EXPECT_EQ(Shown("lstDiscarded", 0, 4), "never saved");
+}
+
+TEST_F(RecoveryTest, DiscardAsksOnceAndCanBeTakenBack) {
+    LoseWork();
+    StartAgain();
+    Answers.Press(QMessageBox::No);
+    Press(Recovery(), "cmdDiscard");
+    EXPECT_EQ(Count("lstRecovered"), 1);
+    Answers.Press(QMessageBox::Yes);
+    Press(Recovery(), "cmdDiscard");
+    EXPECT_EQ(Answers.Seen()[1].Buttons, QMessageBox::Yes | QMessageBox::No);
+    EXPECT_EQ(Count("lstRecovered"), 0);
+    ASSERT_EQ(Count("lstDiscarded"), 1);
+    EXPECT_EQ(Named<QLabel>(Recovery(), "lblRecovered").text(),
+              QStringLiteral("There is no unsaved work to recover."));
+    EXPECT_FALSE(IsEnabled("cmdDiscard"));
+
+    Choose("lstDiscarded", 0);
+    Press(Recovery(), "cmdRecover");
+    EXPECT_EQ(Text(6, 2), "2");
+    EXPECT_TRUE(Title().starts_with("*machine.zfsm"));
+}
+
+TEST_F(RecoveryTest, OnlyOneRowIsChosenInBothLists) {
+    LoseTransitions(QStringLiteral("kept.zfsm"), 1);
+    LoseTransitions(QStringLiteral("left.zfsm"), 1);
+    StartAgain();
+    Answers.Press(QMessageBox::Yes);
+    Press(Recovery(), "cmdDiscard");
+    Choose("lstDiscarded", 0);
+    EXPECT_FALSE(List("lstRecovered").selectionModel()->hasSelection());
+    EXPECT_FALSE(IsEnabled("cmdDiscard"));
+    Choose("lstRecovered", 0);
+    EXPECT_FALSE(List("lstDiscarded").selectionModel()->hasSelection());
+    EXPECT_TRUE(IsEnabled("cmdDiscard"));
+}
+
+TEST_F(RecoveryTest, DeleteAllAsksAndLeavesOnlyWhatIsOpen) {
+    LoseTransitions(QStringLiteral("one.zfsm"), 1);
+    LoseTransitions(QStringLiteral("two.zfsm"), 1);
+    StartAgain();
+    TypeTarget(10, 5, QStringLiteral("7"));
+    ASSERT_EQ(Journals().size(), 3);
+    Answers.Press(QMessageBox::No);
+    Press(Recovery(), "cmdDeleteAll");
+    EXPECT_EQ(Count("lstRecovered"), 2);
+    Answers.Press(QMessageBox::Yes);
+    Press(Recovery(), "cmdDeleteAll");
+    EXPECT_EQ(Count("lstRecovered"), 0);
+    EXPECT_EQ(Journals().size(), 1) << "that of this window";
+    EXPECT_FALSE(IsEnabled("cmdDeleteAll"));
+}
+
+TEST_F(RecoveryTest, LaterLeavesEverythingForTheFileMenu) {
+    LoseWork();
+    StartAgain();
+    Press(Recovery(), "cmdLater");
+    EXPECT_FALSE(IsOffered());
+    EXPECT_EQ(Journals().size(), 1);
+    Trigger("mnuFRecover");
+    EXPECT_TRUE(IsOffered());
+    EXPECT_EQ(Count("lstRecovered"), 1);
+}
+
+TEST_F(RecoveryTest, WhatBecameOfTheFileIsSaid) {
+    LoseTransitions(QStringLiteral("changed.zfsm"), 1);
+    LoseTransitions(QStringLiteral("gone.zfsm"), 1);
+    LoseTransitions(QStringLiteral("touched.zfsm"), 1);
+    FsmDocument other = PumpDocument();
+    other.General.FsmName = "ABC"; // of the same length
+    WriteFile(QStringLiteral("changed.zfsm"), WriteDocument(other));
+    ASSERT_TRUE(QFile::remove(Path(QStringLiteral("gone.zfsm"))));
+    QFile touched(Path(QStringLiteral("touched.zfsm")));
+    ASSERT_TRUE(touched.open(QIODevice::ReadWrite));
+    ASSERT_TRUE(touched.setFileTime(QDateTime::currentDateTime().addDays(-1), QFile::FileModificationTime));
+    touched.close();
+    StartAgain();
+    const auto row = [this](int number) {
+        return Shown("lstRecovered", number, 0) + ": " + Shown("lstRecovered", number, 4);
+    };
+    EXPECT_EQ(row(0), "touched.zfsm: as it was");
+    EXPECT_EQ(row(1), "gone.zfsm: gone");
+    EXPECT_EQ(row(2), "changed.zfsm: changed since");
+}
+
+TEST_F(RecoveryTest, ADamagedJournalGivesWhatStandsBeforeTheDamageAndSaysSo) {
+    LoseTransitions(QStringLiteral("machine.zfsm"), 3);
+    ASSERT_EQ(Journals().size(), 1);
+    const QString name = QStringLiteral("state/orvane/recovery/") + Journals().constFirst();
+    std::string bytes = ReadFile(name);
+    const std::size_t third = bytes.rfind("transition");
+    const std::size_t second = bytes.rfind("transition", third - 1);
+    ASSERT_NE(second, std::string::npos);
+    bytes[second] = 'X';
+    WriteFile(name, bytes);
+    StartAgain();
+    EXPECT_EQ(Shown("lstRecovered", 0, 3), "1, not all readable");
+    Answers.Press(QMessageBox::Ok);
+    Press(Recovery(), "cmdRecover");
+    EXPECT_EQ(Text(6, 1), "1");
+    EXPECT_EQ(Text(6, 2), "");
+    ASSERT_EQ(Answers.Seen().size(), 1u);
+    EXPECT_TRUE(
+        Answers.Seen()[0].Text.starts_with("A part of the unsaved work on machine.zfsm could not be read."));
+}
+
+TEST_F(RecoveryTest, AJournalOfWhichNothingCanBeReadStaysAndIsTold) {
+    QDir().mkpath(FolderPath());
+    WriteFile(QStringLiteral("state/orvane/recovery/20991121T205300Z-0123ABCD.orj"), "no journal");
+    StartAgain();
+    Answers.Press(QMessageBox::Ok);
+    Press(Recovery(), "cmdRecover");
+    EXPECT_TRUE(Answers.Seen()[0].Text.starts_with("Nothing of this work can be read any more"));
+    EXPECT_EQ(Count("lstRecovered"), 1);
+    EXPECT_FALSE(Title().starts_with("*"));
+    Answers.Press(QMessageBox::Yes);
+    Press(Recovery(), "cmdDiscard");
+    EXPECT_EQ(Count("lstRecovered"), 0);
+}
+
+TEST_F(RecoveryTest, WorkThatAnotherWindowHasTakenIsNotTakenTwice) {
+    LoseWork();
+    StartAgain();
+    const RecoveryFolder folder = Folder();
+    const Result<AdoptedJournal> taken = folder.Adopt(Journals().constFirst().toStdString(), Now());
+    ASSERT_FALSE(taken.Failure);
+    Answers.Press(QMessageBox::Ok);
+    Press(Recovery(), "cmdRecover");
+    EXPECT_EQ(Answers.Seen()[0].Text, "Another window of Orvane has this work now. Look for it there.");
+    EXPECT_EQ(Text(6, 2), "");
+    EXPECT_EQ(Count("lstRecovered"), 0);
+    folder.LetGo(taken.Got);
+}
+
+TEST_F(RecoveryTest, WhoSwitchesTheJournalOffLeavesNoCopies) {
+    Start({kNoDocument});
+    Trigger("mnuFRecover");
+    auto& keep = Named<QCheckBox>(Recovery(), "chkKeepJournal");
+    EXPECT_TRUE(keep.isChecked());
+    keep.click();
+    TypeTarget(6, 1, QStringLiteral("1"));
+    Crash();
+    EXPECT_TRUE(Journals().isEmpty());
+    Start({kNoDocument});
+    TypeTarget(6, 1, QStringLiteral("1"));
+    EXPECT_TRUE(Journals().isEmpty());
+    Trigger("mnuFRecover");
+    auto& kept = Named<QCheckBox>(Recovery(), "chkKeepJournal");
+    EXPECT_FALSE(kept.isChecked());
+    kept.click();
+    TypeTarget(6, 2, QStringLiteral("1"));
+    EXPECT_EQ(Journals().size(), 1);
+}
+
+} // namespace
+} // namespace orvane
