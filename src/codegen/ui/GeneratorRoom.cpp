@@ -9,6 +9,7 @@
 #include "text/SiblingPath.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QMainWindow>
 
 #include <utility>
@@ -39,7 +40,12 @@ GeneratorRoom::GeneratorRoom(const RoomPlace& place)
     : session_(place.Open), words_(place.Words), window_(place.Window) {
     connect(&generator_, &GeneratorRun::Finished, this, &GeneratorRoom::ShowRun);
     connect(&generator_, &GeneratorRun::WriteFailed, this, [this](const QString& path, const QString& why) {
-        failure_ = {path, why};
+        toTell_ += tr("The generated program could not be written to\r\n%1\r\n%2.")
+                       .arg(QDir::toNativeSeparators(path), why);
+    });
+    connect(&generator_, &GeneratorRun::Kept, this, [this](const QString& path, const QString& copy) {
+        Q_EMIT Said(tr("%1 was not made by Orvane. What was in it is kept as %2")
+                        .arg(QFileInfo(path).fileName(), QDir::toNativeSeparators(copy)));
     });
     session_.Observe(ObserverRank::Messages, failureBox_);
 }
@@ -69,6 +75,8 @@ ObserverRank GeneratorRoom::Rank() const { return ObserverRank::Generator; }
 // The program of a document that was only opened is not touched.
 void GeneratorRoom::Told(const Change& change) {
     const QString path = QString::fromStdString(session_.Path());
+    if (change.Kind == ChangeKind::Replaced || change.Kind == ChangeKind::Saved)
+        MakeProgramsAgree(change.Kind);
     if (change.Kind == ChangeKind::Replaced)
         generator_.RunWithoutFile(session_.Document(), path);
     else if (AsksForProgram(change.Kind))
@@ -80,10 +88,18 @@ void GeneratorRoom::Told(const Change& change) {
     session_.SetProgram(program);
 }
 
+// What was not saved leaves no program behind.
+void GeneratorRoom::MakeProgramsAgree(ChangeKind kind) {
+    const QString trouble = kind == ChangeKind::Saved
+                                ? generator_.TakeSaved(QString::fromStdString(session_.Path()))
+                                : generator_.LeaveDocument();
+    if (!trouble.isEmpty())
+        toTell_ += trouble;
+}
+
 void GeneratorRoom::FailureBox::Told(const Change&) {
-    if (const std::optional<Failure> failure = std::exchange(room_.failure_, std::nullopt))
-        Tell(&room_.window_, tr("The generated program could not be written to\r\n%1\r\n%2.")
-                                 .arg(QDir::toNativeSeparators(failure->Path), failure->Why));
+    for (const QString& text : std::exchange(room_.toTell_, {}))
+        Tell(&room_.window_, text);
 }
 
 void GeneratorRoom::ShowRun() {
@@ -112,6 +128,8 @@ frmGenerator& GeneratorRoom::Window() {
 }
 
 void GeneratorRoom::Close() {
+    if (const QString trouble = generator_.LeaveDocument(); !trouble.isEmpty())
+        Tell(&window_, trouble);
     if (frmGenerator_)
         frmGenerator_->hide();
 }

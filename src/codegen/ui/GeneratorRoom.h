@@ -5,8 +5,9 @@
 #include "kit/Room.h"
 #include "session/Change.h"
 
+#include <QStringList>
+
 #include <memory>
-#include <optional>
 
 namespace orvane {
 
@@ -29,13 +30,7 @@ class GeneratorRoom : public Room {
     void Close() override;
 
   private:
-    // A program that could not be written, and nobody has told the user yet.
-    struct Failure {
-        QString Path;
-        QString Why;
-    };
-
-    // Tells it once everybody else has the change.
+    // Tells what went wrong once everybody else has the change.
     class FailureBox final : public SessionObserver {
       public:
         explicit FailureBox(GeneratorRoom& room) : room_(room) {}
@@ -45,6 +40,7 @@ class GeneratorRoom : public Room {
         GeneratorRoom& room_;
     };
 
+    void MakeProgramsAgree(ChangeKind kind);
     void ShowRun();
     QString FateOfProgram() const;
     frmGenerator& Window();
@@ -53,7 +49,7 @@ class GeneratorRoom : public Room {
     const Vocabulary& words_;
     QMainWindow& window_;
     GeneratorRun generator_;
-    std::optional<Failure> failure_;
+    QStringList toTell_; // about programs that could not be written
     FailureBox failureBox_{*this};
     std::unique_ptr<frmGenerator> frmGenerator_; // no window of the main window's: the table can be in front
 };

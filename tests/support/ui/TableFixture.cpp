@@ -19,7 +19,8 @@ namespace orvane {
 TableFixture::TableFixture() : formerFolder_(QDir::currentPath()) {
     QDir::setCurrent(folder_.path());
     qputenv("APPDATA", folder_.path().toLocal8Bit());
-    qputenv("XDG_STATE_HOME", folder_.filePath(QStringLiteral("state")).toLocal8Bit());
+    for (const char* state : {"XDG_STATE_HOME", "LOCALAPPDATA"}) // recovery stays in the folder too
+        qputenv(state, folder_.filePath(QStringLiteral("state")).toLocal8Bit());
     qputenv("SOURCE_DATE_EPOCH", "0");
 }
 
