@@ -11,10 +11,10 @@ BEGIN {
     uses["find"] = "core text table"
     uses["run"] = uses["diagram"] = uses["export"] = "core text codegen"
     uses["session"] = "core table files text"
-    uses["recovery"] = "core text"
+    uses["recovery"] = uses["outside"] = "core text"
     uses["kit"] = "core text files"
     room = "session core text files kit"
-    engines = "core text files table codegen editors builder welcome find run diagram review export"
+    engines = "core text files table codegen editors builder welcome find run diagram review export outside"
     uses["cli"] = engines
     uses["app"] = engines " session kit"
 }

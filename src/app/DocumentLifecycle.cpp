@@ -2,6 +2,7 @@
 #include "app/DocumentLifecycle.h"
 
 #include "app/Remembered.h"
+#include "app/ReplaceGuard.h"
 #include "kit/AnsiString.h"
 #include "kit/CommandLine.h"
 #include "kit/DocumentFile.h"
@@ -103,7 +104,7 @@ void DocumentLifecycle::Open() {
         Load(path);
 }
 
-void DocumentLifecycle::OpenFile(const QString& path) {
+void DocumentLifecycle::OpenDocument(const QString& path) {
     if (GuardBeforeOpen())
         Load(path);
 }
@@ -144,6 +145,22 @@ bool DocumentLifecycle::GuardUnsavedWork(const QString& title, const QString& qu
 
 bool DocumentLifecycle::WriteTo(const QString& path) {
     const QString fullPath = FullPath(path);
+    const ReplaceDecision decision = MayReplaceFile(window_, session_, fullPath);
+    switch (decision.Answer) {
+    case ReplaceAnswer::Nothing:
+        return false;
+    case ReplaceAnswer::SaveElsewhere:
+        return SaveAs();
+    case ReplaceAnswer::Save:
+        break;
+    }
+    const bool isSaved = Write(fullPath);
+    if (!decision.Copy.isEmpty())
+        Q_EMIT Said(tr("What another program had made of the file is kept as %1").arg(decision.Copy));
+    return isSaved;
+}
+
+bool DocumentLifecycle::Write(const QString& fullPath) {
     const SavedDocument saved = WriteDocumentFile(fullPath, session_.Document());
     if (!saved.Error.isEmpty()) {
         Tell(window_,

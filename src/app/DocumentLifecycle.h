@@ -6,10 +6,10 @@
 
 namespace orvane {
 
-// New, open, save and close, with the questions that guard unsaved work. Whatever is cancelled or fails
-// leaves document, file and window as they were.
 struct JournalStamp;
 
+// New, open, save and close, with the questions that guard unsaved work. Whatever is cancelled or fails
+// leaves document, file and window as they were.
 class DocumentLifecycle : public Room {
     Q_OBJECT
 
@@ -25,10 +25,10 @@ class DocumentLifecycle : public Room {
     void Start(const CommandLine& commandLine) override;
     bool MayClose() override;
 
+    void OpenDocument(const QString& path) override;
+
     // An empty document, laid out anew.
     void NewGrid();
-    // Opens the document, after the question about unsaved work.
-    void OpenFile(const QString& path);
     // Whether another document may take the place of this one, after the question about unsaved work.
     bool GuardBeforeOpen();
 
@@ -47,7 +47,9 @@ class DocumentLifecycle : public Room {
     void TellBreakOff(const QString& path, const ReaderMessage& message);
     // Whether the command that would lose unsaved work may go on.
     bool GuardUnsavedWork(const QString& title, const QString& question);
+    // Asks before another program's work is replaced.
     bool WriteTo(const QString& path);
+    bool Write(const QString& fullPath);
     QString FileName() const;
     QString StartFolder() const;
 

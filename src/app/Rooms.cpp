@@ -4,6 +4,7 @@
 #include "builder/ui/BuilderRoom.h"
 #include "codegen/ui/GeneratorRoom.h"
 #include "editors/ui/EditorsRoom.h"
+#include "outside/ui/OutsideRoom.h"
 #include "recovery/ui/RecoveryRoom.h"
 #include "table/ui/BacktrackRoom.h"
 #include "table/ui/TableRoom.h"
@@ -14,6 +15,7 @@ namespace orvane {
 std::vector<std::unique_ptr<Room>> MakeRooms(const RoomPlace& place) {
     std::vector<std::unique_ptr<Room>> rooms;
     rooms.push_back(std::make_unique<TableRoom>(place));
+    rooms.push_back(std::make_unique<OutsideRoom>(place));
     rooms.push_back(std::make_unique<GeneratorRoom>(place));
     rooms.push_back(std::make_unique<BuilderRoom>(place));
     rooms.push_back(std::make_unique<BacktrackRoom>(place));

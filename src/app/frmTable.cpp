@@ -65,10 +65,13 @@ void frmTable::MakeRooms() {
 
 void frmTable::ConnectRecentFiles() {
     auto* recent = new RecentFiles(menus_->Menu(Command::HelpMenu), menus_->Menu(Command::RecentMenu), this);
-    connect(recent, &RecentFiles::OpenWanted, this, [this](const QString& path) {
-        Prepare(Command::FileOpen);
-        lifecycle_->OpenFile(path);
-    });
+    connect(recent, &RecentFiles::OpenWanted, this, &frmTable::OpenDocument);
+}
+
+void frmTable::OpenDocument(const QString& path) {
+    Prepare(Command::FileOpen);
+    for (const auto& room : rooms_)
+        room->OpenDocument(path);
 }
 
 RoomPlace frmTable::Place() { return {session_, words_, *this}; }
@@ -83,6 +86,7 @@ void frmTable::AddRoom(std::unique_ptr<Room> room) {
         for (const auto& other : rooms_)
             other->EditPlace(place);
     });
+    connect(room.get(), &Room::DocumentWanted, this, &frmTable::OpenDocument);
     connect(room.get(), &Room::CommandWanted, this, &frmTable::Run);
     connect(room.get(), &Room::MenuWanted, this, &frmTable::PopUp);
     connect(room.get(), &Room::LeaveWanted, this, [this](bool& mayLeave) {

@@ -55,6 +55,7 @@ class frmTable : public QMainWindow, private SessionObserver {
     void LoadWords();
     void MakeRooms();
     void ConnectRecentFiles();
+    void OpenDocument(const QString& path);
     void Run(Command command);
     void Prepare(Command next);
     void PopUp(Command menu, const QPoint& position);

@@ -54,6 +54,8 @@ class Room : public QObject {
     // (0, 0) what belongs to the machine as a whole, (4..54, state) a transition.
     virtual void ShowPlace(Cell) {}
     virtual void EditPlace(Cell) {}
+    // Somebody asks for this document to be opened, after the question about unsaved work.
+    virtual void OpenDocument(const QString&) {}
     // Whether the program may end as far as this room is concerned, and then what it has to do for that.
     virtual bool MayClose() { return true; }
     virtual void Close() {}
@@ -61,6 +63,7 @@ class Room : public QObject {
   Q_SIGNALS:
     void PlaceChosen(orvane::Cell place);
     void EditWanted(orvane::Cell place);
+    void DocumentWanted(const QString& path);
     void CommandWanted(orvane::Command command);
     void MenuWanted(orvane::Command menu, const QPoint& globalPosition);
     // The open document is about to be left for another one: asks the user about unsaved work. The answer is

@@ -47,10 +47,11 @@ bool AskYesNo(QWidget* parent, const QString& text) {
     return Run(box) == QMessageBox::Yes;
 }
 
-QMessageBox::StandardButton AskYesNoCancel(QWidget* parent, const QString& title, const QString& text) {
+QMessageBox::StandardButton AskYesNoCancel(QWidget* parent, const QString& title, const QString& text,
+                                           QMessageBox::StandardButton byReturn) {
     QMessageBox box(QMessageBox::NoIcon, title, text,
                     QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, parent);
-    box.setDefaultButton(QMessageBox::Yes);
+    box.setDefaultButton(byReturn);
     box.setEscapeButton(QMessageBox::Cancel);
     return Run(box);
 }

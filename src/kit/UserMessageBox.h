@@ -17,8 +17,9 @@ void Tell(QWidget* parent, const QString& text, QMessageBox::Icon icon = QMessag
 // Asks with the buttons Yes and No before something that cannot be taken back; No is what Return presses.
 [[nodiscard]] bool AskYesNo(QWidget* parent, const QString& text);
 
-// Asks with the buttons Yes, No and Cancel; closing the box is Cancel.
-QMessageBox::StandardButton AskYesNoCancel(QWidget* parent, const QString& title, const QString& text);
+// Asks with the buttons Yes, No and Cancel; closing the box is Cancel, Return the one that is given for it.
+QMessageBox::StandardButton AskYesNoCancel(QWidget* parent, const QString& title, const QString& text,
+                                           QMessageBox::StandardButton byReturn = QMessageBox::Yes);
 
 struct YesNoQuestion {
     QString Title;

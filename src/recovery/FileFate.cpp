@@ -3,7 +3,8 @@
 
 namespace orvane {
 
-std::optional<FileFate> FateBySizeAndTime(const FileAsKnown& known, std::uint64_t size, std::int64_t modified) {
+std::optional<FileFate> FateBySizeAndTime(const FileAsKnown& known, std::uint64_t size,
+                                          std::int64_t modified) {
     if (size != known.Size)
         return FileFate::ChangedSince;
     if (modified == known.Modified)

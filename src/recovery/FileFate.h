@@ -27,7 +27,8 @@ struct FileAsKnown {
 
 // As far as can be told without reading the file; none when its bytes have to be compared. Another time alone
 // says nothing: a copied folder, or a tool that writes the same bytes again, leaves the file as it was.
-std::optional<FileFate> FateBySizeAndTime(const FileAsKnown& known, std::uint64_t size, std::int64_t modified);
+std::optional<FileFate> FateBySizeAndTime(const FileAsKnown& known, std::uint64_t size,
+                                          std::int64_t modified);
 
 FileFate FateByBytes(const FileAsKnown& known, const std::array<std::uint8_t, 32>& sha256);
 

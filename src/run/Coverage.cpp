@@ -16,12 +16,11 @@ std::size_t Percent(const CoverageCount& count) {
 }
 
 Coverage::Coverage(const Machine& machine) {
-    for (const int number : StateNumbers()) {
+    for (const StateNumber number : StateNumbers()) {
         const RunState& state = machine.State(number);
-        allStates_.set(static_cast<std::size_t>(number), state.HasBlock);
-        for (const int row : CellRows())
-            all_.set(Index(number, row),
-                     state.HasBlock && state.Targets[static_cast<std::size_t>(row)] != kNoState);
+        allStates_.set(number.Number(), state.HasBlock);
+        for (const RowNumber row : CellRows())
+            all_.set(Index(number, row), state.HasBlock && state.Targets[row.Number()] != kNoState);
     }
 }
 
@@ -41,18 +40,17 @@ CoverageCount Coverage::Transitions() const { return {taken_.count(), all_.count
 
 std::vector<StateNumber> Coverage::MissedStates() const {
     std::vector<StateNumber> missed;
-    for (const int number : StateNumbers()) {
-        const auto state = static_cast<std::size_t>(number);
-        if (allStates_.test(state) && !entered_.test(state))
-            missed.emplace_back(number);
+    for (const StateNumber state : StateNumbers()) {
+        if (allStates_.test(state.Number()) && !entered_.test(state.Number()))
+            missed.push_back(state);
     }
     return missed;
 }
 
 std::vector<Cell> Coverage::MissedTransitions() const {
     std::vector<Cell> missed;
-    for (const int state : StateNumbers()) {
-        for (const int row : CellRows()) {
+    for (const StateNumber state : StateNumbers()) {
+        for (const RowNumber row : CellRows()) {
             if (all_.test(Index(state, row)) && !taken_.test(Index(state, row)))
                 missed.push_back({row, state});
         }

@@ -15,11 +15,11 @@ struct NameBook::Kind {
     bool IsEvent;
     const char* Word;
     const char* Plural;
-    NumberRange Numbers;
+    NumberRange<int> Numbers; // of either kind
 };
 
-const NameBook::Kind NameBook::kStates = {false, "state", "states", StateNumbers()};
-const NameBook::Kind NameBook::kEvents = {true, "event", "events", EventRows()};
+const NameBook::Kind NameBook::kStates = {false, "state", "states", {1, kStateCount}};
+const NameBook::Kind NameBook::kEvents = {true, "event", "events", {kFirstEventRow, kLastRow}};
 
 void NameBook::Remember(const NamesHead& head) {
     remembered_.insert(remembered_.end(), head.Entries.begin(), head.Entries.end());

@@ -99,7 +99,7 @@ void Planner::Head(const ConstantHead& head) {
     std::vector<std::string> candidates;
     const std::string name = FromUtf8(head.Name.Text, kDelimiter);
     bool known = false;
-    for (const int state : StateNumbers()) {
+    for (const StateNumber state : StateNumbers()) {
         const std::string limit(Trim(document_.State(state).TimeConst));
         const bool isName =
             HasConstantLimit(document_.State(state).TimingMode) && !limit.empty() && !LimitNumber(limit);
@@ -186,9 +186,9 @@ void Planner::PlanEvent(const EventHead& head) {
 // Such a signal would hide the event.
 void Planner::CheckSignals() {
     for (const TestName& signal : signals_) {
-        for (const int row : EventRows()) {
+        for (const RowNumber row : EventRows()) {
             const std::string name = ToUtf8(Trim(document_.Event(row).Name));
-            if (!name.empty() && name == signal.Text && !Follows(row))
+            if (!name.empty() && name == signal.Text && !Follows(row.Number()))
                 names_.Slip(signal.At, "the signal " + Quoted(name) +
                                            " is called like an event; write \"event " +
                                            QuotedWhereNeeded(name) + " = " + QuotedWhereNeeded(name) +
@@ -275,7 +275,7 @@ std::optional<int> Planner::Timer(const TestName& id) {
     if (found != timers.end())
         return static_cast<int>(found - timers.begin());
     std::vector<std::string> candidates;
-    for (const int state : StateNumbers())
+    for (const StateNumber state : StateNumbers())
         candidates.push_back(ToUtf8(Trim(document_.State(state).TimerId)));
     names_.Slip(id.At, "no timer of " + names_.DocumentName() + " has the id " + Quoted(written) +
                            DidYouMean(written, candidates));

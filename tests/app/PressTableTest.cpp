@@ -278,7 +278,12 @@ TEST_F(PressTable, TheMenusHoldTheirItemsInOrder) {
     Start();
     const std::vector<std::pair<const char*, std::vector<ExpectedItem>>> menus{
         {"mnuFile",
-         {{"mnuFNew", "New"}, {"mnuFOpen", "Open"}, {"mnuFSave", "Save"}, {"mnuFSaveAs", "Save &As"}}},
+         {{"mnuFNew", "New"},
+          {"mnuFOpen", "Open"},
+          {"mnuFSave", "Save"},
+          {"mnuFSaveAs", "Save &As"},
+          {"", ""},
+          {"mnuFRecover", "Recover earlier work"}}},
         {"mnuEdit", {{"mnuUndo", "Undo"}, {"mnuRedo", "Redo"}}},
         {"mnuCode",
          {{"mnuGeneralCode", "Edit general code"},

@@ -108,21 +108,21 @@ TEST_F(Check, JsonIsOneLineForEachDocumentAlsoOfThoseThatCannotBeRead) {
     WriteFile("b.zfsm", "no document");
     const RunResult run = Run("check --format=json a.zfsm b.zfsm c.zfsm");
     EXPECT_EQ(run.Status, 3);
-    EXPECT_EQ(
-        run.Output,
-        "{\"path\":\"a.zfsm\",\"complete\":true,\"counts\":{\"notes\":0,\"warnings\":0,\"errors\":1},"
-        "\"findings\":[{\"severity\":\"error\",\"state\":null,\"stateName\":null,\"row\":null,\"message\":"
-        "\"You must supply a distinguishing label prefix in the \\\"Name\\\"\\n"
-        "box of the General Code editor. This should be unique within your\\n"
-        "project as a whole. Typically this would be a 3-letter mnemonic for\\n"
-        "the overall function of this FSM, for example \\\"PMP\\\" for a pump\\ncontrol FSM\"}],"
-        "\"messages\":[]}\n"
-        "{\"path\":\"b.zfsm\",\"complete\":false,\"counts\":{\"notes\":0,\"warnings\":0,\"errors\":0},"
-        "\"findings\":[],\"messages\":[{\"line\":null,\"message\":"
-        "\"The file is not a document: it holds no field\"}]}\n"
-        "{\"path\":\"c.zfsm\",\"complete\":false,\"counts\":{\"notes\":0,\"warnings\":0,\"errors\":0},"
-        "\"findings\":[],\"messages\":[{\"line\":null,\"message\":"
-        "\"The file cannot be read (No such file or directory)\"}]}\n");
+    EXPECT_EQ(run.Output,
+              "{\"path\":\"a.zfsm\",\"complete\":true,\"counts\":{\"notes\":0,\"warnings\":0,\"errors\":1},"
+              "\"findings\":[{\"severity\":\"error\",\"kind\":\"missing-prefix\",\"state\":null,"
+              "\"stateName\":null,\"row\":null,\"message\":"
+              "\"You must supply a distinguishing label prefix in the \\\"Name\\\"\\n"
+              "box of the General Code editor. This should be unique within your\\n"
+              "project as a whole. Typically this would be a 3-letter mnemonic for\\n"
+              "the overall function of this FSM, for example \\\"PMP\\\" for a pump\\ncontrol FSM\"}],"
+              "\"messages\":[]}\n"
+              "{\"path\":\"b.zfsm\",\"complete\":false,\"counts\":{\"notes\":0,\"warnings\":0,\"errors\":0},"
+              "\"findings\":[],\"messages\":[{\"line\":null,\"message\":"
+              "\"The file is not a document: it holds no field\"}]}\n"
+              "{\"path\":\"c.zfsm\",\"complete\":false,\"counts\":{\"notes\":0,\"warnings\":0,\"errors\":0},"
+              "\"findings\":[],\"messages\":[{\"line\":null,\"message\":"
+              "\"The file cannot be read (No such file or directory)\"}]}\n");
     EXPECT_EQ(run.Errors, "b.zfsm: The file is not a document: it holds no field\n"
                           "orvanec: c.zfsm: cannot be read (No such file or directory)\n");
 }

@@ -69,7 +69,7 @@ TEST(ExampleTests, TakeEveryTransition) {
 TEST(ExampleTests, NoticeALimitThatIsOneUnitOff) {
     std::vector<std::string> unnoticed;
     for (const Example& example : Examples()) {
-        for (const int state : StateNumbers()) {
+        for (const StateNumber state : StateNumbers()) {
             const StateRecord& record = example.Document.State(state);
             const std::optional<Units> limit = LimitNumber(record.TimeConst);
             if (!HasConstantLimit(record.TimingMode) || record.Targets[kTimeoutRow] == kNoState || !limit)
@@ -78,7 +78,7 @@ TEST(ExampleTests, NoticeALimitThatIsOneUnitOff) {
                 FsmDocument wrong = example.Document;
                 wrong.State(state).TimeConst = std::to_string(*limit + off);
                 if (Passes(example, wrong))
-                    unnoticed.push_back(example.Name + " state " + std::to_string(state) + " by " +
+                    unnoticed.push_back(example.Name + " state " + std::to_string(state.Number()) + " by " +
                                         std::to_string(off));
             }
         }
@@ -91,16 +91,16 @@ TEST(ExampleTests, NoticeALimitThatIsOneUnitOff) {
 TEST(ExampleTests, NoticeATransitionToTheWrongState) {
     std::vector<std::string> unnoticed;
     for (const Example& example : Examples()) {
-        for (const int state : StateNumbers()) {
-            for (const int row : CellRows()) {
-                const int target = example.Document.State(state).Targets[row];
+        for (const StateNumber state : StateNumbers()) {
+            for (const RowNumber row : CellRows()) {
+                const StateNumber target = example.Document.State(state).Targets[row];
                 if (target == kNoState)
                     continue;
                 FsmDocument wrong = example.Document;
                 wrong.State(state).Targets[row] = target == 1 ? 2 : 1;
                 if (Passes(example, wrong))
-                    unnoticed.push_back(example.Name + " state " + std::to_string(state) + " row " +
-                                        std::to_string(row));
+                    unnoticed.push_back(example.Name + " state " + std::to_string(state.Number()) + " row " +
+                                        std::to_string(row.Number()));
             }
         }
     }

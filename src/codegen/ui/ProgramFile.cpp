@@ -105,13 +105,12 @@ ProgramFile::Outcome ProgramFile::Begin(const QString& documentPath, const QStri
     const FileContent there = ReadProgram(path);
     Outcome outcome;
     if (there.Failure && there.Failure->Reason != std::errc::no_such_file_or_directory &&
-        !there.Failure->Refused && path != known_)
+        !there.Failure->Refused)
         return {WhyNotKept(Message(*there.Failure)), {}};
-    if (there && there.Length > 0 && path != known_ && !HasProgramBanner(there.Bytes()))
+    if (there && there.Length > 0 && !HasProgramBanner(there.Bytes()))
         outcome = KeepForeign(path, there.Bytes());
     if (!outcome.Failure.isEmpty())
         return outcome;
-    known_ = path;
     ahead_ = {documentPath, there ? std::optional(std::string(there.Bytes())) : std::nullopt, {}};
     return outcome;
 }

@@ -52,7 +52,6 @@ class ProgramFile {
     static QString PutBack(const Ahead& ahead, const QString& path);
 
     std::optional<Ahead> ahead_;
-    QString known_; // the file that this window has looked at or written
 };
 
 } // namespace orvane

@@ -10,6 +10,7 @@
 #include "recovery/ui/frmRecovery.h"
 #include "session/Commands.h"
 #include "session/Session.h"
+#include "session/UserRecoveryFolder.h"
 
 #include <QEvent>
 #include <QMainWindow>
@@ -24,20 +25,12 @@ namespace {
 
 constexpr auto kOwnCommands = std::to_array<Command>({Command::RecoverWork});
 
-std::string Variable(const char* name) { return qEnvironmentVariable(name).toStdString(); }
-
-std::optional<FileSystem::Path> FolderPath() {
-    return RecoveryFolderPath({.XdgStateHome = Variable("XDG_STATE_HOME"),
-                               .Home = Variable("HOME"),
-                               .LocalAppData = Variable("LOCALAPPDATA")});
-}
-
 } // namespace
 
 RecoveryRoom::RecoveryRoom(const RoomPlace& place) : session_(place.Open), main_(place.Window) {
     draftsDue_.setSingleShot(true);
     connect(&draftsDue_, &QTimer::timeout, this, &RecoveryRoom::WaitForDrafts);
-    if (const std::optional<FileSystem::Path> path = FolderPath()) {
+    if (const std::optional<FileSystem::Path> path = UserRecoveryFolder()) {
         folder_.emplace(files_, *path);
         journal_.emplace(place.Open, JournalPlace{files_, *path, "Orvane " + ProgramVersion(), &TimeNow});
         journal_->Keep(KeepsJournal());
@@ -144,7 +137,10 @@ void RecoveryRoom::Recover(const std::string& name) {
 void RecoveryRoom::GoOnWith(AdoptedJournal recovered) {
     const RecoveredNews news = NewsOf(recovered.Journal);
     const std::vector<std::string> messages = recovered.Journal.Messages;
+    const AdoptedJournal held{{}, recovered.Files};
     journal_->GoOnWith(std::move(recovered));
+    if (!KeepsJournal()) // nothing holds the work in its place
+        folder_->LetGo(held);
     const WorkList work = Work();
     Window().ShowWork(work);
     if (work.Left.empty())
@@ -165,7 +161,7 @@ void RecoveryRoom::Discard(const std::string& name) {
 
 void RecoveryRoom::DeleteAll() {
     if (const std::size_t left = folder_->DeleteAll())
-        Tell(frmRecovery_, NotAllDeleted(left, *FolderPath()));
+        Tell(frmRecovery_, NotAllDeleted(left, *UserRecoveryFolder()));
     Refresh();
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "recovery/ui/WorkList.h"
 
+#include "session/UserRecoveryFolder.h"
+
 #include "text/Sha256.h"
 
 #include <QDateTime>
@@ -57,10 +59,6 @@ LocalMinute LocalTimeOf(JournalTime time) {
     const QDate day = local.date();
     return {std::chrono::year(day.year()) / day.month() / day.day(), local.time().hour(),
             local.time().minute()};
-}
-
-JournalTime TimeNow() {
-    return std::chrono::floor<std::chrono::milliseconds>(std::chrono::system_clock::now());
 }
 
 } // namespace orvane

@@ -26,6 +26,4 @@ WorkList ListWork(FileSystem& files, const RecoveryFolder& folder);
 // In the time of the user's clock.
 LocalMinute LocalTimeOf(JournalTime time);
 
-JournalTime TimeNow();
-
 } // namespace orvane

@@ -175,12 +175,12 @@ TEST_F(frmGeneratorTest, ADoubleClickOnAFindingChoosesItsPlace) {
     QWidget* report = Find<QPlainTextEdit>("txtErrors").viewport();
     for (const int line : {0, 1, 2, 3, 4, 5})
         QTest::mouseDClick(report, Qt::LeftButton, Qt::NoModifier, MiddleOfLine(line));
-    const auto place = [&](int i) { return std::pair(chosen[i][0].toInt(), chosen[i][1].toInt()); };
+    const auto place = [&](int i) { return chosen[i][0].value<Cell>(); };
     ASSERT_EQ(chosen.count(), 4);
-    EXPECT_EQ(place(0), std::pair(3, 7));
-    EXPECT_EQ(place(1), std::pair(5, 0));
-    EXPECT_EQ(place(2), std::pair(5, 0));
-    EXPECT_EQ(place(3), std::pair(6, 4));
+    EXPECT_EQ(place(0), (Cell{7, 3}));
+    EXPECT_EQ(place(1), (Cell{kNoRow, 5}));
+    EXPECT_EQ(place(2), (Cell{kNoRow, 5}));
+    EXPECT_EQ(place(3), (Cell{4, 6}));
 }
 
 TEST_F(frmGeneratorTest, F1OpensTheHelpPageFromBothPanes) {

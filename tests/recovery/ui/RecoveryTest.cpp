@@ -2,6 +2,7 @@
 // The real main window, left in the middle of the work and started again.
 #include "core/DocumentWriter.h"
 #include "files/NativeFiles.h"
+#include "kit/KeepsJournal.h"
 #include "session/RecoveryFolder.h"
 #include "support/ui/Controls.h"
 #include "support/ui/TableFixture.h"
@@ -22,6 +23,8 @@ JournalTime Now() { return std::chrono::floor<std::chrono::milliseconds>(std::ch
 
 class RecoveryTest : public TableFixture {
   protected:
+    ~RecoveryTest() override { SetKeepsJournal(true); }
+
     RecoveryFolder Folder() { return {files_, FolderPath().toStdString()}; }
     QString FolderPath() const { return Path(QStringLiteral("state/orvane/recovery")); }
     QStringList Journals() const { return QDir(FolderPath()).entryList({QStringLiteral("*.orj")}); }
@@ -41,9 +44,15 @@ class RecoveryTest : public TableFixture {
         return window != nullptr && window->isVisible();
     }
     // Starts again and waits until what was lost is offered.
-    void StartAgain() {
-        Start({kNoDocument});
+    void StartAgain(const QString& argument = kNoDocument) {
+        Start({argument});
         ASSERT_TRUE(QTest::qWaitFor([this] { return IsOffered(); }));
+    }
+    // The same, and draws something in a document of its own.
+    void StartAgainAndDraw() {
+        WriteFile(QStringLiteral("other.zfsm"), WriteDocument(PumpDocument()));
+        StartAgain(Path(QStringLiteral("other.zfsm")));
+        TypeTarget(7, 1, QStringLiteral("2"));
     }
     QWidget& Recovery() { return *Find<QWidget>("frmRecovery"); }
     QTreeView& List(const char* name) { return Named<QTreeView>(Recovery(), name); }
@@ -69,8 +78,8 @@ TEST_F(RecoveryTest, WhatAKilledWindowHadDrawnIsOfferedAndComesBack) {
     EXPECT_EQ(Shown("lstRecovered", 0, 4), "as it was");
 
     Press(Recovery(), "cmdRecover");
-    EXPECT_EQ(Text(6, 1), "1");
-    EXPECT_EQ(Text(6, 2), "2");
+    EXPECT_EQ(Text(6, 1), "1:Idle");
+    EXPECT_EQ(Text(6, 2), "2:Run");
     EXPECT_TRUE(Title().starts_with("*machine.zfsm"));
     EXPECT_TRUE(Panel("Panel3").starts_with("Recovered: machine.zfsm"));
     EXPECT_FALSE(IsOffered());
@@ -84,12 +93,12 @@ TEST_F(RecoveryTest, UndoAndRedoGoAcrossTheCrash) {
     EXPECT_EQ(Text(6, 2), "");
     EXPECT_TRUE(Panel("Panel3").starts_with("Undone: transition"));
     Trigger("mnuUndo");
-    EXPECT_EQ(Text(6, 1), "2");
+    EXPECT_EQ(Text(6, 1), "2:Run");
     EXPECT_FALSE(Title().starts_with("*")) << "this is what the file has";
     EXPECT_FALSE(Item("mnuUndo")->isEnabled());
     Trigger("mnuRedo");
     Trigger("mnuRedo");
-    EXPECT_EQ(Text(6, 2), "2");
+    EXPECT_EQ(Text(6, 2), "2:Run");
     EXPECT_TRUE(Title().starts_with("*"));
 }
 
@@ -106,7 +115,7 @@ TEST_F(RecoveryTest, ASaveBeforeTheCrashIsWhereTheStarGoes) {
     EXPECT_TRUE(Title().starts_with("*"));
     Trigger("mnuUndo");
     EXPECT_FALSE(Title().starts_with("*"));
-    EXPECT_EQ(Text(6, 1), "1");
+    EXPECT_EQ(Text(6, 1), "1:Idle");
 }
 
 TEST_F(RecoveryTest, ASecondCrashLosesNothing) {
@@ -119,10 +128,10 @@ TEST_F(RecoveryTest, ASecondCrashLosesNothing) {
     ASSERT_EQ(Count("lstRecovered"), 1);
     EXPECT_EQ(Shown("lstRecovered", 0, 3), "3");
     Press(Recovery(), "cmdRecover");
-    EXPECT_EQ(Text(7, 1), "1");
+    EXPECT_EQ(Text(7, 1), "1:Idle");
     for (int step = 0; step < 3; ++step)
         Trigger("mnuUndo");
-    EXPECT_EQ(Text(6, 1), "2");
+    EXPECT_EQ(Text(6, 1), "2:Run");
     EXPECT_FALSE(Title().starts_with("*"));
 }
 
@@ -160,7 +169,7 @@ TEST_F(RecoveryTest, TwoWindowsThatWereKilledAreTwoRowsTheLatestFirst) {
     Choose("lstRecovered", 1);
     Press(Recovery(), "cmdRecover");
     EXPECT_TRUE(Title().starts_with("*older.zfsm"));
-    EXPECT_EQ(Text(6, 1), "1");
+    EXPECT_EQ(Text(6, 1), "1:Idle");
     EXPECT_EQ(Text(6, 2), "");
     EXPECT_TRUE(IsOffered()) << "there is more to recover";
     ASSERT_EQ(Count("lstRecovered"), 1);
@@ -178,23 +187,21 @@ TEST_F(RecoveryTest, TwoWindowsOfOneDocumentKeepTheirOwnWork) {
 
 TEST_F(RecoveryTest, UnsavedWorkIsAskedForBeforeOtherWorkTakesItsPlace) {
     LoseWork();
-    StartAgain();
-    TypeTarget(10, 5, QStringLiteral("7"));
+    StartAgainAndDraw();
     Answers.Press(QMessageBox::Cancel);
     Press(Recovery(), "cmdRecover");
-    EXPECT_EQ(Text(10, 5), "7");
+    EXPECT_EQ(Text(7, 1), "2:Run");
     EXPECT_EQ(Count("lstRecovered"), 1);
     Answers.Press(QMessageBox::No);
     Press(Recovery(), "cmdRecover");
-    EXPECT_EQ(Text(10, 5), "");
-    EXPECT_EQ(Text(6, 2), "2");
+    EXPECT_EQ(Text(7, 1), "");
+    EXPECT_EQ(Text(6, 2), "2:Run");
     ASSERT_EQ(Answers.Seen().size(), 2u);
     EXPECT_EQ(Answers.Seen()[0].Title, "Save?");
     EXPECT_EQ(Answers.Seen()[0].Text, "Save current file?");
     Trigger("mnuFRecover");
     ASSERT_EQ(Count("lstDiscarded"), 1);
-    EXPECT_EQ(Shown("lstDiscarded", 0, 0), "[Untitled]");
-    EXPECT_EQ(Shown("lstDiscarded", 0, 4), "never saved");
+    EXPECT_EQ(Shown("lstDiscarded", 0, 0), "other.zfsm");
 }
 
 TEST_F(RecoveryTest, DiscardAsksOnceAndCanBeTakenBack) {
@@ -214,7 +221,7 @@ TEST_F(RecoveryTest, DiscardAsksOnceAndCanBeTakenBack) {
 
     Choose("lstDiscarded", 0);
     Press(Recovery(), "cmdRecover");
-    EXPECT_EQ(Text(6, 2), "2");
+    EXPECT_EQ(Text(6, 2), "2:Run");
     EXPECT_TRUE(Title().starts_with("*machine.zfsm"));
 }
 
@@ -235,8 +242,7 @@ TEST_F(RecoveryTest, OnlyOneRowIsChosenInBothLists) {
 TEST_F(RecoveryTest, DeleteAllAsksAndLeavesOnlyWhatIsOpen) {
     LoseTransitions(QStringLiteral("one.zfsm"), 1);
     LoseTransitions(QStringLiteral("two.zfsm"), 1);
-    StartAgain();
-    TypeTarget(10, 5, QStringLiteral("7"));
+    StartAgainAndDraw();
     ASSERT_EQ(Journals().size(), 3);
     Answers.Press(QMessageBox::No);
     Press(Recovery(), "cmdDeleteAll");
@@ -294,7 +300,7 @@ TEST_F(RecoveryTest, ADamagedJournalGivesWhatStandsBeforeTheDamageAndSaysSo) {
     EXPECT_EQ(Shown("lstRecovered", 0, 3), "1, not all readable");
     Answers.Press(QMessageBox::Ok);
     Press(Recovery(), "cmdRecover");
-    EXPECT_EQ(Text(6, 1), "1");
+    EXPECT_EQ(Text(6, 1), "1:Idle");
     EXPECT_EQ(Text(6, 2), "");
     ASSERT_EQ(Answers.Seen().size(), 1u);
     EXPECT_TRUE(
@@ -330,23 +336,38 @@ TEST_F(RecoveryTest, WorkThatAnotherWindowHasTakenIsNotTakenTwice) {
 }
 
 TEST_F(RecoveryTest, WhoSwitchesTheJournalOffLeavesNoCopies) {
-    Start({kNoDocument});
+    StartOn(PumpDocument());
     Trigger("mnuFRecover");
     auto& keep = Named<QCheckBox>(Recovery(), "chkKeepJournal");
     EXPECT_TRUE(keep.isChecked());
     keep.click();
     TypeTarget(6, 1, QStringLiteral("1"));
+    EXPECT_TRUE(Journals().isEmpty());
     Crash();
-    EXPECT_TRUE(Journals().isEmpty());
-    Start({kNoDocument});
+    StartOn(PumpDocument());
     TypeTarget(6, 1, QStringLiteral("1"));
-    EXPECT_TRUE(Journals().isEmpty());
+    EXPECT_TRUE(Journals().isEmpty()) << "it holds for later starts";
     Trigger("mnuFRecover");
     auto& kept = Named<QCheckBox>(Recovery(), "chkKeepJournal");
     EXPECT_FALSE(kept.isChecked());
     kept.click();
     TypeTarget(6, 2, QStringLiteral("1"));
     EXPECT_EQ(Journals().size(), 1);
+}
+
+// Nothing takes the place of the recovered journal, so it stays until somebody deletes it.
+TEST_F(RecoveryTest, WithoutAJournalRecoveredWorkStaysInTheList) {
+    LoseWork();
+    StartAgain();
+    auto& keep = Named<QCheckBox>(Recovery(), "chkKeepJournal");
+    keep.click();
+    Press(Recovery(), "cmdRecover");
+    EXPECT_EQ(Text(6, 2), "2:Run");
+    EXPECT_EQ(Count("lstRecovered"), 1);
+    Answers.Press(QMessageBox::Yes);
+    Press(Recovery(), "cmdDeleteAll");
+    EXPECT_TRUE(Journals().isEmpty());
+    keep.click();
 }
 
 } // namespace

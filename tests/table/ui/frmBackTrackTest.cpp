@@ -74,12 +74,12 @@ TEST_F(frmBackTrackTest, AClickOnTheStateAsksToGoBackThere) {
     Window.BackTrack(Document, 2);
     Press(1, 1);
     ASSERT_EQ(chosen.count(), 1);
-    EXPECT_EQ(chosen[0][0].toInt(), 1);
+    EXPECT_EQ(chosen[0][0].value<StateNumber>(), StateNumber(1));
 }
 
 TEST_F(frmBackTrackTest, TheMachineCanBeWalkedBackwards) {
     QObject::connect(&Window, &frmBackTrack::StateChosen, &Window,
-                     [this](int state) { Window.BackTrack(Document, state); });
+                     [this](StateNumber state) { Window.BackTrack(Document, state); });
     Window.BackTrack(Document, 2);
     Press(1, 1);
     EXPECT_EQ(Window.windowTitle(), QStringLiteral("Backtracks for state: 1:Idle"));

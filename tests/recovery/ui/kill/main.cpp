@@ -5,8 +5,8 @@
 #include "core/DocumentWriter.h"
 #include "core/TightPacked.h"
 #include "files/NativeFiles.h"
-#include "recovery/kill/Aftermath.h"
-#include "recovery/kill/Drawer.h"
+#include "recovery/ui/kill/Aftermath.h"
+#include "recovery/ui/kill/Drawer.h"
 #include "support/ui/TableFixture.h"
 
 #include <QApplication>

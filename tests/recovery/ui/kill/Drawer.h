@@ -2,7 +2,7 @@
 #pragma once
 
 #include "app/frmTable.h"
-#include "recovery/kill/Reports.h"
+#include "recovery/ui/kill/Reports.h"
 
 #include <QString>
 
@@ -26,6 +26,8 @@ class Drawer {
     void Start(const QStringList& arguments);
     void Tell(Doing next);
     void DoSomething();
+    void Step(Doing doing, const char* item, int direction);
+    void Save();
     void TypeTarget();
     void InsertState();
     bool Trigger(const char* item);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "recovery/kill/Reports.h"
+#include "recovery/ui/kill/Reports.h"
 
 #include <array>
 #include <cerrno>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "recovery/kill/Reports.h"
+#include "recovery/ui/kill/Reports.h"
 #include "session/RecoveryFolder.h"
 
 #include <string>

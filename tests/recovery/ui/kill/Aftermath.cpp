@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "recovery/kill/Aftermath.h"
+#include "recovery/ui/kill/Aftermath.h"
 
 #include "core/DocumentReader.h"
 #include "core/TightPacked.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "recovery/kill/Drawer.h"
+#include "recovery/ui/kill/Drawer.h"
 
 #include "core/TightPacked.h"
 #include "kit/CommandLine.h"
@@ -7,9 +7,11 @@
 #include <QAction>
 #include <QApplication>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QTableView>
 #include <QTest>
+#include <QTimer>
 
 #include <stdexcept>
 
@@ -53,18 +55,39 @@ void Drawer::DoSomething() {
         Tell(Doing::Drawing);
         InsertState();
     } else if (choice < 15) {
-        Tell(Doing::Undoing);
-        Trigger("mnuUndo");
+        Step(Doing::Undoing, "mnuUndo", -1);
     } else if (choice < 17) {
-        Tell(Doing::Redoing);
-        Trigger("mnuRedo");
+        Step(Doing::Redoing, "mnuRedo", 1);
     } else if (choice < 18) {
         Tell(Doing::Drawing);
         Trigger("mnuPolytask");
     } else {
-        Tell(Doing::Saving);
-        Trigger("mnuFSave");
+        Save();
     }
+}
+
+// A step to what was saved leaves nothing to recover, so that nobody could tell afterwards whether it was
+// taken.
+void Drawer::Step(Doing doing, const char* item, int direction) {
+    const UndoHistory history = window_.Place().Open.History().History();
+    const std::size_t next = history.Current + static_cast<std::size_t>(direction);
+    if (next >= history.Snapshots.size() || history.Snapshots[next].Image == history.SavedText)
+        return;
+    Tell(doing);
+    Trigger(item);
+}
+
+// A window that was killed between the save and its record asks the one after it whether the file may be
+// replaced.
+void Drawer::Save() {
+    QTimer answer;
+    QObject::connect(&answer, &QTimer::timeout, [] {
+        if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()))
+            box->button(QMessageBox::Yes)->click();
+    });
+    answer.start(5);
+    Tell(Doing::Saving);
+    Trigger("mnuFSave");
 }
 
 void Drawer::TypeTarget() {
