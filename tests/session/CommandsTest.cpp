@@ -28,7 +28,7 @@ TEST(Commands, TheMenusAreTheGivenOnesWithHelpBehindThem) {
   mnuFOpen: Open
   mnuFSave: Save
   mnuFSaveAs: Save &As
-  
+  (a line)
   mnuFRecover: Recover earlier work
 mnuEdit: Edit
   mnuUndo: Undo
