@@ -93,7 +93,7 @@ void Drawer::Save() {
 void Drawer::TypeTarget() {
     PressCell(Number(6, 7), Number(1, 6));
     auto* editor = window_.findChild<QLineEdit*>(QStringLiteral("txtCellEdit"));
-    QTest::keyClicks(editor, QString::number(Number(1, 20)));
+    QTest::keyClicks(editor, QString::number(Number(1, 100)));
     QTest::keyClick(editor, Qt::Key_Return);
 }
 
