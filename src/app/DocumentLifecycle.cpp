@@ -3,6 +3,7 @@
 
 #include "app/Remembered.h"
 #include "app/ReplaceGuard.h"
+#include "core/ForeignBytes.h"
 #include "kit/AnsiString.h"
 #include "kit/CommandLine.h"
 #include "kit/DocumentFile.h"
@@ -191,10 +192,41 @@ void DocumentLifecycle::Load(const QString& path) {
 }
 
 void DocumentLifecycle::LoadSettings() {
+    if (const std::optional<Utf8Document> utf8 = ReadAsUtf8(file.File.Bytes());
+        utf8 && IsReadAsUtf8(fullPath, *utf8))
+        file.Content = ReadDocument(utf8->Bytes);
     if (QFileInfo::exists(SettingsFile()))
         Load(SettingsFile());
 }
 
+    TellConflicts(fullPath, ConflictMarkers(file.File.Bytes()));
+}
+
+bool DocumentLifecycle::IsReadAsUtf8(const QString& path, const Utf8Document& document) {
+    const QString lost =
+        document.IsWhole ? QString() : tr(" Characters that a document cannot hold become \"?\".");
+    QMessageBox box(
+        QMessageBox::Warning, QStringLiteral("Orvane"),
+        tr("The document\r\n%1\r\nwas saved as UTF-8 by another program. Read it as such?\r\n\r\nYes: "
+           "its texts are as they were, and the next save writes them as Orvane does.%2\r\nNo: it is "
+           "read as it stands, with letters that do not belong there.")
+            .arg(path, lost),
+        QMessageBox::Yes | QMessageBox::No, window_);
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(QMessageBox::Yes);
+    return box.exec() == QMessageBox::Yes;
+}
+
+void DocumentLifecycle::TellConflicts(const QString& path, const std::vector<std::size_t>& lines) {
+    if (lines.empty())
+        return;
+    const QString where = lines.size() == 1 ? tr("line %1").arg(lines.front())
+                                            : tr("lines %1 and %2").arg(lines.front()).arg(lines.back());
+    Tell(window_,
+         tr("The document\r\n%1\r\nhas the marks of a merge conflict (%2): two versions of the same "
+            "design stand in it, and what is shown is neither. Resolve the conflict with your version "
+            "control before you edit or build.")
+             .arg(path, where));
 // What broke off keeps no name: a save would put the part that was read in the place of the whole file.
 void DocumentLifecycle::Take(FsmDocument document, const QString& fileName, const JournalStamp& stamp) {
     FsmDocument laidOut = FreshDocument(); // every document begins as an empty one

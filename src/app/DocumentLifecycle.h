@@ -7,6 +7,7 @@
 namespace orvane {
 
 struct JournalStamp;
+struct Utf8Document;
 
 // New, open, save and close, with the questions that guard unsaved work. Whatever is cancelled or fails
 // leaves document, file and window as they were.
@@ -44,6 +45,9 @@ class DocumentLifecycle : public Room {
     void LoadSettings();
     void Take(FsmDocument document, const QString& fileName, const JournalStamp& stamp);
     void TellMessages(const QString& path, const ReadResult& result);
+    // Asks how to read it.
+    bool IsReadAsUtf8(const QString& path, const Utf8Document& document);
+    void TellConflicts(const QString& path, const std::vector<std::size_t>& lines);
     void TellBreakOff(const QString& path, const ReaderMessage& message);
     // Whether the command that would lose unsaved work may go on.
     bool GuardUnsavedWork(const QString& title, const QString& question);

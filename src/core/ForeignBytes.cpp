@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "core/ForeignBytes.h"
+
+#include "text/AnsiText.h"
+
+#include <algorithm>
+#include <array>
+
+namespace orvane {
+
+namespace {
+
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+constexpr std::string_view kFirstTag = "\xC2\xA4<"; // the delimiter in UTF-8
+constexpr auto kMarkers = std::to_array<std::string_view>({"<<<<<<< ", ">>>>>>> "});
+
+bool Continues(char byte) { return (byte & '\xC0') == '\x80'; }
+
+// How many bytes the character has that begins with this one; 0 when none does.
+std::size_t LengthFrom(char first) {
+    if ((first & '\x80') == 0)
+        return 1;
+    if ((first & '\xE0') == '\xC0')
+        return 2;
+    if ((first & '\xF0') == '\xE0')
+        return 3;
+    return (first & '\xF8') == '\xF0' ? 4 : 0;
+}
+
+bool IsUtf8(std::string_view bytes) {
+    while (!bytes.empty()) {
+        const std::size_t length = LengthFrom(bytes.front());
+        if (length == 0 || length > bytes.size() ||
+            !std::all_of(bytes.begin() + 1, bytes.begin() + std::ptrdiff_t(length), Continues))
+            return false;
+        bytes.remove_prefix(length);
+    }
+    return true;
+}
+
+} // namespace
+
+std::optional<Utf8Document> ReadAsUtf8(std::string_view bytes) {
+    if (bytes.starts_with(kByteOrderMark))
+        bytes.remove_prefix(kByteOrderMark.size());
+    if (!bytes.starts_with(kFirstTag) || !IsUtf8(bytes))
+        return std::nullopt;
+    Utf8Document document{FromUtf8(bytes, '?'), true};
+    document.IsWhole = ToUtf8(document.Bytes) == bytes;
+    return document;
+}
+
+std::vector<std::size_t> ConflictMarkers(std::string_view bytes) {
+    std::vector<std::size_t> lines;
+    for (std::size_t number = 1; !bytes.empty(); ++number) {
+        for (const std::string_view marker : kMarkers) {
+            if (bytes.starts_with(marker))
+                lines.push_back(number);
+        }
+        const std::size_t end = bytes.find('\n');
+        bytes.remove_prefix(end == std::string_view::npos ? bytes.size() : end + 1);
+    }
+    return lines;
+}
+
+} // namespace orvane
