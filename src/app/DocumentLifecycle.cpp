@@ -91,7 +91,7 @@ void DocumentLifecycle::NewGrid() {
 }
 
 void DocumentLifecycle::New() {
-    if (GuardUnsavedWork(QStringLiteral("Orvane"), QStringLiteral("Save changes?")))
+    if (GuardUnsavedWork(QStringLiteral("Orvane"), QStringLiteral("Save changes?")) && OthersMayLeave())
         NewGrid();
 }
 
@@ -111,7 +111,14 @@ void DocumentLifecycle::OpenDocument(const QString& path) {
 }
 
 bool DocumentLifecycle::GuardBeforeOpen() {
-    return GuardUnsavedWork(QStringLiteral("Save?"), QStringLiteral("Save current file?"));
+    return GuardUnsavedWork(QStringLiteral("Save?"), QStringLiteral("Save current file?")) &&
+           OthersMayLeave();
+}
+
+bool DocumentLifecycle::OthersMayLeave() {
+    bool mayLeave = true;
+    Q_EMIT LeaveAsked(mayLeave);
+    return mayLeave;
 }
 
 bool DocumentLifecycle::Save() { return session_.Path().empty() ? SaveAs() : WriteTo(FileName()); }
@@ -185,20 +192,13 @@ void DocumentLifecycle::Load(const QString& path) {
         Tell(window_, QStringLiteral("The file\r\n%1\r\ncould not be opened: %2.").arg(fullPath, file.Error));
         return;
     }
+    if (const std::optional<Utf8Document> utf8 = ReadAsUtf8(file.File.Bytes());
+        utf8 && IsReadAsUtf8(fullPath, *utf8))
+        file.Content = ReadDocument(utf8->Bytes);
     const bool hasName = !file.Content->BrokeOff && !IsSettingsFile(fullPath);
     const JournalStamp stamp = StampOf(file.File.Stamp, Sha256(file.File.Bytes()));
     Take(std::move(file.Content->Document), hasName ? fullPath : QString(), stamp);
     TellMessages(fullPath, *file.Content);
-}
-
-void DocumentLifecycle::LoadSettings() {
-    if (const std::optional<Utf8Document> utf8 = ReadAsUtf8(file.File.Bytes());
-        utf8 && IsReadAsUtf8(fullPath, *utf8))
-        file.Content = ReadDocument(utf8->Bytes);
-    if (QFileInfo::exists(SettingsFile()))
-        Load(SettingsFile());
-}
-
     TellConflicts(fullPath, ConflictMarkers(file.File.Bytes()));
 }
 
@@ -227,6 +227,13 @@ void DocumentLifecycle::TellConflicts(const QString& path, const std::vector<std
             "design stand in it, and what is shown is neither. Resolve the conflict with your version "
             "control before you edit or build.")
              .arg(path, where));
+}
+
+void DocumentLifecycle::LoadSettings() {
+    if (QFileInfo::exists(SettingsFile()))
+        Load(SettingsFile());
+}
+
 // What broke off keeps no name: a save would put the part that was read in the place of the whole file.
 void DocumentLifecycle::Take(FsmDocument document, const QString& fileName, const JournalStamp& stamp) {
     FsmDocument laidOut = FreshDocument(); // every document begins as an empty one

@@ -51,6 +51,8 @@ class DocumentLifecycle : public Room {
     void TellBreakOff(const QString& path, const ReaderMessage& message);
     // Whether the command that would lose unsaved work may go on.
     bool GuardUnsavedWork(const QString& title, const QString& question);
+    // The same of what other rooms hold.
+    bool OthersMayLeave();
     // Asks before another program's work is replaced.
     bool WriteTo(const QString& path);
     bool Write(const QString& fullPath);

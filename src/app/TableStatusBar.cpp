@@ -2,6 +2,7 @@
 #include "app/TableStatusBar.h"
 
 #include <QLabel>
+#include <QTextDocument>
 
 namespace orvane {
 
@@ -64,7 +65,8 @@ void TableStatusBar::ShowMessages() {
     if (!problem_.isEmpty())
         messages += problem_;
     Panel3->setText(messages.join(QStringLiteral("  ")));
-    Panel3->setToolTip(messages.join(QLatin1Char('\n')));
+    const QString lines = messages.join(QLatin1Char('\n'));
+    Panel3->setToolTip(Qt::mightBeRichText(lines) ? Qt::convertFromPlainText(lines) : lines); // a path may
 }
 
 } // namespace orvane

@@ -88,6 +88,9 @@ void frmTable::AddRoom(std::unique_ptr<Room> room) {
     });
     connect(room.get(), &Room::DocumentWanted, this, &frmTable::OpenDocument);
     connect(room.get(), &Room::CommandWanted, this, &frmTable::Run);
+    connect(room.get(), &Room::LeaveAsked, this, [this](bool& mayLeave) {
+        mayLeave = std::all_of(rooms_.begin(), rooms_.end(), [](const auto& r) { return r->MayLeave(); });
+    });
     connect(room.get(), &Room::MenuWanted, this, &frmTable::PopUp);
     connect(room.get(), &Room::LeaveWanted, this, [this](bool& mayLeave) {
         Prepare(Command::FileOpen);

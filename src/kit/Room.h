@@ -56,8 +56,10 @@ class Room : public QObject {
     virtual void EditPlace(Cell) {}
     // Somebody asks for this document to be opened, after the question about unsaved work.
     virtual void OpenDocument(const QString&) {}
+    // Whether another document may take the place of this one, as far as this room is concerned.
+    virtual bool MayLeave() { return true; }
     // Whether the program may end as far as this room is concerned, and then what it has to do for that.
-    virtual bool MayClose() { return true; }
+    virtual bool MayClose() { return MayLeave(); }
     virtual void Close() {}
 
   Q_SIGNALS:
@@ -72,5 +74,7 @@ class Room : public QObject {
     // A line for the status bar.
     void Said(const QString& text);
 };
+    // Asks all rooms whether the document may be left; clears the answer when one says no.
+    void LeaveAsked(bool& mayLeave);
 
 } // namespace orvane

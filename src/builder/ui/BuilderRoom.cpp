@@ -50,6 +50,8 @@ frmBuilder& BuilderRoom::Window() {
     return *frmBuilder_;
 }
 
+bool BuilderRoom::MayLeave() { return !frmBuilder_ || frmBuilder_->MayLeaveScript(); }
+
 void BuilderRoom::Close() {
     if (frmBuilder_)
         frmBuilder_->hide();

@@ -22,6 +22,7 @@ class BuilderRoom : public Room {
     ObserverRank Rank() const override;
     bool Listens() const override;
     void Told(const Change& change) override;
+    bool MayLeave() override;
     void Close() override;
 
   private:

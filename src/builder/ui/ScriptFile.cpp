@@ -29,7 +29,8 @@ QString WithLineEnds(QString text, const QString& lineEnd) {
 std::optional<QString> ReadScript(const QString& path) {
     NativeFiles files;
     const FileContent file = ReadFile(files, NativePath(path), kLargestScript);
-    return file ? std::optional(AsReadBack(FromAnsi(file.Bytes()))) : std::nullopt;
+    const bool isText = file && file.Bytes().find('\0') == std::string_view::npos; // no script has a NUL
+    return isText ? std::optional(AsReadBack(FromAnsi(file.Bytes()))) : std::nullopt;
 }
 
 // Unlike a document, a script may hold the delimiter.

@@ -3,6 +3,7 @@
 
 #include "builder/BuilderScript.h"
 #include "builder/ui/ScriptFile.h"
+#include "builder/ui/ScriptGate.h"
 #include "kit/AnsiString.h"
 #include "kit/OpenInDesktop.h"
 #include "kit/UserMessageBox.h"
@@ -44,6 +45,37 @@ frmBuilder::frmBuilder(Session& session, QWidget* parent) : TabStops(parent, Qt:
     connect(cmdSave, &QPushButton::clicked, this, &frmBuilder::Save);
     connect(cmdSelectFile, &QPushButton::clicked, this, &frmBuilder::SelectFile);
     connect(txtFileName, &QLineEdit::textChanged, this, [this](const QString& path) { StoreFileName(path); });
+    const auto tell = [this] { session_.TellDraft(); };
+    connect(txtBuildScript->document(), &QTextDocument::modificationChanged, this, tell);
+    connect(txtBuildScript->document(), &QTextDocument::contentsChanged, this, [this, tell] {
+        if (txtBuildScript->document()->isModified())
+            tell();
+    });
+    session_.AddDraftSource(*this);
+}
+
+frmBuilder::~frmBuilder() { session_.RemoveDraftSource(*this); }
+
+std::optional<Draft> frmBuilder::CurrentDraft() const {
+    if (!txtBuildScript->document()->isModified())
+        return std::nullopt;
+    return Draft{{}, BuilderText{ScriptText().toStdString()}};
+}
+
+bool frmBuilder::MayLeaveScript() {
+    if (!txtBuildScript->document()->isModified())
+        return true;
+    const QString name = txtFileName->text().isEmpty() ? tr("It has no file yet.") : txtFileName->text();
+    switch (AskYesNoCancel(this, QStringLiteral("Orvane"),
+                           tr("Save changes to the builder script?\r\n%1").arg(name))) {
+    case QMessageBox::Yes:
+        return Save();
+    case QMessageBox::No:
+        txtBuildScript->document()->setModified(false); // answered: not asked again on the way out
+        return true;
+    default:
+        return false;
+    }
 }
 
 void frmBuilder::BuildControls() {
@@ -122,6 +154,8 @@ void frmBuilder::StartDocument() {
 }
 
 void frmBuilder::RenameDocument() {
+    if (documentPath_ == QString::fromStdString(session_.Path()))
+        return; // the document names its script as before
     const bool hadDefault = txtFileName->text().isEmpty() || txtFileName->text() == DefaultName();
     documentPath_ = QString::fromStdString(session_.Path());
     if (!settled_ || !hadDefault)
@@ -139,12 +173,24 @@ void frmBuilder::Settle() {
         return;
     settled_ = true;
     const QString named = txtFileName->text();
-    if (!named.isEmpty() && (ReadScript(named) || !QFileInfo(DefaultName()).isFile()))
+    if (!named.isEmpty() && !MayUse(named))
+        SettleOnDefault();
+    else if (!named.isEmpty() && (ReadScript(named) || !QFileInfo(DefaultName()).isFile()))
         Load(named);
-    else if (!DefaultName().isEmpty() && QFileInfo::exists(DefaultName()))
-        Load(DefaultName());
     else
-        MakeInitialScript();
+        SettleOnDefault();
+}
+
+// What stands beside the document, or the starter script where nothing does. A name that the builder does not
+// touch leaves the starter script without a file.
+void frmBuilder::SettleOnDefault() {
+    const QString path = DefaultName();
+    if (path.isEmpty() || !QFileInfo::exists(path))
+        return MakeInitialScript();
+    if (MayUse(path))
+        return Load(path);
+    FillStarterScript();
+    SetFileName({});
 }
 
 void frmBuilder::Load(const QString& path) {
@@ -161,7 +207,7 @@ void frmBuilder::Load(const QString& path) {
     lastSavedScript_ = *script;
 }
 
-void frmBuilder::MakeInitialScript() {
+void frmBuilder::FillStarterScript() {
     ShowScript({});
     // A folder whose name the script cannot hold is left out: the program is in the folder of the script.
     const QString document =
@@ -172,6 +218,10 @@ void frmBuilder::MakeInitialScript() {
     for (const QString& line : lines)
         AddSource(line);
     txtBuildScript->document()->setModified(false);
+}
+
+void frmBuilder::MakeInitialScript() {
+    FillStarterScript();
     SetFileName(DefaultName());
     if (!DefaultName().isEmpty())
         Save();
@@ -196,6 +246,12 @@ bool frmBuilder::Save() {
     if (txtFileName->text().isEmpty() && !ChooseNameToSave())
         return false;
     const QString path = txtFileName->text();
+    if (!MayUse(path))
+        return false;
+    if (IsOnDisk(path)) {
+        TakeAsSaved(path);
+        return true;
+    }
     const QString unwritable = LineOutsideAnsi(ScriptText());
     if (!unwritable.isEmpty()) {
         Warn(tr("The script was not saved: its file cannot hold every character of the line\r\n%1\r\n"
@@ -209,9 +265,42 @@ bool frmBuilder::Save() {
         Warn(tr("Save failed. Check the path/filename is valid"));
         return false;
     }
+    TakeAsSaved(path);
+    return true;
+}
+
+void frmBuilder::TakeAsSaved(const QString& path) {
     knownFile_ = path;
     lastSavedScript_ = AsReadBack(ScriptText());
     txtBuildScript->document()->setModified(false);
+}
+
+// A file that says the same already is not written, whatever its line ends are.
+bool frmBuilder::IsOnDisk(const QString& path) const {
+    return ReadScript(path) == std::optional(AsReadBack(ScriptText()));
+}
+
+bool frmBuilder::MayUse(const QString& path) {
+    const QString shown = QDir::toNativeSeparators(path);
+    if (const QString why = WhyNoScript(path); !why.isEmpty()) {
+        Warn(tr("%1\r\nis not used as the builder script: %2.\r\n\r\nChoose a *.b1d file with \"Select "
+                "file...\", or type the name of one.")
+                 .arg(shown, why));
+        return false;
+    }
+    const QString target = ScriptTarget(path);
+    if (IsBesideDocument(path, documentPath_) || allowed_.contains(target))
+        return true;
+    QMessageBox box(QMessageBox::Warning, QStringLiteral("Orvane"),
+                    tr("The builder script\r\n%1\r\nis not in the folder of the document. Use it? It will be "
+                       "read here, written by Save and handed to the build tool.")
+                        .arg(QDir::toNativeSeparators(target)),
+                    QMessageBox::Yes | QMessageBox::No, this);
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(QMessageBox::No);
+    if (box.exec() != QMessageBox::Yes)
+        return false;
+    allowed_.insert(target);
     return true;
 }
 
@@ -222,6 +311,7 @@ bool frmBuilder::ChooseNameToSave() {
         return false;
     SetFileName(path);
     knownFile_ = path; // the dialog has asked
+    allowed_.insert(ScriptTarget(path));
     return true;
 }
 
@@ -237,6 +327,9 @@ void frmBuilder::SelectFile() {
     const QString path = QDir::toNativeSeparators(
         QFileDialog::getOpenFileName(this, tr("Choose builder script"), txtFileName->text(), kOpenFilter));
     if (path.isEmpty())
+        return;
+    allowed_.insert(ScriptTarget(path)); // the dialog has asked
+    if (!MayUse(path))
         return;
     settled_ = true;
     Load(path);
@@ -276,7 +369,7 @@ bool frmBuilder::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void frmBuilder::CheckForChangeOnDisk() {
-    if (knownFile_.isEmpty() || knownFile_ != txtFileName->text())
+    if (knownFile_.isEmpty() || knownFile_ != txtFileName->text() || !WhyNoScript(knownFile_).isEmpty())
         return;
     const std::optional<QString> script = ReadScript(knownFile_);
     if (!script || *script == lastSavedScript_)

@@ -2,7 +2,9 @@
 #pragma once
 
 #include "kit/TabStops.h"
+#include "session/Draft.h"
 
+#include <QSet>
 #include <QWidget>
 
 class QLineEdit;
@@ -17,14 +19,16 @@ class Session;
 //
 // Which script it is gets settled late: when the window is first shown for a document, or a build is started.
 // Then it is the script that the document names, or one that stands beside the document, and only where there
-// is neither a starter script is made. No script on disk is overwritten before it has been read here, unless
-// the user says so.
-class frmBuilder : public TabStops<QWidget> {
+// is neither a starter script is made. Only a regular *.b1d file is touched, and one that a document or a
+// link names outside of the document's folder only after a question, once. No script on disk is overwritten
+// before it has been read here, unless the user says so.
+class frmBuilder : public TabStops<QWidget>, public DraftSource {
     Q_OBJECT
 
   public:
     // The session outlives the window. The path of the script that its document keeps follows txtFileName.
     explicit frmBuilder(Session& session, QWidget* parent = nullptr);
+    ~frmBuilder() override;
 
     // Another document has taken the place of the one before. What it names as its script is read again when
     // it is needed.
@@ -32,6 +36,12 @@ class frmBuilder : public TabStops<QWidget> {
 
     // The document has been saved, perhaps under a new name.
     void RenameDocument();
+
+    // Asks what is to become of a text that is not saved. False when everything is to stay as it is.
+    bool MayLeaveScript();
+
+    // The text, while it is not saved.
+    std::optional<Draft> CurrentDraft() const override;
 
     // Generates, saves the script, and hands it to the build tool if the program has no errors.
     void GoGoGo();
@@ -55,9 +65,15 @@ class frmBuilder : public TabStops<QWidget> {
     void BuildControls();
     void LayOut();
     void Settle();
+    void SettleOnDefault();
+    void FillStarterScript();
     void Load(const QString& path);
     bool Save();
+    void TakeAsSaved(const QString& path);
     bool ChooseNameToSave();
+    // Tells why the file is not for the builder, or asks about one elsewhere that was not asked about yet.
+    bool MayUse(const QString& path);
+    bool IsOnDisk(const QString& path) const;
     bool MayReplace(const QString& path);
     void SelectFile();
     void CheckForChangeOnDisk();
@@ -79,6 +95,7 @@ class frmBuilder : public TabStops<QWidget> {
     QString documentPath_;    // that the script was last settled for; empty without a file
     QString knownFile_;       // the file that LastSavedScript was read from or written to
     QString lastSavedScript_; // as read back from disk
+    QSet<QString> allowed_;   // scripts outside of the document's folder that the user has said yes to
     bool settled_ = false;
 };
 

@@ -62,6 +62,7 @@ void frmGenerator::BuildStatusBar() {
     StatusBar1->setObjectName(QStringLiteral("StatusBar1"));
     Panel1 = new QLabel(StatusBar1);
     Panel1->setObjectName(QStringLiteral("Panel1"));
+    Panel1->setTextFormat(Qt::PlainText); // a folder can be named in markup
     Panel2 = new QLabel(txtCode->CaretReadOut(), StatusBar1);
     Panel2->setObjectName(QStringLiteral("Panel2"));
     StatusBar1->addWidget(Panel1, 1);
