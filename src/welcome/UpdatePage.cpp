@@ -12,6 +12,7 @@ namespace {
 
 constexpr std::string_view kPhrase = "Download Orvane for Zorlan ";
 constexpr std::size_t kRevisionDigits = 3;
+constexpr std::size_t kLongestVersion = 40; // characters; what is longer is no version, and no part of a box
 
 } // namespace
 
@@ -23,7 +24,8 @@ std::optional<std::string> LatestVersion(std::string_view page) {
     const std::size_t end = page.find('<');
     if (end == std::string_view::npos)
         return std::nullopt;
-    return ToUpper(page.substr(0, end));
+    page = page.substr(0, std::min(end, page.find_first_of("\r\n")));
+    return ToUpper(page.substr(0, kLongestVersion));
 }
 
 bool IsNewerRevision(std::string_view latestVersion, int revision) {

@@ -9,7 +9,7 @@
 namespace orvane {
 
 // The version that the page offers, in capitals (V1.0.010): the text between the phrase that introduces it
-// and the next "<". None when the page does not say.
+// and the next "<", cut to its first line and to 40 characters. None when the page does not say.
 std::optional<std::string> LatestVersion(std::string_view page);
 
 // Compares the revisions alone, that is the last three characters of the version's text as a number; major

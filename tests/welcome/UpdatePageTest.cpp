@@ -10,6 +10,11 @@ TEST(UpdatePage, TheVersionStandsBetweenThePhraseAndTheNextTag) {
     EXPECT_EQ(LatestVersion("<p>Download Orvane for Zorlan v1.0.010</p>"), "V1.0.010");
 }
 
+TEST(UpdatePage, AVersionIsOneLineAndNoLongerThanOneIs) {
+    EXPECT_EQ(LatestVersion("Download Orvane for Zorlan v1.0.010\r\nSend your password to<"), "V1.0.010");
+    EXPECT_EQ(LatestVersion("Download Orvane for Zorlan " + std::string(1000, '9') + "<")->size(), 40u);
+}
+
 TEST(UpdatePage, APageWithoutThePhraseIsIgnored) { EXPECT_EQ(LatestVersion("<p>Moved</p>"), std::nullopt); }
 
 TEST(UpdatePage, APageThatEndsBehindThePhraseIsIgnored) {

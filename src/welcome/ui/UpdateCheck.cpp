@@ -19,7 +19,12 @@ bool IsWebAddress(const QUrl& url) {
 
 } // namespace
 
-UpdateCheck::UpdateCheck(QObject* parent) : QObject(parent) { network_.setTransferTimeout(kTimeout); }
+UpdateCheck::UpdateCheck(QObject* parent) : QObject(parent) {
+    network_.setTransferTimeout(kTimeout);
+    timeIsUp_.setSingleShot(true);
+    timeIsUp_.setInterval(kLongest);
+    connect(&timeIsUp_, &QTimer::timeout, this, &UpdateCheck::End);
+}
 
 void UpdateCheck::Start(const QUrl& page) {
     if (reply_ || !IsWebAddress(page))
@@ -28,6 +33,7 @@ void UpdateCheck::Start(const QUrl& page) {
     // Neither from https to http nor out of the web, which the library refuses with every policy.
     request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::NoLessSafeRedirectPolicy);
     reply_ = network_.get(request);
+    timeIsUp_.start();
     connect(reply_, &QNetworkReply::readyRead, this, &UpdateCheck::ReadChunk, Qt::QueuedConnection);
     connect(reply_, &QNetworkReply::finished, this, [this] {
         complete_ = true;
@@ -56,6 +62,7 @@ void UpdateCheck::Evaluate() {
 }
 
 void UpdateCheck::End() {
+    timeIsUp_.stop();
     QNetworkReply* reply = std::exchange(reply_, nullptr);
     reply->disconnect(this);
     reply->abort();

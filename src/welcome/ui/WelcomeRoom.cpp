@@ -12,6 +12,7 @@
 #include "session/Commands.h"
 #include "welcome/UpdatePage.h"
 #include "welcome/ui/UpdateCheck.h"
+#include "welcome/ui/WhenIdle.h"
 #include "welcome/ui/frmSplash.h"
 
 #include <QEvent>
@@ -53,7 +54,7 @@ class OncePainted : public QObject {
 void OfferUpdate(QWidget* window, const std::string& latestVersion) {
     if (Ask(window, {QStringLiteral("Update available"),
                      QString::fromStdString(UpdateQuestion(ProgramVersion(), latestVersion)),
-                     QMessageBox::Information, QMessageBox::Yes}))
+                     QMessageBox::Information, QMessageBox::No}))
         OpenInDesktop(DownloadPage());
 }
 
@@ -96,8 +97,13 @@ void WelcomeRoom::ShowSplash() {
 void WelcomeRoom::CheckForUpdate() {
     auto* check = new UpdateCheck(&window_);
     check->setObjectName(QStringLiteral("Inet1"));
-    connect(check, &UpdateCheck::NewerVersionFound, this,
-            [this](const std::string& latestVersion) { OfferUpdate(&window_, latestVersion); });
+    connect(check, &UpdateCheck::NewerVersionFound, this, [this](const std::string& latestVersion) {
+        auto* waiting = new WhenIdle(&window_);
+        connect(waiting, &WhenIdle::Idle, this, [this, waiting, latestVersion] {
+            waiting->deleteLater();
+            OfferUpdate(&window_, latestVersion);
+        });
+    });
     check->Start(DownloadPage());
 }
 

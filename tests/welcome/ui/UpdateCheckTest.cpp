@@ -148,6 +148,23 @@ TEST_F(UpdateCheckTest, ARedirectToAnotherSchemeIsNotFollowed) {
     }
 }
 
+TEST_F(UpdateCheckTest, AHeadWithoutAnEndIsGivenUp) {
+    serve_ = [](QTcpSocket* socket) {
+        socket->write("HTTP/1.1 200 OK\r\n");
+        auto* drip = new QTimer(socket);
+        QObject::connect(drip, &QTimer::timeout, socket,
+                         [socket] { socket->write("X-More: of the same\r\n"); });
+        drip->start(10);
+        QObject::connect(socket, &QTcpSocket::disconnected, socket,
+                         [socket] { socket->setObjectName(QStringLiteral("gone")); });
+    };
+    check_->SetLongest(300);
+    check_->Start(Page());
+    EXPECT_TRUE(QTest::qWaitFor(
+        [this] { return server_.findChild<QTcpSocket*>(QStringLiteral("gone")) != nullptr; }, 5000));
+    EXPECT_TRUE(found_.empty());
+}
+
 TEST_F(UpdateCheckTest, AnEndlessChainOfRedirectsEnds) {
     int served = 0;
     serve_ = [this, &served](QTcpSocket* socket) {
