@@ -157,10 +157,18 @@ void frmTable::ShowDocumentState() {
     status_->ShowName(FromAnsi(session_.Document().General.FsmName));
 }
 
-void frmTable::closeEvent(QCloseEvent* event) {
+bool frmTable::MayClose() {
     Prepare(Command::FileSave); // what is being typed is worth a question
-    const bool mayClose =
-        std::all_of(rooms_.begin(), rooms_.end(), [](const auto& r) { return r->MayClose(); });
+    return std::all_of(rooms_.begin(), rooms_.end(), [](const auto& r) { return r->MayClose(); });
+}
+
+void frmTable::Preserve() {
+    for (const auto& room : rooms_)
+        room->Preserve();
+}
+
+void frmTable::closeEvent(QCloseEvent* event) {
+    const bool mayClose = MayClose();
     event->setAccepted(mayClose);
     if (!mayClose)
         return;

@@ -28,6 +28,11 @@ class frmTable : public QMainWindow, private SessionObserver {
     // Opens what the program was started with, or the settings document.
     void Start(const CommandLine& commandLine);
 
+    // Asks whether the program may end; the window stays open.
+    bool MayClose();
+    // Makes safe what is not saved, without a question.
+    void Preserve();
+
     // What a room is made from, and where it goes then: behind those that are there.
     RoomPlace Place();
     void AddRoom(std::unique_ptr<Room> room);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/Application.h"
+#include "app/Ending.h"
 #include "app/Remembered.h"
 #include "app/frmTable.h"
 #include "files/NativeFiles.h"
@@ -13,6 +14,7 @@ int main(int argc, char* argv[]) {
     QApplication::setWindowIcon(orvane::WindowIcon());
     QGuiApplication::setDesktopFileName(QStringLiteral("org.orvane.Orvane"));
     orvane::frmTable window;
+    const orvane::Ending ending(window);
     orvane::RestorePlace(window);
     QObject::connect(&window, &orvane::frmTable::Closed, &application, [&window] {
         orvane::RememberPlace(window);

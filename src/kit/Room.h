@@ -61,6 +61,9 @@ class Room : public QObject {
     // Whether the program may end as far as this room is concerned, and then what it has to do for that.
     virtual bool MayClose() { return MayLeave(); }
     virtual void Close() {}
+    // The program is ended from outside and nobody can be asked: what is not saved has to be safe when this
+    // returns.
+    virtual void Preserve() {}
 
   Q_SIGNALS:
     void PlaceChosen(orvane::Cell place);
@@ -71,10 +74,10 @@ class Room : public QObject {
     // The open document is about to be left for another one: asks the user about unsaved work. The answer is
     // there when the signal returns.
     void LeaveWanted(bool& mayLeave);
+    // Asks all rooms whether the document may be left; clears the answer when one says no.
+    void LeaveAsked(bool& mayLeave);
     // A line for the status bar.
     void Said(const QString& text);
 };
-    // Asks all rooms whether the document may be left; clears the answer when one says no.
-    void LeaveAsked(bool& mayLeave);
 
 } // namespace orvane

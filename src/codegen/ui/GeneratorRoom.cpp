@@ -127,6 +127,9 @@ frmGenerator& GeneratorRoom::Window() {
     return *frmGenerator_;
 }
 
+// The next start generates again what the user takes back.
+void GeneratorRoom::Preserve() { (void)generator_.LeaveDocument(); }
+
 void GeneratorRoom::Close() {
     if (const QString trouble = generator_.LeaveDocument(); !trouble.isEmpty())
         Tell(&window_, trouble);

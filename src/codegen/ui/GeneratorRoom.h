@@ -28,6 +28,7 @@ class GeneratorRoom : public Room {
     bool Listens() const override { return true; }
     void Told(const Change& change) override;
     void Close() override;
+    void Preserve() override;
 
   private:
     // Tells what went wrong once everybody else has the change.

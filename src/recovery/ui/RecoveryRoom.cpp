@@ -58,6 +58,13 @@ void RecoveryRoom::Told(const Change&) {
         Q_EMIT Said(QString::fromStdString(*message));
 }
 
+void RecoveryRoom::Preserve() {
+    if (!journal_)
+        return;
+    journal_->WriteDrafts();
+    journal_->SyncNow();
+}
+
 // The moment moves on while somebody types.
 void RecoveryRoom::WaitForDrafts() {
     const std::optional<DraftPace::Clock::time_point> due = journal_->DraftsDue();

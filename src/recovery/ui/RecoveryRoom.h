@@ -28,6 +28,7 @@ class RecoveryRoom : public Room {
     ObserverRank Rank() const override;
     bool Listens() const override { return journal_.has_value(); }
     void Told(const Change& change) override;
+    void Preserve() override;
     void Start(const CommandLine& commandLine) override;
     void Close() override;
 
