@@ -4,6 +4,9 @@
 #include "core/DocumentReader.h"
 #include "core/TightPacked.h"
 #include "files/FileReader.h"
+#include "session/RecoveryName.h"
+
+#include <algorithm>
 
 namespace orvane {
 
@@ -39,10 +42,27 @@ bool Holds(const RecoveredJournal& journal, const Report& last) {
 
 JournalTime Now() { return std::chrono::floor<std::chrono::milliseconds>(std::chrono::system_clock::now()); }
 
+// A step up to what was saved leaves nothing to recover, and a journal that says so.
+bool IsOverAndHolds(FileSystem& files, const FileSystem::Path& path, const Report& last) {
+    const FileContent content = ReadFile(files, path, kLargest);
+    if (!content)
+        return false;
+    const RecoveredJournal journal = Recover(content.Bytes());
+    return !journal.HasUnsavedWork() && Holds(journal, last);
+}
+
+bool SomeJournalIsOver(FileSystem& files, const FileSystem::Path& recovery, const Report& last) {
+    const std::vector<FileSystem::Path> names = files.Names(recovery).Got;
+    return std::any_of(names.begin(), names.end(), [&](const FileSystem::Path& name) {
+        return name.extension() == kJournalSuffix && IsOverAndHolds(files, recovery / name, last);
+    });
+}
+
 } // namespace
 
-Aftermath LookAfter(FileSystem& files, const RecoveryFolder& folder, const FileSystem::Path& document,
+Aftermath LookAfter(FileSystem& files, const FileSystem::Path& recovery, const FileSystem::Path& document,
                     const Report& last) {
+    const RecoveryFolder folder(files, recovery);
     Aftermath aftermath;
     bool isThere = SavedImage(files, document) == last.Image;
     for (const OrphanedJournal& orphan : folder.Orphans()) {
@@ -64,8 +84,7 @@ Aftermath LookAfter(FileSystem& files, const RecoveryFolder& folder, const FileS
         if (aftermath.Image.empty())
             aftermath.Image = journal.History[journal.Current].Image;
     }
-    // An undo up to what was saved leaves nothing to recover.
-    if (!isThere && aftermath.Loss.empty())
+    if (!isThere && aftermath.Loss.empty() && !SomeJournalIsOver(files, recovery, last))
         aftermath.Loss = "the last committed change is neither in the file nor in a journal";
     return aftermath;
 }

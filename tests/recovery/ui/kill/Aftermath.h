@@ -17,7 +17,7 @@ struct Aftermath {
 
 // The last report says what was committed and what was being done at the kill. That may be there already, or
 // not yet: then the committed image is the step before, or the one behind.
-Aftermath LookAfter(FileSystem& files, const RecoveryFolder& folder, const FileSystem::Path& document,
+Aftermath LookAfter(FileSystem& files, const FileSystem::Path& recovery, const FileSystem::Path& document,
                     const Report& last);
 
 } // namespace orvane

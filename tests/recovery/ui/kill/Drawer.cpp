@@ -55,26 +55,17 @@ void Drawer::DoSomething() {
         Tell(Doing::Drawing);
         InsertState();
     } else if (choice < 15) {
-        Step(Doing::Undoing, "mnuUndo", -1);
+        Tell(Doing::Undoing);
+        Trigger("mnuUndo");
     } else if (choice < 17) {
-        Step(Doing::Redoing, "mnuRedo", 1);
+        Tell(Doing::Redoing);
+        Trigger("mnuRedo");
     } else if (choice < 18) {
         Tell(Doing::Drawing);
         Trigger("mnuPolytask");
     } else {
         Save();
     }
-}
-
-// A step to what was saved leaves nothing to recover, so that nobody could tell afterwards whether it was
-// taken.
-void Drawer::Step(Doing doing, const char* item, int direction) {
-    const UndoHistory history = window_.Place().Open.History().History();
-    const std::size_t next = history.Current + static_cast<std::size_t>(direction);
-    if (next >= history.Snapshots.size() || history.Snapshots[next].Image == history.SavedText)
-        return;
-    Tell(doing);
-    Trigger(item);
 }
 
 // A window that was killed between the save and its record asks the one after it whether the file may be

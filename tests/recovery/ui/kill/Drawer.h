@@ -26,7 +26,6 @@ class Drawer {
     void Start(const QStringList& arguments);
     void Tell(Doing next);
     void DoSomething();
-    void Step(Doing doing, const char* item, int direction);
     void Save();
     void TypeTarget();
     void InsertState();

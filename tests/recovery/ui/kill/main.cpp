@@ -39,7 +39,7 @@ class KillTest {
     KillTest(const std::filesystem::path& folder, unsigned seed)
         : document_(folder / "machine.zfsm"),
           state_(folder / "state"),
-          recovery_(files_, state_ / "orvane" / "recovery"),
+          recovery_(state_ / "orvane" / "recovery"),
           random_(seed) {}
 
     // False when something was lost.
@@ -55,7 +55,7 @@ class KillTest {
     NativeFiles files_;
     std::filesystem::path document_;
     std::filesystem::path state_;
-    RecoveryFolder recovery_;
+    std::filesystem::path recovery_;
     std::mt19937 random_;
     std::optional<Report> left_; // by the window before, to be recovered
     int sessions_ = 0;
