@@ -129,7 +129,8 @@ void FileTester::Update() {
 // Only names and expectations change, so that what is read again is understood again.
 void FileTester::Change(const std::vector<run::TextEdit>& edits) {
     const std::string changed = run::WithEdits(bytes_, edits);
-    outcome_.Output += run::ChangedLines(ShownName(tested_.Name), bytes_, changed);
+    if (!arguments_.Json)
+        outcome_.Output += run::ChangedLines(ShownName(tested_.Name), bytes_, changed);
     bytes_ = changed;
     file_ = run::ReadTestFile(bytes_).File;
     plan_ = run::PlanTests(file_, *tested_.Machine, DocumentName());

@@ -150,13 +150,18 @@ std::string JsonOfTest(const TestedFile& file, const TestedTest& test) {
 std::string JsonOfRun(const TestCounts& counts, const std::vector<CoveredDocument>& covered) {
     run::CoverageCount states;
     run::CoverageCount transitions;
+    run::CoverageCount emptyCells;
+    run::CoverageCount pairs;
     for (const CoveredDocument& document : covered) {
         states += document.Seen.States();
         transitions += document.Seen.Transitions();
+        emptyCells += document.Seen.EmptyCells();
+        pairs += document.Seen.Pairs();
     }
     return "{\"version\":1,\"passed\":" + Number(counts.Passed) + ",\"failed\":" + Number(counts.Failed) +
            ",\"errors\":" + Number(counts.Errors) + ",\"coverage\":{\"states\":" + CountObject(states) +
-           ",\"transitions\":" + CountObject(transitions) + "}}\n";
+           ",\"transitions\":" + CountObject(transitions) + ",\"emptyCells\":" + CountObject(emptyCells) +
+           ",\"pairs\":" + CountObject(pairs) + "}}\n";
 }
 
 std::string JUnitXml(const std::vector<TestedFile>& files) {
@@ -200,7 +205,10 @@ std::string MarkdownReport(const std::vector<TestedFile>& files,
 std::string CoverageText(const std::vector<CoveredDocument>& covered, bool missed) {
     std::string text;
     for (const CoveredDocument& document : covered) {
-        text += missed ? MissedText(document) : "";
+        if (missed)
+            text += MissedText(document) + ShownName(document.Name) + ": " +
+                    OutOf(document.Seen.EmptyCells(), "empty cells tried, ") +
+                    OutOf(document.Seen.Pairs(), "neighbouring events together\n");
         text += ShownName(document.Name) + ": " + OutOf(document.Seen.States(), "states, ") +
                 OutOf(document.Seen.Transitions(), "transitions\n");
     }

@@ -80,6 +80,7 @@ std::optional<Outcome> Clock::ScanOnce() {
     scan_.clear();
     const ScanEnd end = machine_.Scan(config_, inputs_, scan_);
     WatchForOverrun();
+    AddLooks();
     if (end == ScanEnd::Yields)
         return std::nullopt;
     Record(true);
@@ -91,6 +92,15 @@ void Clock::Record(bool repetitionsToo) {
         return;
     for (const Taken& taken : scan_)
         log_.push_back({config_.Now, taken});
+}
+
+// A scan looks around in the state in which it begins, and in each that it leaves.
+void Clock::AddLooks() {
+    if (seen_ == nullptr)
+        return;
+    seen_->Add(machine_.State(before_.State), before_.State, inputs_.Events);
+    for (const Taken& taken : scan_)
+        seen_->Add(machine_.State(taken.From), taken.From, inputs_.Events);
 }
 
 void Clock::WatchForOverrun() {

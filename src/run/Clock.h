@@ -5,6 +5,7 @@
 // do.
 #pragma once
 
+#include "run/Coverage.h"
 #include "run/Machine.h"
 
 #include <cstdint>
@@ -44,6 +45,9 @@ class Clock {
     const Inputs& Surroundings() const { return inputs_; }
     const Config& Where() const { return config_; }
 
+    // From now on each look is added to `seen`, which must outlive the clock.
+    void Watch(EventsSeen& seen) { seen_ = &seen; }
+
     // Power comes on at time 0 with the inputs as they are, all timers unstarted, and the machine settles.
     Outcome PowerOn();
 
@@ -75,6 +79,7 @@ class Clock {
     std::optional<Outcome> ScanOnce();
     void Record(bool repetitionsToo);
     void WatchForOverrun();
+    void AddLooks();
     void SkipTo(Units now);
     std::optional<Units> NextChange() const;
     std::optional<Units> DueTime(StateNumber state) const;
@@ -87,6 +92,7 @@ class Clock {
     std::vector<Taken> last_; // what the scan before did; empty where a repetition is worth telling
     std::vector<Happening> log_;
     bool timerOverran_ = false;
+    EventsSeen* seen_ = nullptr;
 };
 
 } // namespace orvane::run

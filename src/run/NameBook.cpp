@@ -21,6 +21,22 @@ struct NameBook::Kind {
 const NameBook::Kind NameBook::kStates = {false, "state", "states", {1, kStateCount}};
 const NameBook::Kind NameBook::kEvents = {true, "event", "events", {kFirstEventRow, kLastRow}};
 
+NameBook::NameBook(const FsmDocument& document, std::string documentName)
+    : document_(document), documentName_(std::move(documentName)) {
+    for (const Kind* kind : {&kStates, &kEvents}) {
+        for (const int number : kind->Numbers) {
+            const std::string name = NameAt(*kind, number);
+            if (!name.empty())
+                (kind->IsEvent ? events_ : states_)[name].push_back(number);
+        }
+    }
+}
+
+void NameBook::Slip(Place place, std::string text) {
+    if (slips_.size() < kMostSlips)
+        slips_.push_back({place, std::move(text)});
+}
+
 void NameBook::Remember(const NamesHead& head) {
     remembered_.insert(remembered_.end(), head.Entries.begin(), head.Entries.end());
 }
@@ -44,14 +60,11 @@ std::string NameBook::NameAt(const Kind& kind, int number) const {
     return std::string(Trim(name));
 }
 
-std::vector<int> NameBook::Called(const Kind& kind, const std::string& text) const {
-    const std::string ansi(Trim(FromUtf8(text, kDelimiter))); // no name holds the delimiter
-    std::vector<int> called;
-    for (const int number : kind.Numbers) {
-        if (!ansi.empty() && NameAt(kind, number) == ansi)
-            called.push_back(number);
-    }
-    return called;
+const std::vector<int>& NameBook::Called(const Kind& kind, const std::string& text) const {
+    static const std::vector<int> nobody;
+    const auto& names = kind.IsEvent ? events_ : states_;
+    const auto found = names.find(Trim(FromUtf8(text, kDelimiter))); // no name holds the delimiter
+    return found == names.end() ? nobody : found->second;
 }
 
 std::optional<int> NameBook::Find(const Kind& kind, const TestName& name) {
@@ -62,7 +75,7 @@ std::optional<int> NameBook::Find(const Kind& kind, const TestName& name) {
                           " to " + NumberText(kind.Numbers.Last()));
         return std::nullopt;
     }
-    const std::vector<int> called = Called(kind, name.Text);
+    const std::vector<int>& called = Called(kind, name.Text);
     if (called.size() == 1)
         return called.front();
     if (called.empty())
@@ -85,16 +98,19 @@ std::optional<int> NameBook::FindRenamed(const Kind& kind, const TestName& name)
         });
     };
     const auto entry = remembers(name.Text);
-    if (entry != remembered_.end() && kind.Numbers.Contains(*entry->Name.Number)) {
-        const std::string now = ToUtf8(NameAt(kind, *entry->Name.Number));
+    const int number = entry == remembered_.end() ? 0 : entry->Name.Number.value_or(0);
+    if (kind.Numbers.Contains(number)) {
+        const std::string now = ToUtf8(NameAt(kind, number));
         if (!now.empty() && remembers(now) == remembered_.end()) {
             renamed_.push_back({kind.IsEvent, name, now});
-            return entry->Name.Number;
+            return number;
         }
     }
+    if (slips_.size() >= kMostSlips)
+        return std::nullopt;
     std::vector<std::string> candidates = kind.IsEvent ? inputNames_ : std::vector<std::string>();
-    for (const int number : kind.Numbers)
-        candidates.push_back(ToUtf8(NameAt(kind, number)));
+    for (const auto& [called, numbers] : kind.IsEvent ? events_ : states_)
+        candidates.push_back(ToUtf8(called));
     const char* orSignal = kind.IsEvent && !inputNames_.empty() ? " or signal" : "";
     Slip(name.At, std::string("no ") + kind.Word + orSignal + " is called " + Quoted(name.Text) + " in " +
                       documentName_ + DidYouMean(name.Text, candidates));

@@ -3,8 +3,10 @@
 
 #include "core/Cell.h"
 #include "core/FsmDocument.h"
+#include "run/TestReader.h"
 #include "run/TestText.h"
 
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -24,8 +26,7 @@ struct Renamed {
 class NameBook {
   public:
     // `documentName` stands in messages. The document must outlive the book.
-    NameBook(const FsmDocument& document, std::string documentName)
-        : document_(document), documentName_(std::move(documentName)) {}
+    NameBook(const FsmDocument& document, std::string documentName);
 
     // What states and events were called when the file was recorded.
     void Remember(const NamesHead& head);
@@ -44,7 +45,8 @@ class NameBook {
     TestName NameOfEvent(RowNumber row) const;
 
     const std::vector<TestMessage>& Slips() const { return slips_; }
-    void Slip(Place place, std::string text) { slips_.push_back({place, std::move(text)}); }
+    // Beyond kMostSlips nothing is added.
+    void Slip(Place place, std::string text);
     const std::vector<Renamed>& AllRenamed() const { return renamed_; }
     const std::string& DocumentName() const { return documentName_; }
 
@@ -52,7 +54,7 @@ class NameBook {
     struct Kind; // states or events
     std::optional<int> Find(const Kind& kind, const TestName& name);
     std::optional<int> FindRenamed(const Kind& kind, const TestName& name);
-    std::vector<int> Called(const Kind& kind, const std::string& text) const;
+    const std::vector<int>& Called(const Kind& kind, const std::string& text) const;
     std::string NameAt(const Kind& kind, int number) const;
     TestName NameOfNumber(const Kind& kind, int number) const;
 
@@ -61,6 +63,9 @@ class NameBook {
 
     const FsmDocument& document_;
     std::string documentName_;
+    // The numbers under which each name stands, as document text.
+    std::map<std::string, std::vector<int>, std::less<>> states_;
+    std::map<std::string, std::vector<int>, std::less<>> events_;
     std::vector<NamesHead::Entry> remembered_;
     std::vector<std::string> inputNames_;
     std::vector<TestMessage> slips_;

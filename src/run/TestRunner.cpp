@@ -81,6 +81,9 @@ void TestRunner::AddNotes(TestResult& result, const PlannedTest& test) const {
 
 TestResult TestRunner::RunOn(const Machine& machine, const PlannedTest& test, Coverage* coverage) const {
     TestWalk walk(machine, plan_);
+    EventsSeen seen;
+    if (coverage != nullptr)
+        walk.Watch(seen);
     WayHere way;
     const StepCheck check(document_, machine, walk.Where(), way);
     TestResult result;
@@ -105,6 +108,8 @@ TestResult TestRunner::RunOn(const Machine& machine, const PlannedTest& test, Co
         result.Message = std::move(failure->Text);
         break;
     }
+    if (coverage != nullptr)
+        coverage->See(seen);
     if (walk.Where().TimerOverran())
         result.Notes.push_back({result.At, "a timer is looked at that has run for more than the " +
                                                NumberText(kLongestTime) + " units that it can count"});

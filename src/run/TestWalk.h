@@ -35,6 +35,7 @@ class TestWalk {
     std::optional<StepResult> Do(const PlannedStep& step);
 
     const Clock& Where() const { return clock_; }
+    void Watch(EventsSeen& seen) { clock_.Watch(seen); }
 
   private:
     StepResult PowerOn();

@@ -104,6 +104,7 @@ TEST_F(TestVerb, CoverageTellsWhatWasMissedAndMayFail) {
                                "pump.zfsm: not taken: 1:Idle by row 6\n"
                                "pump.zfsm: not taken: 2:Run by Timeout\n"
                                "pump.zfsm: not taken: 2:Run by row 7\n"
+                               "pump.zfsm: 0 of 2 empty cells tried, 0 of 0 neighbouring events together\n"
                                "pump.zfsm: 1 of 2 states, 0 of 3 transitions\n"
                                "1 passed, 0 failed\n";
     EXPECT_EQ(Run("test --coverage pump.ztest").Output, missed);
@@ -159,7 +160,8 @@ TEST_F(TestVerb, JsonHasALineForEachTestAndOneForTheRun) {
         "\\\"Idl\\\" in pump.zfsm; did you mean \\\"Idle\\\"?\",\"notes\":[]}\n"
         "{\"version\":1,\"passed\":1,\"failed\":1,\"errors\":1,\"coverage\":{\"states\":{\"taken\":2,\"all\":"
         "2},"
-        "\"transitions\":{\"taken\":1,\"all\":3}}}\n");
+        "\"transitions\":{\"taken\":1,\"all\":3},\"emptyCells\":{\"taken\":0,\"all\":2},"
+        "\"pairs\":{\"taken\":0,\"all\":0}}}\n");
 }
 
 TEST_F(TestVerb, JUnitIsWrittenAlsoWhenAFileCouldNotBeUnderstood) {

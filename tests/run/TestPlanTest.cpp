@@ -44,6 +44,13 @@ TEST(TestPlan, ANameThatIsNotThereIsToldWithTheNearestOne) {
         ElementsAre("2:4: states have the numbers 1 to 100", "2:13: events have the numbers 6 to 54"));
 }
 
+TEST(TestPlan, AfterManySlipsNoMoreAreTold) {
+    std::string text = "test t\n";
+    for (int i = 0; i < 1000; ++i)
+        text += "=> Rum\n";
+    EXPECT_EQ(SlipsOfPump(text).size(), kMostSlips);
+}
+
 TEST(TestPlan, AmongEqualNamesTheNumberChooses) {
     test::SmallTable table = PumpTable();
     table.Name(2, "Idle");

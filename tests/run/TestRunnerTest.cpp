@@ -207,6 +207,25 @@ TEST(TestRunner, CoverageCountsStatesTransitionsAndHolds) {
     EXPECT_EQ(Percent({}), 100U);
 }
 
+TEST(TestRunner, CoverageCountsEventsTriedInEmptyCellsAndNeighboursTogether) {
+    const SmallTable table = PumpTable().Cell(2, 9, 1); // Run tests Stop and E9
+    const auto covered = [&](const std::string& steps) {
+        const TestReadResult read = ReadTestFile("test t\n" + steps);
+        const TestPlan plan = PlanTests(read.File, table.Document(), "pump.zfsm");
+        const TestRunner runner(table.Document(), plan, {});
+        Coverage coverage = runner.NoCoverage();
+        runner.Run(plan.Tests.at(0), coverage);
+        return std::pair(coverage.EmptyCells(), coverage.Pairs());
+    };
+    using Covered = std::pair<CoverageCount, CoverageCount>;
+    // Idle has nothing for Stop and E9, Run nothing for Start; E8 nobody tests.
+    EXPECT_EQ(covered("=> Idle\n"), (Covered{{0, 3}, {0, 1}}));
+    EXPECT_EQ(covered("pulse E8 E9 => Idle\n"), (Covered{{1, 3}, {0, 1}}));
+    EXPECT_EQ(covered("on Start => Idle => Run\n"), (Covered{{1, 3}, {0, 1}}));
+    EXPECT_EQ(covered("pulse Start => Run\npulse Stop => Idle\n"), (Covered{{0, 3}, {0, 1}}));
+    EXPECT_EQ(covered("pulse Start => Run\npulse Stop E9 => Idle via Stop\n"), (Covered{{0, 3}, {1, 1}}));
+}
+
 std::string Updated(const FsmDocument& document, const std::string& text) {
     const TestReadResult read = ReadTestFile(text);
     const TestPlan plan = PlanTests(read.File, document, "pump.zfsm");
