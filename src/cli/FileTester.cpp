@@ -151,9 +151,8 @@ void FileTester::NoteRenames() {
 void FileTester::List() {
     for (const run::PlannedTest& test : plan_.Tests) {
         if (Chosen(test))
-            outcome_.Output += ShownName(tested_.Name) + ":" +
-                               NumberText(static_cast<std::int64_t>(test.At.Line)) + ": " +
-                               ShownName(test.Name) + "\n";
+            outcome_.Output +=
+                ShownName(tested_.Name) + ":" + NumberText(test.At.Line) + ": " + ShownName(test.Name) + "\n";
     }
 }
 
@@ -221,9 +220,8 @@ void FileTester::TellNotes(const std::string& test, const std::vector<run::TestM
 
 // Errors are for those who wrote the file, the rest is the result.
 void FileTester::Tell(const char* kind, std::size_t line, std::size_t column, const std::string& text) {
-    const std::string told = ShownName(tested_.Name) + ":" + NumberText(static_cast<std::int64_t>(line)) +
-                             ":" + NumberText(static_cast<std::int64_t>(column)) + ": " + kind + ": " +
-                             ShownName(text) + "\n";
+    const std::string told = ShownName(tested_.Name) + ":" + NumberText(line) + ":" + NumberText(column) +
+                             ": " + kind + ": " + ShownName(text) + "\n";
     if (std::string_view(kind) == "error")
         outcome_.Errors += told;
     else if (!arguments_.Json)

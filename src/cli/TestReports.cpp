@@ -7,6 +7,7 @@
 #include "codegen/DesignChecks.h"
 #include "run/StepCheck.h"
 #include "text/AnsiText.h"
+#include "text/ByteOf.h"
 #include "text/NumberText.h"
 #include "text/Utf8.h"
 
@@ -16,7 +17,7 @@ namespace orvane::cli {
 
 namespace {
 
-std::string Number(std::size_t number) { return NumberText(static_cast<std::int64_t>(number)); }
+std::string Number(std::size_t number) { return NumberText(number); }
 
 std::string OutOf(const run::CoverageCount& count, const char* what) {
     return Number(count.Taken) + " of " + Number(count.All) + " " + what;
@@ -50,7 +51,7 @@ std::string Xml(std::string_view utf8) {
             xml += "&gt;";
         else if (byte == '"')
             xml += "&quot;";
-        else if (static_cast<unsigned char>(byte) < 0x20)
+        else if (ByteOf(byte) < 0x20)
             xml += '?';
         else
             xml += byte;

@@ -14,7 +14,7 @@ namespace orvane::cli {
 
 namespace {
 
-std::string Number(std::size_t number) { return NumberText(static_cast<std::int64_t>(number)); }
+std::string Number(std::size_t number) { return NumberText(number); }
 
 // The documents that too little was seen of.
 void CheckCoverage(const std::vector<CoveredDocument>& covered, const TestArguments& asked,

@@ -7,9 +7,7 @@ namespace orvane::run {
 
 namespace {
 
-std::size_t Index(StateNumber state, RowNumber row) {
-    return static_cast<std::size_t>(state.Number() * kTableRows + row.Number());
-}
+std::size_t Index(StateNumber state, RowNumber row) { return state.Number() * kTableRows + row.Number(); }
 
 bool IsThere(std::uint64_t rows, RowNumber row) { return (rows >> row.Number() & 1U) != 0; }
 

@@ -63,7 +63,7 @@ class Coverage {
 
     void See(const EventsSeen& events) { seen_.Merge(events); }
 
-    void Enter(StateNumber state) { entered_.set(static_cast<std::size_t>(state.Number())); }
+    void Enter(StateNumber state) { entered_.set(state.Number()); }
     void Take(const Taken& taken);
 
     // Adds what another one of the same machine has seen. The order makes no difference.

@@ -8,6 +8,7 @@
 #include "text/NumberText.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace orvane::run {
 
@@ -85,8 +86,8 @@ std::optional<int> NameBook::Find(const Kind& kind, const TestName& name) {
     std::string choice;
     for (const int number : called)
         choice += (choice.empty() ? "" : " or ") + NumberText(number) + ":" + QuotedWhereNeeded(name.Text);
-    Slip(name.At, NumberText(static_cast<std::int64_t>(called.size())) + " " + kind.Plural + " are called " +
-                      Quoted(name.Text) + " in " + documentName_ + "; write " + choice);
+    Slip(name.At, NumberText(std::ssize(called)) + " " + kind.Plural + " are called " + Quoted(name.Text) +
+                      " in " + documentName_ + "; write " + choice);
     return std::nullopt;
 }
 

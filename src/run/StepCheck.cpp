@@ -9,6 +9,7 @@
 #include "text/NumberText.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace orvane::run {
 
@@ -32,7 +33,7 @@ Place ExpectedAt(const PlannedStep& step) {
     return step.Written->Expect ? step.Written->Expect->At : step.At;
 }
 
-std::string Count(std::size_t count) { return NumberText(static_cast<std::int64_t>(count)); }
+std::string Count(std::size_t count) { return NumberText(count); }
 
 } // namespace
 
@@ -237,7 +238,7 @@ std::optional<std::string> StepCheck::RunsFailure(const PlannedCheck& check, con
 }
 
 std::optional<std::string> StepCheck::TimerFailure(const PlannedCheck& check) const {
-    const Units started = clock_.Where().Started[static_cast<std::size_t>(check.Timer)];
+    const Units started = clock_.Where().Started[check.Timer];
     const Units since = clock_.Where().Now - started;
     if (started != kNever && since == check.Time)
         return std::nullopt;
@@ -288,10 +289,10 @@ void StepCheck::Update(TestCheck& check, const PlannedCheck& planned, const Step
         check.What = Check::Runs;
         return;
     case Check::Ran:
-        check.Count = static_cast<std::int64_t>(Ran(result).size());
+        check.Count = std::ssize(Ran(result));
         return;
     case Check::Timer: {
-        const Units started = clock_.Where().Started[static_cast<std::size_t>(planned.Timer)];
+        const Units started = clock_.Where().Started[planned.Timer];
         check.Time = {NumberText(started == kNever ? 0 : clock_.Where().Now - started), TimeSuffix::None, {}};
         return;
     }

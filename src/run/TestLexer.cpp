@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "run/TestLexer.h"
 
+#include "text/ByteOf.h"
 #include "text/Utf8.h"
 
 #include <algorithm>
@@ -16,7 +17,7 @@ bool IsBlank(char byte) { return byte == ' ' || byte == '\t'; }
 bool EndsWord(char byte) {
     return IsBlank(byte) || byte == ';' || byte == '"' || kSymbols.find(byte) != std::string_view::npos;
 }
-bool IsTail(char byte) { return (static_cast<unsigned char>(byte) & 0xC0) == 0x80; }
+bool IsTail(char byte) { return (ByteOf(byte) & 0xC0) == 0x80; }
 
 std::string_view WithoutBlanksAtTheEnd(std::string_view text) {
     while (!text.empty() && IsBlank(text.back()))

@@ -18,12 +18,12 @@ bool NeedsPower(const PlannedStep& step) {
            Has(step, Doing::Scan);
 }
 
-std::uint64_t Bit(int row) { return std::uint64_t{1} << static_cast<unsigned>(row); }
+std::uint64_t Bit(int row) { return std::uint64_t{1} << row; }
 
 } // namespace
 
 TestWalk::TestWalk(const Machine& machine, const TestPlan& plan)
-    : plan_(plan), clock_(machine), signals_(static_cast<std::size_t>(plan.Signals)) {}
+    : plan_(plan), clock_(machine), signals_(plan.Signals) {}
 
 std::optional<StepResult> TestWalk::PowerOnBefore(const PlannedStep& step) {
     if (hasPower_ || !NeedsPower(step))
@@ -77,7 +77,7 @@ Outcome TestWalk::Move(const PlannedStep& step, StepResult& result) {
 std::uint64_t TestWalk::Change(const PlannedStep& step) {
     for (const PlannedDoing& doing : step.Doings) {
         if (doing.What == Doing::Limit)
-            clock_.Surroundings().Limits[static_cast<std::size_t>(doing.State.Number())] = doing.Limit;
+            clock_.Surroundings().Limits[doing.State.Number()] = doing.Limit;
         if (doing.What == Doing::On || doing.What == Doing::Off || doing.What == Doing::Pulse)
             Switch(doing, doing.What != Doing::Off);
     }
@@ -93,7 +93,7 @@ std::uint64_t TestWalk::Change(const PlannedStep& step) {
 void TestWalk::Switch(const PlannedDoing& doing, bool on) {
     for (const PlannedInput& input : doing.Inputs) {
         if (input.IsSignal)
-            signals_[static_cast<std::size_t>(input.Index)] = on;
+            signals_[input.Index] = on;
         else
             switched_ = on ? switched_ | Bit(input.Index) : switched_ & ~Bit(input.Index);
     }
@@ -105,7 +105,7 @@ std::uint64_t TestWalk::Events() const {
         std::vector<bool> values;
         for (const PlannedEvent::Term& term : event.Terms) {
             if (term.What == TestOperator::Name) {
-                values.push_back(term.Input.IsSignal ? signals_[static_cast<std::size_t>(term.Input.Index)]
+                values.push_back(term.Input.IsSignal ? signals_[term.Input.Index]
                                                      : (events & Bit(term.Input.Index)) != 0);
                 continue;
             }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "text/Sha256.h"
 
+#include "text/ByteOf.h"
+
 #include <algorithm>
 #include <bit>
 #include <functional>
@@ -29,7 +31,7 @@ constexpr std::array<std::uint32_t, 64> kRounds = {
 std::uint32_t BigEndian(const char* bytes) {
     std::uint32_t word = 0;
     for (int i = 0; i < 4; ++i)
-        word = word << 8 | static_cast<unsigned char>(bytes[i]);
+        word = word << 8 | ByteOf(bytes[i]);
     return word;
 }
 

@@ -44,7 +44,7 @@ QString NotAllDeleted(std::size_t left, const FileSystem::Path& folder) {
     const std::u8string path = folder.u8string();
     return Translated("%1 files could not be removed from\r\n%2\r\nRemove them there by hand.")
         .arg(left)
-        .arg(QDir::toNativeSeparators(QString::fromUtf8(path.data(), static_cast<qsizetype>(path.size()))));
+        .arg(QDir::toNativeSeparators(QString::fromUtf8(path.data(), path.size())));
 }
 
 RecoveredNews NewsOf(const RecoveredJournal& journal) {

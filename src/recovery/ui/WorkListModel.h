@@ -17,7 +17,7 @@ class WorkListModel : public QAbstractTableModel {
     using QAbstractTableModel::QAbstractTableModel;
 
     void Show(std::vector<WorkItem> items);
-    const WorkItem& Item(int row) const { return items_[static_cast<std::size_t>(row)]; }
+    const WorkItem& Item(int row) const { return items_[row]; }
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
