@@ -5,6 +5,7 @@
 #include "cli/MessageText.h"
 #include "core/DocumentReader.h"
 #include "files/FileReader.h"
+#include "text/Ascii.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -17,10 +18,7 @@ namespace fs = std::filesystem;
 namespace {
 
 bool HasExtension(const fs::path& path, std::string_view extension) {
-    std::string own = Utf8(path.extension());
-    std::transform(own.begin(), own.end(), own.begin(),
-                   [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
-    return own == extension;
+    return AsciiLower(Utf8(path.extension())) == extension;
 }
 
 std::vector<std::string> FilesIn(const fs::path& folder, std::error_code& failure) {

@@ -111,6 +111,12 @@ std::string_view CodePane::Utf8() const {
     return {static_cast<const char*>(SendScintillaPtrResult(SCI_GETCHARACTERPOINTER)), size};
 }
 
+void CodePane::ReplaceUtf8(std::size_t start, std::size_t length, std::string_view utf8) {
+    SendScintilla(SCI_SETTARGETSTART, start);
+    SendScintilla(SCI_SETTARGETEND, start + length);
+    SendScintilla(SCI_REPLACETARGET, utf8.size(), utf8.data());
+}
+
 QString CodePane::CaretReadOut() const {
     int line = 0;
     int column = 0;

@@ -38,6 +38,12 @@ class CodePane : public QsciScintilla {
     void SetText(std::string_view ansi);
     std::string Text() const;
 
+    // The text as the pane keeps it, good until it changes.
+    std::string_view Utf8() const;
+    // Puts `utf8` in the place of the `length` bytes of Utf8() from `start` on; caret and selection move
+    // along.
+    void ReplaceUtf8(std::size_t start, std::size_t length, std::string_view utf8);
+
     // As SetText, but leaves out what a document cannot hold.
     void setText(const QString& text) override;
 
@@ -66,7 +72,6 @@ class CodePane : public QsciScintilla {
     QByteArray fromMimeData(const QMimeData* source, bool& rectangular) const override;
 
   private:
-    std::string_view Utf8() const; // good until the text changes
     void SetUpEditing();
     void ApplyLook();
     void ApplyMargin();

@@ -4,6 +4,7 @@
 #include "kit/PaneLook.h"
 #include "kit/QScintilla.h"
 #include "text/AnsiText.h"
+#include "text/Ordinal.h"
 
 namespace orvane {
 
@@ -30,7 +31,7 @@ void ZorlanLexer::SetPalette(const QPalette& palette) {
 }
 
 QString ZorlanLexer::description(int style) const {
-    switch (static_cast<TokenKind>(style)) {
+    switch (FromOrdinal<TokenKind>(style)) {
     case TokenKind::Plain:
         return tr("Text");
     case TokenKind::Comment:
@@ -47,7 +48,7 @@ QString ZorlanLexer::description(int style) const {
 
 QColor ZorlanLexer::defaultColor(int style) const {
     const bool dark = IsDark(palette_);
-    switch (static_cast<TokenKind>(style)) {
+    switch (FromOrdinal<TokenKind>(style)) {
     case TokenKind::Comment:
         return dark ? QColor(0x7FC97F) : QColor(0x1E7A1E);
     case TokenKind::String:

@@ -3,6 +3,7 @@
 
 #include "run/NearestName.h"
 #include "text/NumberText.h"
+#include "text/Ordinal.h"
 
 #include <algorithm>
 #include <array>
@@ -172,7 +173,7 @@ ReadingHead LineReader::ReadReading() {
     const auto found = std::find(kReadings.begin(), kReadings.end(), word.Text);
     if (found == kReadings.end())
         Slip(word.At, "there is no reading " + Quoted(word.Text) + DidYouMean(word.Text, kReadings));
-    return {static_cast<ReadingChoice>(found - kReadings.begin())};
+    return {FromOrdinal<ReadingChoice>(found - kReadings.begin())};
 }
 
 TestHead LineReader::ReadTest() {
@@ -207,7 +208,7 @@ std::optional<TestDoing> LineReader::ReadDoing() {
     for (std::size_t i = 0; i < words.size(); ++i) {
         if (!TakeWord(words[i]))
             continue;
-        doing.What = static_cast<Doing>(i);
+        doing.What = FromOrdinal<Doing>(i);
         do
             doing.Inputs.push_back(NeedName("the name of an event or a signal"));
         while (PeekName());
@@ -368,7 +369,7 @@ TestTime LineReader::NeedTime() {
     if (!number || found == kSuffixes.end())
         Slip(token.At, "a time is a whole number of units, or a number with ms, s, min or h, not " +
                            Quoted(token.Text));
-    time.Suffix = static_cast<TimeSuffix>(found - kSuffixes.begin());
+    time.Suffix = FromOrdinal<TimeSuffix>(found - kSuffixes.begin());
     if (time.Suffix == TimeSuffix::None && !IsDigits(time.Number))
         Slip(token.At,
              "a time without ms, s, min or h is a whole number of units, not " + Quoted(token.Text));

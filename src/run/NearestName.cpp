@@ -2,6 +2,7 @@
 #include "run/NearestName.h"
 
 #include "run/TestLexer.h"
+#include "text/Ascii.h"
 
 #include <algorithm>
 #include <utility>
@@ -11,13 +12,6 @@ namespace orvane::run {
 namespace {
 
 constexpr std::size_t kLongestName = 200; // bytes; the way is as long as the product of two names
-
-std::string Lower(std::string_view text) {
-    std::string lower(text);
-    std::transform(lower.begin(), lower.end(), lower.begin(),
-                   [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
-    return lower;
-}
 
 std::size_t Distance(std::string_view a, std::string_view b) {
     std::vector<std::size_t> beforeLast;
@@ -47,7 +41,7 @@ std::string NearestName(std::string_view written, const std::vector<std::string>
     for (const std::string& candidate : candidates) {
         if (candidate.empty() || candidate.size() > kLongestName)
             continue;
-        const std::size_t distance = Distance(Lower(written), Lower(candidate));
+        const std::size_t distance = Distance(AsciiLower(written), AsciiLower(candidate));
         const std::size_t most = std::max<std::size_t>(1, candidate.size() / 3);
         if (distance <= most && distance < least && distance < candidate.size()) {
             nearest = candidate;

@@ -3,6 +3,7 @@
 
 #include "run/TestWriter.h"
 #include "text/NumberText.h"
+#include "text/Ordinal.h"
 
 #include <array>
 
@@ -24,8 +25,7 @@ std::optional<std::int64_t> Microseconds(const TestTime& time) {
     }
     if (digits.size() > kMostDigits)
         return std::nullopt;
-    const std::int64_t product =
-        ParseNumber(digits) * kMicroseconds.at(static_cast<std::size_t>(time.Suffix));
+    const std::int64_t product = ParseNumber(digits) * kMicroseconds.at(Ordinal(time.Suffix));
     return product % divisor == 0 ? std::optional(product / divisor) : std::nullopt;
 }
 

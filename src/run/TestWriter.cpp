@@ -3,6 +3,7 @@
 
 #include "run/TestLexer.h"
 #include "text/NumberText.h"
+#include "text/Ordinal.h"
 
 #include <algorithm>
 #include <array>
@@ -164,7 +165,7 @@ class FileWriter {
     static std::string Text(const ReadingHead& head) {
         constexpr std::array words{"at-limit", "after-limit", "unstarted-since-power-on",
                                    "unstarted-expired"};
-        return std::string("reading ") + words.at(static_cast<std::size_t>(head.Choice));
+        return std::string("reading ") + words.at(Ordinal(head.Choice));
     }
     static std::string Text(const TestHead& head) { return "test " + head.Text; }
     std::string Text(const TestStep& step) const {
@@ -193,7 +194,7 @@ std::string NameText(const TestName& name) {
 
 std::string TimeText(const TestTime& time) {
     constexpr std::array suffixes{"", " ms", " s", " min", " h"};
-    return time.Number + suffixes.at(static_cast<std::size_t>(time.Suffix));
+    return time.Number + suffixes.at(Ordinal(time.Suffix));
 }
 
 std::string ExpectationText(const TestExpectation& expectation) {

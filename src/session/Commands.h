@@ -2,6 +2,8 @@
 // The catalogue of commands: menus and keys are made from it, tests and the check of the help read it.
 #pragma once
 
+#include "text/Ordinal.h"
+
 #include <array>
 #include <cstddef>
 #include <string_view>
@@ -64,7 +66,7 @@ enum class Command : unsigned char {
 };
 
 // How many there are, without the divider; a command's number is its place among them.
-constexpr std::size_t IndexOf(Command command) { return static_cast<std::size_t>(command); }
+constexpr std::size_t IndexOf(Command command) { return Ordinal(command); }
 inline constexpr std::size_t kCommandCount = IndexOf(Command::Divider);
 
 // What an entry of the catalogue becomes. An item belongs to the menu above it, a sub-item to the submenu

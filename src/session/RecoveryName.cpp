@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "session/RecoveryName.h"
 
+#include "text/Ascii.h"
 #include "text/NumberText.h"
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <random>
 #include <string_view>
 #include <utility>
@@ -17,13 +19,11 @@ constexpr std::string_view kPattern = "ddddddddTddddddZ-XXXXXXXX";
 constexpr std::size_t kTimeAt = 9; // behind the date and its T
 constexpr std::size_t kRandomDigits = 8;
 
-bool IsDigit(char character) { return character >= '0' && character <= '9'; }
-
 bool Matches(char character, char pattern) {
     if (pattern == 'd')
-        return IsDigit(character);
+        return IsAsciiDigit(character);
     if (pattern == 'X')
-        return IsDigit(character) || (character >= 'A' && character <= 'F');
+        return IsAsciiDigit(character) || (character >= 'A' && character <= 'F');
     return character == pattern;
 }
 
@@ -33,23 +33,22 @@ std::string Digits(std::int64_t number, std::size_t count) {
     return text;
 }
 
-// The number that a part of the stem is written as.
-int Part(std::string_view stem, std::size_t at, std::size_t count) {
-    int number = 0;
-    for (const char digit : stem.substr(at, count))
-        number = number * 10 + (digit - '0');
+// The number that a part of the stem, digits all of them, is written as.
+template <typename Number>
+Number Part(std::string_view stem, std::size_t at, std::size_t count) {
+    Number number = 0;
+    std::from_chars(stem.data() + at, stem.data() + at + count, number);
     return number;
 }
 
 std::optional<JournalTime> TimeOf(std::string_view stem) {
     using namespace std::chrono;
-    const auto month = static_cast<unsigned>(Part(stem, 4, 2));
-    const auto day = static_cast<unsigned>(Part(stem, 6, 2));
-    const year_month_day date{year(Part(stem, 0, 4)), std::chrono::month(month), std::chrono::day(day)};
+    const year_month_day date{year(Part<int>(stem, 0, 4)), month(Part<unsigned>(stem, 4, 2)),
+                              day(Part<unsigned>(stem, 6, 2))};
     if (!date.ok())
         return std::nullopt;
-    return sys_days(date) + hours(Part(stem, kTimeAt, 2)) + minutes(Part(stem, kTimeAt + 2, 2)) +
-           seconds(Part(stem, kTimeAt + 4, 2));
+    return sys_days(date) + hours(Part<int>(stem, kTimeAt, 2)) + minutes(Part<int>(stem, kTimeAt + 2, 2)) +
+           seconds(Part<int>(stem, kTimeAt + 4, 2));
 }
 
 std::optional<RecoveryFileKind> KindOf(std::string_view rest) {
@@ -73,13 +72,13 @@ std::string RecoveryStem(JournalTime now) {
     const auto today = floor<days>(now);
     const year_month_day date(today);
     const hh_mm_ss time(floor<seconds>(now - today));
-    const auto month = static_cast<unsigned>(date.month());
-    const auto day = static_cast<unsigned>(date.day());
+    const int year(date.year());
+    const unsigned month(date.month());
+    const unsigned day(date.day());
     std::string random = HexText(std::random_device()());
     random.insert(0, kRandomDigits - random.size(), '0');
-    return Digits(static_cast<int>(date.year()), 4) + Digits(month, 2) + Digits(day, 2) + "T" +
-           Digits(time.hours().count(), 2) + Digits(time.minutes().count(), 2) +
-           Digits(time.seconds().count(), 2) + "Z-" + random;
+    return Digits(year, 4) + Digits(month, 2) + Digits(day, 2) + "T" + Digits(time.hours().count(), 2) +
+           Digits(time.minutes().count(), 2) + Digits(time.seconds().count(), 2) + "Z-" + random;
 }
 
 std::optional<RecoveryName> ParseRecoveryName(const std::filesystem::path& name) {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "text/NumberText.h"
 
+#include "text/Ascii.h"
+
 #include <algorithm>
 #include <array>
 #include <charconv>
@@ -27,10 +29,7 @@ std::string NumberText(std::int64_t number) { return std::to_string(number); }
 std::string HexText(unsigned number) {
     std::array<char, 8> digits{};
     const auto result = std::to_chars(digits.begin(), digits.end(), number, 16);
-    std::string text(digits.begin(), result.ptr);
-    std::transform(text.begin(), text.end(), text.begin(),
-                   [](char digit) { return digit >= 'a' ? static_cast<char>(digit - 'a' + 'A') : digit; });
-    return text;
+    return AsciiUpper(std::string_view(digits.begin(), result.ptr));
 }
 
 std::string SignedNumberText(std::int64_t number) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "text/ZorlanScanner.h"
 
+#include "text/Ascii.h"
 #include "text/ByteOf.h"
 
 #include <algorithm>
@@ -9,13 +10,6 @@
 namespace orvane {
 
 namespace {
-
-std::string Capitals(std::string_view word) {
-    std::string capitals(word);
-    for (char& c : capitals)
-        c = c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
-    return capitals;
-}
 
 bool StartsComment(char c) { return c == ';' || c == '*'; }
 bool StartsString(char c) { return c == '"'; }
@@ -70,12 +64,12 @@ void ZorlanWords::Add(std::string_view words, TokenKind kind) {
             continue;
         for (const char c : word)
             wordCharacters_[ByteOf(c)] |= c > ' ' && !StartsComment(c) && !StartsString(c);
-        entries_.try_emplace(Capitals(word), Entry{std::string(word), kind});
+        entries_.try_emplace(AsciiUpper(word), Entry{std::string(word), kind});
     }
 }
 
 TokenKind ZorlanWords::KindOf(std::string_view word) const {
-    const auto entry = entries_.find(Capitals(word));
+    const auto entry = entries_.find(AsciiUpper(word));
     return entry == entries_.end() ? TokenKind::Plain : entry->second.Kind;
 }
 
@@ -107,9 +101,9 @@ std::vector<Token> ScanZorlan(std::string_view text, const ZorlanWords& words) {
 std::vector<std::string> CompletionWords(std::string_view text, std::string_view prefix,
                                          const ZorlanWords& words) {
     std::map<std::string, std::string> found; // by the word in capitals
-    const std::string start = Capitals(prefix);
+    const std::string start = AsciiUpper(prefix);
     const auto offer = [&](std::string_view word) {
-        std::string capitals = Capitals(word);
+        std::string capitals = AsciiUpper(word);
         if (capitals.size() > start.size() && capitals.compare(0, start.size(), start) == 0)
             found.try_emplace(std::move(capitals), word);
     };

@@ -6,20 +6,11 @@
 #include "text/ByteOf.h"
 
 #include <algorithm>
-#include <cstdint>
 #include <string>
 
 namespace orvane {
 
 namespace {
-
-using Sci = QsciScintilla;
-
-// The pane keeps its text as UTF-8 and counts in its bytes.
-std::string_view PaneBytes(CodePane& pane) {
-    const auto* bytes = static_cast<const char*>(pane.SendScintillaPtrResult(Sci::SCI_GETCHARACTERPOINTER));
-    return std::string_view(bytes, pane.SendScintilla(Sci::SCI_GETLENGTH));
-}
 
 std::size_t FirstLineLength(std::string_view text) { return std::min(text.find('\n'), text.size() - 1) + 1; }
 
@@ -57,16 +48,14 @@ void ReplaceStretch(CodePane& pane, std::size_t start, std::string_view before, 
     after.remove_suffix(end);
     if (before.empty() && after.empty())
         return;
-    const auto from = static_cast<unsigned long>(start + beginning);
-    pane.SendScintilla(Sci::SCI_SETTARGETRANGE, from, static_cast<long>(from + before.size()));
-    pane.SendScintilla(Sci::SCI_REPLACETARGET, static_cast<std::uintptr_t>(after.size()), after.data());
+    pane.ReplaceUtf8(start + beginning, before.size(), after);
 }
 
 } // namespace
 
 void ReplaceText(CodePane& pane, std::string_view text) {
     const std::string after = ToUtf8(text);
-    const std::string before(PaneBytes(pane));
+    const std::string before(pane.Utf8());
     const std::size_t lineBefore = before.empty() ? 0 : FirstLineLength(before);
     const std::size_t lineAfter = after.empty() ? 0 : FirstLineLength(after);
     const bool readOnly = pane.isReadOnly();
