@@ -13,7 +13,8 @@ class Hover : public TableFixture {
     QWidget* Tooltip() { return Find<QWidget>("frmMyToolTip"); }
     // The hint that comes up, after its delay; empty when none does.
     std::string Hint() {
-        QTest::qWait(500);
+        const auto* delay = Tooltip()->findChild<QTimer*>(QStringLiteral("Timer1"));
+        EXPECT_TRUE(QTest::qWaitFor([delay] { return !delay->isActive(); }, 3000));
         return Tooltip()->isVisible() ? Find<QLabel>("lblHint")->text().toStdString() : std::string();
     }
     void LeaveTheTable() {

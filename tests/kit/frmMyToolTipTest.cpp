@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QScreen>
+#include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
 #include <QToolTip>
@@ -25,6 +26,7 @@ class frmMyToolTipTest : public testing::Test {
         QCursor::setPos(Screen.bottomRight());
     }
 
+    QTimer& Delay() const { return *Tip.findChild<QTimer*>(QStringLiteral("Timer1")); }
     bool Appears() {
         return QTest::qWaitFor([this] { return Tip.isVisible(); }, 3000);
     }
@@ -34,7 +36,7 @@ class frmMyToolTipTest : public testing::Test {
     // Shows a hint at the place without delay and returns where on the screen it came up.
     QRect Shown(const QString& text, bool wrap, const QPoint& place) {
         Tip.UnDisplay();
-        Tip.findChild<QTimer*>(QStringLiteral("Timer1"))->setInterval(0);
+        Delay().setInterval(0);
         Tip.Display(text, wrap, place);
         EXPECT_TRUE(Appears());
         return Tip.geometry(); // the offscreen platform draws frames around windows that have none
@@ -56,12 +58,12 @@ TEST_F(frmMyToolTipTest, AHintComesUpAfterTheDelay) {
 }
 
 TEST_F(frmMyToolTipTest, AHintThatIsCalledOffInTimeNeverComesUp) {
+    const QSignalSpy ticks(&Delay(), &QTimer::timeout);
     Tip.Display(QStringLiteral("a"), false, {100, 100});
-    QTest::qWait(100);
+    EXPECT_TRUE(QTest::qWaitFor([&ticks] { return ticks.count() == 1; }, 3000));
     Tip.UnDisplay();
-    QTest::qWait(400);
+    EXPECT_FALSE(Delay().isActive()); // nothing else brings it up
     EXPECT_FALSE(Tip.isVisible());
-    EXPECT_FALSE(Tip.findChild<QTimer*>(QStringLiteral("Timer1"))->isActive());
 }
 
 TEST_F(frmMyToolTipTest, UnDisplayHidesAtOnce) {
@@ -74,8 +76,7 @@ TEST_F(frmMyToolTipTest, AnEmptyTextShowsNothingAndHidesWhatWasThere) {
     Shown(QStringLiteral("a"), false, {100, 100});
     Tip.Display(QString(), true, {100, 100});
     EXPECT_FALSE(Tip.isVisible());
-    QTest::qWait(400);
-    EXPECT_FALSE(Tip.isVisible());
+    EXPECT_FALSE(Delay().isActive()); // nothing else brings it up
 }
 
 TEST_F(frmMyToolTipTest, TheFocusStaysWhereItWas) {
@@ -83,7 +84,7 @@ TEST_F(frmMyToolTipTest, TheFocusStaysWhereItWas) {
     field.show();
     field.setFocus();
     Shown(QStringLiteral("a"), false, {100, 100});
-    QTest::qWait(50);
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(&Tip));
     EXPECT_TRUE(field.hasFocus());
     EXPECT_EQ(QApplication::activeWindow(), &Window);
     EXPECT_TRUE(Tip.isVisible());

@@ -141,10 +141,11 @@ TEST_F(frmBackTrackTest, TheColumnsKeepTheirShareOfTheWidth) {
     for (const int width : {300, 700}) {
         Window.resize(width, 300);
         Window.BackTrack(Document, 2);
-        QTest::qWait(10);
-        const int room = Grid->viewport()->width();
-        EXPECT_EQ(Grid->columnWidth(0), room * 45 / 100) << width;
-        EXPECT_EQ(Grid->columnWidth(0) + Grid->columnWidth(1), room) << width;
+        const auto room = [this] { return Grid->viewport()->width(); };
+        EXPECT_TRUE(
+            QTest::qWaitFor([&] { return Grid->columnWidth(0) + Grid->columnWidth(1) == room(); }, 3000))
+            << width;
+        EXPECT_EQ(Grid->columnWidth(0), room() * 45 / 100) << width;
     }
 }
 
