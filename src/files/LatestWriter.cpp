@@ -11,8 +11,8 @@ using Clock = std::chrono::steady_clock;
 
 } // namespace
 
-LatestWriter::LatestWriter(FileSystem& files, How how, Listener& listener, std::chrono::milliseconds patience)
-    : files_(files), how_(how), listener_(listener), patience_(patience) {}
+LatestWriter::LatestWriter(Target& target, Listener& listener, std::chrono::milliseconds patience)
+    : target_(target), listener_(listener), patience_(patience) {}
 
 LatestWriter::~LatestWriter() {
     {
@@ -26,29 +26,36 @@ LatestWriter::~LatestWriter() {
 }
 
 // To hand a text to a thread and back costs more than a quick drive: that one is written to right here, and a
-// drive that becomes slow costs one wait.
+// drive that becomes slow costs one wait. One that nothing is known of yet is waited for as long as for a
+// quick one.
 std::optional<WriteOutcome> LatestWriter::Write(const std::filesystem::path& path, std::string text) {
-    if (isQuick_ && !IsWriting()) {
+    std::unique_lock lock(mutex_);
+    const bool isFree = !busy_ && !waiting_;
+    if (isFree && took_ && *took_ < patience_) {
+        lock.unlock(); // nobody else writes: the thread has nothing to do
         const Clock::time_point begin = Clock::now();
-        WriteOutcome outcome{path, how_(files_, path, text)};
-        isQuick_ = Clock::now() - begin < patience_;
+        WriteOutcome outcome = target_.WriteTo(path, text);
+        took_ = Clock::now() - begin;
         return outcome;
     }
-    std::unique_lock lock(mutex_);
+    const bool mayBeQuick = isFree && !took_;
     waiting_ = Job{path, std::move(text)};
     outcome_.reset();
     if (!thread_.joinable())
         thread_ = std::thread([this] { Run(); });
     changed_.notify_all();
+    if (!mayBeQuick)
+        return std::nullopt;
     isAwaited_ = true;
     const bool done = changed_.wait_for(lock, patience_, [this] { return !busy_ && !waiting_; });
     isAwaited_ = false;
-    isQuick_ = done && took_ < patience_;
     return done ? std::exchange(outcome_, std::nullopt) : std::nullopt;
 }
 
 std::optional<WriteOutcome> LatestWriter::TakeOutcome() {
     const std::lock_guard lock(mutex_);
+    if (busy_ || waiting_)
+        return std::nullopt;
     return std::exchange(outcome_, std::nullopt);
 }
 
@@ -75,12 +82,12 @@ void LatestWriter::Run() {
         busy_ = true;
         lock.unlock();
         const Clock::time_point begin = Clock::now();
-        WrittenFile written = how_(files_, job.Path, job.Text);
+        WriteOutcome outcome = target_.WriteTo(job.Path, job.Text);
         const Clock::duration took = Clock::now() - begin;
         lock.lock();
         busy_ = false;
         took_ = took;
-        outcome_ = {job.Path, std::move(written)};
+        outcome_ = std::move(outcome);
         changed_.notify_all();
         if (!isAwaited_ && !waiting_)
             listener_.OutcomeIsThere();

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "files/LatestWriter.h"
 
-#include "support/MemoryFiles.h"
-
 #include <gmock/gmock.h>
 
 #include <future>
@@ -14,18 +12,28 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-// A drive whose writes stand until the test lets them go on. It is one for all, as `How` is a plain function.
-struct Drive {
+constexpr int kAll = 1000;
+
+// A drive whose writes stand until the test lets them go on.
+struct Drive final : LatestWriter::Target {
     std::mutex Mutex;
     std::condition_variable Changed;
-    bool IsStuck = false;
+    int Through = kAll; // so many writes go through
     int Begun = 0;
     std::vector<std::string> Texts;
-    bool Fails = false;
+    std::string Fault;
 
-    void LetGo() {
+    WriteOutcome WriteTo(const std::filesystem::path& path, std::string_view text) override {
+        std::unique_lock lock(Mutex);
+        const int number = ++Begun;
+        Changed.notify_all();
+        Changed.wait(lock, [&] { return number <= Through; });
+        Texts.emplace_back(path.generic_string() + ": " + std::string(text));
+        return {Fault};
+    }
+    void LetGo(int count = kAll) {
         const std::lock_guard lock(Mutex);
-        IsStuck = false;
+        Through = count;
         Changed.notify_all();
     }
     void AwaitWrites(int count) {
@@ -34,33 +42,20 @@ struct Drive {
     }
 };
 
-Drive* drive = nullptr;
-
-WrittenFile WriteSlowly(FileSystem&, const std::filesystem::path&, std::string_view text) {
-    std::unique_lock lock(drive->Mutex);
-    ++drive->Begun;
-    drive->Changed.notify_all();
-    drive->Changed.wait(lock, [] { return !drive->IsStuck; });
-    drive->Texts.emplace_back(text);
-    WrittenFile written;
-    if (drive->Fails)
-        written.Failure = FileError{FileStep::Write, make_error_code(std::errc::no_space_on_device)};
-    return written;
-}
-
 class LatestWriterTest : public testing::Test, public LatestWriter::Listener {
   protected:
-    LatestWriterTest() { drive = &drive_; }
-
-    void OutcomeIsThere() override { told_.set_value(); }
+    void OutcomeIsThere() override {
+        if (!std::exchange(wasTold_, true))
+            told_.set_value();
+    }
 
     LatestWriter& Writer(std::chrono::milliseconds patience) {
-        writer_.emplace(files_, &WriteSlowly, *this, patience);
+        writer_.emplace(drive_, *this, patience);
         return *writer_;
     }
 
-    MemoryFiles files_;
     Drive drive_;
+    bool wasTold_ = false;
     std::promise<void> told_;
     std::optional<LatestWriter> writer_; // goes first
 };
@@ -73,16 +68,15 @@ TEST_F(LatestWriterTest, OnADriveThatAnswersEachTextIsThereWhenTheCallReturns) {
     for (const char* text : {"a", "b", "c"}) {
         const std::optional<WriteOutcome> outcome = writer.Write("/p", text);
         ASSERT_TRUE(outcome);
-        EXPECT_EQ(outcome->Path, "/p");
-        EXPECT_FALSE(outcome->Written.Failure);
-        EXPECT_EQ(drive_.Texts.back(), text);
+        EXPECT_EQ(outcome->Failure, "");
+        EXPECT_EQ(drive_.Texts.back(), std::string("/p: ") + text);
     }
     EXPECT_FALSE(writer.TakeOutcome());
 }
 
 TEST_F(LatestWriterTest, BehindASlowDriveNobodyWaitsAndTheNewestTextWins) {
     LatestWriter& writer = Writer(kShort);
-    drive_.IsStuck = true;
+    drive_.Through = 0;
     EXPECT_FALSE(writer.Write("/p", "first"));
     drive_.AwaitWrites(1);
     for (const char* text : {"second", "third", "fourth"})
@@ -92,12 +86,41 @@ TEST_F(LatestWriterTest, BehindASlowDriveNobodyWaitsAndTheNewestTextWins) {
     told_.get_future().wait();
     ASSERT_TRUE(writer.TakeOutcome());
     EXPECT_FALSE(writer.TakeOutcome());
-    EXPECT_THAT(drive_.Texts, ElementsAre("first", "fourth"));
+    EXPECT_THAT(drive_.Texts, ElementsAre("/p: first", "/p: fourth"));
+}
+
+// It would be taken for the newest one's.
+TEST_F(LatestWriterTest, TheOutcomeOfAnOlderTextIsNotHandedOutWhileANewerOneWaits) {
+    LatestWriter& writer = Writer(kShort);
+    drive_.Through = 0;
+    writer.Write("/p", "first");
+    drive_.AwaitWrites(1);
+    writer.Write("/p", "second");
+    drive_.LetGo(1);
+    drive_.AwaitWrites(2);
+    EXPECT_FALSE(writer.TakeOutcome());
+    drive_.LetGo();
+    EXPECT_TRUE(writer.Finish());
+}
+
+TEST_F(LatestWriterTest, ADriveThatIsKnownToBeSlowIsNotWaitedForUntilItIsQuickAgain) {
+    LatestWriter& writer = Writer(std::chrono::milliseconds(20));
+    drive_.Through = 0;
+    EXPECT_FALSE(writer.Write("/p", "slow"));
+    drive_.AwaitWrites(1);
+    const auto enough = std::chrono::steady_clock::now() + std::chrono::milliseconds(20);
+    while (std::chrono::steady_clock::now() < enough)
+        std::this_thread::yield();
+    drive_.LetGo();
+    writer.Finish();
+    EXPECT_FALSE(writer.Write("/p", "quick"));
+    writer.Finish();
+    EXPECT_TRUE(writer.Write("/p", "known to be quick"));
 }
 
 TEST_F(LatestWriterTest, WhoAsksForTheFileWaitsForIt) {
     LatestWriter& writer = Writer(kShort);
-    drive_.IsStuck = true;
+    drive_.Through = 0;
     writer.Write("/p", "text");
     drive_.AwaitWrites(1);
     std::future<std::optional<WriteOutcome>> finished =
@@ -105,29 +128,29 @@ TEST_F(LatestWriterTest, WhoAsksForTheFileWaitsForIt) {
     drive_.LetGo();
     EXPECT_TRUE(finished.get());
     EXPECT_FALSE(writer.IsWriting());
-    EXPECT_THAT(drive_.Texts, ElementsAre("text"));
+    EXPECT_THAT(drive_.Texts, ElementsAre("/p: text"));
 }
 
 TEST_F(LatestWriterTest, WhatTheThreadCouldNotWriteIsToldLikeAnyOther) {
     LatestWriter& writer = Writer(kShort);
-    drive_.IsStuck = true;
-    drive_.Fails = true;
+    drive_.Through = 0;
+    drive_.Fault = "The disk is full";
     writer.Write("/p", "text");
     drive_.LetGo();
     const std::optional<WriteOutcome> outcome = writer.Finish();
     ASSERT_TRUE(outcome);
-    EXPECT_EQ(outcome->Written.Failure->Reason, std::errc::no_space_on_device);
+    EXPECT_EQ(outcome->Failure, "The disk is full");
 }
 
 TEST_F(LatestWriterTest, TheNewestTextIsWrittenBeforeTheProgramEnds) {
     Writer(kShort);
-    drive_.IsStuck = true;
+    drive_.Through = 0;
     writer_->Write("/p", "first");
     drive_.AwaitWrites(1);
     writer_->Write("/p", "last");
     drive_.LetGo();
     writer_.reset();
-    EXPECT_THAT(drive_.Texts, ElementsAre("first", "last"));
+    EXPECT_THAT(drive_.Texts, ElementsAre("/p: first", "/p: last"));
 }
 
 TEST_F(LatestWriterTest, WithoutATextThereIsNothingToWaitFor) {

@@ -58,7 +58,22 @@ std::optional<std::string> MemoryFiles::AfterPowerFailure(const Path& path, bool
     return found == names.end() ? std::nullopt : std::optional(found->second->OnDisk);
 }
 
+void MemoryFiles::Stand() {
+    const std::lock_guard lock(gate_->Mutex);
+    gate_->IsClosed = true;
+}
+
+void MemoryFiles::LetGo() {
+    const std::lock_guard lock(gate_->Mutex);
+    gate_->IsClosed = false;
+    gate_->Opened.notify_all();
+}
+
 std::error_code MemoryFiles::Next() {
+    {
+        std::unique_lock lock(gate_->Mutex);
+        gate_->Opened.wait(lock, [this] { return !gate_->IsClosed; });
+    }
     ++calls_;
     return calls_ == failingCall_ || (forGood_ && calls_ > failingCall_) ? why_ : std::error_code();
 }

@@ -3,8 +3,10 @@
 
 #include "files/FileSystem.h"
 
+#include <condition_variable>
 #include <map>
 #include <memory>
+#include <mutex>
 #include <optional>
 #include <string>
 #include <vector>
@@ -40,6 +42,10 @@ class MemoryFiles final : public FileSystem {
     // Attributes, groups and owners cannot be set.
     void KeepNothing() { keepsNothing_ = true; }
     void HaveNoSwap() { hasSwap_ = false; }
+    // From now on every call waits until somebody lets them go; then as before. A thread may make the calls,
+    // while nobody else looks at the files.
+    void Stand();
+    void LetGo();
     int Calls() const { return calls_; }
     std::vector<std::string> Log; // the calls that change something, in their order
     int OpenHandles() const;
@@ -94,6 +100,12 @@ class MemoryFiles final : public FileSystem {
     std::map<Path, Shared> named_; // the names that the disk has for sure
     std::map<Path, Path> links_;
     std::map<int, Handle> handles_;
+    struct Gate {
+        std::mutex Mutex; // guards the next
+        bool IsClosed = false;
+        std::condition_variable Opened;
+    };
+    std::unique_ptr<Gate> gate_ = std::make_unique<Gate>();
     int nextHandle_ = 3;
     int calls_ = 0;
     int failingCall_ = 0;

@@ -37,7 +37,7 @@ bool AsksForProgram(ChangeKind kind) {
 } // namespace
 
 GeneratorRoom::GeneratorRoom(const RoomPlace& place)
-    : session_(place.Open), words_(place.Words), window_(place.Window) {
+    : session_(place.Open), words_(place.Words), window_(place.Window), generator_(files_) {
     connect(&generator_, &GeneratorRun::Finished, this, &GeneratorRoom::ShowRun);
     connect(&generator_, &GeneratorRun::WriteFailed, this, [this](const QString& path, const QString& why) {
         toTell_ += tr("The generated program could not be written to\r\n%1\r\n%2.")
@@ -47,6 +47,10 @@ GeneratorRoom::GeneratorRoom(const RoomPlace& place)
         Q_EMIT Said(tr("%1 was not made by Orvane. What was in it is kept as %2")
                         .arg(QFileInfo(path).fileName(), QDir::toNativeSeparators(copy)));
     });
+    connect(&generator_, &GeneratorRun::Noted, this, [this](const QString& path, const QStringList& notes) {
+        Q_EMIT Said(QFileInfo(path).fileName() + QStringLiteral(": ") + notes.join(QStringLiteral(". ")));
+    });
+    connect(&generator_, &GeneratorRun::WrittenLate, this, &GeneratorRoom::TakeLateFile);
     session_.Observe(ObserverRank::Messages, failureBox_);
 }
 
@@ -83,9 +87,22 @@ void GeneratorRoom::Told(const Change& change) {
         generator_.Run(session_.Document(), path);
     else
         return;
+    if (change.Kind == ChangeKind::ProgramWanted)
+        generator_.Finish();
+    TellSession();
+}
+
+void GeneratorRoom::TellSession() {
     ProgramState program = session_.Program();
     program.Written = generator_.GeneratedOk();
     session_.SetProgram(program);
+}
+
+// Nobody waits for it, so what went wrong is told by itself.
+void GeneratorRoom::TakeLateFile() {
+    TellSession();
+    ShowRun();
+    TellTrouble();
 }
 
 // What was not saved leaves no program behind.
@@ -97,9 +114,11 @@ void GeneratorRoom::MakeProgramsAgree(ChangeKind kind) {
         toTell_ += trouble;
 }
 
-void GeneratorRoom::FailureBox::Told(const Change&) {
-    for (const QString& text : std::exchange(room_.toTell_, {}))
-        Tell(&room_.window_, text);
+void GeneratorRoom::FailureBox::Told(const Change&) { room_.TellTrouble(); }
+
+void GeneratorRoom::TellTrouble() {
+    for (const QString& text : std::exchange(toTell_, {}))
+        Tell(&window_, text);
 }
 
 void GeneratorRoom::ShowRun() {
@@ -112,6 +131,8 @@ QString GeneratorRoom::FateOfProgram() const {
         return tr("Not written: the design has errors");
     if (session_.Path().empty())
         return tr("Not written: the document has no file yet");
+    if (generator_.IsWriting())
+        return tr("Being written: the drive is slow");
     const QString path = QString::fromStdString(ProgramFilePath(session_.Path()));
     return generator_.GeneratedOk() ? tr("Written to %1").arg(QDir::toNativeSeparators(path))
                                     : tr("Not written");
@@ -132,7 +153,8 @@ void GeneratorRoom::Preserve() { (void)generator_.LeaveDocument(); }
 
 void GeneratorRoom::Close() {
     if (const QString trouble = generator_.LeaveDocument(); !trouble.isEmpty())
-        Tell(&window_, trouble);
+        toTell_ += trouble;
+    TellTrouble();
     if (frmGenerator_)
         frmGenerator_->hide();
 }

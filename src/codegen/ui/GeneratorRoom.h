@@ -2,6 +2,7 @@
 #pragma once
 
 #include "codegen/ui/GeneratorRun.h"
+#include "files/NativeFiles.h"
 #include "kit/Room.h"
 #include "session/Change.h"
 
@@ -42,6 +43,9 @@ class GeneratorRoom : public Room {
     };
 
     void MakeProgramsAgree(ChangeKind kind);
+    void TellSession();
+    void TakeLateFile();
+    void TellTrouble();
     void ShowRun();
     QString FateOfProgram() const;
     frmGenerator& Window();
@@ -49,6 +53,7 @@ class GeneratorRoom : public Room {
     Session& session_;
     const Vocabulary& words_;
     QMainWindow& window_;
+    NativeFiles files_;
     GeneratorRun generator_;
     QStringList toTell_; // about programs that could not be written
     FailureBox failureBox_{*this};

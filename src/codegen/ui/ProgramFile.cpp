@@ -4,18 +4,15 @@
 #include "codegen/BannerDate.h"
 #include "codegen/PathInProgram.h"
 #include "codegen/ProgramBanner.h"
-#include "files/FileReader.h"
-#include "files/FileWriter.h"
-#include "files/NativeFiles.h"
-#include "kit/DocumentFile.h"
+#include "core/DocumentReader.h"
 #include "kit/FilePath.h"
 #include "session/UserRecoveryFolder.h"
 #include "text/SiblingPath.h"
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QFileInfo>
 
+#include <algorithm>
 #include <cstdlib>
 #include <ctime>
 #include <utility>
@@ -29,21 +26,14 @@ constexpr std::size_t kLargestProgram = 64u << 20; // bytes; far above any
 QString Translated(const char* text) { return QCoreApplication::translate("ProgramFile", text); }
 
 // Also through a link, and in whatever case where the system does not tell cases apart.
-bool IsSameFile(const QString& one, const QString& other) {
-    const QFileInfo file(one);
-    return file.exists() && file == QFileInfo(other);
+bool IsSameFile(FileSystem& files, const FileSystem::Path& one, const FileSystem::Path& other) {
+    const Result<FileFacts> first = files.Look(one);
+    const Result<FileFacts> second = first.Failure ? first : files.Look(other);
+    return !second.Failure && first.Got.Device == second.Got.Device && first.Got.Number == second.Got.Number;
 }
 
-QString PathBeside(const QString& documentPath) {
-    return QString::fromStdString(ProgramFilePath(documentPath.toStdString()));
-}
-
-// It can be made again at any time, so nobody waits for the disk, and it is written after every change in the
-// table, so that nobody waits longer than he notices for another program that has it open.
-WrittenFile WriteQuickly(const QString& path, std::initializer_list<std::string_view> pieces) {
-    NativeFiles files;
-    const WriteOptions options{Outlives::Process, SpecialFiles::Refused, std::chrono::milliseconds(100)};
-    return WriteFile(files, NativePath(path), pieces, options);
+FileSystem::Path PathBeside(const QString& documentPath) {
+    return NativePath(QString::fromStdString(ProgramFilePath(documentPath.toStdString())));
 }
 
 // Empty when it was written.
@@ -56,23 +46,10 @@ QString WhyUnwritten(const WrittenFile& written) {
            (isHeld ? QStringLiteral("; the next change is written again") : QString());
 }
 
-FileContent ReadProgram(const QString& path) {
-    NativeFiles files;
-    return ReadFile(files, NativePath(path), kLargestProgram);
-}
-
 QString WhyNotKept(const QString& why) {
     return Translated("What is there was not made by Orvane, and no copy of it could be kept (%1). Move it "
                       "away or save the document under another name")
         .arg(why);
-}
-
-ProgramFile::Outcome KeepForeign(const QString& path, std::string_view bytes) {
-    NativeFiles files;
-    const Result<std::filesystem::path> copy = KeepForUser(files, NativePath(path), bytes);
-    if (copy.Failure)
-        return {WhyNotKept(QString::fromStdString(ReasonText(copy.Failure))), {}};
-    return {{}, QString::fromStdU16String(copy.Got.u16string())};
 }
 
 } // namespace
@@ -83,40 +60,61 @@ DatedProgram ProgramOf(const FsmDocument& document, const QString& documentPath)
             QString::fromLocal8Bit(moment.Fault.c_str())};
 }
 
-ProgramFile::Outcome ProgramFile::Write(const QString& documentPath, const std::string& program) {
-    const QString path = PathBeside(documentPath);
-    if (IsSameFile(path, documentPath))
-        return {QStringLiteral("It would take the place of the document; save that under another name"), {}};
-    Outcome outcome;
-    if (!ahead_ || ahead_->DocumentPath != documentPath)
-        outcome = Begin(documentPath, path);
-    if (!outcome.Failure.isEmpty())
-        return outcome;
+std::optional<WriteOutcome> ProgramFile::Write(const QString& documentPath, const std::string& program) {
+    return writer_.Write(NativePath(documentPath), program);
+}
+
+// It can be made again at any time, so nobody waits for the disk, and it is written after every change in the
+// table, so that nobody waits longer than he notices for another program that has it open.
+WrittenFile ProgramFile::WriteQuickly(const FileSystem::Path& path,
+                                      std::initializer_list<std::string_view> pieces) {
+    const WriteOptions options{Outlives::Process, SpecialFiles::Refused, std::chrono::milliseconds(100)};
+    return WriteFile(files_, path, pieces, options);
+}
+
+FileContent ProgramFile::ReadProgram(const FileSystem::Path& path) {
+    return ReadFile(files_, path, kLargestProgram);
+}
+
+WriteOutcome ProgramFile::WriteTo(const FileSystem::Path& document, std::string_view program) {
+    const QString documentPath = QDir::toNativeSeparators(QString::fromStdU16String(document.u16string()));
+    const FileSystem::Path path = PathBeside(documentPath);
+    if (IsSameFile(files_, path, document))
+        return {"It would take the place of the document; save that under another name"};
+    if (!ahead_ || ahead_->DocumentPath != documentPath) {
+        if (const QString why = Begin(documentPath, path); !why.isEmpty())
+            return {why.toStdString()};
+    }
     const WrittenFile written = WriteQuickly(path, {program, kProgramFileEnd});
     if (written)
         ahead_->Written = written.Stamp;
-    outcome.Failure = WhyUnwritten(written);
-    return outcome;
+    for (const FileNote note : written.Notes) {
+        if (std::find(ahead_->Notes.begin(), ahead_->Notes.end(), note) == ahead_->Notes.end())
+            ahead_->Notes.push_back(note);
+    }
+    return {WhyUnwritten(written).toStdString(), ahead_->Copy, ahead_->Notes};
 }
 
 // The first write since the document was opened or saved. What cannot be read because it is no file is left
 // to the writer, which refuses it too.
-ProgramFile::Outcome ProgramFile::Begin(const QString& documentPath, const QString& path) {
+QString ProgramFile::Begin(const QString& documentPath, const FileSystem::Path& path) {
     const FileContent there = ReadProgram(path);
-    Outcome outcome;
     if (there.Failure && there.Failure->Reason != std::errc::no_such_file_or_directory &&
         !there.Failure->Refused)
-        return {WhyNotKept(Message(*there.Failure)), {}};
+        return WhyNotKept(Message(*there.Failure));
+    Result<FileSystem::Path> copy;
     if (there && there.Length > 0 && !HasProgramBanner(there.Bytes()))
-        outcome = KeepForeign(path, there.Bytes());
-    if (!outcome.Failure.isEmpty())
-        return outcome;
-    ahead_ = {documentPath, there ? std::optional(std::string(there.Bytes())) : std::nullopt, {}};
-    return outcome;
+        copy = KeepForUser(files_, path, there.Bytes());
+    if (copy.Failure)
+        return WhyNotKept(QString::fromStdString(ReasonText(copy.Failure)));
+    ahead_ = {.DocumentPath = documentPath,
+              .Former = there ? std::optional(std::string(there.Bytes())) : std::nullopt,
+              .Copy = std::move(copy.Got)};
+    return {};
 }
 
 QString ProgramFile::TakeSaved(const QString& documentPath) {
-    if (ahead_ && ahead_->DocumentPath != documentPath)
+    if (ahead_ && NativePath(ahead_->DocumentPath) != NativePath(documentPath))
         return BringBack();
     ahead_.reset();
     return {};
@@ -126,15 +124,18 @@ QString ProgramFile::BringBack() {
     const std::optional<Ahead> ahead = std::exchange(ahead_, std::nullopt);
     if (!ahead)
         return {};
-    const QString path = PathBeside(ahead->DocumentPath);
+    const FileSystem::Path path = PathBeside(ahead->DocumentPath);
     const FileContent there = ReadProgram(path);
-    const DocumentFile saved = ReadDocumentFile(ahead->DocumentPath);
-    if (!there || there.Stamp != ahead->Written || !saved.Content)
+    const FileContent document = ReadFile(files_, NativePath(ahead->DocumentPath), kLargestDocument);
+    if (!there || there.Stamp != ahead->Written || !document)
+        return {};
+    const ReadResult saved = ReadDocument(document.Bytes());
+    if (saved.Refused)
         return {};
     QString failure;
     const DatedProgram again =
-        saved.Content->BrokeOff ? DatedProgram{} : ProgramOf(saved.Content->Document, ahead->DocumentPath);
-    if (saved.Content->BrokeOff || again.Program.Findings.HasErrors())
+        saved.BrokeOff ? DatedProgram{} : ProgramOf(saved.Document, ahead->DocumentPath);
+    if (saved.BrokeOff || again.Program.Findings.HasErrors())
         failure = PutBack(*ahead, path);
     else if (WithoutBanner(again.Program.Text + std::string(kProgramFileEnd)) != WithoutBanner(there.Bytes()))
         failure = again.Failure.isEmpty()
@@ -145,14 +146,13 @@ QString ProgramFile::BringBack() {
     return Translated(
                "The program\r\n%1\r\nstill has changes that were not saved: %2.\r\n\r\nGenerate it again "
                "before you build: open the document and choose Code, Generate.")
-        .arg(QDir::toNativeSeparators(path), failure);
+        .arg(QDir::toNativeSeparators(QString::fromStdU16String(path.u16string())), failure);
 }
 
-QString ProgramFile::PutBack(const Ahead& ahead, const QString& path) {
+QString ProgramFile::PutBack(const Ahead& ahead, const FileSystem::Path& path) {
     if (ahead.Former)
         return WhyUnwritten(WriteQuickly(path, {*ahead.Former}));
-    NativeFiles files;
-    const std::error_code failure = files.Remove(NativePath(path));
+    const std::error_code failure = files_.Remove(path);
     return failure ? QString::fromStdString(ReasonText(failure)) : QString();
 }
 

@@ -1,13 +1,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "codegen/ui/GeneratorRun.h"
 
+#include "core/DocumentWriter.h"
+#include "files/NativeFiles.h"
 #include "support/FileBytes.h"
+#include "support/MemoryFiles.h"
+#include "support/ui/TableFixture.h"
 
 #include <QDir>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
+
+#include <thread>
 
 #ifndef _WIN32
 #include <sys/stat.h>
@@ -35,7 +41,8 @@ class GeneratorRunTest : public testing::Test {
     }
 
     FsmDocument document_;
-    GeneratorRun run_;
+    NativeFiles files_;
+    GeneratorRun run_{files_};
     QSignalSpy failures_{&run_, &GeneratorRun::WriteFailed};
 
   private:
@@ -81,6 +88,97 @@ TEST_F(GeneratorRunTest, APipeInThePlaceOfTheProgramIsNotWrittenInto) {
 }
 
 #endif
+
+// A drive that does not answer until the test lets it.
+class SlowDriveTest : public testing::Test {
+  protected:
+    SlowDriveTest() {
+        qputenv("SOURCE_DATE_EPOCH", "0");
+        files_.Put("/pump.zfsm", WriteDocument(document_));
+        files_.Stand();
+    }
+    ~SlowDriveTest() override { files_.LetGo(); }
+
+    void Run(const char* name = "PMP") {
+        document_.General.FsmName = name;
+        run_.Run(document_, kDocument);
+    }
+    std::string Program() { return files_.Bytes("/pump.zls").value_or("none"); }
+    std::string LatestProgram() { return run_.Latest().Text + "\r\n"; }
+
+    const QString kDocument = QStringLiteral("/pump.zfsm");
+    FsmDocument document_ = PumpDocument();
+    MemoryFiles files_;
+    GeneratorRun run_{files_};
+    QSignalSpy late_{&run_, &GeneratorRun::WrittenLate};
+    QSignalSpy failures_{&run_, &GeneratorRun::WriteFailed};
+};
+
+TEST_F(SlowDriveTest, AnEditDoesNotWaitAndTheNewestProgramIsWrittenLater) {
+    for (const char* name : {"ONE", "TWO", "THREE"}) {
+        Run(name);
+        EXPECT_TRUE(run_.IsWriting());
+        EXPECT_FALSE(run_.GeneratedOk());
+    }
+    files_.LetGo();
+    ASSERT_TRUE(late_.wait());
+    EXPECT_FALSE(run_.IsWriting());
+    EXPECT_TRUE(run_.GeneratedOk());
+    EXPECT_EQ(Program(), LatestProgram());
+    EXPECT_NE(Program().find("THREE"), std::string::npos);
+}
+
+TEST_F(SlowDriveTest, WhoAsksForTheFileWaitsForIt) {
+    Run();
+    std::thread drive([this] { files_.LetGo(); });
+    run_.Finish();
+    drive.join();
+    EXPECT_TRUE(run_.GeneratedOk());
+    EXPECT_EQ(Program(), LatestProgram());
+}
+
+TEST_F(SlowDriveTest, AFailureIsToldOnceItIsKnown) {
+    files_.PutSpecial("/pump.zls", FileKind::Folder);
+    Run();
+    EXPECT_TRUE(failures_.isEmpty());
+    files_.LetGo();
+    ASSERT_TRUE(late_.wait());
+    ASSERT_EQ(failures_.size(), 1);
+    EXPECT_EQ(failures_.first().at(1).toString(), QStringLiteral("It is a folder"));
+    EXPECT_FALSE(run_.GeneratedOk());
+}
+
+TEST_F(SlowDriveTest, AProgramWithErrorsDoesNotCountAsWrittenWhenTheOneBeforeItIs) {
+    Run();
+    Run("");
+    ASSERT_TRUE(run_.Latest().Findings.HasErrors());
+    files_.LetGo();
+    ASSERT_TRUE(late_.wait());
+    EXPECT_FALSE(run_.GeneratedOk());
+    EXPECT_NE(Program().find("PMP"), std::string::npos);
+}
+
+TEST_F(SlowDriveTest, ADocumentThatIsLeftWaitsAndBringsTheSavedProgramBack) {
+    Run("OTHER");
+    std::thread drive([this] { files_.LetGo(); });
+    EXPECT_EQ(run_.LeaveDocument(), QString());
+    drive.join();
+    EXPECT_FALSE(run_.IsWriting());
+    EXPECT_TRUE(Program().starts_with(";PMP ")) << Program();
+}
+
+TEST_F(SlowDriveTest, WhatTheFileLosesIsTold) {
+    files_.LetGo();
+    files_.Put("/pump.zls", "");
+    files_.Find("/pump.zls")->Facts.Names = 2;
+    QSignalSpy notes(&run_, &GeneratorRun::Noted);
+    Run();
+    Run();
+    ASSERT_EQ(notes.size(), 1);
+    EXPECT_EQ(notes.first().at(1).toStringList(),
+              QStringList{
+                  QStringLiteral("The file has other names (hard links): these keep what was there before")});
+}
 
 } // namespace
 } // namespace orvane
