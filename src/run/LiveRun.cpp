@@ -1,0 +1,311 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "run/LiveRun.h"
+
+#include "codegen/DesignChecks.h"
+#include "run/Follow.h"
+#include "run/Obstacles.h"
+#include "run/RunWords.h"
+#include "run/StepCheck.h"
+#include "text/AnsiText.h"
+#include "text/NumberText.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace orvane::run {
+
+namespace {
+
+constexpr int kMostTimeoutsToChange = 1000; // a state that only enters itself anew is left alone then
+
+std::vector<RunStep> StepsOf(const History& history) {
+    return {history.Steps().begin(), history.Steps().end()};
+}
+
+} // namespace
+
+LiveRun::LiveRun(const FsmDocument& document) : document_(document) { Restart(); }
+
+LiveRun::~LiveRun() = default;
+
+void LiveRun::Restart() {
+    given_.clear();
+    cutOff_.clear();
+    recorded_ = {{}, {}, document_};
+    allFits_ = true;
+    notice_.clear();
+    Build();
+}
+
+void LiveRun::Build() {
+    obstacles_.clear();
+    for (const std::string& obstacle : run::Obstacles(document_))
+        obstacles_.push_back(ToUtf8(obstacle));
+    history_.reset();
+    machine_.reset();
+    if (!obstacles_.empty())
+        return;
+    machine_ = std::make_unique<Machine>(document_, given_);
+    history_ = std::make_unique<History>(*machine_);
+}
+
+void LiveRun::Recompile() {
+    notice_.clear();
+    if (history_ && allFits_)
+        recorded_ = {StepsOf(*history_), history_->At(), std::move(recorded_.Table)};
+    const std::unique_ptr<Machine> formerMachine = std::move(machine_);
+    const std::unique_ptr<History> former = std::move(history_);
+    const bool hadAll = allFits_;
+    Build();
+    if (!history_) {
+        allFits_ = false;
+        return;
+    }
+    PlayAgain();
+    FollowCutOff();
+    if (former && hadAll && allFits_)
+        TellOtherWay(*former);
+    if (allFits_)
+        recorded_.Table = document_;
+}
+
+void LiveRun::PlayAgain() {
+    const Followed followed(recorded_.Table, document_);
+    allFits_ = true;
+    for (const RunStep& before : recorded_.Steps) {
+        const std::optional<RunStep> step = followed.Step(before);
+        if (step && history_->Do(*step))
+            continue;
+        allFits_ = false;
+        notice_ = step ? WhyNot(*step) : WhyLost(before);
+        notice_ = "The run stands before step " + NumberText(std::int64_t(history_->At().Steps + 1)) +
+                  ", which does not fit the table any more: " + notice_;
+        return;
+    }
+    history_->GoTo(recorded_.At);
+}
+
+void LiveRun::FollowCutOff() {
+    const Followed followed(recorded_.Table, document_);
+    for (RunStep& step : cutOff_) {
+        const std::optional<RunStep> now = followed.Step(step);
+        if (!now || !allFits_)
+            return cutOff_.clear();
+        step = *now;
+    }
+}
+
+void LiveRun::TellOtherWay(const History& before) {
+    const Followed followed(recorded_.Table, document_);
+    const auto same = [&](const LogEntry& was, const LogEntry& is) {
+        return was.When == is.When && followed.State(StateNumber(was.To)) == StateNumber(is.To);
+    };
+    const auto [was, is] = std::mismatch(before.Log().begin(), before.Log().end(), history_->Log().begin(),
+                                         history_->Log().end(), same);
+    const auto title = [&](const FsmDocument& table, int state) { return ToUtf8(StateTitle(table, state)); };
+    if (is != history_->Log().end())
+        notice_ = "Since the edit it goes another way: at " + NumberText(is->When) + " to " +
+                  title(document_, is->To);
+    else if (was != before.Log().end())
+        notice_ = "Since the edit it does not go to " + title(recorded_.Table, was->To) + " at " +
+                  NumberText(was->When) + " any more";
+}
+
+StateNumber LiveRun::State() const {
+    return history_ && history_->HasPower() ? history_->Now().Where().State : StateNumber();
+}
+
+bool LiveRun::IsTrue(RowNumber event) const { return history_ && history_->Now().Surroundings().Has(event); }
+
+bool LiveRun::Do(const RunStep& step) {
+    notice_.clear();
+    if (!history_ || !history_->CanDo(step)) {
+        notice_ = WhyNot(step);
+        return false;
+    }
+    if (history_->At() != Moment{history_->Steps().size(), 0})
+        cutOff_ = StepsOf(*history_);
+    history_->Do(step);
+    if (!std::exchange(allFits_, true))
+        recorded_.Table = document_;
+    return true;
+}
+
+std::string LiveRun::WhyNot(const RunStep& step) const {
+    if (!history_)
+        return obstacles_.front();
+    if (!IsIdle(history_->End()))
+        return OutcomeText(document_, *history_);
+    if (!history_->HasPower() && step.What != RunAct::PowerOn)
+        return "the power is off";
+    return "a run has at most " + NumberText(std::int64_t(kLongestRun)) + " steps; power on begins a new one";
+}
+
+std::string LiveRun::WhyLost(const RunStep& step) const {
+    if (step.What == RunAct::Limit)
+        return "the state " + ToUtf8(StateTitle(recorded_.Table, int(step.State))) + " is gone";
+    const Followed followed(recorded_.Table, document_);
+    for (const RowNumber row : EventRows()) {
+        if ((step.Amount & BitOf(row)) != 0 && followed.Row(row) == RowNumber())
+            return "the event " + RowText(recorded_.Table, row) + " is gone";
+    }
+    return {};
+}
+
+void LiveRun::PowerOn() {
+    notice_.clear();
+    if (!history_) {
+        notice_ = obstacles_.front();
+        return;
+    }
+    const Inputs there = history_->Now().Surroundings();
+    if (history_->HasPower()) {
+        cutOff_ = StepsOf(*history_);
+        history_ = std::make_unique<History>(*machine_);
+        if (there.Events != 0)
+            history_->Do(SwitchTo(there.Events));
+        for (const StateNumber state : StateNumbers()) {
+            if (const Units limit = there.Limits[IndexIn(TableColumns(), state)]; limit != kNotGiven)
+                history_->Do(LimitOf(state, limit));
+        }
+    }
+    Do({0, RunAct::PowerOn});
+}
+
+void LiveRun::Pulse(RowNumber event) {
+    const std::uint64_t held = history_ ? history_->Now().Surroundings().Events : 0;
+    if (IsTrue(event))
+        notice_ = RowText(document_, event) + " is held already; Ctrl+click or H lets it go";
+    else
+        Do(PulseOf(held | BitOf(event)));
+}
+
+void LiveRun::Hold(RowNumber event, bool there) {
+    if (IsTrue(event) == there)
+        return;
+    const std::uint64_t held = history_ ? history_->Now().Surroundings().Events : 0;
+    Do(SwitchTo(held ^ BitOf(event)));
+}
+
+void LiveRun::Wait(Units units) { Do(WaitFor(units)); }
+
+void LiveRun::PassTime(Units units) {
+    const bool atEnd = history_ && !history_->Steps().empty() &&
+                       history_->At() == Moment{history_->Steps().size(), 0} && IsIdle(history_->End());
+    const bool nothingHappened =
+        atEnd && (history_->Log().empty() || history_->Log().back().Step + 1 != history_->Steps().size());
+    if (nothingHappened && history_->Steps().back().What == RunAct::Wait)
+        return history_->Lengthen(units);
+    Wait(units);
+}
+
+void LiveRun::ToTimeout() {
+    if (State() == kNoState)
+        return Wait(0);
+    const std::optional<Units> due = history_->Now().NextTimeout();
+    if (!due) {
+        notice_ = "No timeout is coming in " + ToUtf8(StateTitle(document_, State()));
+        return;
+    }
+    Wait(*due - history_->Now().Where().Now);
+}
+
+void LiveRun::ToChange() {
+    if (State() == kNoState)
+        return Wait(0);
+    Clock ahead = history_->Now();
+    for (int i = 0; i < kMostTimeoutsToChange && ahead.Where().State == State(); ++i) {
+        const std::optional<Units> due = ahead.NextTimeout();
+        if (!due || !IsIdle(ahead.Advance(*due - ahead.Where().Now)))
+            break;
+    }
+    const Units wait = ahead.Where().Now - history_->Now().Where().Now;
+    if (wait == 0 && ahead.Where().State == State())
+        notice_ = "Nothing changes in " + ToUtf8(StateTitle(document_, State())) + " until an input does";
+    else
+        Wait(wait);
+}
+
+void LiveRun::Play(const std::vector<RunStep>& steps, const Constants& given) {
+    notice_.clear();
+    if (history_)
+        cutOff_ = StepsOf(*history_);
+    given_ = given;
+    recorded_ = {steps, {steps.size(), 0}, document_};
+    Build();
+    allFits_ = history_ != nullptr;
+    if (history_)
+        PlayAgain();
+    else
+        notice_ = obstacles_.front();
+}
+
+std::optional<WantedLimit> LiveRun::Wanted() const {
+    const StateNumber state = State();
+    if (state == kNoState)
+        return std::nullopt;
+    const StateRecord& record = document_.State(state);
+    const bool missing = history_->End() == Outcome::LimitMissing;
+    switch (machine_->State(state).Limit) {
+    case LimitKind::Variable:
+        return WantedLimit{state, false, record.TimingVar, missing};
+    case LimitKind::Constant:
+        if (const std::string name(Trim(record.TimeConst)); missing || given_.contains(name))
+            return WantedLimit{state, true, name, missing};
+        break;
+    case LimitKind::None:
+        break;
+    }
+    return std::nullopt;
+}
+
+// The step that came to the limit is done again behind it, so that a test of this run has the limit in time.
+void LiveRun::GiveLimit(Units units) {
+    const std::optional<WantedLimit> wanted = Wanted();
+    if (!wanted)
+        return;
+    if (wanted->Constant) {
+        given_[wanted->Text] = units;
+        return Recompile();
+    }
+    const RunStep limit = LimitOf(wanted->State, units);
+    if (!wanted->Missing) {
+        Do(limit);
+        return;
+    }
+    const Moment here = history_->At();
+    const RunStep last = history_->Steps()[here.Steps - 1];
+    history_->Back();
+    history_->Do(limit);
+    Do(last);
+}
+
+void LiveRun::Back() {
+    notice_.clear();
+    if (history_)
+        history_->Back();
+}
+
+void LiveRun::Forward() {
+    notice_.clear();
+    if (history_)
+        history_->Forward();
+}
+
+void LiveRun::GoToTime(Units time) {
+    notice_.clear();
+    if (history_)
+        history_->GoToTime(time);
+}
+
+void LiveRun::BringBack() {
+    notice_.clear();
+    if (!history_ || cutOff_.empty())
+        return;
+    const std::vector<RunStep> steps = std::exchange(cutOff_, {});
+    history_ = std::make_unique<History>(*machine_);
+    for (const RunStep& step : steps)
+        history_->Do(step);
+}
+
+} // namespace orvane::run

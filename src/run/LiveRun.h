@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// A machine that runs while its table is drawn. An edit makes another machine of it, and everything that was
+// done is done again there; where a step no longer fits, the run stands before it and says why, and comes
+// back whole when the edit is undone.
+#pragma once
+
+#include "run/History.h"
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace orvane::run {
+
+// A limit that only the user knows, of the state that the machine is in or came to.
+struct WantedLimit {
+    StateNumber State;
+    bool Constant = false; // holds for the whole run, and for every state that has the same text
+    std::string Text;      // what stands in the state instead of a number; document text
+    bool Missing = false;  // the machine cannot go on without it
+
+    bool operator==(const WantedLimit&) const = default;
+};
+
+class LiveRun {
+  public:
+    // The document outlives the run and stays at its address.
+    explicit LiveRun(const FsmDocument& document);
+    ~LiveRun();
+
+    // The document is another one: nothing was done to it.
+    void Restart();
+    // The document was edited.
+    void Recompile();
+
+    // Why there is no machine, one line of UTF-8 each.
+    const std::vector<std::string>& Obstacles() const { return obstacles_; }
+    // None where there are obstacles.
+    const Machine* Built() const { return machine_.get(); }
+    const History* Past() const { return history_.get(); }
+    const Constants& Given() const { return given_; }
+    // The state that the machine is in; none without power.
+    StateNumber State() const;
+    bool IsTrue(RowNumber event) const;
+
+    // What was just asked for and why it could not be done; what an edit has made of the run. UTF-8.
+    const std::string& Notice() const { return notice_; }
+
+    // All of these do nothing but say why when they are not possible.
+    void PowerOn(); // begins a new run with the inputs as they are
+    void Pulse(RowNumber event);
+    void Hold(RowNumber event, bool there);
+    void Wait(Units units);
+    void ToTimeout();
+    void ToChange(); // to where the state is another one, as far as time alone brings that
+    // Time passes for somebody who looks on: makes no new step as long as nothing happens.
+    void PassTime(Units units);
+    // Does all these steps in a new run.
+    void Play(const std::vector<RunStep>& steps, const Constants& given);
+
+    // The limit that is asked for, or that of the present state that could be another one.
+    std::optional<WantedLimit> Wanted() const;
+    void GiveLimit(Units units);
+
+    void Back();
+    void Forward();
+    void GoToTime(Units time);
+
+    // What was cut off last when something else was done comes back.
+    bool CanBringBack() const { return !cutOff_.empty(); }
+    void BringBack();
+
+  private:
+    struct Recorded {
+        std::vector<RunStep> Steps;
+        Moment At;
+        FsmDocument Table; // that they belong to
+    };
+
+    void Build();
+    bool Do(const RunStep& step);
+    void PlayAgain();
+    void FollowCutOff();
+    void TellOtherWay(const History& before);
+    std::string WhyNot(const RunStep& step) const;
+    std::string WhyLost(const RunStep& step) const;
+
+    const FsmDocument& document_;
+    Constants given_;
+    std::vector<std::string> obstacles_;
+    std::unique_ptr<Machine> machine_;
+    std::unique_ptr<History> history_; // goes before its machine
+    Recorded recorded_;
+    bool allFits_ = true; // the history holds all that was recorded
+    std::vector<RunStep> cutOff_;
+    std::string notice_;
+};
+
+} // namespace orvane::run
