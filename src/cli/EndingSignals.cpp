@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/EndingSignals.h"
 
+#include <mutex>
 #include <utility>
 
 #ifdef _WIN32
@@ -15,6 +16,27 @@
 
 namespace orvane::cli {
 
+namespace {
+
+// Whoever is told to end has nothing but what stands here.
+std::mutex runningMutex;
+std::shared_ptr<RunningTests> runningTests;
+
+void ReportTests() {
+    std::unique_lock lock(runningMutex);
+    const std::shared_ptr<RunningTests> tests = runningTests;
+    lock.unlock();
+    if (tests)
+        tests->WriteBrokenOff();
+}
+
+} // namespace
+
+void ReportWhenTold(std::shared_ptr<RunningTests> tests) {
+    const std::lock_guard lock(runningMutex);
+    runningTests = std::move(tests);
+}
+
 #ifdef _WIN32
 
 namespace {
@@ -23,6 +45,7 @@ namespace {
 std::shared_ptr<UnfinishedFiles> unfinishedFiles;
 
 BOOL WINAPI RemoveThem(DWORD) {
+    ReportTests();
     unfinishedFiles->RemoveAllForGood();
     return FALSE; // on to the handler that ends the program
 }
@@ -54,6 +77,7 @@ void WaitForThem(sigset_t signals, UnfinishedFiles& unfinished) {
     int number = 0;
     if (sigwait(&signals, &number) != 0)
         return;
+    ReportTests();
     unfinished.RemoveAllForGood();
     pthread_sigmask(SIG_UNBLOCK, &signals, nullptr);
     kill(getpid(), number);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "cli/RunningTests.h"
 #include "files/UnfinishedFiles.h"
 
 #include <memory>
@@ -11,5 +12,8 @@ namespace orvane::cli {
 // removed first; then it ends as it would have. To be called before any thread is started. Where nobody can
 // wait for the signals, everything stays as it is.
 void RemoveWhenTold(std::shared_ptr<UnfinishedFiles> unfinished);
+
+// From now on the report of these tests is written before that.
+void ReportWhenTold(std::shared_ptr<RunningTests> tests);
 
 } // namespace orvane::cli

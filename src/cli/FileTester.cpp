@@ -239,6 +239,7 @@ TestedFile TestOneFile(const std::string& name, const TestArguments& arguments, 
         outcome.Raise(kFileError);
         TestedFile failed;
         failed.Name = name;
+        failed.Tests.push_back({"", 1, 1, run::Verdict::Error, error.what(), {}});
         return failed;
     }
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/TestVerb.h"
 
+#include "cli/EndingSignals.h"
 #include "cli/FileTester.h"
 #include "cli/MessageText.h"
 #include "cli/OrderedWork.h"
@@ -57,9 +58,13 @@ int RunTests(const Arguments& arguments, const TestFiles& files) {
     const std::vector<std::string> names = TestFilesOf(arguments.Documents, found);
     int status = Deliver(found);
     std::vector<TestedFile> tested(names.size());
+    const auto running = std::make_shared<RunningTests>(asked.JUnit.value_or(""), files, names);
+    if (asked.JUnit && !asked.List)
+        ReportWhenTold(running);
     const auto work = [&](std::size_t index) {
         Outcome outcome;
         tested[index] = TestOneFile(names[index], asked, files, outcome);
+        running->Add(index, tested[index]);
         for (const TestedTest& test : tested[index].Tests)
             outcome.Output += asked.Json ? JsonOfTest(tested[index], test) : "";
         return outcome;
@@ -68,6 +73,7 @@ int RunTests(const Arguments& arguments, const TestFiles& files) {
         WorkInOrder(
             names.size(), work, [&](const Outcome& outcome) { status = std::max(status, Deliver(outcome)); },
             asked.Jobs);
+    running->End();
     return std::max(status, Deliver(Summary(tested, asked, files)));
 }
 

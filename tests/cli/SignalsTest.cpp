@@ -30,6 +30,22 @@ class Signals : public Orvanec, public testing::WithParamInterface<int> {
             execl(ORVANEC, "orvanec", verb, "large.zfsm", "-o", "out", nullptr);
         _exit(127);
     }
+    // Its standard output can be read from `output` then.
+    pid_t StartTests(FILE*& output) const {
+        int ends[2] = {-1, -1};
+        if (pipe(ends) != 0)
+            return -1;
+        const pid_t child = fork();
+        if (child == 0) {
+            if (dup2(ends[1], STDOUT_FILENO) >= 0 && chdir(Path("").c_str()) == 0)
+                execl(ORVANEC, "orvanec", "test", "-j", "1", "--junit", "out.xml", "done.ztest",
+                      "endless.ztest", nullptr);
+            _exit(127);
+        }
+        close(ends[1]);
+        output = fdopen(ends[0], "r");
+        return child;
+    }
     bool IsWriting() const { return Listing().find(".orvane-") != std::string::npos; }
     static bool HasEnded(pid_t child, int& status) { return waitpid(child, &status, WNOHANG) == child; }
 
@@ -76,6 +92,30 @@ TEST_P(Signals, ThatItWasStartedToIgnoreStayIgnored) {
     std::signal(GetParam(), before);
     EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << status;
     EXPECT_EQ(Listing(), "large.zfsm out ");
+}
+
+TEST_P(Signals, LeaveAReportOfTheTestsThatWereDone) {
+    if (std::getenv("ORVANEC_PROGRAM"))
+        GTEST_SKIP() << "signals go to what runs the program";
+    WriteFile("pump.zfsm", PumpDocument());
+    WriteFile("done.ztest", "machine pump.zfsm\ntest fails\n=> Run\n");
+    std::string endless = "machine pump.zfsm\ntest goes on\n";
+    for (int line = 0; line < 10000; ++line)
+        endless += "on #6 scan 900000\noff #6 scan 900000\n";
+    WriteFile("endless.ztest", endless);
+    FILE* output = nullptr;
+    const pid_t child = StartTests(output);
+    ASSERT_NE(output, nullptr);
+    EXPECT_NE(std::fgetc(output), EOF); // the first file's failure
+    kill(child, GetParam());
+    int status = 0;
+    waitpid(child, &status, 0);
+    std::fclose(output);
+    EXPECT_TRUE(WIFSIGNALED(status)) << status;
+    const std::string report = ReadFile("out.xml");
+    EXPECT_NE(report.find("<failure message=\"expected 2:Run"), std::string::npos) << report;
+    EXPECT_NE(report.find("the run was broken off before this file was done"), std::string::npos) << report;
+    EXPECT_TRUE(report.ends_with("</testsuites>\n")) << report;
 }
 
 } // namespace
