@@ -30,7 +30,8 @@ _orvanec() {
             return
             ;;
         test:--filter | test:-j | test:--jobs) return ;;
-        generate:-o | generate:--output | format:-o | format:--output | test:--junit | test:--markdown)
+        generate:-o | generate:--output | format:-o | format:--output | test:--junit | test:--markdown | \
+            simulate:--csv | simulate:--vcd)
             local IFS=$'\n'
             compopt -o filenames 2>/dev/null
             COMPREPLY=($(compgen -f -- "$typed"))
@@ -39,14 +40,15 @@ _orvanec() {
     esac
     case $verb:$typed in
         :-*) COMPREPLY=($(compgen -W '--help --version' -- "$typed")) ;;
-        :*) COMPREPLY=($(compgen -W 'generate check format test' -- "$typed")) ;;
+        :*) COMPREPLY=($(compgen -W 'generate check format test simulate' -- "$typed")) ;;
         check:-*) COMPREPLY=($(compgen -W '--format --help' -- "$typed")) ;;
         generate:-* | format:-*) COMPREPLY=($(compgen -W '--output --help' -- "$typed")) ;;
         test:-*)
             COMPREPLY=($(compgen -W '--coverage --filter --help --jobs --json --junit --list --markdown
                 --notes-fail --reading --rename --strict --update' -- "$typed"))
             ;;
-        test:*) _orvanec_tests "$typed" ;;
+        simulate:-*) COMPREPLY=($(compgen -W '--csv --help --vcd' -- "$typed")) ;;
+        test:* | simulate:*) _orvanec_tests "$typed" ;;
         *) _orvanec_documents "$typed" ;;
     esac
 }

@@ -2,11 +2,15 @@
 #include "cli/Arguments.h"
 
 #include "cli/BracketArgument.h"
+#include "cli/MachineOptions.h"
 #include "cli/MessageText.h"
 #include "cli/TestOptions.h"
 #include "core/ProgramVersion.h"
 
 #include <CLI/CLI.hpp>
+
+#include <array>
+#include <utility>
 
 namespace orvane::cli {
 
@@ -33,6 +37,24 @@ constexpr const char* kTestNotes =
     "Without a name all tests in the folder and below it are run. Exit status 1 is a failed test, 3 one "
     "that\n"
     "could not be understood.";
+constexpr const char* kSimulateNotes =
+    "Example: orvanec simulate pump.zfsm pump.ztest \"stops by itself\" --vcd pump.vcd\n"
+    "         prints the run of that test and writes it for a viewer of signals\n\n"
+    "Without a file of tests the machine is switched on, and that is all. Steps alone do on standard\n"
+    "input. Exit status 1 is an expectation that failed, 3 a file that could not be understood.";
+
+constexpr std::array<std::pair<const char*, Verb>, 5> kVerbs{{{"generate", Verb::Generate},
+                                                              {"check", Verb::Check},
+                                                              {"format", Verb::Format},
+                                                              {"test", Verb::Test},
+                                                              {"simulate", Verb::Simulate}}};
+
+std::string VerbList() {
+    std::string list;
+    for (const auto& [name, verb] : kVerbs)
+        list += (list.empty() ? "" : verb == kVerbs.back().second ? " and " : ", ") + std::string(name);
+    return list;
+}
 
 class CommandLine {
   public:
@@ -47,6 +69,7 @@ class CommandLine {
         AddCheck();
         AddFormat();
         AddTest();
+        AddSimulate();
     }
 
     Arguments Parse(int count, const char* const* values);
@@ -54,6 +77,7 @@ class CommandLine {
     std::string WhatIsMissing() const;
 
   private:
+    Verb Asked() const;
     void AddGenerate() {
         CLI::App& verb = AddVerb("generate", "Write the controller program of each document", kGenerateNotes);
         AddDocuments(verb);
@@ -79,6 +103,10 @@ class CommandLine {
         tests_.AddTo(verb);
     }
 
+    void AddSimulate() {
+        machines_.AddSimulate(AddVerb("simulate", "Print what a machine does, step by step", kSimulateNotes));
+    }
+
     CLI::App& AddVerb(const char* name, const char* purpose, const char* notes) {
         CLI::App* verb = app_.add_subcommand(name, purpose);
         verb->group("Verbs");
@@ -98,8 +126,17 @@ class CommandLine {
     std::optional<std::string> output_;
     std::string format_ = "text";
     TestOptions tests_;
+    MachineOptions machines_;
     std::string firstWord_;
 };
+
+Verb CommandLine::Asked() const {
+    for (const auto& [name, verb] : kVerbs) {
+        if (app_.got_subcommand(name))
+            return verb;
+    }
+    return Verb::Check; // never: a verb is required
+}
 
 Arguments CommandLine::Parse(int count, const char* const* values) {
     if (count > 1)
@@ -110,14 +147,13 @@ Arguments CommandLine::Parse(int count, const char* const* values) {
     app_.parse(std::move(reversed));
 
     Arguments arguments;
-    arguments.What = app_.got_subcommand("generate") ? Verb::Generate
-                     : app_.got_subcommand("check")  ? Verb::Check
-                     : app_.got_subcommand("test")   ? Verb::Test
-                                                     : Verb::Format;
-    arguments.Documents =
-        arguments.What == Verb::Format ? std::vector{std::move(document_)} : std::move(documents_);
+    arguments.What = Asked();
+    arguments.Documents = arguments.What == Verb::Format ? std::vector{std::move(document_)}
+                          : LooksIntoOne(arguments.What) ? std::vector{machines_.TakeDocument()}
+                                                         : std::move(documents_);
     if (arguments.What == Verb::Test)
         arguments.Testing = tests_.Take();
+    arguments.Simulating = machines_.TakeSimulate();
     if (arguments.What == Verb::Test && arguments.Documents.empty())
         arguments.Documents = {"."};
     std::for_each(arguments.Documents.begin(), arguments.Documents.end(), ShowBracket);
@@ -143,7 +179,7 @@ std::string CommandLine::WhatIsMissing() const {
         return "No document is given";
     return (firstWord_.empty() ? std::string("No verb is given")
                                : "There is no verb " + ShownName(firstWord_)) +
-           "; the verbs are generate, check, format and test";
+           "; the verbs are " + VerbList();
 }
 
 } // namespace

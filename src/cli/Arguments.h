@@ -2,6 +2,7 @@
 #pragma once
 
 #include "cli/Outcome.h"
+#include "cli/RunArguments.h"
 #include "cli/TestArguments.h"
 
 #include <optional>
@@ -11,7 +12,10 @@
 
 namespace orvane::cli {
 
-enum class Verb { Generate, Check, Format, Test };
+enum class Verb { Generate, Check, Format, Test, Simulate };
+// The verbs of the machine of one document.
+constexpr bool LooksIntoOne(Verb verb) { return verb == Verb::Simulate; }
+
 enum class ReportFormat { Text, Json };
 
 inline constexpr const char* kStandardOutput = "-";
@@ -22,6 +26,7 @@ struct Arguments {
     std::optional<std::string> Output;  // a path or kStandardOutput; only with one document
     ReportFormat Format = ReportFormat::Text;
     TestArguments Testing;
+    SimulateArguments Simulating;
 };
 
 // What the command line asks for. When there is nothing to do, or no way to do it, the outcome of that: the

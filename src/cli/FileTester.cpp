@@ -2,8 +2,8 @@
 #include "cli/FileTester.h"
 
 #include "cli/DocumentPath.h"
+#include "cli/MachineFile.h"
 #include "cli/MessageText.h"
-#include "core/DocumentReader.h"
 #include "run/Obstacles.h"
 #include "run/TestEdits.h"
 #include "run/TestLexer.h"
@@ -93,18 +93,8 @@ bool FileTester::ReadTests() {
 bool FileTester::ReadMachine() {
     const std::optional<run::TestName> named = run::MachineOf(file_);
     tested_.Document = DocumentOf(tested_.Name, named ? std::optional(named->Text) : std::nullopt);
-    const std::optional<std::string> bytes = files_.BytesOf(tested_.Document, outcome_);
-    if (!bytes)
-        return false;
-    ReadResult read = ReadDocument(*bytes);
-    for (const ReaderMessage& message : read.Messages)
-        outcome_.Errors += MessageLine(tested_.Document, message);
-    if (read.BrokeOff) {
-        outcome_.Raise(kFileError);
-        return false;
-    }
-    tested_.Machine = std::make_shared<const FsmDocument>(std::move(read.Document));
-    return true;
+    tested_.Machine = cli::ReadMachine(files_, tested_.Document, outcome_);
+    return tested_.Machine != nullptr;
 }
 
 bool FileTester::Plan() {

@@ -2,8 +2,10 @@
 #include "cli/StandardStreams.h"
 
 #include "cli/MessageText.h"
+#include "core/DocumentReader.h"
 #include "files/FileError.h"
 
+#include <array>
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
@@ -43,6 +45,7 @@ void ShowUtf8InConsole() {
 
 void PrepareStandardStreams() {
 #ifdef _WIN32
+    _setmode(_fileno(stdin), _O_BINARY);
     _setmode(_fileno(stdout), _O_BINARY);
     _setmode(_fileno(stderr), _O_BINARY);
     ShowUtf8InConsole();
@@ -53,6 +56,26 @@ void PrepareStandardStreams() {
             (void)open("/dev/null", stream == 0 ? O_WRONLY : O_RDONLY);
     }
 #endif
+}
+
+std::optional<std::string> ReadStandardInput(Outcome& outcome) {
+    std::string bytes;
+    std::array<char, 1 << 16> piece;
+    errno = 0;
+    while (const std::size_t length = std::fread(piece.data(), 1, piece.size(), stdin)) {
+        bytes.append(piece.data(), length);
+        if (bytes.size() > kLargestDocument) {
+            outcome.Errors += FailureLine("standard input", "is " + std::string(kTooLargeForADocument));
+            outcome.Raise(kFileError);
+            return std::nullopt;
+        }
+    }
+    if (std::ferror(stdin) == 0)
+        return bytes;
+    outcome.Errors +=
+        FailureLine("standard input", "cannot be read", ReasonText({errno, std::generic_category()}));
+    outcome.Raise(kFileError);
+    return std::nullopt;
 }
 
 int Deliver(const Outcome& outcome) {

@@ -2,6 +2,7 @@
 // orvanec: checks documents and writes their programs without a window.
 #include "cli/Arguments.h"
 #include "cli/EndingSignals.h"
+#include "cli/MachineVerbs.h"
 #include "cli/MessageText.h"
 #include "cli/OrderedWork.h"
 #include "cli/StandardStreams.h"
@@ -45,6 +46,8 @@ int Do(const Arguments& arguments) {
         RemoveWhenTold(unfinished);
     if (arguments.What == Verb::Test)
         return RunTests(arguments, TestFiles(files, *unfinished));
+    if (LooksIntoOne(arguments.What))
+        return Deliver(RunMachineVerb(arguments, TestFiles(files, *unfinished)));
     const Run run{arguments, date.Date, files, *unfinished};
     int status = kSuccess;
     WorkInOrder(

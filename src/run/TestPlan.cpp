@@ -81,7 +81,8 @@ TestPlan Planner::Run() {
         else if (const auto* step = std::get_if<TestStep>(&line.What))
             PlanStep(line, *step);
     }
-    plan_.Signals = static_cast<int>(signals_.size());
+    plan_.Signals = std::move(signalNames);
+    plan_.Unit = scale_.Unit();
     plan_.Slips = names_.Slips();
     plan_.Renames = names_.AllRenamed();
     return std::move(plan_);

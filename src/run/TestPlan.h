@@ -62,7 +62,8 @@ struct PlannedEvent {
 struct TestPlan {
     std::vector<PlannedTest> Tests;
     std::vector<PlannedEvent> Events;
-    int Signals = 0;
+    std::vector<std::string> Signals; // their names, UTF-8
+    std::optional<std::int64_t> Unit; // of the machine's time, in microseconds, when the file says it
     Constants Given;
     std::optional<bool> AfterLimit; // what the file says about a reading
     std::optional<bool> UnstartedExpired;

@@ -18,6 +18,9 @@ class TimeScale {
     // What is wrong with the unit, if anything.
     std::optional<std::string> Set(const TestTime& unit);
 
+    // In microseconds, when it is known.
+    std::optional<std::int64_t> Unit() const { return unit_; }
+
     // A time in units, or why it is none.
     std::variant<Units, std::string> InUnits(const TestTime& time) const;
 

@@ -2,6 +2,7 @@
 #include "run/TestWalk.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace orvane::run {
 
@@ -23,7 +24,7 @@ std::uint64_t Bit(int row) { return std::uint64_t{1} << row; }
 } // namespace
 
 TestWalk::TestWalk(const Machine& machine, const TestPlan& plan)
-    : plan_(plan), clock_(machine), signals_(plan.Signals) {}
+    : plan_(plan), clock_(machine), signals_(plan.Signals.size()) {}
 
 std::optional<StepResult> TestWalk::PowerOnBefore(const PlannedStep& step) {
     if (hasPower_ || !NeedsPower(step))
@@ -39,7 +40,7 @@ std::optional<StepResult> TestWalk::Do(const PlannedStep& step) {
     StepResult result;
     result.From = clock_.Where().State;
     result.End = Move(step, result);
-    result.Log = clock_.TakeLog();
+    TakeLog(result);
     return result;
 }
 
@@ -49,7 +50,9 @@ StepResult TestWalk::PowerOn() {
     StepResult result;
     result.PowerOn = true;
     result.End = clock_.PowerOn();
-    result.Log = clock_.TakeLog();
+    if (recorder_ != nullptr)
+        recorder_->PowerOn(Events(), signals_);
+    TakeLog(result);
     return result;
 }
 
@@ -62,15 +65,45 @@ Outcome TestWalk::Move(const PlannedStep& step, StepResult& result) {
     }
     if (step.Written->Wait || Has(step, Doing::Timeout)) {
         const Outcome waited = clock_.Advance(wait);
+        TakeLog(result);
         if (!IsIdle(waited))
             return waited;
     }
     const std::uint64_t pulsed = Change(step);
     if (Has(step, Doing::Pulse))
-        return clock_.Pulse(pulsed);
+        return PulseNow(pulsed, result);
+    RecordInputs(Events());
     const auto scan = std::find_if(step.Doings.begin(), step.Doings.end(),
                                    [](const PlannedDoing& doing) { return doing.What == Doing::Scan; });
     return scan != step.Doings.end() ? clock_.Scan(scan->Count) : clock_.Settle();
+}
+
+Outcome TestWalk::PulseNow(std::uint64_t events, StepResult& result) {
+    if (recorder_ == nullptr)
+        return clock_.Pulse(events);
+    const std::uint64_t stays = std::exchange(clock_.Surroundings().Events, events);
+    const Outcome pulsed = clock_.Scan(1);
+    TakeLog(result);
+    clock_.Surroundings().Events = stays;
+    RecordInputs(stays);
+    return IsIdle(pulsed) ? clock_.Settle() : pulsed;
+}
+
+void TestWalk::TakeLog(StepResult& result) {
+    std::vector<Happening> log = clock_.TakeLog();
+    if (recorder_ != nullptr) {
+        for (const Happening& happening : log)
+            recorder_->Happened(happening);
+    }
+    if (result.Log.empty())
+        result.Log = std::move(log);
+    else
+        result.Log.insert(result.Log.end(), log.begin(), log.end());
+}
+
+void TestWalk::RecordInputs(std::uint64_t events) {
+    if (recorder_ != nullptr)
+        recorder_->Inputs(clock_.Where().Now, events, signals_);
 }
 
 // Afterwards the inputs are as they stay; the events that there are during a pulse are returned.
@@ -82,6 +115,8 @@ std::uint64_t TestWalk::Change(const PlannedStep& step) {
             Switch(doing, doing.What != Doing::Off);
     }
     const std::uint64_t pulsed = Events();
+    if (Has(step, Doing::Pulse))
+        RecordInputs(pulsed);
     for (const PlannedDoing& doing : step.Doings) {
         if (doing.What == Doing::Pulse)
             Switch(doing, false);

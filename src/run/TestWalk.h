@@ -3,6 +3,7 @@
 
 #include "run/Clock.h"
 #include "run/Coverage.h"
+#include "run/RunTrace.h"
 #include "run/TestPlan.h"
 
 #include <optional>
@@ -36,9 +37,14 @@ class TestWalk {
 
     const Clock& Where() const { return clock_; }
     void Watch(EventsSeen& seen) { clock_.Watch(seen); }
+    // From now on all that happens is taken down; the recorder must outlive the walk.
+    void Record(TraceRecorder& recorder) { recorder_ = &recorder; }
 
   private:
     StepResult PowerOn();
+    Outcome PulseNow(std::uint64_t events, StepResult& result);
+    void TakeLog(StepResult& result);
+    void RecordInputs(std::uint64_t events);
     Outcome Move(const PlannedStep& step, StepResult& result);
     std::uint64_t Change(const PlannedStep& step);
     void Switch(const PlannedDoing& doing, bool on);
@@ -49,6 +55,7 @@ class TestWalk {
     bool hasPower_ = false;
     std::vector<bool> signals_;
     std::uint64_t switched_ = 0; // bit r: the event of row r is switched on
+    TraceRecorder* recorder_ = nullptr;
 };
 
 } // namespace orvane::run

@@ -34,7 +34,8 @@ TEST_F(Usage, HelpOfTheProgramAndOfEachVerbHasAnExample) {
         {"generate --help", "Example: SOURCE_DATE_EPOCH=0 orvanec generate -o - pump.zfsm\n"},
         {"check --help", "Example: orvanec check --format=json *.zfsm\n"},
         {"format --help", "Example: orvanec format pump.zfsm -o tidy.zfsm\n"},
-        {"test --help", "Example: orvanec test --coverage=100 pump.zfsm\n"}};
+        {"test --help", "Example: orvanec test --coverage=100 pump.zfsm\n"},
+        {"simulate --help", "Example: orvanec simulate pump.zfsm pump.ztest"}};
     for (const auto& [arguments, example] : examples) {
         const RunResult run = Run(arguments);
         EXPECT_EQ(run.Status, 0) << arguments;
@@ -46,13 +47,14 @@ TEST_F(Usage, HelpOfTheProgramAndOfEachVerbHasAnExample) {
 TEST_F(Usage, HelpOfTheProgramListsTheVerbs) {
     const std::string help = Run("--help").Output;
     EXPECT_THAT(help, HasSubstr("Usage: orvanec [OPTIONS] VERB\n"));
-    EXPECT_THAT(help, testing::ContainsRegex("Verbs:\n  generate .*\n  check .*\n  format .*\n  test "));
+    EXPECT_THAT(help, testing::ContainsRegex(
+                          "Verbs:\n  generate .*\n  check .*\n  format .*\n  test .*\n  simulate "));
 }
 
 TEST_F(Usage, WrongUsageIsSaidOnStandardError) {
-    ExpectWrong("", "No verb is given; the verbs are generate, check, format and test");
+    ExpectWrong("", "No verb is given; the verbs are generate, check, format, test and simulate");
     ExpectWrong("frobnicate a",
-                "There is no verb frobnicate; the verbs are generate, check, format and test");
+                "There is no verb frobnicate; the verbs are generate, check, format, test and simulate");
     ExpectWrong("generate", "No document is given");
     ExpectWrong("check", "No document is given");
     ExpectWrong("format", "No document is given");

@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cli/MachineOptions.h"
+
+#include "cli/BracketArgument.h"
+
+#include <CLI/CLI.hpp>
+
+#include <utility>
+
+namespace orvane::cli {
+
+namespace {
+
+void Show(std::optional<std::string>& value) {
+    if (value)
+        ShowBracket(*value);
+}
+
+} // namespace
+
+void MachineOptions::AddDocument(CLI::App& verb) {
+    verb.add_option("DOC", document_, "The document")->required()->type_name("");
+}
+
+void MachineOptions::AddSimulate(CLI::App& verb) {
+    AddDocument(verb);
+    verb.add_option("FILE", simulate_.Tests, "A file of tests; - is standard input")->type_name("");
+    verb.add_option("TEST", simulate_.Test, "The test to run, or a part of its name")->type_name("");
+    verb.add_option("--csv", simulate_.Csv, "Write the run to FILE as comma-separated values")
+        ->type_name("FILE");
+    verb.add_option("--vcd", simulate_.Vcd, "Write the run to FILE for viewers of signals")
+        ->type_name("FILE");
+}
+
+std::string MachineOptions::TakeDocument() {
+    ShowBracket(document_);
+    return std::move(document_);
+}
+
+SimulateArguments MachineOptions::TakeSimulate() {
+    for (std::optional<std::string>* path : {&simulate_.Tests, &simulate_.Csv, &simulate_.Vcd})
+        Show(*path);
+    ShowBracket(simulate_.Test);
+    return std::move(simulate_);
+}
+
+} // namespace orvane::cli

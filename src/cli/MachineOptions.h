@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "cli/RunArguments.h"
+
+#include <string>
+
+namespace CLI {
+class App;
+}
+
+namespace orvane::cli {
+
+// The arguments of the verbs that look into one machine. The parser writes into them, so that they have to
+// stay where they are once a verb was added.
+class MachineOptions {
+  public:
+    void AddSimulate(CLI::App& verb);
+
+    // Once, after the command line was parsed.
+    std::string TakeDocument();
+    SimulateArguments TakeSimulate();
+
+  private:
+    void AddDocument(CLI::App& verb);
+
+    std::string document_;
+    SimulateArguments simulate_;
+};
+
+} // namespace orvane::cli

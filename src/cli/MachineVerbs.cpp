@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cli/MachineVerbs.h"
+
+#include "cli/MessageText.h"
+#include "cli/SimulateVerb.h"
+
+#include <exception>
+
+namespace orvane::cli {
+
+Outcome RunMachineVerb(const Arguments& arguments, const TestFiles& files) noexcept {
+    try {
+        return RunSimulate(arguments, files);
+    } catch (const std::exception& error) {
+        return {{}, FailureLine(arguments.Documents.front(), error.what()), kFileError};
+    }
+}
+
+} // namespace orvane::cli
