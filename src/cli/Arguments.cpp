@@ -4,11 +4,13 @@
 #include "cli/BracketArgument.h"
 #include "cli/MachineOptions.h"
 #include "cli/MessageText.h"
+#include "cli/ReviewOptions.h"
 #include "cli/TestOptions.h"
 #include "core/ProgramVersion.h"
 
 #include <CLI/CLI.hpp>
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -43,11 +45,13 @@ constexpr const char* kSimulateNotes =
     "Without a file of tests the machine is switched on, and that is all. Steps alone do on standard\n"
     "input. Exit status 1 is an expectation that failed, 3 a file that could not be understood.";
 
-constexpr std::array<std::pair<const char*, Verb>, 5> kVerbs{{{"generate", Verb::Generate},
+constexpr std::array<std::pair<const char*, Verb>, 7> kVerbs{{{"generate", Verb::Generate},
                                                               {"check", Verb::Check},
                                                               {"format", Verb::Format},
                                                               {"test", Verb::Test},
-                                                              {"simulate", Verb::Simulate}}};
+                                                              {"simulate", Verb::Simulate},
+                                                              {"diff", Verb::Diff},
+                                                              {"show", Verb::Show}}};
 
 std::string VerbList() {
     std::string list;
@@ -55,6 +59,15 @@ std::string VerbList() {
         list += (list.empty() ? "" : verb == kVerbs.back().second ? " and " : ", ") + std::string(name);
     return list;
 }
+
+constexpr const char* kDiffNotes =
+    "Example: orvanec diff old.zfsm new.zfsm\n"
+    "         tells what was done: states and events that came, went, moved or have another name, and\n"
+    "         cells that lead elsewhere, whatever their numbers are now\n\n"
+    "Exit status: 0 nothing is different, 1 something is, 2 wrong usage, 3 a file that is no whole document";
+constexpr const char* kShowNotes =
+    "Example: orvanec show pump.zfsm\n"
+    "         writes the document as text with names in place of numbers, as git compares it";
 
 class CommandLine {
   public:
@@ -70,6 +83,7 @@ class CommandLine {
         AddFormat();
         AddTest();
         AddSimulate();
+        AddReview();
     }
 
     Arguments Parse(int count, const char* const* values);
@@ -106,6 +120,11 @@ class CommandLine {
     void AddSimulate() {
         machines_.AddSimulate(AddVerb("simulate", "Print what a machine does, step by step", kSimulateNotes));
     }
+    void AddReview() {
+        review_.AddDiff(AddVerb("diff", "Tell what leads from one document to another", kDiffNotes));
+        review_.AddShow(
+            AddVerb("show", "Write a document as text with names in place of numbers", kShowNotes));
+    }
 
     CLI::App& AddVerb(const char* name, const char* purpose, const char* notes) {
         CLI::App* verb = app_.add_subcommand(name, purpose);
@@ -127,6 +146,7 @@ class CommandLine {
     std::string format_ = "text";
     TestOptions tests_;
     MachineOptions machines_;
+    ReviewOptions review_;
     std::string firstWord_;
 };
 
@@ -148,9 +168,11 @@ Arguments CommandLine::Parse(int count, const char* const* values) {
 
     Arguments arguments;
     arguments.What = Asked();
-    arguments.Documents = arguments.What == Verb::Format ? std::vector{std::move(document_)}
-                          : LooksIntoOne(arguments.What) ? std::vector{machines_.TakeDocument()}
-                                                         : std::move(documents_);
+    arguments.Documents = arguments.What == Verb::Format     ? std::vector{std::move(document_)}
+                          : LooksIntoOne(arguments.What)     ? std::vector{machines_.TakeDocument()}
+                          : ComparesVersions(arguments.What) ? review_.TakeDocuments()
+                                                             : std::move(documents_);
+    arguments.Reviewing = review_.Take();
     if (arguments.What == Verb::Test)
         arguments.Testing = tests_.Take();
     arguments.Simulating = machines_.TakeSimulate();

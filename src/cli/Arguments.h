@@ -2,6 +2,7 @@
 #pragma once
 
 #include "cli/Outcome.h"
+#include "cli/ReviewArguments.h"
 #include "cli/RunArguments.h"
 #include "cli/TestArguments.h"
 
@@ -12,9 +13,12 @@
 
 namespace orvane::cli {
 
-enum class Verb { Generate, Check, Format, Test, Simulate };
+enum class Verb { Generate, Check, Format, Test, Simulate, Diff, Show };
 // The verbs of the machine of one document.
 constexpr bool LooksIntoOne(Verb verb) { return verb == Verb::Simulate; }
+
+// The verbs about several versions of one document.
+constexpr bool ComparesVersions(Verb verb) { return verb == Verb::Diff || verb == Verb::Show; }
 
 enum class ReportFormat { Text, Json };
 
@@ -27,6 +31,7 @@ struct Arguments {
     ReportFormat Format = ReportFormat::Text;
     TestArguments Testing;
     SimulateArguments Simulating;
+    ReviewArguments Reviewing;
 };
 
 // What the command line asks for. When there is nothing to do, or no way to do it, the outcome of that: the

@@ -8,6 +8,7 @@ namespace orvane::cli {
 // Exit statuses. Of several documents the highest counts.
 inline constexpr int kSuccess = 0;
 inline constexpr int kDesignError = 1; // in at least one document
+inline constexpr int kDifferent = 1;   // two documents are not the same
 inline constexpr int kWrongUsage = 2;
 inline constexpr int kFileError = 3; // a file was not read or written, or a document broke off
 

@@ -5,6 +5,7 @@
 #include "cli/MachineVerbs.h"
 #include "cli/MessageText.h"
 #include "cli/OrderedWork.h"
+#include "cli/ReviewVerbs.h"
 #include "cli/StandardStreams.h"
 #include "cli/TestVerb.h"
 #include "cli/Verbs.h"
@@ -44,6 +45,8 @@ int Do(const Arguments& arguments) {
     const auto unfinished = std::make_shared<UnfinishedFiles>(files);
     if (arguments.What != Verb::Check)
         RemoveWhenTold(unfinished);
+    if (ComparesVersions(arguments.What))
+        return Deliver(RunReviewVerb(arguments, files));
     if (arguments.What == Verb::Test)
         return RunTests(arguments, TestFiles(files, *unfinished));
     if (LooksIntoOne(arguments.What))

@@ -79,4 +79,10 @@ ChangeList ChangeList::Mirrored() const {
     return mirrored;
 }
 
+ChangeList ChangeList::WithoutView() const {
+    ChangeList design = *this;
+    std::erase_if(design.Changes, [](const Change& change) { return change.IsOfTheView; });
+    return design;
+}
+
 } // namespace orvane::review

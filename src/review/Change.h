@@ -72,6 +72,8 @@ struct ChangeList {
 
     bool IsEmpty() const;
     ChangeList Mirrored() const;
+    // Those that change what is designed.
+    ChangeList WithoutView() const;
 };
 
 } // namespace orvane::review

@@ -52,9 +52,10 @@ TEST_F(Usage, HelpOfTheProgramListsTheVerbs) {
 }
 
 TEST_F(Usage, WrongUsageIsSaidOnStandardError) {
-    ExpectWrong("", "No verb is given; the verbs are generate, check, format, test and simulate");
-    ExpectWrong("frobnicate a",
-                "There is no verb frobnicate; the verbs are generate, check, format, test and simulate");
+    ExpectWrong("", "No verb is given; the verbs are generate, check, format, test, simulate, diff and show");
+    ExpectWrong(
+        "frobnicate a",
+        "There is no verb frobnicate; the verbs are generate, check, format, test, simulate, diff and show");
     ExpectWrong("generate", "No document is given");
     ExpectWrong("check", "No document is given");
     ExpectWrong("format", "No document is given");
