@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "table/UndoRing.h"
 
-#include "text/TextDelta.h"
-
 #include <algorithm>
 #include <utility>
 
@@ -72,6 +70,36 @@ UndoHistory UndoRing::History() const {
     while (walked.RedoStep() != nullptr);
     history.SavedText = savedText_;
     return history;
+}
+
+std::size_t UndoRing::OldestSlot() const {
+    std::size_t slot = cursor_;
+    while (slots_[PrevSlot(slot)].IsUsed)
+        slot = PrevSlot(slot);
+    return slot;
+}
+
+std::string UndoRing::OldestImage() const {
+    std::string image = current_;
+    for (std::size_t slot = cursor_; slot != OldestSlot(); slot = PrevSlot(slot))
+        image.replace(slots_[slot].Prefix, slots_[slot].NewerMiddle.size(), slots_[slot].OlderMiddle);
+    return image;
+}
+
+UndoStory UndoRing::Story() const {
+    UndoStory story{.Oldest = OldestImage(), .Steps = {}, .SavedText = savedText_};
+    std::size_t size = story.Oldest.size();
+    for (std::size_t slot = OldestSlot(); slots_[slot].IsUsed; slot = NextSlot(slot)) {
+        if (slot != OldestSlot()) {
+            const Slot& step = slots_[slot];
+            const std::size_t suffix = size - step.Prefix - step.OlderMiddle.size();
+            story.Steps.push_back({step.Name, {step.Prefix, suffix, step.NewerMiddle}});
+            size = story.Steps.back().Change.NewSize();
+        }
+        if (slot == cursor_)
+            story.Current = story.Steps.size();
+    }
+    return story;
 }
 
 void UndoRing::Restore(UndoHistory history) {

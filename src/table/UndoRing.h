@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "text/TextDelta.h"
+
 #include <array>
 #include <cstddef>
 #include <string>
@@ -22,6 +24,20 @@ struct UndoHistory {
     std::vector<Snapshot> Snapshots; // oldest first
     std::size_t Current = 0;         // the place of the present one
     std::string SavedText;           // the image that was saved; empty when nobody knows
+};
+
+// The same as differences, which are small where the snapshots are not. The texts of the steps live in the
+// ring until it is next changed.
+struct UndoStory {
+    struct Step {
+        std::string_view Name;
+        TextDelta Change; // of the snapshot before
+    };
+
+    std::string Oldest;
+    std::vector<Step> Steps;
+    std::size_t Current = 0; // so many steps lead to the present one
+    std::string_view SavedText;
 };
 
 // The last snapshots of a document, for undo and redo, and the one that was saved.
@@ -46,6 +62,7 @@ class UndoRing {
     // left out.
     UndoHistory History() const;
     void Restore(UndoHistory history);
+    UndoStory Story() const;
 
     // Step to the older or newer snapshot. Returns its image, or null at the end, where nothing changes. The
     // image lives until the ring is next changed.
@@ -77,6 +94,9 @@ class UndoRing {
     static std::size_t NextSlot(std::size_t slot) { return slot + 1 == kSlotCount ? 0 : slot + 1; }
     static std::size_t PrevSlot(std::size_t slot) { return slot == 0 ? kSlotCount - 1 : slot - 1; }
     void Push(std::string image, std::string name);
+    // The oldest slot that can be reached, and the image of it.
+    std::size_t OldestSlot() const;
+    std::string OldestImage() const;
 
     std::array<Slot, kSlotCount> slots_;
     std::size_t cursor_ = 0;
