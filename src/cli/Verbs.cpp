@@ -7,6 +7,7 @@
 #include "codegen/CodeGenerator.h"
 #include "core/DocumentReader.h"
 #include "core/DocumentWriter.h"
+#include "core/ForeignBytes.h"
 #include "files/FileReader.h"
 #include "files/FileWriter.h"
 #include "files/Leftovers.h"
@@ -84,6 +85,8 @@ bool DocumentRun::Read() {
         return false;
     }
     read_ = ReadDocument(file.Bytes());
+    const std::vector<ReaderMessage> foreign = ForeignMessages(file.Bytes());
+    read_->Messages.insert(read_->Messages.begin(), foreign.begin(), foreign.end());
     for (const ReaderMessage& message : read_->Messages)
         outcome_.Errors += MessageLine(name_, message);
     if (read_->BrokeOff)

@@ -2,6 +2,7 @@
 #include "core/ForeignBytes.h"
 
 #include "text/AnsiText.h"
+#include "text/NumberText.h"
 
 #include <algorithm>
 #include <array>
@@ -61,6 +62,22 @@ std::vector<std::size_t> ConflictMarkers(std::string_view bytes) {
         bytes.remove_prefix(end == std::string_view::npos ? bytes.size() : end + 1);
     }
     return lines;
+}
+
+std::vector<ReaderMessage> ForeignMessages(std::string_view bytes) {
+    std::vector<ReaderMessage> messages;
+    if (ReadAsUtf8(bytes))
+        messages.push_back(
+            {"Saved as UTF-8 by another program: letters outside ASCII are read as two or more "
+             "each. Open it in Orvane and save it, or convert it to Windows-1252",
+             0});
+    const std::vector<std::size_t> conflict = ConflictMarkers(bytes);
+    if (!conflict.empty())
+        messages.push_back({"The marks of a merge conflict stand from here to line " +
+                                NumberText(conflict.back()) +
+                                ": what is read is neither version. Resolve the conflict first",
+                            conflict.front()});
+    return messages;
 }
 
 } // namespace orvane

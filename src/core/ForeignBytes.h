@@ -2,6 +2,8 @@
 // What other programs make of a document's bytes.
 #pragma once
 
+#include "core/DocumentReader.h"
+
 #include <cstddef>
 #include <optional>
 #include <string>
@@ -21,5 +23,9 @@ std::optional<Utf8Document> ReadAsUtf8(std::string_view bytes);
 
 // The lines, from 1, that a version control system has put around what two people have changed.
 std::vector<std::size_t> ConflictMarkers(std::string_view bytes);
+
+// What there is to tell of both where nobody can be asked. Nothing stops for it: the document is read as it
+// stands.
+std::vector<ReaderMessage> ForeignMessages(std::string_view bytes);
 
 } // namespace orvane

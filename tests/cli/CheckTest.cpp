@@ -53,6 +53,21 @@ TEST_F(Check, ReaderMessagesNameDocumentAndLine) {
     EXPECT_EQ(run.Errors, "d.zfsm:3: Unknown tag K\xC3\xBChl\\x1B\n");
 }
 
+TEST_F(Check, WhatOtherProgramsHaveMadeOfADocumentIsToldAndChangesNoStatus) {
+    WriteFile("utf8.zfsm", "\xC2\xA4<FSM_NAME>D\xC2\xA4/\r\n");
+    const RunResult utf8 = Run("check utf8.zfsm");
+    EXPECT_NE(utf8.Status, 3);
+    EXPECT_EQ(utf8.Errors,
+              "utf8.zfsm: Saved as UTF-8 by another program: letters outside ASCII are read as two or more "
+              "each. Open it in Orvane and save it, or convert it to Windows-1252\n");
+    WriteFile("merged.zfsm", "\xA4<FSM_NAME>D\xA4/\r\n<<<<<<< HEAD\r\n=======\r\n>>>>>>> theirs\r\n");
+    const RunResult merged = Run("check merged.zfsm");
+    EXPECT_EQ(merged.Status, 0);
+    EXPECT_EQ(merged.Errors,
+              "merged.zfsm:2: The marks of a merge conflict stand from here to line 4: what is "
+              "read is neither version. Resolve the conflict first\n");
+}
+
 TEST_F(Check, AnAbsurdlyLongTagIsQuotedInPart) {
     WriteFile("d.zfsm", "\xA4<FSM_NAME>D\xA4/\r\n\xA4<" + std::string(5000, 'x') + ">\xA4/\r\n\r\n");
     EXPECT_EQ(Run("check d.zfsm").Errors, "d.zfsm:2: Unknown tag " + std::string(200, 'x') + "...\n");
