@@ -196,7 +196,7 @@ void DocumentLifecycle::Load(const QString& path) {
         utf8 && IsReadAsUtf8(fullPath, *utf8))
         file.Content = ReadDocument(utf8->Bytes);
     const bool hasName = !file.Content->BrokeOff && !IsSettingsFile(fullPath);
-    const JournalStamp stamp = StampOf(file.File.Stamp, Sha256(file.File.Bytes()));
+    const JournalStamp stamp = StampOf(file.File.Stamp, file.Digest);
     Take(std::move(file.Content->Document), hasName ? fullPath : QString(), stamp);
     TellMessages(fullPath, *file.Content);
     TellConflicts(fullPath, ConflictMarkers(file.File.Bytes()));

@@ -17,6 +17,7 @@ struct DocumentFile {
     std::optional<ReadResult> Content; // none when the file could not be read or is no document
     QString Error;                     // why; empty otherwise
     FileContent File;                  // the bytes that the content was made from, and which file they are of
+    Sha256Digest Digest{};             // of the bytes
 };
 
 // Reads a document. A file that broke off has content; one that holds no document at all has none.
