@@ -60,12 +60,14 @@ class Typing final : public JournalSource {
     JournalState State() const override {
         JournalState state;
         state.Path = "/work/plant.zfsm";
-        state.Document = WriteDocument(document_);
-        state.History = {{images_.back(), ""}};
+        state.Document = DocumentText();
+        state.Oldest = images_.back();
         state.SavedImage = images_.back();
         state.View = ViewOf(document_);
         return state;
     }
+
+    std::string DocumentText() const override { return WriteDocument(document_); }
 
   private:
     FsmDocument document_;

@@ -13,6 +13,11 @@ QString Key() { return QStringLiteral("KeepJournal"); }
 
 bool KeepsJournal() { return Settings().value(Key(), true).toBool(); }
 
-void SetKeepsJournal(bool keeps) { Settings().setValue(Key(), keeps); }
+bool SetKeepsJournal(bool keeps) {
+    Settings settings;
+    settings.setValue(Key(), keeps);
+    settings.sync();
+    return settings.status() == QSettings::NoError;
+}
 
 } // namespace orvane

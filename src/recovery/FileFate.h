@@ -10,7 +10,8 @@ namespace orvane {
 // What has become of a document's file since the window whose work was lost last read or wrote it.
 enum class FileFate {
     AsItWas,
-    ChangedSince, // somebody else has written to it, or a save that the journal no longer heard of
+    ChangedSince, // somebody else has written to it
+    SavedHere,    // by the window itself, which the journal no longer heard of: it has all but open editors
     Gone,
     Unreadable, // it may be as it was, nobody can tell
     NeverSaved, // the document has no file yet

@@ -43,6 +43,8 @@ std::string_view FateText(FileFate fate) {
         return "as it was";
     case FileFate::ChangedSince:
         return "changed since";
+    case FileFate::SavedHere:
+        return "saved already";
     case FileFate::Gone:
         return "gone";
     case FileFate::Unreadable:

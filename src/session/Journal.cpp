@@ -26,6 +26,44 @@ bool Holds(const std::vector<JournalDraft>& drafts, const JournalDraft& editor) 
                        [&](const JournalDraft& draft) { return draft.IsSameEditor(editor); });
 }
 
+RestoredWork WorkOf(RecoveredJournal& journal) {
+    RestoredWork work{.Document = std::move(journal.Document),
+                      .Path = journal.Head.Path,
+                      .Stamp = journal.Head.Stamp,
+                      .History = {},
+                      .Script = {}};
+    for (JournalStep& step : journal.History)
+        work.History.Snapshots.push_back({std::move(step.Image), std::move(step.Name)});
+    work.History.Current = journal.Current;
+    work.History.SavedText = journal.SavedImage.value_or(std::string());
+    return work;
+}
+
+// As a step of the session would be; what was undone before ends there.
+bool AddStep(RestoredWork& work) {
+    std::vector<Snapshot>& steps = work.History.Snapshots;
+    std::string image = Pack(work.Document);
+    if (image == steps[work.History.Current].Image)
+        return false;
+    steps.resize(work.History.Current + 1);
+    steps.push_back({std::move(image), std::string(kTyping)});
+    work.History.Current = steps.size() - 1;
+    return true;
+}
+
+// Before the session has the work: a step that was made afterwards would be in no journal for a moment. How
+// many steps there are more.
+std::uint64_t AddDrafts(const std::vector<JournalDraft>& drafts, RestoredWork& work) {
+    std::uint64_t added = 0;
+    for (const JournalDraft& draft : drafts) {
+        if (std::optional<std::string> script = ScriptOf(draft))
+            work.Script = std::move(script);
+        ApplyDraft(draft, work.Document);
+        added += AddStep(work) ? 1 : 0;
+    }
+    return added;
+}
+
 } // namespace
 
 Journal::Journal(Session& session, JournalPlace place)
@@ -34,18 +72,18 @@ Journal::Journal(Session& session, JournalPlace place)
 }
 
 void Journal::Told(const Change& change) {
-    const bool isOver = change.Kind == ChangeKind::Saved || change.Kind == ChangeKind::Replaced ||
-                        change.Kind == ChangeKind::Left;
     if (keeps_)
         Write(change);
-    else if (isOver)
-        Close(change);
 }
 
-// Steps that are not told would be missing in front of the next one, which says only what it changed.
+// Steps that are not told would be missing in front of the next one, which says only what it changed: a
+// journal that is kept again begins anew.
 void Journal::Keep(bool keep) {
-    keeps_ = keep;
-    writer_.Pause();
+    if (!std::exchange(keeps_, keep) || keep)
+        return;
+    writer_.Closed(JournalClose::NothingUnsaved);
+    pace_.Written();
+    drafts_.clear();
 }
 
 void Journal::Write(const Change& change) {
@@ -114,31 +152,27 @@ void Journal::WriteDrafts() {
 // The session's document is closed by being replaced; then the journal of the recovered work begins with all
 // that its own journal held, and only then that one may go.
 void Journal::GoOnWith(AdoptedJournal recovered) {
-    RecoveredJournal& journal = recovered.Journal;
-    RestoredWork work{std::move(journal.Document), journal.Head.Path, journal.Head.Stamp, {}};
-    for (JournalStep& step : journal.History)
-        work.History.Snapshots.push_back({std::move(step.Image), std::move(step.Name)});
-    work.History.Current = journal.Current;
-    work.History.SavedText = journal.SavedImage.value_or(std::string());
+    RestoredWork work = WorkOf(recovered.Journal);
+    const std::uint64_t changes = recovered.Journal.Changes + AddDrafts(recovered.Journal.Drafts, work);
     session_.Restore(std::move(work));
     if (keeps_)
-        writer_.Adopt(std::move(recovered.Files), journal.Changes);
-    for (const JournalDraft& draft : journal.Drafts)
-        session_.Edit({kTyping, {Touched::Extent::Everything, {}}},
-                      [&draft](const Editable& open) { ApplyDraft(draft, open.Document); });
+        writer_.Adopt(std::move(recovered.Files), changes);
 }
+
+std::string Journal::DocumentText() const { return WriteDocument(session_.Document()); }
 
 JournalState Journal::State() const {
     JournalState state;
     state.Path = session_.Path();
     state.Stamp = session_.Stamp();
-    state.Document = WriteDocument(session_.Document());
+    state.Document = DocumentText();
     state.ImagesFallShort = FallsShort(session_.Document());
-    history_ = session_.History().History();
-    for (const Snapshot& snapshot : history_.Snapshots)
-        state.History.push_back({snapshot.Image, snapshot.Name});
-    state.Current = history_.Current;
-    state.SavedImage = history_.SavedText;
+    UndoStory story = session_.History().Story();
+    state.Oldest = std::move(story.Oldest);
+    for (const UndoStory::Step& step : story.Steps)
+        state.Steps.push_back({step.Name, step.Change});
+    state.Current = story.Current;
+    state.SavedImage = story.SavedText;
     state.View = ViewOf(session_.Document());
     for (const Draft& draft : session_.Drafts())
         state.Drafts.push_back(JournalDraftOf(draft));

@@ -5,7 +5,6 @@
 #include "session/DraftPace.h"
 #include "session/JournalWriter.h"
 #include "session/RecoveryFolder.h"
-#include "table/UndoRing.h"
 
 #include <optional>
 #include <string>
@@ -30,10 +29,11 @@ class Journal final : public SessionObserver, private JournalSource {
     void WriteDrafts();
 
     // Recovered work takes the place of the document, with its history; what was typed in open editors
-    // becomes one more step each. From the first moment on this journal holds all of it.
+    // becomes one more step each, and the builder's script waits in the session. From the first moment on
+    // this journal holds all of it: until then the recovered one does.
     void GoOnWith(AdoptedJournal recovered);
 
-    // Whether a journal is kept at all. What was written so far stays until the document is saved or left.
+    // Whether a journal is kept at all. Who wants none leaves none behind: what was written so far goes.
     void Keep(bool keep);
 
     // Waits until the disk has everything.
@@ -43,6 +43,7 @@ class Journal final : public SessionObserver, private JournalSource {
 
   private:
     JournalState State() const override;
+    std::string DocumentText() const override;
     void Write(const Change& change);
     void Close(const Change& change);
     void WriteView();
@@ -52,7 +53,6 @@ class Journal final : public SessionObserver, private JournalSource {
     DraftPace pace_;
     std::vector<JournalDraft> drafts_; // as they were last written
     JournalView view_;                 // likewise
-    mutable UndoHistory history_;      // what State has given out last; the texts live here
     bool keeps_ = true;
 };
 

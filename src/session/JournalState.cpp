@@ -19,9 +19,6 @@ class Beginning {
     void AddImage(std::string_view image, bool countsAsSaved) {
         Add(ImageRecord{Difference(std::exchange(image_, image), image), countsAsSaved});
     }
-    void AddStep(const JournalImage& step) {
-        Add(CommitRecord{step.Name, Difference(std::exchange(image_, step.Image), step.Image)});
-    }
     std::optional<JournalFile> Finish() {
         if (failed_)
             return std::nullopt;
@@ -31,20 +28,19 @@ class Beginning {
   private:
     std::string_view salt_;
     JournalTime time_;
-    std::string_view image_; // the present one
+    std::string_view image_; // the one before
     JournalFile file_;
     bool failed_ = false;
 };
 
 // The saved image may be one that no step leads to: then it stands in front, and the history begins anew.
 void AddHistory(const JournalState& state, Beginning& file) {
-    const std::string_view oldest = state.History.front().Image;
-    if (!state.SavedImage.empty() && state.SavedImage != oldest)
+    if (!state.SavedImage.empty() && state.SavedImage != state.Oldest)
         file.AddImage(state.SavedImage, true);
-    file.AddImage(oldest, state.SavedImage == oldest);
-    for (std::size_t i = 1; i < state.History.size(); ++i)
-        file.AddStep(state.History[i]);
-    const std::size_t undone = state.History.size() - 1 - state.Current;
+    file.AddImage(state.Oldest, state.SavedImage == state.Oldest);
+    for (const JournalChange& step : state.Steps)
+        file.Add(CommitRecord{step.Name, step.Change});
+    const std::size_t undone = state.Steps.size() - state.Current;
     if (undone > 0)
         file.Add(MoveRecord{-static_cast<std::int64_t>(undone)});
 }

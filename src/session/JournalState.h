@@ -11,10 +11,11 @@
 
 namespace orvane {
 
-// An image of the history and the edit that led to it. Both live where the history keeps them.
-struct JournalImage {
-    std::string_view Image;
-    std::string_view Name; // empty for the oldest
+// A step of the history as a difference: images of a large document would be gigabytes. The texts live where
+// the history keeps them.
+struct JournalChange {
+    std::string_view Name; // of the edit
+    TextDelta Change;      // of the image before
 };
 
 // All that a journal has to bring back, as things stand at one moment.
@@ -23,11 +24,16 @@ struct JournalState {
     std::optional<JournalStamp> Stamp; // of that file as it was read or saved; none when it has no file
     std::string Document;              // as the writer writes it
     bool ImagesFallShort = false;      // some text holds the delimiter, which undo cannot carry
-    std::vector<JournalImage> History; // oldest first, at least one and not more than kMostImages
-    std::size_t Current = 0;           // the place in the history
+    std::string Oldest;                // image that undo can reach
+    std::vector<JournalChange> Steps;  // that lead from there to the newest one; fewer than kMostImages
+    std::size_t Current = 0;           // so many of them lead to the present image
     std::string_view SavedImage;       // that counts as saved; empty when nobody knows
     JournalView View;
     std::vector<JournalDraft> Drafts;
+
+    std::size_t PresentSize() const {
+        return Current == 0 ? Oldest.size() : Steps[Current - 1].Change.NewSize();
+    }
 };
 
 // Who owns what the journal keeps: asked when a file is begun, at the first change and when an old one has
@@ -36,6 +42,8 @@ class JournalSource {
   public:
     // The change that is being told is in it already.
     virtual JournalState State() const = 0;
+    // The document alone, as in the state.
+    virtual std::string DocumentText() const = 0;
 
   protected:
     ~JournalSource() = default;

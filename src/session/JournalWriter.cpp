@@ -74,7 +74,7 @@ void JournalWriter::Saved(const std::string& path, const JournalStamp& stamp) {
 void JournalWriter::AppendStep(RecordContent step) {
     std::vector<RecordContent> contents{std::move(step)};
     if (document_ && CanAppend()) {
-        const std::string older = std::exchange(*document_, source_.State().Document);
+        const std::string older = std::exchange(*document_, source_.DocumentText());
         contents.emplace_back(DocumentRecord{Difference(older, *document_), true});
     }
     Append(std::move(contents));
@@ -151,7 +151,7 @@ std::error_code JournalWriter::BeginFile() {
     sound_ = true;
     goodEnd_ = begunBytes_ = file->Bytes.size();
     next_ = begunRecords_ = file->Records;
-    imageSize_ = state.History[state.Current].Image.size();
+    imageSize_ = state.PresentSize();
     document_ = state.ImagesFallShort ? std::optional(state.Document) : std::nullopt;
     replaced_ = std::move(replaces);
     syncer_.WantNew(file_, std::exchange(retired_, {}));

@@ -63,10 +63,6 @@ class JournalWriter {
     // another one.
     void Closed(JournalClose reason);
 
-    // What happens from now on is not told. The file stays as it is, and the next call begins a new one, with
-    // all that the source holds then.
-    void Pause() { sound_ = false; }
-
     // Goes on with recovered work, which the source holds by now: a new journal is begun with all of it, and
     // the recovered ones go when that is safe.
     void Adopt(std::vector<RetiredJournal> recovered, std::uint64_t changes);

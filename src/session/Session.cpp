@@ -66,6 +66,7 @@ void Session::Restore(RestoredWork work) {
     const bool discarded = IsModified();
     Install(std::move(work.Document), std::move(work.Path), work.Stamp);
     undo_.Restore(std::move(work.History));
+    script_ = std::move(work.Script);
     Tell({.Kind = ChangeKind::Replaced,
           .Where = kEverything,
           .RowsForced = ForceRows(kEverything),
@@ -79,6 +80,7 @@ void Session::Install(FsmDocument document, std::string path, std::optional<Jour
     stamp_ = stamp;
     currentState_ = kNoState;
     program_ = {};
+    script_.reset();
 }
 
 void Session::MarkSaved(std::string path, std::optional<JournalStamp> stamp) {

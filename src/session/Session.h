@@ -13,6 +13,7 @@
 #include <optional>
 #include <string>
 #include <type_traits>
+#include <utility>
 #include <vector>
 
 namespace orvane {
@@ -45,6 +46,7 @@ struct RestoredWork {
     std::string Path;
     std::optional<JournalStamp> Stamp;
     UndoHistory History;
+    std::optional<std::string> Script; // of the builder, as it was being edited; UTF-8
 };
 
 // What the last run of the generator has found out.
@@ -85,6 +87,11 @@ class Session {
 
     // The same with work that has a history already: undo goes on where it was.
     void Restore(RestoredWork work);
+
+    // The builder script of work that was restored, for whoever shows it; none once it was taken, and with
+    // the next document.
+    bool HasRestoredScript() const { return script_.has_value(); }
+    std::optional<std::string> TakeRestoredScript() { return std::exchange(script_, std::nullopt); }
 
     // The file has the document as it stands.
     void MarkSaved(std::string path, std::optional<JournalStamp> stamp = {});
@@ -165,6 +172,7 @@ class Session {
     bool shiftHeld_ = false;
     Twips standardHeight_ = 0;
     ProgramState program_;
+    std::optional<std::string> script_;
     std::vector<const DraftSource*> draftSources_;
     std::vector<Listener> listeners_;
 };

@@ -246,13 +246,69 @@ TEST_F(JournalTest, WhatWasDrawnWhileNoneWasKeptIsThereWhenOneIsKeptAgain) {
     ExpectTheSameAfterACrash(window);
 }
 
-TEST_F(JournalTest, WhatWasWrittenBeforeTheSwitchGoesWithTheSave) {
+TEST_F(JournalTest, WhatWasWrittenBeforeTheSwitchGoesWithIt) {
     Window window(Files, FsmDocument(), "/home/me/pump.zfsm");
     window.Name(1, "Idle");
+    ASSERT_THAT(Files.AllNames(), SizeIs(1));
     window.Keeper.Keep(false);
-    EXPECT_THAT(Files.AllNames(), SizeIs(1));
-    window.Open.MarkSaved("/home/me/pump.zfsm", JournalStamp{5, 6, {}});
     EXPECT_THAT(Files.AllNames(), IsEmpty());
+    EXPECT_EQ(Files.OpenHandles(), 0);
+}
+
+// The process ends at every call on the way from one window to the next, one after the other.
+TEST_F(JournalTest, HoweverFarRecoveryComesNothingTypedIsLost) {
+    for (int call = 1;; ++call) {
+        Files = MemoryFiles();
+        {
+            Window window(Files, FsmDocument(), "/home/me/pump.zfsm");
+            OpenEditor editor(window.Open);
+            editor.Held = Draft{{6, 2}, ActionText{";act"}};
+            window.Name(1, "Idle");
+            window.Keeper.WriteDrafts();
+            Files.CloseAll();
+        }
+        bool isThrough = false;
+        {
+            Window second(Files);
+            AdoptedJournal adopted = TakeOrphan();
+            Files.FailAt(call, std::make_error_code(std::errc::io_error), true);
+            second.Keeper.GoOnWith(std::move(adopted));
+            second.Keeper.SyncNow();
+            isThrough = Files.Calls() < call;
+            Files.FailAt(0, {});
+        }
+        Window third(Files);
+        third.Keeper.GoOnWith(TakeOrphan());
+        EXPECT_EQ(third.Open.Document().State(1).Name, "Idle") << call;
+        EXPECT_EQ(third.Open.Document().State(2).Actions[6], ";act") << call;
+        if (isThrough)
+            break;
+    }
+}
+
+TEST_F(JournalTest, TheScriptOfTheBuilderWaitsForWhoShowsIt) {
+    {
+        Window window(Files);
+        OpenEditor editor(window.Open);
+        editor.Held = Draft{{}, BuilderText{"CODESEG\n"}};
+        window.Keeper.WriteDrafts();
+        Files.CloseAll();
+    }
+    Window after(Files);
+    after.Keeper.GoOnWith(TakeOrphan());
+    EXPECT_FALSE(after.Open.IsModified());
+    EXPECT_EQ(after.Open.TakeRestoredScript(), "CODESEG\n");
+    EXPECT_FALSE(after.Open.HasRestoredScript());
+}
+
+TEST_F(JournalTest, AScriptThatNobodyTookGoesWithTheDocument) {
+    Session open;
+    RestoredWork work;
+    work.History.Snapshots.push_back({Pack(work.Document), ""});
+    work.Script = "CODESEG\n";
+    open.Restore(std::move(work));
+    open.Replace(FsmDocument(), {});
+    EXPECT_FALSE(open.HasRestoredScript());
 }
 
 TEST_F(JournalTest, ADocumentThatUndoCannotCarryComesBackAsItWas) {

@@ -233,18 +233,6 @@ TEST_F(JournalWriterTest, AnImageThatIsNotThePresentOneIsNoDelta) {
     EXPECT_EQ(Differences(newer, window), "");
 }
 
-// As long as the one before, so that the lengths do not tell.
-TEST_F(JournalWriterTest, AfterAPauseAFileIsBegunAnew) {
-    JournaledWindow window(Place());
-    window.Edit("0 a");
-    window.Writer.Pause();
-    window.Images.push_back({"0 b", "", {}}); // nobody told
-    window.Current = 2;
-    window.Edit("0 bc");
-    window.Writer.SyncNow();
-    EXPECT_EQ(Differences(Only(), window), "");
-}
-
 TEST_F(JournalWriterTest, AWriteInPartsIsAWholeOne) {
     Files.WriteInParts(3);
     JournaledWindow window(Place());

@@ -73,14 +73,17 @@ class JournaledWindow final : public JournalSource {
         state.Stamp = Stamp;
         state.Document = Document;
         state.ImagesFallShort = ImagesFallShort;
-        for (const JournalStep& step : Images)
-            state.History.push_back({step.Image, step.Name});
+        state.Oldest = Images.front().Image;
+        for (std::size_t i = 1; i < Images.size(); ++i)
+            state.Steps.push_back({Images[i].Name, Difference(Images[i - 1].Image, Images[i].Image)});
         state.Current = Current;
         state.SavedImage = Saved;
         state.View = View;
         state.Drafts = Drafts;
         return state;
     }
+
+    std::string DocumentText() const override { return Document; }
 
     JournalWriter Writer;
     std::vector<JournalStep> Images;

@@ -31,13 +31,26 @@ void BuilderRoom::Run(Command command) {
 
 ObserverRank BuilderRoom::Rank() const { return ObserverRank::Rooms; }
 
-bool BuilderRoom::Listens() const { return frmBuilder_ != nullptr; }
+bool BuilderRoom::Listens() const { return frmBuilder_ != nullptr || session_.HasRestoredScript(); }
 
 void BuilderRoom::Told(const Change& change) {
     if (change.Kind == ChangeKind::Replaced)
-        frmBuilder_->StartDocument();
-    else if (change.Kind == ChangeKind::Saved)
+        StartDocument();
+    else if (change.Kind == ChangeKind::Saved && frmBuilder_)
         frmBuilder_->RenameDocument();
+}
+
+// What was being typed when a window was lost is shown, but does not take the keys that are meant for the
+// table.
+void BuilderRoom::StartDocument() {
+    Window().StartDocument();
+    const std::optional<std::string> script = session_.TakeRestoredScript();
+    if (!script)
+        return;
+    frmBuilder_->TakeRestored(*script);
+    frmBuilder_->setAttribute(Qt::WA_ShowWithoutActivating);
+    frmBuilder_->show();
+    frmBuilder_->setAttribute(Qt::WA_ShowWithoutActivating, false);
 }
 
 frmBuilder& BuilderRoom::Window() {
@@ -45,6 +58,7 @@ frmBuilder& BuilderRoom::Window() {
         frmBuilder_ = std::make_unique<frmBuilder>(session_);
         connect(frmBuilder_.get(), &frmBuilder::BuildWanted, this,
                 [this] { Q_EMIT CommandWanted(Command::BuildAndTest); });
+        connect(frmBuilder_.get(), &frmBuilder::Noted, this, &Room::Said);
         frmBuilder_->StartDocument();
     }
     return *frmBuilder_;

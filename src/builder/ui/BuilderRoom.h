@@ -26,6 +26,7 @@ class BuilderRoom : public Room {
     void Close() override;
 
   private:
+    void StartDocument();
     frmBuilder& Window();
 
     Session& session_;

@@ -7,8 +7,6 @@
 #include "kit/AnsiString.h"
 #include "kit/FilePath.h"
 
-#include <QStringList>
-
 #include <algorithm>
 
 namespace orvane {
@@ -42,10 +40,18 @@ QString LineOutsideAnsi(const QString& script) {
     return found == lines.end() ? QString() : *found;
 }
 
-bool WriteScript(const QString& path, const QString& script) {
+std::optional<QStringList> WriteScript(const QString& path, const QString& script) {
     const AnsiText bytes = ToAnsi(WithLineEnds(script, QStringLiteral("\r\n")), Delimiter::Kept);
+    if (bytes.LeftOut)
+        return std::nullopt;
     NativeFiles files;
-    return !bytes.LeftOut && WriteFile(files, NativePath(path), {bytes.Text});
+    const WrittenFile written = WriteFile(files, NativePath(path), {bytes.Text});
+    if (!written)
+        return std::nullopt;
+    QStringList notes;
+    for (const FileNote note : written.Notes)
+        notes += Message(note);
+    return notes;
 }
 
 QString AsReadBack(const QString& script) {

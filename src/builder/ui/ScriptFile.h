@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 
@@ -14,9 +15,9 @@ std::optional<QString> ReadScript(const QString& path);
 // The first line with a character that a script's file, which is ANSI, cannot hold; empty without one.
 QString LineOutsideAnsi(const QString& script);
 
-// Writes the script over the file, all or nothing. Returns whether that worked; a script with a character
-// that the file cannot hold is not written.
-bool WriteScript(const QString& path, const QString& script);
+// Writes the script over the file, all or nothing. Returns what the file has lost beside its old bytes, a
+// sentence each, without the stop; none when it was not written, as with a character that it cannot hold.
+[[nodiscard]] std::optional<QStringList> WriteScript(const QString& path, const QString& script);
 
 // What ReadScript would give for a file with this text.
 QString AsReadBack(const QString& script);

@@ -153,6 +153,12 @@ void frmBuilder::StartDocument() {
         Settle();
 }
 
+void frmBuilder::TakeRestored(const std::string& script) {
+    settled_ = true;
+    txtBuildScript->setPlainText(QString::fromStdString(script));
+    txtBuildScript->document()->setModified(true);
+}
+
 void frmBuilder::RenameDocument() {
     if (documentPath_ == QString::fromStdString(session_.Path()))
         return; // the document names its script as before
@@ -261,11 +267,14 @@ bool frmBuilder::Save() {
     }
     if (!MayReplace(path))
         return false;
-    if (!WriteScript(path, ScriptText())) {
+    const std::optional<QStringList> notes = WriteScript(path, ScriptText());
+    if (!notes) {
         Warn(tr("Save failed. Check the path/filename is valid"));
         return false;
     }
     TakeAsSaved(path);
+    if (!notes->isEmpty())
+        Q_EMIT Noted(QFileInfo(path).fileName() + QStringLiteral(": ") + notes->join(QStringLiteral(". ")));
     return true;
 }
 

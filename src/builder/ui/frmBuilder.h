@@ -34,6 +34,10 @@ class frmBuilder : public TabStops<QWidget>, public DraftSource {
     // it is needed.
     void StartDocument();
 
+    // The text that was being edited when a window of this document was lost: not saved, and of a file that
+    // is asked for before it is replaced.
+    void TakeRestored(const std::string& script);
+
     // The document has been saved, perhaps under a new name.
     void RenameDocument();
 
@@ -55,6 +59,8 @@ class frmBuilder : public TabStops<QWidget>, public DraftSource {
   Q_SIGNALS:
     // The button was pressed; GoGoGo does the rest.
     void BuildWanted();
+    // What the script's file has lost by being saved, as a line for a status bar.
+    void Noted(const QString& text);
 
   protected:
     bool event(QEvent* event) override;

@@ -6,9 +6,9 @@
 #include "kit/KeepsJournal.h"
 #include "kit/UserMessageBox.h"
 #include "recovery/ui/RecoveryTexts.h"
-#include "recovery/ui/WorkList.h"
 #include "recovery/ui/frmRecovery.h"
 #include "session/Commands.h"
+#include "session/OwnSave.h"
 #include "session/Session.h"
 #include "session/UserRecoveryFolder.h"
 
@@ -29,6 +29,7 @@ constexpr auto kOwnCommands = std::to_array<Command>({Command::RecoverWork});
 
 RecoveryRoom::RecoveryRoom(const RoomPlace& place) : session_(place.Open), main_(place.Window) {
     draftsDue_.setSingleShot(true);
+    connect(&finder_, &WorkFinder::Found, this, &RecoveryRoom::Offer);
     connect(&draftsDue_, &QTimer::timeout, this, &RecoveryRoom::WaitForDrafts);
     if (const std::optional<FileSystem::Path> path = UserRecoveryFolder()) {
         folder_.emplace(files_, *path);
@@ -94,21 +95,25 @@ bool RecoveryRoom::eventFilter(QObject* watched, QEvent* event) {
     return Room::eventFilter(watched, event);
 }
 
-// The window comes up by itself, so it does not take the keys that are meant for the table.
 void RecoveryRoom::LookAround() {
-    if (!folder_)
-        return;
-    folder_->Age(TimeNow());
-    WorkList work = Work();
+    if (folder_)
+        finder_.Begin(files_, *folder_);
+}
+
+// The window comes up by itself, so it does not take the keys that are meant for the table.
+void RecoveryRoom::Offer(const WorkList& work) {
     if (work.Left.empty())
         return;
-    Window().ShowWork(std::move(work));
+    Window().ShowWork(work);
     Window().setAttribute(Qt::WA_ShowWithoutActivating);
     Window().show();
     Window().setAttribute(Qt::WA_ShowWithoutActivating, false);
 }
 
-WorkList RecoveryRoom::Work() { return folder_ ? ListWork(files_, *folder_) : WorkList(); }
+WorkList RecoveryRoom::Work() {
+    finder_.Drop();
+    return folder_ ? ListWork(files_, *folder_) : WorkList();
+}
 
 frmRecovery& RecoveryRoom::Window() {
     if (frmRecovery_ == nullptr) {
@@ -142,6 +147,7 @@ void RecoveryRoom::Recover(const std::string& name) {
 }
 
 void RecoveryRoom::GoOnWith(AdoptedJournal recovered) {
+    TakeOwnSave(files_, recovered.Journal);
     const RecoveredNews news = NewsOf(recovered.Journal);
     const std::vector<std::string> messages = recovered.Journal.Messages;
     const AdoptedJournal held{{}, recovered.Files};
@@ -173,7 +179,8 @@ void RecoveryRoom::DeleteAll() {
 }
 
 void RecoveryRoom::Keep(bool keep) {
-    SetKeepsJournal(keep);
+    if (!SetKeepsJournal(keep))
+        Tell(frmRecovery_, NotRemembered());
     if (journal_)
         journal_->Keep(keep);
 }

@@ -3,6 +3,7 @@
 
 #include "files/NativeFiles.h"
 #include "kit/Room.h"
+#include "recovery/ui/WorkFinder.h"
 #include "session/Journal.h"
 
 #include <QTimer>
@@ -13,7 +14,6 @@
 namespace orvane {
 
 class frmRecovery;
-struct WorkList;
 
 // Keeps the journal of what is drawn in this window, and gives back what other windows have left behind.
 class RecoveryRoom : public Room {
@@ -39,6 +39,7 @@ class RecoveryRoom : public Room {
     void WaitForDrafts();
     // Looks for work that was left behind, and offers it when there is any.
     void LookAround();
+    void Offer(const WorkList& work);
     WorkList Work();
     frmRecovery& Window();
     void Refresh();
@@ -54,6 +55,7 @@ class RecoveryRoom : public Room {
     std::optional<RecoveryFolder> folder_; // none where there is no place for it, and then no journal
     std::optional<Journal> journal_;
     QTimer draftsDue_;
+    WorkFinder finder_;                  // goes before the folder
     frmRecovery* frmRecovery_ = nullptr; // belongs to the main window, which it stands in front of
 };
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "recovery/ui/RecoveryTexts.h"
 
+#include "kit/Settings.h"
+
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
@@ -45,6 +47,13 @@ QString NotAllDeleted(std::size_t left, const FileSystem::Path& folder) {
     return Translated("%1 files could not be removed from\r\n%2\r\nRemove them there by hand.")
         .arg(left)
         .arg(QDir::toNativeSeparators(QString::fromUtf8(path.data(), path.size())));
+}
+
+QString NotRemembered() {
+    return Translated("This holds for this window, but could not be written to the settings file: the next "
+                      "start does as before. Make sure that there is room on the disk and that you may write "
+                      "the file\r\n%1")
+        .arg(QDir::toNativeSeparators(Settings().fileName()));
 }
 
 RecoveredNews NewsOf(const RecoveredJournal& journal) {

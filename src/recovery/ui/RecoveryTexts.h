@@ -16,6 +16,9 @@ QString NothingReadable();
 
 QString NotAllDeleted(std::size_t left, const FileSystem::Path& folder);
 
+// A setting that the next start will not know.
+QString NotRemembered();
+
 struct RecoveredNews {
     QString Line; // for the status bar
     QString Loss; // for a box; empty when nothing is lost

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "recovery/ui/WorkList.h"
 
+#include "session/OwnSave.h"
 #include "session/UserRecoveryFolder.h"
-
 #include "text/Sha256.h"
 
 #include <QDateTime>
@@ -21,7 +21,7 @@ FileFate FateOfBytes(FileSystem& files, const FileSystem::Path& path, const File
     return bytes.Failure ? FileFate::Unreadable : FateByBytes(known, Sha256(bytes.Got));
 }
 
-FileFate FateOf(FileSystem& files, const OrphanedJournal& orphan) {
+FileFate FateSoFar(FileSystem& files, const OrphanedJournal& orphan) {
     if (orphan.Path.empty())
         return FileFate::NeverSaved;
     const FileSystem::Path path = std::u8string(orphan.Path.begin(), orphan.Path.end());
@@ -37,18 +37,33 @@ FileFate FateOf(FileSystem& files, const OrphanedJournal& orphan) {
     return fate ? *fate : FateOfBytes(files, path, known);
 }
 
+bool WasSavedByItself(FileSystem& files, const RecoveryFolder& folder, const OrphanedJournal& orphan) {
+    Result<AdoptedJournal> adopted = folder.Adopt(orphan.Name, TimeNow());
+    if (adopted.Failure)
+        return false;
+    folder.LetGo(adopted.Got);
+    return TakeOwnSave(files, adopted.Got.Journal);
+}
+
+FileFate FateOf(FileSystem& files, const RecoveryFolder& folder, const OrphanedJournal& orphan) {
+    const FileFate fate = FateSoFar(files, orphan);
+    const bool isOwn = fate == FileFate::ChangedSince && WasSavedByItself(files, folder, orphan);
+    return isOwn ? FileFate::SavedHere : fate;
+}
+
 } // namespace
 
 WorkList ListWork(FileSystem& files, const RecoveryFolder& folder) {
     const LocalMinute now = LocalTimeOf(TimeNow());
     WorkList list;
     for (const OrphanedJournal& orphan : folder.Orphans()) {
+        const FileFate fate = FateOf(files, folder, orphan);
         const LeftWork work{.Path = orphan.Path,
                             .LastChange = LocalTimeOf(orphan.LastChange),
-                            .Changes = orphan.Changes,
+                            .Changes = fate == FileFate::SavedHere ? 0 : orphan.Changes,
                             .OpenEditors = orphan.Drafts,
                             .IsPartlyLost = orphan.WasDamaged,
-                            .File = FateOf(files, orphan)};
+                            .File = fate};
         (orphan.WasDiscarded ? list.Discarded : list.Left).push_back({orphan.Name, RowOf(work, now)});
     }
     return list;

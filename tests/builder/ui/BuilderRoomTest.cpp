@@ -11,6 +11,7 @@
 
 #ifndef _WIN32
 #include <sys/stat.h>
+#include <unistd.h>
 #endif
 
 namespace orvane {
@@ -97,6 +98,19 @@ TEST_F(BuilderRoomTest, ALinkThatLeadsOutOfTheFolderIsAskedFor) {
     ASSERT_EQ(Answers.Seen().size(), 1u);
     EXPECT_NE(Answers.Seen()[0].Text.find(target.toStdString()), std::string::npos);
     EXPECT_TRUE(Script().starts_with(";#SILENT"));
+}
+#endif
+
+#ifndef _WIN32
+TEST_F(BuilderRoomTest, WhatTheFileLosesByASaveIsToldInTheStatusBar) {
+    WriteFile(kScript, kMine);
+    ASSERT_EQ(::link(PathOf("machine.b1d").c_str(), PathOf("same.b1d").c_str()), 0);
+    StartOn(PumpDocument());
+    OpenBuilder();
+    TypeIntoScript(";");
+    Press(Builder(), "cmdSave");
+    EXPECT_TRUE(Panel("Panel3").starts_with(
+        "machine.b1d: The file has other names (hard links): these keep what was there before"));
 }
 #endif
 

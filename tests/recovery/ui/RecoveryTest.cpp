@@ -8,9 +8,11 @@
 #include "support/ui/TableFixture.h"
 
 #include <QAbstractItemModel>
+#include <QApplication>
 #include <QCheckBox>
 #include <QDir>
 #include <QLabel>
+#include <QPlainTextEdit>
 #include <QTest>
 #include <QTreeView>
 
@@ -23,7 +25,7 @@ JournalTime Now() { return std::chrono::floor<std::chrono::milliseconds>(std::ch
 
 class RecoveryTest : public TableFixture {
   protected:
-    ~RecoveryTest() override { SetKeepsJournal(true); }
+    ~RecoveryTest() override { (void)SetKeepsJournal(true); }
 
     RecoveryFolder Folder() { return {files_, FolderPath().toStdString()}; }
     QString FolderPath() const { return Path(QStringLiteral("state/orvane/recovery")); }
@@ -61,6 +63,13 @@ class RecoveryTest : public TableFixture {
         return List(list).model()->index(row, column).data().toString().toStdString();
     }
     void Choose(const char* list, int row) { List(list).setCurrentIndex(List(list).model()->index(row, 0)); }
+    QPlainTextEdit& Script() {
+        for (QWidget* window : QApplication::topLevelWidgets()) {
+            if (window->objectName() == QStringLiteral("frmBuilder"))
+                return Named<QPlainTextEdit>(*window, "txtBuildScript");
+        }
+        throw std::runtime_error("no builder window");
+    }
     bool IsEnabled(const char* button) { return Named<QPushButton>(Recovery(), button).isEnabled(); }
 
   private:
@@ -335,12 +344,54 @@ TEST_F(RecoveryTest, WorkThatAnotherWindowHasTakenIsNotTakenTwice) {
     folder.LetGo(taken.Got);
 }
 
+// As after a kill between the save and its record.
+TEST_F(RecoveryTest, ASaveThatTheJournalNoLongerHeardOfIsNotTakenForAnotherPrograms) {
+    LoseTransitions(QStringLiteral("machine.zfsm"), 2);
+    FsmDocument saved = PumpDocument();
+    saved.State(1).Targets[6] = 1;
+    saved.State(2).Targets[6] = 2;
+    WriteFile(QStringLiteral("machine.zfsm"), WriteDocument(saved));
+    StartAgain();
+    EXPECT_EQ(Shown("lstRecovered", 0, 3), "0");
+    EXPECT_EQ(Shown("lstRecovered", 0, 4), "saved already");
+    Press(Recovery(), "cmdRecover");
+    EXPECT_FALSE(Title().starts_with("*"));
+    EXPECT_TRUE(Item("mnuUndo")->isEnabled());
+    const auto* strip = Find<QWidget>("fraFileChanged");
+    EXPECT_TRUE(strip == nullptr || !strip->isVisible());
+    TypeTarget(7, 1, QStringLiteral("1"));
+    Trigger("mnuFSave");
+    EXPECT_TRUE(Answers.Seen().empty());
+}
+
+TEST_F(RecoveryTest, TheScriptThatWasBeingTypedComesBackInItsWindow) {
+    StartOn(PumpDocument());
+    Trigger("mnuBuilder");
+    QTest::keyClicks(&Script(), QStringLiteral("half a li"));
+    const QString typed = Script().toPlainText();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return Journals().size() == 1; }));
+    Crash();
+    for (int crash = 0; crash < 2; ++crash) {
+        StartAgain();
+        EXPECT_EQ(Shown("lstRecovered", 0, 3), "0 and an open editor");
+        Press(Recovery(), "cmdRecover");
+        ASSERT_TRUE(Script().window()->isVisible());
+        EXPECT_EQ(Script().toPlainText(), typed);
+        EXPECT_TRUE(Script().document()->isModified());
+        Crash();
+    }
+    EXPECT_FALSE(ReadFile(QStringLiteral("machine.b1d")).ends_with("half a li"));
+}
+
 TEST_F(RecoveryTest, WhoSwitchesTheJournalOffLeavesNoCopies) {
     StartOn(PumpDocument());
     Trigger("mnuFRecover");
     auto& keep = Named<QCheckBox>(Recovery(), "chkKeepJournal");
     EXPECT_TRUE(keep.isChecked());
+    TypeTarget(6, 2, QStringLiteral("2"));
+    ASSERT_EQ(Journals().size(), 1);
     keep.click();
+    EXPECT_TRUE(Journals().isEmpty()) << "what was kept so far goes too";
     TypeTarget(6, 1, QStringLiteral("1"));
     EXPECT_TRUE(Journals().isEmpty());
     Crash();
