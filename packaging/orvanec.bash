@@ -29,7 +29,7 @@ _orvanec() {
             COMPREPLY=($(compgen -W 'at-limit after-limit unstarted-since-power-on unstarted-expired' -- "$typed"))
             return
             ;;
-        test:--filter | test:-j | test:--jobs) return ;;
+        test:--filter | test:-j | test:--jobs | explore:--from | explore:--to) return ;;
         generate:-o | generate:--output | format:-o | format:--output | test:--junit | test:--markdown | \
             simulate:--csv | simulate:--vcd)
             local IFS=$'\n'
@@ -40,14 +40,15 @@ _orvanec() {
     esac
     case $verb:$typed in
         :-*) COMPREPLY=($(compgen -W '--help --version' -- "$typed")) ;;
-        :*) COMPREPLY=($(compgen -W 'generate check format test simulate' -- "$typed")) ;;
-        check:-*) COMPREPLY=($(compgen -W '--format --help' -- "$typed")) ;;
+        :*) COMPREPLY=($(compgen -W 'generate check format test simulate explore' -- "$typed")) ;;
+        check:-*) COMPREPLY=($(compgen -W '--advice --format --help' -- "$typed")) ;;
         generate:-* | format:-*) COMPREPLY=($(compgen -W '--output --help' -- "$typed")) ;;
         test:-*)
             COMPREPLY=($(compgen -W '--coverage --filter --help --jobs --json --junit --list --markdown
                 --notes-fail --reading --rename --strict --update' -- "$typed"))
             ;;
         simulate:-*) COMPREPLY=($(compgen -W '--csv --help --vcd' -- "$typed")) ;;
+        explore:-*) COMPREPLY=($(compgen -W '--from --help --json --to' -- "$typed")) ;;
         test:* | simulate:*) _orvanec_tests "$typed" ;;
         *) _orvanec_documents "$typed" ;;
     esac

@@ -45,11 +45,20 @@ constexpr const char* kSimulateNotes =
     "Without a file of tests the machine is switched on, and that is all. Steps alone do on standard\n"
     "input. Exit status 1 is an expectation that failed, 3 a file that could not be understood.";
 
-constexpr std::array<std::pair<const char*, Verb>, 7> kVerbs{{{"generate", Verb::Generate},
+constexpr const char* kExploreNotes =
+    "Example: orvanec explore pump.zfsm\n"
+    "         tells timeouts that can never be due, states with no way back and the like\n"
+    "Example: orvanec explore garage.zfsm --from Open --to Fault\n"
+    "         prints the shortest way as a test\n\n"
+    "Exit status: 0 nothing is found, or the way; 1 something is, or no way; 2 wrong usage; 3 a file that\n"
+    "             could not be read, or a state that is not there";
+
+constexpr std::array<std::pair<const char*, Verb>, 8> kVerbs{{{"generate", Verb::Generate},
                                                               {"check", Verb::Check},
                                                               {"format", Verb::Format},
                                                               {"test", Verb::Test},
                                                               {"simulate", Verb::Simulate},
+                                                              {"explore", Verb::Explore},
                                                               {"diff", Verb::Diff},
                                                               {"show", Verb::Show}}};
 
@@ -82,7 +91,7 @@ class CommandLine {
         AddCheck();
         AddFormat();
         AddTest();
-        AddSimulate();
+        AddMachineVerbs();
         AddReview();
     }
 
@@ -104,6 +113,7 @@ class CommandLine {
         verb.add_option("--format", format_, "How to report: text (default) or json")
             ->check(CLI::IsMember({"text", "json"}))
             ->type_name("FORMAT");
+        verb.add_flag("--advice", advice_, "Tell what explore finds, too; it is no error");
     }
     void AddFormat() {
         CLI::App& verb = AddVerb("format", "Write a document as the editor would save it", kFormatNotes);
@@ -117,8 +127,10 @@ class CommandLine {
         tests_.AddTo(verb);
     }
 
-    void AddSimulate() {
+    void AddMachineVerbs() {
         machines_.AddSimulate(AddVerb("simulate", "Print what a machine does, step by step", kSimulateNotes));
+        machines_.AddExplore(
+            AddVerb("explore", "Tell what holds in all behaviours of a machine", kExploreNotes));
     }
     void AddReview() {
         review_.AddDiff(AddVerb("diff", "Tell what leads from one document to another", kDiffNotes));
@@ -144,6 +156,7 @@ class CommandLine {
     std::string document_;
     std::optional<std::string> output_;
     std::string format_ = "text";
+    bool advice_ = false;
     TestOptions tests_;
     MachineOptions machines_;
     ReviewOptions review_;
@@ -176,6 +189,8 @@ Arguments CommandLine::Parse(int count, const char* const* values) {
     if (arguments.What == Verb::Test)
         arguments.Testing = tests_.Take();
     arguments.Simulating = machines_.TakeSimulate();
+    arguments.Exploring = machines_.TakeExplore();
+    arguments.Advice = advice_;
     if (arguments.What == Verb::Test && arguments.Documents.empty())
         arguments.Documents = {"."};
     std::for_each(arguments.Documents.begin(), arguments.Documents.end(), ShowBracket);

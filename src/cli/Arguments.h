@@ -13,9 +13,9 @@
 
 namespace orvane::cli {
 
-enum class Verb { Generate, Check, Format, Test, Simulate, Diff, Show };
+enum class Verb { Generate, Check, Format, Test, Simulate, Explore, Diff, Show };
 // The verbs of the machine of one document.
-constexpr bool LooksIntoOne(Verb verb) { return verb == Verb::Simulate; }
+constexpr bool LooksIntoOne(Verb verb) { return verb == Verb::Simulate || verb == Verb::Explore; }
 
 // The verbs about several versions of one document.
 constexpr bool ComparesVersions(Verb verb) { return verb == Verb::Diff || verb == Verb::Show; }
@@ -29,8 +29,10 @@ struct Arguments {
     std::vector<std::string> Documents; // at least one, as they were given; of Test files and folders, too
     std::optional<std::string> Output;  // a path or kStandardOutput; only with one document
     ReportFormat Format = ReportFormat::Text;
+    bool Advice = false; // Check tells what explore finds, too
     TestArguments Testing;
     SimulateArguments Simulating;
+    ExploreArguments Exploring;
     ReviewArguments Reviewing;
 };
 

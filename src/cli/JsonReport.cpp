@@ -41,6 +41,13 @@ std::string FindingObject(const Finding& finding, const FsmDocument& document) {
            ",\"message\":" + JsonString(StreamText(finding.Message)) + "}";
 }
 
+std::string AdviceObject(const run::Advice& advice) {
+    return "{\"kind\":" + JsonString(AdviceKindName(advice.Kind)) +
+           ",\"state\":" + NumberOrNull(advice.Place.State.Number()) +
+           ",\"row\":" + NumberOrNull(advice.Place.Row.Number()) +
+           ",\"text\":" + JsonString(ToUtf8(advice.Message)) + "}";
+}
+
 std::string MessageObject(const ReaderMessage& message) {
     return "{\"line\":" + NumberOrNull(message.Line) + ",\"message\":" + JsonString(ShownMessage(message)) +
            "}";
@@ -75,7 +82,10 @@ std::string JsonLine(const CheckedDocument& checked) {
            ",\"counts\":{\"notes\":" + count(Severity::Note) + ",\"warnings\":" + count(Severity::Warning) +
            ",\"errors\":" + count(Severity::Error) +
            "},\"findings\":" + Array(checked.Findings.Findings, finding) +
-           ",\"messages\":" + Array(checked.Messages, MessageObject) + "}\n";
+           ",\"messages\":" + Array(checked.Messages, MessageObject) +
+           (checked.Advice == nullptr ? "" : ",\"advice\":" + JsonOfAdvice(checked.Advice->List)) + "}\n";
 }
+
+std::string JsonOfAdvice(const std::vector<run::Advice>& list) { return Array(list, AdviceObject); }
 
 } // namespace orvane::cli

@@ -3,6 +3,7 @@
 
 #include "codegen/Report.h"
 #include "core/DocumentReader.h"
+#include "run/Advice.h"
 
 #include <string>
 #include <string_view>
@@ -19,14 +20,19 @@ struct CheckedDocument {
     const FsmDocument& Document;
     const Report& Findings;
     const std::vector<ReaderMessage>& Messages;
-    bool Complete; // the document was read to its end
+    bool Complete;                             // the document was read to its end
+    const run::AdviceResult* Advice = nullptr; // when it was asked for
 };
 
 // One line:
 // {"path":...,"complete":...,"counts":{"notes":...,"warnings":...,"errors":...},"findings":[...],"messages":[...]}
 // A finding is {"severity":...,"kind":...,"state":...,"stateName":...,"row":...,"message":...}, a message of
 // the reader
-// {"line":...,"message":...}. What there is none of is null.
+// {"line":...,"message":...}. What there is none of is null. Advice, where it is asked for, is one more list,
+// {"kind":...,"state":...,"row":...,"text":...}.
 std::string JsonLine(const CheckedDocument& checked);
+
+// [{"kind":...,"state":...,"row":...,"text":...},...]; what there is none of is null.
+std::string JsonOfAdvice(const std::vector<run::Advice>& list);
 
 } // namespace orvane::cli

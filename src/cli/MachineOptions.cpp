@@ -32,6 +32,16 @@ void MachineOptions::AddSimulate(CLI::App& verb) {
         ->type_name("FILE");
 }
 
+void MachineOptions::AddExplore(CLI::App& verb) {
+    AddDocument(verb);
+    CLI::Option* to = verb.add_option("--to", explore_.To, "Print the shortest way to STATE as a test");
+    to->type_name("STATE");
+    verb.add_option("--from", explore_.From, "The way begins in STATE instead of where power comes on")
+        ->type_name("STATE")
+        ->needs(to);
+    verb.add_flag("--json", explore_.Json, "Report as one line of JSON");
+}
+
 std::string MachineOptions::TakeDocument() {
     ShowBracket(document_);
     return std::move(document_);
@@ -42,6 +52,12 @@ SimulateArguments MachineOptions::TakeSimulate() {
         Show(*path);
     ShowBracket(simulate_.Test);
     return std::move(simulate_);
+}
+
+ExploreArguments MachineOptions::TakeExplore() {
+    Show(explore_.From);
+    Show(explore_.To);
+    return std::move(explore_);
 }
 
 } // namespace orvane::cli

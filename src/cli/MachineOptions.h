@@ -16,16 +16,19 @@ namespace orvane::cli {
 class MachineOptions {
   public:
     void AddSimulate(CLI::App& verb);
+    void AddExplore(CLI::App& verb);
 
     // Once, after the command line was parsed.
     std::string TakeDocument();
     SimulateArguments TakeSimulate();
+    ExploreArguments TakeExplore();
 
   private:
     void AddDocument(CLI::App& verb);
 
     std::string document_;
     SimulateArguments simulate_;
+    ExploreArguments explore_;
 };
 
 } // namespace orvane::cli

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/MachineVerbs.h"
 
+#include "cli/ExploreVerb.h"
 #include "cli/MessageText.h"
 #include "cli/SimulateVerb.h"
 
@@ -10,6 +11,8 @@ namespace orvane::cli {
 
 Outcome RunMachineVerb(const Arguments& arguments, const TestFiles& files) noexcept {
     try {
+        if (arguments.What == Verb::Explore)
+            return RunExplore(arguments, files);
         return RunSimulate(arguments, files);
     } catch (const std::exception& error) {
         return {{}, FailureLine(arguments.Documents.front(), error.what()), kFileError};

@@ -11,6 +11,8 @@
 #include "files/FileReader.h"
 #include "files/FileWriter.h"
 #include "files/Leftovers.h"
+#include "run/Advice.h"
+#include "text/AnsiText.h"
 
 #include <exception>
 #include <map>
@@ -112,8 +114,18 @@ void DocumentRun::Generate() {
 void DocumentRun::Check(const Report& report) {
     if (report.HasErrors())
         outcome_.Raise(kDesignError);
-    outcome_.Output = AsJson() ? JsonLine({name_, read_->Document, report, read_->Messages, !read_->BrokeOff})
-                               : HeadedReport(report);
+    std::optional<run::AdviceResult> advice;
+    if (arguments_.Advice)
+        advice = run::AdviceOn(read_->Document);
+    if (AsJson()) {
+        outcome_.Output = JsonLine(
+            {name_, read_->Document, report, read_->Messages, !read_->BrokeOff, advice ? &*advice : nullptr});
+        return;
+    }
+    outcome_.Output = HeadedReport(report);
+    for (const run::Advice& each : advice ? advice->List : std::vector<run::Advice>())
+        outcome_.Output += "Advice: " + ShownName(ToUtf8(each.Message)) + " [" +
+                           std::string(AdviceKindName(each.Kind)) + "]\n";
 }
 
 void DocumentRun::Format() {

@@ -205,6 +205,10 @@ std::optional<std::uint32_t> StateSpace::Find(const Config& config) const {
         if (!machine_.Read().UnstartedExpired)
             place.At.Started[timer] = 0;
     }
+    return Find(place);
+}
+
+std::optional<std::uint32_t> StateSpace::Find(const RunPlace& place) const {
     const auto found = places_.find(Key(place));
     return found == places_.end() ? std::nullopt : std::optional(found->second);
 }

@@ -72,12 +72,15 @@ class StateSpace {
 
     // Where a running machine is; none when it is nowhere that was found.
     std::optional<std::uint32_t> Find(const Config& config) const;
+    std::optional<std::uint32_t> Find(const RunPlace& place) const;
+
+    // A machine that is there, at a time that stands for all others. Not for the place without power.
+    RunPlace PlaceOf(std::uint32_t place) const;
 
   private:
     // A place is computed as if it were this time: a wait from any limit never comes to 0.
     Units Now() const { return 2 * horizon_.Longest() + 2; }
     std::string Key(const RunPlace& place) const;
-    RunPlace PlaceOf(std::uint32_t place) const;
     std::uint32_t Add(const RunPlace& place);
     void AddWays(std::vector<FoundScan> scans, bool raw);
     void See(const FoundScan& scan);

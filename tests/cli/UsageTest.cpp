@@ -35,7 +35,8 @@ TEST_F(Usage, HelpOfTheProgramAndOfEachVerbHasAnExample) {
         {"check --help", "Example: orvanec check --format=json *.zfsm\n"},
         {"format --help", "Example: orvanec format pump.zfsm -o tidy.zfsm\n"},
         {"test --help", "Example: orvanec test --coverage=100 pump.zfsm\n"},
-        {"simulate --help", "Example: orvanec simulate pump.zfsm pump.ztest"}};
+        {"simulate --help", "Example: orvanec simulate pump.zfsm pump.ztest"},
+        {"explore --help", "Example: orvanec explore pump.zfsm\n"}};
     for (const auto& [arguments, example] : examples) {
         const RunResult run = Run(arguments);
         EXPECT_EQ(run.Status, 0) << arguments;
@@ -52,10 +53,11 @@ TEST_F(Usage, HelpOfTheProgramListsTheVerbs) {
 }
 
 TEST_F(Usage, WrongUsageIsSaidOnStandardError) {
-    ExpectWrong("", "No verb is given; the verbs are generate, check, format, test, simulate, diff and show");
     ExpectWrong(
-        "frobnicate a",
-        "There is no verb frobnicate; the verbs are generate, check, format, test, simulate, diff and show");
+        "",
+        "No verb is given; the verbs are generate, check, format, test, simulate, explore, diff and show");
+    ExpectWrong("frobnicate a", "There is no verb frobnicate; the verbs are generate, check, format, test, "
+                                "simulate, explore, diff and show");
     ExpectWrong("generate", "No document is given");
     ExpectWrong("check", "No document is given");
     ExpectWrong("format", "No document is given");

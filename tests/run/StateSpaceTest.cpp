@@ -179,7 +179,7 @@ TEST(StateSpace, HoldsEveryPlaceThatARandomRunMeets) {
         }
         places += walk.Places;
     });
-    EXPECT_GT(places, 10'000U);
+    EXPECT_GT(places, 3'000U);
 }
 
 // So that the property above is not true of a set that holds everything: each way is one that the machine

@@ -1,0 +1,148 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "run/WayDriver.h"
+
+namespace orvane::run {
+
+WayDriver::WayDriver(const Machine& machine, const Inputs& given, const StateSpace& space)
+    : machine_(machine), given_(given), space_(space) {
+    Begin();
+}
+
+void WayDriver::Begin() {
+    clock_.emplace(machine_);
+    clock_->Surroundings() = given_;
+    outcome_ = Outcome::Quiet;
+    hasPower_ = false;
+    steps_.clear();
+    for (const StateNumber state : StateNumbers()) {
+        const bool asks = machine_.State(state).Limit == LimitKind::Variable;
+        if (asks && given_.Limits[state.Number()] != kNotGiven)
+            steps_.push_back(LimitOf(state, given_.Limits[state.Number()]));
+    }
+}
+
+bool WayDriver::Go(std::span<const TestableWay* const> way) {
+    while (!way.empty()) {
+        const TestableWay& next = *way.front();
+        std::size_t gone = 1;
+        if (next.IsPowerOn)
+            PowerOn(next.First->Events);
+        else if (next.First->Wait > 0)
+            Wait(next.First->Wait, next.First->Events);
+        else
+            gone = GoScan(way);
+        const bool last = gone == way.size();
+        if (!IsIdle(outcome_) || (!last && Place() != way[gone - 1]->To))
+            return last && IsIdle(outcome_);
+        way = way.subspan(gone);
+    }
+    return true;
+}
+
+void WayDriver::Try(std::uint64_t events) {
+    if (clock_->Surroundings().Events != 0 && RestsWithout())
+        Switch(0);
+    if (clock_->Surroundings().Events == 0)
+        Pulse(events);
+    else
+        ScanOnce(events);
+}
+
+std::optional<std::uint32_t> WayDriver::Place() const {
+    if (!hasPower_)
+        return StateSpace::kPowerOff;
+    return IsIdle(outcome_) ? space_.Find(clock_->Where()) : std::nullopt;
+}
+
+void WayDriver::PowerOn(std::uint64_t events) {
+    if (events != 0)
+        steps_.push_back(SwitchTo(events));
+    steps_.push_back({});
+    clock_->Surroundings().Events = events;
+    outcome_ = clock_->PowerOn();
+    hasPower_ = true;
+}
+
+void WayDriver::Switch(std::uint64_t events) {
+    steps_.push_back(SwitchTo(events));
+    clock_->Surroundings().Events = events;
+    outcome_ = clock_->Settle();
+}
+
+void WayDriver::Pulse(std::uint64_t events) {
+    steps_.push_back(PulseOf(events));
+    outcome_ = clock_->Pulse(events);
+}
+
+void WayDriver::ScanOnce(std::uint64_t events) {
+    if (clock_->Surroundings().Events != events) {
+        steps_.push_back(SwitchTo(events));
+        steps_.back().More = true;
+    }
+    steps_.push_back({1, RunAct::Scan});
+    clock_->Surroundings().Events = events;
+    outcome_ = clock_->Scan(1);
+}
+
+// The machine rests with these events.
+void WayDriver::Wait(Units units, std::uint64_t events) {
+    if (clock_->Surroundings().Events != events)
+        Switch(events);
+    if (steps_.back().What == RunAct::Wait)
+        steps_.back().Amount += std::uint64_t(units);
+    else
+        steps_.push_back(WaitFor(units));
+    outcome_ = clock_->Advance(units);
+}
+
+// How many of the ways one step goes.
+std::size_t WayDriver::GoScan(std::span<const TestableWay* const> way) {
+    const std::uint64_t events = way.front()->First->Events;
+    const bool staysOn = way.size() > 1 && way[1]->First->Wait > 0 && way[1]->First->Events == events;
+    if (staysOn || events == 0) {
+        Clock held = *clock_;
+        held.Surroundings().Events = events;
+        const Outcome outcome = held.Settle();
+        const std::size_t gone = ComesAlong(held, outcome, way);
+        if (gone > 0 && clock_->Surroundings().Events != events) {
+            Switch(events);
+            return gone;
+        }
+    }
+    if (events != 0 && clock_->Surroundings().Events != 0 && RestsWithout())
+        Switch(0);
+    if (events != 0 && clock_->Surroundings().Events == 0) {
+        Clock pulsed = *clock_;
+        const Outcome outcome = pulsed.Pulse(events);
+        if (const std::size_t gone = ComesAlong(pulsed, outcome, way); gone > 0) {
+            Pulse(events);
+            return gone;
+        }
+    }
+    ScanOnce(events);
+    return 1;
+}
+
+// A machine that settled without events behind the first scan went the ways that need none, too. The last way
+// may end anywhere.
+std::size_t WayDriver::ComesAlong(const Clock& clock, Outcome outcome,
+                                  std::span<const TestableWay* const> way) const {
+    if (!IsIdle(outcome))
+        return 0;
+    const std::optional<std::uint32_t> place = space_.Find(clock.Where());
+    for (std::size_t gone = 1; gone <= way.size(); ++gone) {
+        if (place == way[gone - 1]->To)
+            return gone;
+        if (gone < way.size() && way[gone]->Cost() > 0)
+            break;
+    }
+    return way.size() == 1 ? 1 : 0;
+}
+
+bool WayDriver::RestsWithout() const {
+    Clock without = *clock_;
+    without.Surroundings().Events = 0;
+    return IsIdle(without.Settle()) && space_.Find(without.Where()) == space_.Find(clock_->Where());
+}
+
+} // namespace orvane::run
