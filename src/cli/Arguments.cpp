@@ -53,14 +53,17 @@ constexpr const char* kExploreNotes =
     "Exit status: 0 nothing is found, or the way; 1 something is, or no way; 2 wrong usage; 3 a file that\n"
     "             could not be read, or a state that is not there";
 
-constexpr std::array<std::pair<const char*, Verb>, 8> kVerbs{{{"generate", Verb::Generate},
-                                                              {"check", Verb::Check},
-                                                              {"format", Verb::Format},
-                                                              {"test", Verb::Test},
-                                                              {"simulate", Verb::Simulate},
-                                                              {"explore", Verb::Explore},
-                                                              {"diff", Verb::Diff},
-                                                              {"show", Verb::Show}}};
+constexpr std::array<std::pair<const char*, Verb>, 11> kVerbs{{{"generate", Verb::Generate},
+                                                               {"check", Verb::Check},
+                                                               {"format", Verb::Format},
+                                                               {"test", Verb::Test},
+                                                               {"simulate", Verb::Simulate},
+                                                               {"explore", Verb::Explore},
+                                                               {"diff", Verb::Diff},
+                                                               {"show", Verb::Show},
+                                                               {"merge", Verb::Merge},
+                                                               {"conflicts", Verb::Conflicts},
+                                                               {"git", Verb::Git}}};
 
 std::string VerbList() {
     std::string list;
@@ -77,6 +80,15 @@ constexpr const char* kDiffNotes =
 constexpr const char* kShowNotes =
     "Example: orvanec show pump.zfsm\n"
     "         writes the document as text with names in place of numbers, as git compares it";
+constexpr const char* kMergeNotes =
+    "Example: orvanec merge base.zfsm ours.zfsm theirs.zfsm -o merged.zfsm\n\n"
+    "A conflict keeps ours and has theirs in a comment block, and stands in merged.zfsm.conflicts.\n"
+    "Exit status: 0 merged, 1 with conflicts, 2 wrong usage, 3 a file that is no whole document";
+constexpr const char* kConflictsNotes = "Example: orvanec conflicts *.zfsm || exit 1\n\n"
+                                        "Exit status: 0 there are none, 1 there are some";
+constexpr const char* kGitNotes =
+    "Example: orvanec git enable\n"
+    "         shows what it writes into .gitattributes and the configuration, and asks";
 
 class CommandLine {
   public:
@@ -136,6 +148,10 @@ class CommandLine {
         review_.AddDiff(AddVerb("diff", "Tell what leads from one document to another", kDiffNotes));
         review_.AddShow(
             AddVerb("show", "Write a document as text with names in place of numbers", kShowNotes));
+        review_.AddMerge(AddVerb("merge", "Put two versions that came from one together", kMergeNotes));
+        review_.AddConflicts(
+            AddVerb("conflicts", "Tell the conflicts that stand in documents", kConflictsNotes));
+        review_.AddGit(AddVerb("git", "Make git compare and merge documents by orvanec", kGitNotes));
     }
 
     CLI::App& AddVerb(const char* name, const char* purpose, const char* notes) {

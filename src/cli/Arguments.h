@@ -13,12 +13,15 @@
 
 namespace orvane::cli {
 
-enum class Verb { Generate, Check, Format, Test, Simulate, Explore, Diff, Show };
+enum class Verb { Generate, Check, Format, Test, Simulate, Explore, Diff, Show, Merge, Conflicts, Git };
 // The verbs of the machine of one document.
 constexpr bool LooksIntoOne(Verb verb) { return verb == Verb::Simulate || verb == Verb::Explore; }
 
 // The verbs about several versions of one document.
-constexpr bool ComparesVersions(Verb verb) { return verb == Verb::Diff || verb == Verb::Show; }
+constexpr bool ComparesVersions(Verb verb) {
+    return verb == Verb::Diff || verb == Verb::Show || verb == Verb::Merge || verb == Verb::Conflicts ||
+           verb == Verb::Git;
+}
 
 enum class ReportFormat { Text, Json };
 

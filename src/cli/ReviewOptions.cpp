@@ -30,12 +30,42 @@ void ReviewOptions::AddShow(CLI::App& verb) {
                   "For git: a document that breaks off is shown as far as it goes, and is no failure");
 }
 
+void ReviewOptions::AddMerge(CLI::App& verb) {
+    verb.add_option("DOC", documents_, "What both came from, ours, and theirs")->required()->type_name("");
+    verb.add_option("-o,--output", arguments_.MergeOutput,
+                    "Write to FILE, and the conflicts to FILE.conflicts; without it to standard output")
+        ->type_name("FILE");
+    CLI::Option* ours =
+        verb.add_flag("--ours", arguments_.TakeOurs, "Where the sides contradict, ours counts");
+    verb.add_flag("--theirs", arguments_.TakeTheirs, "Where the sides contradict, theirs counts")
+        ->excludes(ours);
+    verb.add_option("--path", arguments_.MergePath,
+                    "The name of the document, for messages and the conflicts")
+        ->type_name("NAME");
+}
+
+void ReviewOptions::AddConflicts(CLI::App& verb) {
+    verb.add_option("DOC", documents_, "The documents")->required()->type_name("");
+}
+
+void ReviewOptions::AddGit(CLI::App& verb) {
+    verb.add_option("WHAT", documents_, "enable: compare and merge documents by orvanec")
+        ->required()
+        ->type_name("");
+    verb.add_flag("--global", arguments_.Global, "For this user, not for this repository");
+    verb.add_flag("--yes", arguments_.Yes, "Do not ask");
+}
+
 ReviewArguments ReviewOptions::Take() {
     arguments_.Format = format_ == "json"   ? DiffFormat::Json
                         : format_ == "html" ? DiffFormat::Html
                                             : DiffFormat::Text;
     for (std::vector<std::string>* wishes : {&arguments_.Same, &arguments_.Different})
         std::for_each(wishes->begin(), wishes->end(), ShowBracket);
+    for (std::optional<std::string>* path : {&arguments_.MergeOutput, &arguments_.MergePath}) {
+        if (*path)
+            ShowBracket(**path);
+    }
     return std::move(arguments_);
 }
 

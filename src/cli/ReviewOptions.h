@@ -19,6 +19,9 @@ class ReviewOptions {
   public:
     void AddDiff(CLI::App& verb);
     void AddShow(CLI::App& verb);
+    void AddMerge(CLI::App& verb);
+    void AddConflicts(CLI::App& verb);
+    void AddGit(CLI::App& verb);
 
     // Once, after the command line was parsed.
     std::vector<std::string> TakeDocuments() { return std::move(documents_); }

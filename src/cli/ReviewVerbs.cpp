@@ -2,6 +2,8 @@
 #include "cli/ReviewVerbs.h"
 
 #include "cli/DiffJson.h"
+#include "cli/GitVerb.h"
+#include "cli/MergeVerb.h"
 #include "cli/MessageText.h"
 #include "cli/WholeDocument.h"
 #include "review/Compare.h"
@@ -85,11 +87,22 @@ Outcome Show(const Arguments& arguments, FileSystem& files) {
 
 } // namespace
 
-Outcome RunReviewVerb(const Arguments& arguments, FileSystem& files) noexcept {
+Outcome RunReviewVerb(const Run& run) noexcept {
     try {
-        return arguments.What == Verb::Diff ? Diff(arguments, files) : Show(arguments, files);
+        switch (run.Asked.What) {
+        case Verb::Diff:
+            return Diff(run.Asked, run.Files);
+        case Verb::Merge:
+            return MergeDocuments(run);
+        case Verb::Conflicts:
+            return TellConflicts(run);
+        case Verb::Git:
+            return EnableGit(run);
+        default:
+            return Show(run.Asked, run.Files);
+        }
     } catch (const std::exception& error) {
-        return {{}, FailureLine(arguments.Documents.front(), error.what()), kFileError};
+        return {{}, FailureLine(run.Asked.Documents.front(), error.what()), kFileError};
     }
 }
 

@@ -45,13 +45,13 @@ int Do(const Arguments& arguments) {
     const auto unfinished = std::make_shared<UnfinishedFiles>(files);
     if (arguments.What != Verb::Check)
         RemoveWhenTold(unfinished);
-    if (ComparesVersions(arguments.What))
-        return Deliver(RunReviewVerb(arguments, files));
     if (arguments.What == Verb::Test)
         return RunTests(arguments, TestFiles(files, *unfinished));
     if (LooksIntoOne(arguments.What))
         return Deliver(RunMachineVerb(arguments, TestFiles(files, *unfinished)));
     const Run run{arguments, date.Date, files, *unfinished};
+    if (ComparesVersions(arguments.What))
+        return Deliver(RunReviewVerb(run));
     int status = kSuccess;
     WorkInOrder(
         arguments.Documents.size(), [&](std::size_t index) { return RunVerb(run, index); },

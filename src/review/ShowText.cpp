@@ -48,7 +48,26 @@ class Shower {
         return std::move(text_);
     }
 
+    std::string ShowOnly(StateNumber state) {
+        ShowState(state);
+        return std::move(text_);
+    }
+    std::string ShowOnly(RowNumber row) {
+        ShowEvent(row);
+        for (const StateNumber state : states_) {
+            const StateRecord& record = document_.State(state);
+            if (IsEmptyCell(record, row))
+                continue;
+            Line("  in " + NameOf(state) + LeadsTo(record.Targets[row]));
+            Code("    ", record.Actions[row]);
+        }
+        return std::move(text_);
+    }
+
   private:
+    std::string LeadsTo(StateNumber target) const {
+        return target == kNoState ? ", stay" : " -> " + NameOf(target);
+    }
     std::string NameOf(StateNumber state) const {
         const std::string& name = document_.State(state).Name;
         return Label(name, state.Number(), stateNames_.at(std::string(Trim(name))) == 1);
@@ -126,8 +145,7 @@ void Shower::ShowState(StateNumber state) {
     for (const RowNumber row : CellRows()) {
         if (IsEmptyCell(record, row))
             continue;
-        const StateNumber target = record.Targets[row];
-        Line("  on " + NameOf(row) + (target == kNoState ? ", stay" : " -> " + NameOf(target)));
+        Line("  on " + NameOf(row) + LeadsTo(record.Targets[row]));
         Code("    ", record.Actions[row]);
     }
 }
@@ -146,8 +164,25 @@ void Shower::ShowBlankWidths() {
     }
 }
 
+std::string AsDocumentText(std::string_view utf8) {
+    std::string text;
+    for (const char byte : FromUtf8(utf8, '?'))
+        text.append(byte == '\n' ? kLineEnd : std::string_view(&byte, 1));
+    if (text.ends_with(kLineEnd))
+        text.resize(text.size() - kLineEnd.size());
+    return text;
+}
+
 } // namespace
 
 std::string ShowText(const FsmDocument& document) { return Shower(document).Show(); }
+
+std::string StateContent(const FsmDocument& document, StateNumber state) {
+    return AsDocumentText(Shower(document).ShowOnly(state));
+}
+
+std::string EventContent(const FsmDocument& document, RowNumber row) {
+    return AsDocumentText(Shower(document).ShowOnly(row));
+}
 
 } // namespace orvane::review

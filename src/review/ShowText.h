@@ -12,4 +12,8 @@ namespace orvane::review {
 // what has no name of its own has a number: #3.
 std::string ShowText(const FsmDocument& document);
 
+// The lines of that text about one state, and about one event with its cells, as document text.
+std::string StateContent(const FsmDocument& document, StateNumber state);
+std::string EventContent(const FsmDocument& document, RowNumber row);
+
 } // namespace orvane::review

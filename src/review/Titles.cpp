@@ -44,22 +44,22 @@ struct ValueTexts {
     std::string operator()(StateNumber target) const { return StateTitle(Document, target); }
 };
 
-std::string Title(int number, std::string_view name) {
-    return Trim(name).empty() ? NumberText(number) : OneLine(StateLabel(number, name));
-}
-
 } // namespace
 
 std::string OneLine(std::string_view documentText) { return Shown(documentText, false); }
 
 std::string CodeLine(std::string_view documentText) { return Shown(documentText, true); }
 
+std::string NumberedTitle(int number, std::string_view name) {
+    return Trim(name).empty() ? NumberText(number) : OneLine(StateLabel(number, name));
+}
+
 std::string StateTitle(const FsmDocument& document, StateNumber state) {
-    return state == kNoState ? "none" : Title(state.Number(), document.State(state).Name);
+    return state == kNoState ? "none" : NumberedTitle(state.Number(), document.State(state).Name);
 }
 
 std::string EventTitle(const FsmDocument& document, RowNumber row) {
-    return Title(row.Number(), document.Event(row).Name);
+    return NumberedTitle(row.Number(), document.Event(row).Name);
 }
 
 std::string RowTitle(const FsmDocument& document, RowNumber row) {

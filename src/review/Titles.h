@@ -16,7 +16,10 @@ std::string OneLine(std::string_view documentText);
 // A line of code: the same, but with its tabs.
 std::string CodeLine(std::string_view documentText);
 
-// 4:Run, or 4 without a name; "none" for no state.
+// 4:Run, or 4 without a name.
+std::string NumberedTitle(int number, std::string_view name);
+
+// The same of a state; "none" for no state.
 std::string StateTitle(const FsmDocument& document, StateNumber state);
 
 // 6:Start, or 6 without a name.

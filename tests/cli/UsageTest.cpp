@@ -54,10 +54,11 @@ TEST_F(Usage, HelpOfTheProgramListsTheVerbs) {
 
 TEST_F(Usage, WrongUsageIsSaidOnStandardError) {
     ExpectWrong(
-        "",
-        "No verb is given; the verbs are generate, check, format, test, simulate, explore, diff and show");
+        "", "No verb is given; the verbs are generate, check, format, test, simulate, explore, diff, show, "
+            "merge, conflicts and git");
     ExpectWrong("frobnicate a", "There is no verb frobnicate; the verbs are generate, check, format, test, "
-                                "simulate, explore, diff and show");
+                                "simulate, explore, diff, show, "
+                                "merge, conflicts and git");
     ExpectWrong("generate", "No document is given");
     ExpectWrong("check", "No document is given");
     ExpectWrong("format", "No document is given");
