@@ -46,17 +46,17 @@ void Scan(benchmark::State& state, const FsmDocument& document) {
 
 void BareTable(benchmark::State& state, const FsmDocument& document) {
     std::vector<std::array<std::uint8_t, 64>> table(kStateCount + 1);
-    for (const int number : StateNumbers()) {
-        for (const int row : EventRows())
-            table[static_cast<std::size_t>(number)][static_cast<std::size_t>(row)] =
-                static_cast<std::uint8_t>(document.State(number).Targets[row]);
+    for (const StateNumber from : StateNumbers()) {
+        for (const RowNumber row : EventRows())
+            table[from.Number()][row.Number()] =
+                static_cast<std::uint8_t>(document.State(from).Targets[row].Number());
     }
     const std::vector<std::uint64_t> stream = InputStream();
     std::size_t present = 1;
     for ([[maybe_unused]] auto iteration : state) {
         for (const std::uint64_t events : stream) {
             if (events != 0)
-                present = table[present][static_cast<std::size_t>(std::countr_zero(events))];
+                present = table[present][std::countr_zero(events)];
             benchmark::DoNotOptimize(present);
         }
     }

@@ -2,6 +2,7 @@
 #include "ui/TableDriver.h"
 
 #include "core/DocumentWriter.h"
+#include "kit/CommandLine.h"
 
 #include <QAction>
 #include <QApplication>

@@ -13,7 +13,7 @@ namespace orvane {
 
 namespace {
 
-QString Text(std::string_view text) { return QLatin1String(text.data(), text.size()); }
+QString Text(std::string_view text) { return QLatin1String(QByteArrayView(text)); }
 
 } // namespace
 

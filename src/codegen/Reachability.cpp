@@ -13,10 +13,8 @@ namespace {
 constexpr StateNumber kStartState = 1;
 }
 
-// Depth first; at most one call for each of the 100 states is open at a time.
+// Depth first, once for each state: at most 100 calls are open at a time.
 void Reachability::Visit(const FsmDocument& document, StateNumber state) {
-    if (Reached(state))
-        return;
     reached_.set(Bit(state));
     const StateRecord& record = document.State(state);
     for (const RowNumber row : CellRows()) {
@@ -24,7 +22,8 @@ void Reachability::Visit(const FsmDocument& document, StateNumber state) {
         if (target == kNoState)
             continue;
         returnsToStart_ = returnsToStart_ || target == kStartState;
-        Visit(document, target);
+        if (!Reached(target))
+            Visit(document, target);
     }
 }
 

@@ -12,6 +12,7 @@ namespace orvane {
 
 namespace {
 
+constexpr std::string_view kBehindNumber = ":";
 constexpr std::string_view kTopLevel = "";
 constexpr std::string_view kInSection = "  ";
 constexpr std::string_view kInCellList = "    ";
@@ -55,7 +56,7 @@ class Writer {
     }
     template <typename... Pieces>
     void Field(std::string_view indent, std::string_view tag, const Pieces&... value) {
-        bytes_.append(indent).append(kTagOpen).append(tag).append(">");
+        bytes_.append(indent).append(kTagOpen).append(tag) += '>';
         (bytes_.append(std::string_view(value)), ...);
         bytes_.append(kValueEnd).append(kLineEnd);
     }
@@ -92,7 +93,7 @@ void Writer::WriteEvent(RowNumber row) {
     const EventRecord& event = document_.Event(row);
     if (IsEmpty(event))
         return;
-    Field(kTopLevel, tag::kEvent, NumberText(row.Number()), ":");
+    Field(kTopLevel, tag::kEvent, NumberText(row.Number()), kBehindNumber);
     Fields<kEventFields>(event);
     Field(kTopLevel, tag::kEventEnd);
 }
@@ -101,7 +102,7 @@ void Writer::WriteState(StateNumber number) {
     const StateRecord& state = document_.State(number);
     if (!IsStored(state))
         return;
-    Field(kTopLevel, tag::kState, NumberText(number.Number()), ":");
+    Field(kTopLevel, tag::kState, NumberText(number.Number()), kBehindNumber);
     Fields<kStateFields>(state);
     WriteCells(state);
     Marker(kTopLevel, tag::kStateEnd);
@@ -113,7 +114,7 @@ void Writer::WriteCells(const StateRecord& state) {
         if (!listOpen)
             Marker(kInSection, tag::kTransitions);
         listOpen = true;
-        Field(kInCellList, tag, NumberText(row.Number()), ":", value);
+        Field(kInCellList, tag, NumberText(row.Number()), kBehindNumber, value);
     };
     for (const RowNumber row : CellRows()) {
         if (state.Targets[row] != kNoState)

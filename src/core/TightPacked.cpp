@@ -86,6 +86,11 @@ struct BreakOff {
     std::string Why;
 };
 
+// Stands apart so that the hot path, which reads thousands of numbers, stays short.
+[[noreturn]] void Refuse(std::string_view what, int number) {
+    throw BreakOff{"The snapshot holds the " + std::string(what) + " " + NumberText(number)};
+}
+
 class Unpacker {
   public:
     Unpacker(std::string_view image, FsmDocument& document)
@@ -183,7 +188,7 @@ template <typename Kind>
 Kind Unpacker::Number(NumberRange<Kind> range, std::string_view what) {
     const int number = Number();
     if (!range.Contains(number))
-        throw BreakOff{"The snapshot holds the " + std::string(what) + " " + NumberText(number)};
+        Refuse(what, number);
     return number;
 }
 

@@ -40,11 +40,7 @@ void Tell(QWidget* parent, const QString& text, QMessageBox::Icon icon) {
 }
 
 bool AskYesNo(QWidget* parent, const QString& text) {
-    QMessageBox box(QMessageBox::NoIcon, QStringLiteral("Orvane"), text, QMessageBox::Yes | QMessageBox::No,
-                    parent);
-    box.setDefaultButton(QMessageBox::No);
-    box.setEscapeButton(QMessageBox::No);
-    return Run(box) == QMessageBox::Yes;
+    return Ask(parent, {QStringLiteral("Orvane"), text, QMessageBox::NoIcon, QMessageBox::No});
 }
 
 QMessageBox::StandardButton AskYesNoCancel(QWidget* parent, const QString& title, const QString& text,

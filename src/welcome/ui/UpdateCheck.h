@@ -31,6 +31,9 @@ class UpdateCheck : public QObject {
     // Sends the request. An empty address, or one that is neither http nor https, asks nobody.
     void Start(const QUrl& page);
 
+    // From Start until the answer has been looked at, or given up.
+    bool IsAsking() const { return reply_ != nullptr; }
+
     void SetTimeout(int milliseconds) { network_.setTransferTimeout(milliseconds); }
     void SetLongest(int milliseconds) { timeIsUp_.setInterval(milliseconds); }
 
