@@ -196,8 +196,13 @@ void LiveRun::PassTime(Units units) {
         atEnd && (history_->Log().empty() || history_->Log().back().Step + 1 != history_->Steps().size());
     if (nothingHappened && history_->Steps().back().What == RunAct::Wait)
         return history_->Lengthen(units);
+    std::string told = notice_; // of an edit, which is read while time passes
     Wait(units);
+    if (notice_.empty())
+        notice_ = std::move(told);
 }
+
+bool LiveRun::CanGoOn() const { return history_ && history_->CanDo(WaitFor(1)); }
 
 void LiveRun::ToTimeout() {
     if (State() == kNoState)
@@ -226,12 +231,12 @@ void LiveRun::ToChange() {
         Wait(wait);
 }
 
-void LiveRun::Play(const std::vector<RunStep>& steps, const Constants& given) {
+void LiveRun::Play(const std::vector<RunStep>& steps, const Constants& given, Moment shown) {
     notice_.clear();
     if (history_)
         cutOff_ = StepsOf(*history_);
     given_ = given;
-    recorded_ = {steps, {steps.size(), 0}, document_};
+    recorded_ = {steps, shown, document_};
     Build();
     allFits_ = history_ != nullptr;
     if (history_)

@@ -56,8 +56,9 @@ class LiveRun {
     void ToChange(); // to where the state is another one, as far as time alone brings that
     // Time passes for somebody who looks on: makes no new step as long as nothing happens.
     void PassTime(Units units);
-    // Does all these steps in a new run.
-    void Play(const std::vector<RunStep>& steps, const Constants& given);
+    bool CanGoOn() const; // time can pass
+    // Does all these steps in a new run and shows one moment of it.
+    void Play(const std::vector<RunStep>& steps, const Constants& given, Moment shown);
 
     // The limit that is asked for, or that of the present state that could be another one.
     std::optional<WantedLimit> Wanted() const;

@@ -31,8 +31,16 @@ class StepWriter {
         : names_(document, ""), machine_(machine), clock_(machine) {}
 
     std::vector<TestStep> Run(std::span<const RunStep> steps) {
-        for (const RunStep& step : steps)
+        Units passing = 0; // waits in a row are one: how often somebody pressed a key says nothing
+        for (const RunStep& step : steps) {
+            if (step.What == RunAct::Wait) {
+                passing += step.Time();
+                continue;
+            }
+            Wait(std::exchange(passing, 0));
             Write(step);
+        }
+        Wait(passing);
         if (waited_ > 0)
             EndLine();
         return std::move(lines_);
@@ -57,7 +65,7 @@ class StepWriter {
             clock_.Surroundings().Limits[step.State] = step.Time();
             break;
         case RunAct::Wait:
-            return Wait(step.Time());
+            break;
         case RunAct::Scan:
             line_.Doings.emplace_back().What = Doing::Scan;
             line_.Doings.back().Count = int(step.Amount);
@@ -95,6 +103,8 @@ class StepWriter {
     }
 
     void Wait(Units units) {
+        if (units == 0)
+            return;
         const Units end = clock_.Where().Now + units;
         while (looks_ < kMostLooks) {
             const std::optional<Units> due = clock_.NextTimeout();

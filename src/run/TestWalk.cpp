@@ -69,9 +69,9 @@ Outcome TestWalk::Move(const PlannedStep& step, StepResult& result) {
         if (!IsIdle(waited))
             return waited;
     }
-    const std::uint64_t pulsed = Change(step);
+    pulsed_ = Change(step);
     if (Has(step, Doing::Pulse))
-        return PulseNow(pulsed, result);
+        return PulseNow(pulsed_, result);
     RecordInputs(Events());
     const auto scan = std::find_if(step.Doings.begin(), step.Doings.end(),
                                    [](const PlannedDoing& doing) { return doing.What == Doing::Scan; });

@@ -36,6 +36,8 @@ class TestWalk {
     std::optional<StepResult> Do(const PlannedStep& step);
 
     const Clock& Where() const { return clock_; }
+    // The events that there were during the pulse of the last step that had one.
+    std::uint64_t Pulsed() const { return pulsed_; }
     void Watch(EventsSeen& seen) { clock_.Watch(seen); }
     // From now on all that happens is taken down; the recorder must outlive the walk.
     void Record(TraceRecorder& recorder) { recorder_ = &recorder; }
@@ -54,6 +56,7 @@ class TestWalk {
     Clock clock_;
     bool hasPower_ = false;
     std::vector<bool> signals_;
+    std::uint64_t pulsed_ = 0;
     std::uint64_t switched_ = 0; // bit r: the event of row r is switched on
     TraceRecorder* recorder_ = nullptr;
 };

@@ -79,6 +79,12 @@ TEST(Recorder, ATimeoutRightBehindAnotherHasItsOwnLine) {
 )"));
 }
 
+TEST(Recorder, WaitsInARowAreOne) {
+    const FsmDocument pump = test::PumpTable().Document();
+    EXPECT_EQ(Recorded(pump, {kPowerOn, PulseOf(kStart), WaitFor(60), WaitFor(40), WaitFor(50)}),
+              Recorded(pump, {kPowerOn, PulseOf(kStart), WaitFor(150)}));
+}
+
 TEST(Recorder, InputsBeforePowerStandInItsLine) {
     EXPECT_THAT(Recorded(test::PumpTable().Document(), {SwitchTo(kStart), kPowerOn}),
                 HasSubstr("    on Start => Idle => Run  via Start  runs \"On Motor\"  ran 2\n"));
