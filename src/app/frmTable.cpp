@@ -86,6 +86,10 @@ void frmTable::AddRoom(std::unique_ptr<Room> room) {
         for (const auto& other : rooms_)
             other->EditPlace(place);
     });
+    connect(room.get(), &Room::EventFired, this, [this](RowNumber row) {
+        for (const auto& other : rooms_)
+            other->FireEvent(row);
+    });
     connect(room.get(), &Room::DocumentWanted, this, &frmTable::OpenDocument);
     connect(room.get(), &Room::CommandWanted, this, &frmTable::Run);
     connect(room.get(), &Room::LeaveAsked, this, [this](bool& mayLeave) {
@@ -139,7 +143,9 @@ void frmTable::PopUp(Command menu, const QPoint& position) {
 
 void frmTable::Told(const Change& change) {
     status_->ShowShift(session_.ShiftHeld());
-    if (change.Kind == ChangeKind::Moved)
+    if (change.Kind == ChangeKind::Ran)
+        menus_->ShowState(session_);
+    if (change.Kind == ChangeKind::Moved || change.Kind == ChangeKind::Ran)
         return;
     ShowDocumentState();
     if (change.Kind == ChangeKind::Undone)

@@ -54,6 +54,8 @@ class Room : public QObject {
     // (0, 0) what belongs to the machine as a whole, (4..54, state) a transition.
     virtual void ShowPlace(Cell) {}
     virtual void EditPlace(Cell) {}
+    // The user says that the event of this row, 6..54, happens.
+    virtual void FireEvent(RowNumber) {}
     // Somebody asks for this document to be opened, after the question about unsaved work.
     virtual void OpenDocument(const QString&) {}
     // Whether another document may take the place of this one, as far as this room is concerned.
@@ -68,6 +70,7 @@ class Room : public QObject {
   Q_SIGNALS:
     void PlaceChosen(orvane::Cell place);
     void EditWanted(orvane::Cell place);
+    void EventFired(orvane::RowNumber row);
     void DocumentWanted(const QString& path);
     void CommandWanted(orvane::Command command);
     void MenuWanted(orvane::Command menu, const QPoint& globalPosition);

@@ -22,6 +22,7 @@ enum class ChangeKind {
     ProgramWanted, // nothing changed, the program is asked for
     Left,          // the document is left with the program
     Moved,         // the pressed cell, the current state, Shift: where the user is, not what he draws
+    Ran,           // the machine that runs looks another way, or runs no more
 };
 
 // Which part of the table shows the change.

@@ -113,6 +113,7 @@ void Journal::Write(const Change& change) {
         return Close(change);
     case ChangeKind::ProgramWanted:
     case ChangeKind::Moved:
+    case ChangeKind::Ran:
         return;
     }
 }

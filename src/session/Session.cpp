@@ -124,6 +124,13 @@ void Session::HoldShift(bool held) {
     Tell({.Kind = ChangeKind::Moved, .Where = {}});
 }
 
+void Session::ShowRun(std::optional<RunPicture> run) {
+    run_ = std::move(run);
+    if (run_ && run_->State != kNoState)
+        currentState_ = run_->State;
+    Tell({.Kind = ChangeKind::Ran, .Where = {}});
+}
+
 void Session::RemoveDraftSource(const DraftSource& source) { std::erase(draftSources_, &source); }
 
 std::vector<Draft> Session::Drafts() const {

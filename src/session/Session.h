@@ -6,6 +6,7 @@
 #include "session/Change.h"
 #include "session/Draft.h"
 #include "session/JournalContent.h"
+#include "session/RunPicture.h"
 #include "table/TableClipboard.h"
 #include "table/UndoRing.h"
 
@@ -129,6 +130,10 @@ class Session {
     bool ShiftHeld() const { return shiftHeld_; }
     void HoldShift(bool held);
 
+    // The machine that runs, while the user looks at it. Where it is, is the current state.
+    const std::optional<RunPicture>& Run() const { return run_; }
+    void ShowRun(std::optional<RunPicture> run);
+
     // The height of an ordinary row in the table's font: what a special row comes into sight with.
     Twips StandardHeight() const { return standardHeight_; }
     void SetStandardHeight(Twips height) { standardHeight_ = height; }
@@ -170,6 +175,7 @@ class Session {
     Cell pressed_;
     StateNumber currentState_;
     bool shiftHeld_ = false;
+    std::optional<RunPicture> run_;
     Twips standardHeight_ = 0;
     ProgramState program_;
     std::optional<std::string> script_;

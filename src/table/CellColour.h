@@ -23,8 +23,9 @@ inline constexpr Colour kTimeoutColour{255, 255, 153};
 inline constexpr Colour kElseColour{255, 238, 204};
 inline constexpr Colour kEventColour{255, 153, 204};
 
-inline constexpr Colour kCurrentStateColour{255, 0, 0}; // the head of the state that stepping has reached
-inline constexpr Colour kNextStateColour{255, 255, 0};  // the cell whose target is pointed out
+inline constexpr Colour kCurrentStateColour{255, 0, 0};  // the head of the state that stepping has reached
+inline constexpr Colour kNextTakenColour{153, 204, 255}; // the transition that a running machine would take
+inline constexpr Colour kNextStateColour{255, 255, 0};   // the cell whose target is pointed out
 
 // The fixed background of a cell, heads included.
 Colour CellColour(Cell cell);

@@ -16,6 +16,11 @@ void DrawLine(QPainter& painter, const QRect& area, const QString& text) {
                      Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, text);
 }
 
+QFont Bold(QFont font) {
+    font.setBold(true);
+    return font;
+}
+
 // A document may make a cell so large that it is never seen as a whole.
 bool IsLargerThanScreen(const QRect& area, const QPaintDevice& screen) {
     return area.width() > screen.width() || area.height() > screen.height();
@@ -23,10 +28,13 @@ bool IsLargerThanScreen(const QRect& area, const QPaintDevice& screen) {
 
 } // namespace
 
-void CellPictures::Draw(QPainter& painter, const QRect& area, const QString& text, QRgb background) {
+void CellPictures::Draw(QPainter& painter, const QRect& area, Look look) {
     if (IsLargerThanScreen(area, *painter.device())) {
-        painter.fillRect(area, QColor(background));
-        DrawLine(painter, area, text);
+        const QFont font = painter.font();
+        painter.fillRect(area, QColor(look.Background));
+        painter.setFont(look.Bold ? Bold(font) : font);
+        DrawLine(painter, area, look.Text);
+        painter.setFont(font);
         return;
     }
     const qreal scale = painter.device()->devicePixelRatioF();
@@ -35,8 +43,9 @@ void CellPictures::Draw(QPainter& painter, const QRect& area, const QString& tex
         font_ = painter.font();
         scale_ = scale;
     }
-    const QSize size = (QSizeF(area.size()) * scale).toSize();
-    painter.drawPixmap(area.topLeft(), Picture({text, size, painter.pen().color().rgb(), background}));
+    look.Size = (QSizeF(area.size()) * scale).toSize();
+    look.Pen = painter.pen().color().rgb();
+    painter.drawPixmap(area.topLeft(), Picture(look));
 }
 
 QPixmap CellPictures::Picture(const Look& look) {
@@ -52,7 +61,7 @@ QPixmap CellPictures::Painted(const Look& look) const {
     picture.setDevicePixelRatio(scale_);
     picture.fill(QColor(look.Background));
     QPainter painter(&picture);
-    painter.setFont(font_);
+    painter.setFont(look.Bold ? Bold(font_) : font_);
     painter.setPen(QColor(look.Pen));
     DrawLine(painter, {QPoint(0, 0), picture.deviceIndependentSize().toSize()}, look.Text);
     return picture;

@@ -17,7 +17,12 @@ class CellPictures {
   public:
     // One line at the left of the area, in the middle of its height, in the painter's font and pen on the
     // background; what does not fit is cut off. No picture is kept of a cell larger than what it is drawn on.
-    void Draw(QPainter& painter, const QRect& area, const QString& text, QRgb background);
+    void Draw(QPainter& painter, const QRect& area, const QString& text, QRgb background) {
+        Draw(painter, area, {text, {}, 0, background, false});
+    }
+    void DrawBold(QPainter& painter, const QRect& area, const QString& text, QRgb background) {
+        Draw(painter, area, {text, {}, 0, background, true});
+    }
 
   private:
     struct Look {
@@ -25,14 +30,16 @@ class CellPictures {
         QSize Size; // pixels of the screen
         QRgb Pen = 0;
         QRgb Background = 0;
+        bool Bold = false;
 
         bool operator==(const Look&) const = default;
         friend size_t qHash(const Look& look, size_t seed) {
             return qHashMulti(seed, look.Text, look.Size.width(), look.Size.height(), look.Pen,
-                              look.Background);
+                              look.Background, look.Bold);
         }
     };
 
+    void Draw(QPainter& painter, const QRect& area, Look look);
     QPixmap Picture(const Look& look);
     QPixmap Painted(const Look& look) const;
 

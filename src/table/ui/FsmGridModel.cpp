@@ -30,6 +30,10 @@ QVariant FsmGridModel::data(const QModelIndex& index, int role) const {
         return Background(CellOf(index));
     case Qt::ForegroundRole: // Every background is light, also on a dark desktop.
         return QColor(Qt::black);
+    case kRunMarkRole:
+        return run_ ? MarkFlags(CellOf(index)) : QVariant();
+    case kRunNoteRole:
+        return run_ ? FromAnsi(Mark(CellOf(index)).Note) : QVariant();
     default:
         return {};
     }
@@ -54,6 +58,44 @@ void FsmGridModel::SetCurrentState(StateNumber state) {
     }
 }
 
+void FsmGridModel::ShowRun(const std::optional<RunPicture>& run) {
+    if (run_ == run)
+        return;
+    const std::optional<RunPicture> before = std::exchange(run_, run);
+    RunChanged(before.value_or(RunPicture()), run_.value_or(RunPicture()));
+}
+
+// Only what looks another way is drawn again: a machine that runs fast changes many times a second.
+void FsmGridModel::RunChanged(const RunPicture& before, const RunPicture& after) {
+    if (before.Counts != after.Counts)
+        return AllChanged();
+    for (const StateNumber state : {before.State, after.State}) {
+        if (state != kNoState)
+            ColumnChanged(state);
+    }
+    for (const std::optional<Cell>& last : {before.Last, after.Last}) {
+        if (last && before.Last != after.Last)
+            BackgroundChanged(*last);
+    }
+    if (before.TrueInputs != after.TrueInputs)
+        RowHeadsChanged();
+}
+
+RunMark FsmGridModel::Mark(Cell cell) const {
+    bool leadsSomewhere = false;
+    if (cell.State != kNoState && cell.Row == RowNumber(kHeadRow))
+        leadsSomewhere = !IsEmpty(document_.State(cell.State));
+    else if (cell.State != kNoState && CellRows().Contains(cell.Row))
+        leadsSomewhere = document_.State(cell.State).Targets[cell.Row] != kNoState;
+    return MarkOf(*run_, cell, leadsSomewhere);
+}
+
+QVariant FsmGridModel::MarkFlags(Cell cell) const {
+    const RunMark mark = Mark(cell);
+    return (mark.Takeable ? kTakeable : 0) | (mark.Next ? kNextTaken : 0) | (mark.Last ? kLastTaken : 0) |
+           (mark.TrueInput ? kTrueInput : 0) | (mark.Note.empty() ? 0 : kHasNote);
+}
+
 void FsmGridModel::Highlight(Cell cell) {
     ClearHighlight();
     highlighted_ = cell;
@@ -71,6 +113,8 @@ QColor FsmGridModel::Background(Cell cell) const {
         colour = kNextStateColour;
     else if (currentState_ != kNoState && cell == Cell{kHeadRow, currentState_})
         colour = kCurrentStateColour;
+    else if (run_ && Mark(cell).Next)
+        colour = kNextTakenColour;
     return {colour.Red, colour.Green, colour.Blue};
 }
 

@@ -3,6 +3,7 @@
 
 #include "core/Cell.h"
 #include "core/FsmDocument.h"
+#include "session/RunPicture.h"
 #include "table/TextFitting.h"
 
 #include <QAbstractTableModel>
@@ -15,6 +16,16 @@ namespace orvane {
 
 // The table as 55 rows by 101 columns, heads included, so that its numbers are the document's. Texts are made
 // when they are asked for; nothing is kept, and nothing is read back from here.
+// How a cell takes part in the picture of a running machine: flags, 0 for not at all, and a note at its right
+// end that is there with kHasNote.
+inline constexpr int kRunMarkRole = Qt::UserRole;
+inline constexpr int kRunNoteRole = Qt::UserRole + 1;
+inline constexpr int kTakeable = 1;
+inline constexpr int kNextTaken = 2;
+inline constexpr int kLastTaken = 4;
+inline constexpr int kTrueInput = 8;
+inline constexpr int kHasNote = 16;
+
 class FsmGridModel : public QAbstractTableModel {
     Q_OBJECT
 
@@ -42,7 +53,13 @@ class FsmGridModel : public QAbstractTableModel {
     void Highlight(Cell cell);
     void ClearHighlight();
 
+    // The machine that runs, or none.
+    void ShowRun(const std::optional<RunPicture>& run);
+
   private:
+    RunMark Mark(Cell cell) const;
+    QVariant MarkFlags(Cell cell) const;
+    void RunChanged(const RunPicture& before, const RunPicture& after);
     QColor Background(Cell cell) const;
     void BackgroundChanged(Cell cell);
 
@@ -50,6 +67,7 @@ class FsmGridModel : public QAbstractTableModel {
     std::unique_ptr<TextMeasurer> measure_;
     StateNumber currentState_ = kNoState;
     std::optional<Cell> highlighted_;
+    std::optional<RunPicture> run_;
 };
 
 } // namespace orvane

@@ -3,6 +3,7 @@
 
 #include "core/TableGeometry.h"
 #include "table/ui/CellPictures.h"
+#include "table/ui/FsmGridModel.h"
 #include "table/ui/FsmGridView.h"
 #include "table/ui/GridMeasurer.h"
 
@@ -12,6 +13,14 @@ namespace {
 
 constexpr QRgb kLineColour = qRgb(176, 176, 176);
 constexpr QRgb kCursorColour = qRgb(0, 0, 0);
+
+// Of a running machine. Each mark has a form of its own, so that none is told by its colour alone.
+constexpr QRgb kTakeableColour = qRgb(0, 64, 160);
+constexpr QRgb kLastTakenColour = qRgb(0, 110, 50);
+constexpr int kLastTakenWidth = 3;
+constexpr int kNoteMargin = 2;
+constexpr QRgb kQuietNote = qRgb(224, 224, 224);
+constexpr QChar kTimes(0xD7); // behind a count; what was never taken is what one looks for
 
 } // namespace
 
@@ -87,16 +96,51 @@ void GridPainter::PaintLines(const QList<Stretch>& rows, const QList<Stretch>& c
 
 void GridPainter::PaintCell(const QModelIndex& cell, const QRect& area) {
     const QColor background = cell.data(Qt::BackgroundRole).value<QColor>();
+    const int marks = cell.data(kRunMarkRole).toInt();
     painter_.fillRect(area, background);
     const QString text = CellLine(cell.data().toString().left(area.width())); // no character takes no pixel
     if (!text.isEmpty()) {
         painter_.setPen(cell.data(Qt::ForegroundRole).value<QColor>());
-        pictures_.Draw(painter_, area, text, background.rgb());
+        if ((marks & kTrueInput) != 0)
+            pictures_.DrawBold(painter_, area, text, background.rgb());
+        else
+            pictures_.Draw(painter_, area, text, background.rgb());
     }
+    if (marks != 0)
+        PaintRunMarks(cell, area, marks);
     if (cell == view_.currentIndex()) {
         painter_.setPen(QPen(QColor(kCursorColour), 1, view_.hasFocus() ? Qt::SolidLine : Qt::DotLine));
         painter_.drawRect(QRectF(area).adjusted(0.5, 0.5, -1.5, -1.5)); // the pen stays inside at every scale
     }
+}
+
+// What can be taken is outlined, dashed; what would be taken is filled and its outline is whole; what was
+// taken last has a thick frame.
+void GridPainter::PaintRunMarks(const QModelIndex& cell, const QRect& area, int marks) {
+    const QRectF inside = QRectF(area).adjusted(0.5, 0.5, -1.5, -1.5);
+    if ((marks & kHasNote) != 0)
+        PaintNote(area, cell.data(kRunNoteRole).toString());
+    if ((marks & kTakeable) != 0) {
+        painter_.setPen(
+            QPen(QColor(kTakeableColour), 1, (marks & kNextTaken) != 0 ? Qt::SolidLine : Qt::DashLine));
+        painter_.drawRect(inside.adjusted(1, 1, -1, -1));
+    }
+    if ((marks & kLastTaken) != 0) {
+        QPen frame(QColor(kLastTakenColour), kLastTakenWidth);
+        frame.setJoinStyle(Qt::MiterJoin);
+        painter_.setPen(frame);
+        painter_.drawRect(inside.adjusted(1, 1, -1, -1));
+    }
+}
+
+void GridPainter::PaintNote(const QRect& area, const QString& note) {
+    const QFontMetrics metrics = painter_.fontMetrics();
+    QRect place = area.adjusted(0, 2, -4, -3);
+    place.setLeft(std::max(area.left(), place.right() - metrics.horizontalAdvance(note) - 2 * kNoteMargin));
+    const bool isUsualCount = note.endsWith(kTimes) && note != QLatin1Char('0') + QString(kTimes);
+    painter_.fillRect(place, isUsualCount ? QColor(kQuietNote) : QColor(Qt::black));
+    painter_.setPen(isUsualCount ? Qt::black : Qt::white);
+    painter_.drawText(place, Qt::AlignCenter | Qt::TextSingleLine, note);
 }
 
 } // namespace orvane

@@ -33,6 +33,8 @@ class GridPainter {
     QList<Stretch> ColumnsIn(const QRect& area, int first) const;
     void PaintLines(const QList<Stretch>& rows, const QList<Stretch>& columns);
     void PaintCell(const QModelIndex& cell, const QRect& area);
+    void PaintRunMarks(const QModelIndex& cell, const QRect& area, int marks);
+    void PaintNote(const QRect& area, const QString& note);
 
     FsmGridView& view_;
     CellPictures& pictures_;

@@ -107,7 +107,7 @@ void TableRoom::Prepare(const CommandEntry& next) {
 ObserverRank TableRoom::Rank() const { return ObserverRank::Table; }
 
 void TableRoom::Told(const Change& change) {
-    if (change.Kind == ChangeKind::Moved)
+    if (change.Kind == ChangeKind::Moved || change.Kind == ChangeKind::Ran)
         return ShowWhereTheUserIs();
     if (change.Kind == ChangeKind::Replaced)
         ShowAnotherDocument();
@@ -127,6 +127,7 @@ void TableRoom::ShowAnotherDocument() {
 void TableRoom::ShowWhereTheUserIs() {
     grid_->Hints().SetShiftHeld(session_.ShiftHeld());
     grid_->Model().SetCurrentState(session_.CurrentState());
+    grid_->Model().ShowRun(session_.Run());
 }
 
 void TableRoom::PressGrid(const GridPress& press) {
@@ -148,7 +149,10 @@ void TableRoom::PressGrid(const GridPress& press) {
     case PressAction::EditTarget:
         return typing_.BeginCellEdit(cell);
     case PressAction::StepMachine:
-        return StepMachine(cell.Row);
+        StepMachine(cell.Row);
+        if (EventRows().Contains(cell.Row))
+            Q_EMIT EventFired(cell.Row);
+        return;
     case PressAction::StateMenu:
         return PopUp(Command::StateMenu, press);
     case PressAction::EntryActionMenu:
