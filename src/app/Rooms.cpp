@@ -6,6 +6,7 @@
 #include "editors/ui/EditorsRoom.h"
 #include "outside/ui/OutsideRoom.h"
 #include "recovery/ui/RecoveryRoom.h"
+#include "run/ui/RunRoom.h"
 #include "table/ui/BacktrackRoom.h"
 #include "table/ui/TableRoom.h"
 #include "welcome/ui/WelcomeRoom.h"
@@ -21,6 +22,7 @@ std::vector<std::unique_ptr<Room>> MakeRooms(const RoomPlace& place) {
     rooms.push_back(std::make_unique<BacktrackRoom>(place));
     rooms.push_back(std::make_unique<EditorsRoom>(place));
     rooms.push_back(std::make_unique<RecoveryRoom>(place));
+    rooms.push_back(std::make_unique<RunRoom>(place));
     rooms.push_back(std::make_unique<WelcomeRoom>(place));
     return rooms;
 }

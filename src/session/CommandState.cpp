@@ -52,6 +52,8 @@ bool IsChecked(const Session& session, Command toggle) {
         return IsMarked(view, SpecialRow::TimeTarget);
     case Command::Polytask:
         return view.Polytask;
+    case Command::ViewRun:
+        return session.Run().has_value();
     default:
         return false;
     }

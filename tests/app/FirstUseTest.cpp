@@ -66,12 +66,12 @@ TEST_F(FirstUse, ALongMessageDoesNotWidenTheWindow) {
               QStringLiteral("To begin,"));
 }
 
-TEST_F(FirstUse, HelpStandsBehindTheFourMenus) {
+TEST_F(FirstUse, OurMenusStandBehindTheFourGivenOnesAndHelpIsLast) {
     Start({QStringLiteral("/nosplash")});
     QStringList captions;
     for (const QAction* menu : Window().menuBar()->actions())
         captions += menu->text();
-    EXPECT_EQ(captions.join(QLatin1Char(',')), QStringLiteral("File,Edit,Code,Preferences,Help"));
+    EXPECT_EQ(captions.join(QLatin1Char(',')), QStringLiteral("File,Edit,Code,Preferences,View,Run,Help"));
 }
 
 TEST_F(FirstUse, DocumentsAreRememberedLatestFirstAndOnce) {

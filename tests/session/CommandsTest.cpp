@@ -47,6 +47,16 @@ mnuPref: Preferences
   mnuShowTimeTarget: Show timeout target
   div4
   mnuPolytask: Polytask
+mnuView: View
+  mnuViewRun: Run the machine
+mnuRun: Run
+  mnuPowerOn: Power on
+  mnuStep: Step
+  mnuStepBack: Step back
+  mnuToTimeout: To the next timeout
+  (a line)
+  mnuSaveAsTest: Save as test
+  mnuRunTests: Run tests
 mnuHelp: Help
   mnuHelpPages: Help pages
   mnuRecent: Recent files

@@ -1,0 +1,228 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "run/ui/RunRoom.h"
+
+#include "run/LiveRun.h"
+#include "run/RanTests.h"
+#include "run/ui/PictureOfRun.h"
+#include "run/ui/TestFileAccess.h"
+#include "run/ui/TestsPane.h"
+#include "run/ui/dckRun.h"
+#include "session/Commands.h"
+#include "session/Session.h"
+
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMainWindow>
+
+#include <utility>
+
+namespace orvane {
+
+namespace {
+
+constexpr auto kOwnCommands =
+    std::to_array<Command>({Command::ViewRun, Command::PowerOn, Command::StepTime, Command::StepBack,
+                            Command::ToTimeout, Command::SaveAsTest, Command::RunTests});
+
+// What the program of the table depends on.
+bool ChangesTheMachine(ChangeKind kind) {
+    return kind == ChangeKind::Edited || kind == ChangeKind::Undone || kind == ChangeKind::Redone ||
+           kind == ChangeKind::Multitasking;
+}
+
+RunWish WishOf(Command command) {
+    switch (command) {
+    case Command::PowerOn:
+        return RunWish::PowerOn;
+    case Command::StepBack:
+        return RunWish::StepBack;
+    case Command::ToTimeout:
+        return RunWish::ToTimeout;
+    case Command::SaveAsTest:
+        return RunWish::SaveAsTest;
+    case Command::RunTests:
+        return RunWish::RunTests;
+    default:
+        return RunWish::Step;
+    }
+}
+
+} // namespace
+
+RunRoom::RunRoom(const RoomPlace& place) : session_(place.Open), window_(place.Window) {}
+
+RunRoom::~RunRoom() = default;
+
+std::span<const Command> RunRoom::Commands() const { return kOwnCommands; }
+
+ObserverRank RunRoom::Rank() const { return ObserverRank::Rooms; }
+
+void RunRoom::Run(Command command) {
+    if (command == Command::ViewRun)
+        return TogglePane();
+    ShowPane();
+    Do(WishOf(command));
+}
+
+bool RunRoom::IsShown() const { return session_.Run().has_value(); }
+
+void RunRoom::TogglePane() {
+    if (IsShown())
+        pane_->close();
+    else
+        ShowPane();
+}
+
+void RunRoom::ShowPane() {
+    if (IsShown())
+        return;
+    if (pane_ == nullptr)
+        MakePane();
+    pane_->show();
+    pane_->raise();
+    pane_->setFocus();
+}
+
+void RunRoom::MakePane() {
+    run_ = std::make_unique<run::LiveRun>(session_.Document());
+    pane_ = new dckRun(session_.Document(), *run_, &window_);
+    pane_->setFocusPolicy(Qt::StrongFocus);
+    pane_->hide();
+    window_.addDockWidget(Qt::RightDockWidgetArea, pane_);
+    tests_ = new TestsPane(pane_);
+    pane_->AddBelow(tests_);
+    connect(tests_, &TestsPane::TestChosen, this,
+            [this](const run::RanTest& test, const run::Constants& given) {
+                run_->Play(test.Steps, given, test.Before);
+                Show(Log::IsAnother);
+            });
+    connect(pane_, &QDockWidget::visibilityChanged, this, &RunRoom::PaneShown);
+    connect(pane_, &dckRun::Wanted, this, &RunRoom::Do);
+    connect(pane_, &dckRun::PulseWanted, this, &RunRoom::FireEvent);
+    connect(pane_, &dckRun::HoldWanted, this, [this](RowNumber event) {
+        run_->Hold(event, !run_->IsTrue(event));
+        Show(Log::GoesOn);
+    });
+    connect(pane_, &dckRun::TimePassed, this, [this](run::Units units) {
+        run_->PassTime(units);
+        Show(Log::GoesOn);
+    });
+    connect(pane_, &dckRun::TimeWanted, this, [this](run::Units time) {
+        run_->GoToTime(time);
+        Show(Log::GoesOn);
+    });
+    connect(pane_, &dckRun::LimitGiven, this, [this](run::Units units) {
+        run_->GiveLimit(units);
+        Show(Log::IsAnother);
+    });
+}
+
+// Also when the user closes the pane by its own button.
+void RunRoom::PaneShown(bool shown) {
+    if (shown == IsShown())
+        return;
+    if (!shown) {
+        pane_->StopTime();
+        session_.ShowRun(std::nullopt);
+        return;
+    }
+    if (std::exchange(missedEdits_, false))
+        run_->Recompile();
+    Show(Log::IsAnother);
+}
+
+void RunRoom::Told(const Change& change) {
+    if (change.Kind == ChangeKind::Replaced) {
+        pane_->StopTime();
+        tests_->hide();
+        run_->Restart();
+        missedEdits_ = false;
+    } else if (!ChangesTheMachine(change.Kind)) {
+        return;
+    } else if (IsShown()) {
+        run_->Recompile();
+    } else {
+        missedEdits_ = true;
+    }
+    if (IsShown())
+        Show(Log::IsAnother);
+}
+
+void RunRoom::FireEvent(RowNumber row) {
+    if (!IsShown())
+        return;
+    run_->Pulse(row);
+    Show(Log::GoesOn);
+}
+
+void RunRoom::Do(RunWish wish) {
+    switch (wish) {
+    case RunWish::PowerOn:
+        run_->PowerOn();
+        return Show(Log::IsAnother);
+    case RunWish::Step:
+        run_->Wait(1);
+        break;
+    case RunWish::StepBack:
+        run_->Back();
+        break;
+    case RunWish::StepForward:
+        run_->Forward();
+        break;
+    case RunWish::ToTimeout:
+        run_->ToTimeout();
+        break;
+    case RunWish::ToChange:
+        run_->ToChange();
+        if (!run_->Notice().empty())
+            pane_->StopTime();
+        break;
+    case RunWish::BringBack:
+        run_->BringBack();
+        return Show(Log::IsAnother);
+    case RunWish::SaveAsTest:
+        return SaveAsTest();
+    case RunWish::RunTests:
+        return RunTests();
+    case RunWish::SavePicture:
+    case RunWish::SaveVcd:
+    case RunWish::ShowAgain:
+        break;
+    }
+    Show(Log::GoesOn);
+}
+
+void RunRoom::SaveAsTest() {
+    pane_->StopTime();
+    const QString said = SaveRunAsTest(window_, session_, *run_, pane_->Unit());
+    if (!said.isEmpty())
+        Q_EMIT Said(said);
+}
+
+// The tests beside the document; where there are none the user says which.
+void RunRoom::RunTests() {
+    pane_->StopTime();
+    QString path = TestFileBeside(session_);
+    if (!QFileInfo::exists(path))
+        path = QFileDialog::getOpenFileName(&window_, tr("Run tests"), QFileInfo(path).path(),
+                                            tr("Tests (*.ztest)"));
+    if (path.isEmpty())
+        return;
+    const std::optional<std::string> bytes = ReadTests(window_, path);
+    if (!bytes)
+        return;
+    const QString name = QFileInfo(path).fileName();
+    if (!run_->Obstacles().empty())
+        tests_->ShowRefused(name, run_->Obstacles());
+    else
+        tests_->Show(run::RunTestsOf(*bytes, session_.Document(), DocumentFileName(session_)), name);
+}
+
+void RunRoom::Show(Log log) {
+    if (!run_->CanGoOn())
+        pane_->StopTime();
+    pane_->ShowRun(log == Log::IsAnother);
+    session_.ShowRun(PictureOfRun(*run_, pane_->ShowsCounts()));
+}
+
+} // namespace orvane

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The file of tests that belongs to a document, as the pane reads and writes it.
+#pragma once
+
+#include "run/LiveRun.h"
+
+#include <QString>
+
+#include <optional>
+#include <string>
+
+class QWidget;
+
+namespace orvane {
+
+class Session;
+
+// Beside the document, by its name; empty for a document without a file.
+QString TestFileBeside(const Session& session);
+
+// The name of the document's file as messages tell it.
+std::string DocumentFileName(const Session& session);
+
+// The bytes of a file of tests; none when it cannot be read, which the user is told in a box.
+std::optional<std::string> ReadTests(QWidget& window, const QString& path);
+
+// Asks for the name of the test, and for the file where the document has none, and adds the run up to the
+// moment shown. What the status bar tells of it comes back, empty when nothing was written.
+QString SaveRunAsTest(QWidget& window, const Session& session, const run::LiveRun& run, const QString& unit);
+
+} // namespace orvane

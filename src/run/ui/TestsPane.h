@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "run/RanTests.h"
+
+#include <QWidget>
+
+class QLabel;
+class QStandardItemModel;
+class QTableView;
+
+namespace orvane {
+
+// What became of the tests, a row each; hidden until tests were run.
+class TestsPane : public QWidget {
+    Q_OBJECT
+
+  public:
+    explicit TestsPane(QWidget* parent);
+
+    // `name` is the file of the tests.
+    void Show(run::RanTests tests, const QString& name);
+    // Nothing was run: why, a line each.
+    void ShowRefused(const QString& name, const std::vector<std::string>& why);
+
+  Q_SIGNALS:
+    // Somebody wants to see it: the first that failed, or one that was clicked.
+    void TestChosen(const orvane::run::RanTest& test, const orvane::run::Constants& given);
+
+  private:
+    void AddRow(const QString& verdict, std::size_t line, const QString& test, const QString& why);
+    void Choose(int row);
+    QString Summary() const;
+
+    run::RanTests tests_;
+    QLabel* lblTests;
+    QTableView* lstTests;
+    QStandardItemModel* rows_;
+};
+
+} // namespace orvane

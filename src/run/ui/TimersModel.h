@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "core/FsmDocument.h"
+#include "run/LiveRun.h"
+
+#include <QAbstractTableModel>
+
+namespace orvane {
+
+// The timers of the machine; of the one that the present state looks at, what is left and where that leads.
+class TimersModel : public QAbstractTableModel {
+    Q_OBJECT
+
+  public:
+    // Both outlive the model.
+    TimersModel(const FsmDocument& document, const run::LiveRun& run, QObject* parent);
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+    // The run is at another moment.
+    void Refresh();
+
+  private:
+    int Timers() const;
+    QString Text(std::size_t timer, int column) const;
+    QString TextOfLookedAt(int column) const;
+
+    const FsmDocument& document_;
+    const run::LiveRun& run_;
+    int rows_ = 0;
+};
+
+} // namespace orvane

@@ -1,0 +1,222 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "run/ui/dckRun.h"
+
+#include "kit/OpenInDesktop.h"
+#include "run/RunWords.h"
+#include "run/ui/InputsModel.h"
+#include "run/ui/InputsView.h"
+#include "run/ui/LogModel.h"
+#include "run/ui/RunPlayer.h"
+#include "run/ui/StateText.h"
+#include "run/ui/TimersModel.h"
+#include "run/ui/fraLimit.h"
+#include "run/ui/fraRunButtons.h"
+
+#include <QCheckBox>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QShortcut>
+#include <QSplitter>
+
+namespace orvane {
+
+namespace {
+
+constexpr int kHelpPage = 4975;
+
+QLabel* MakeLabel(QWidget* parent, const char* name) {
+    auto* label = new QLabel(parent);
+    label->setObjectName(QLatin1String(name));
+    label->setWordWrap(true);
+    label->setTextFormat(Qt::PlainText);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    return label;
+}
+
+} // namespace
+
+dckRun::dckRun(const FsmDocument& document, const run::LiveRun& run, QWidget* parent)
+    : QDockWidget(tr("Run the machine"), parent),
+      document_(document),
+      run_(run),
+      body_(new QWidget(this)),
+      inputs_(new InputsModel(document, run, this)),
+      timers_(new TimersModel(document, run, this)),
+      log_(new LogModel(document, run, this)) {
+    setObjectName(QStringLiteral("dckRun"));
+    auto* layout = new QVBoxLayout(body_);
+    MakeTop(*layout);
+    MakeLists(*layout);
+    MakeBottom(*layout);
+    setWidget(body_);
+    AddKeys();
+}
+
+void dckRun::MakeTop(QVBoxLayout& layout) {
+    buttons_ = new fraRunButtons(body_);
+    player_ = new RunPlayer(body_);
+    lblWhere = MakeLabel(body_, "lblWhere");
+    QFont large = lblWhere->font();
+    large.setBold(true);
+    lblWhere->setFont(large);
+    lblNotice = MakeLabel(body_, "lblNotice");
+    fraLimit_ = new fraLimit(document_, body_);
+    for (QWidget* widget : std::initializer_list<QWidget*>{buttons_, player_, lblWhere, lblNotice, fraLimit_})
+        layout.addWidget(widget);
+    connect(buttons_, &fraRunButtons::Wanted, this, &dckRun::Wanted);
+    connect(player_, &RunPlayer::TimePassed, this, &dckRun::TimePassed);
+    connect(player_, &RunPlayer::NextWanted, this, [this] { Q_EMIT Wanted(RunWish::ToChange); });
+    connect(fraLimit_, &fraLimit::Given, this, &dckRun::LimitGiven);
+}
+
+void dckRun::MakeLists(QVBoxLayout& layout) {
+    auto* splitter = new QSplitter(Qt::Vertical, body_);
+    lstInputs = new InputsView(splitter);
+    lstTimers = new QTableView(splitter);
+    lstLog = new QTableView(splitter);
+    lstInputs->setModel(inputs_);
+    lstTimers->setModel(timers_);
+    lstLog->setModel(log_);
+    PrepareRunList(*lstInputs, "lstInputs");
+    PrepareRunList(*lstTimers, "lstTimers");
+    PrepareRunList(*lstLog, "lstLog");
+    for (QTableView* list : std::initializer_list<QTableView*>{lstInputs, lstTimers, lstLog})
+        list->horizontalHeader()->setDefaultSectionSize(list->fontMetrics().averageCharWidth() * 10);
+    lstInputs->setColumnWidth(0, lstInputs->fontMetrics().averageCharWidth() * 24);
+    lstInputs->setAccessibleName(tr("Inputs"));
+    lstTimers->setAccessibleName(tr("Timers"));
+    lstLog->setAccessibleName(tr("What happened"));
+    splitter->setSizes({200, 80, 160});
+    layout.addWidget(splitter, 1);
+    ConnectInputs();
+    connect(lstLog, &QTableView::clicked, this,
+            [this](const QModelIndex& index) { Q_EMIT TimeWanted(log_->EntryAt(index).When); });
+}
+
+void dckRun::MakeBottom(QVBoxLayout& layout) {
+    below_ = new QVBoxLayout;
+    layout.addLayout(below_);
+    chkCounts = new QCheckBox(tr("Counts in the table"), body_);
+    chkCounts->setObjectName(QStringLiteral("chkCounts"));
+    chkCounts->setToolTip(tr("How often each transition was taken and each state entered, in its cell"));
+    connect(chkCounts, &QCheckBox::toggled, this, [this] { Q_EMIT Wanted(RunWish::ShowAgain); });
+    auto* row = new QHBoxLayout;
+    row->addWidget(chkCounts);
+    row->addStretch();
+    const auto add = [&](const char* name, const QString& caption, const QString& hint, RunWish wish) {
+        QPushButton* button = MakeRunButton(body_, name, caption, hint);
+        connect(button, &QPushButton::clicked, this, [this, wish] { Q_EMIT Wanted(wish); });
+        row->addWidget(button);
+    };
+    add("cmdSaveAsTest", tr("Save as test"), tr("Writes the run into the file of tests beside the document"),
+        RunWish::SaveAsTest);
+    add("cmdRunTests", tr("Run tests"), tr("Runs the tests beside the document"), RunWish::RunTests);
+    layout.addLayout(row);
+}
+
+void dckRun::ConnectInputs() {
+    connect(lstInputs, &InputsView::RowPressed, this, &dckRun::PressInput);
+    for (const bool holds : {false, true}) {
+        auto* key = new QShortcut(holds ? Qt::Key_H : Qt::Key_P, this);
+        key->setContext(Qt::WidgetWithChildrenShortcut);
+        connect(key, &QShortcut::activated, this, [this, holds] {
+            if (lstInputs->currentIndex().isValid())
+                PressInput(lstInputs->currentIndex(), holds);
+        });
+    }
+}
+
+// The event stays the chosen one, wherever it stands in the list then.
+void dckRun::PressInput(const QModelIndex& index, bool holds) {
+    const RowNumber event = inputs_->EventAt(index);
+    if (holds)
+        Q_EMIT HoldWanted(event);
+    else
+        Q_EMIT PulseWanted(event);
+    lstInputs->setCurrentIndex(inputs_->PlaceOf(event));
+}
+
+void dckRun::AddKeys() {
+    AddKey(Qt::Key_Space, RunWish::Step);
+    AddKey(Qt::Key_T, RunWish::ToTimeout);
+    AddKey(Qt::Key_N, RunWish::ToChange);
+    AddKey(Qt::Key_Backspace, RunWish::StepBack);
+    AddKey(QKeySequence(Qt::SHIFT | Qt::Key_Backspace), RunWish::StepForward);
+    AddKey(Qt::Key_Home, RunWish::PowerOn);
+    auto* runs = new QShortcut(Qt::Key_R, this);
+    runs->setContext(Qt::WidgetWithChildrenShortcut);
+    runs->setAutoRepeat(false);
+    connect(runs, &QShortcut::activated, player_, &RunPlayer::Toggle);
+}
+
+void dckRun::AddKey(const QKeySequence& key, RunWish wish) {
+    auto* shortcut = new QShortcut(key, this);
+    shortcut->setContext(Qt::WidgetWithChildrenShortcut);
+    connect(shortcut, &QShortcut::activated, this, [this, wish] { Q_EMIT Wanted(wish); });
+}
+
+// F1 belongs to the main window; here it is taken before it becomes that window's shortcut.
+bool dckRun::event(QEvent* event) {
+    const bool isKey = event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyPress;
+    const auto* key = isKey ? dynamic_cast<QKeyEvent*>(event) : nullptr;
+    if (key == nullptr || key->key() != Qt::Key_F1 || key->modifiers() != Qt::NoModifier)
+        return QDockWidget::event(event);
+    event->accept();
+    if (event->type() == QEvent::KeyPress)
+        OpenHelpPage(kHelpPage);
+    return true;
+}
+
+void dckRun::ShowRun(bool anew) {
+    const RowNumber chosen =
+        lstInputs->currentIndex().isValid() ? inputs_->EventAt(lstInputs->currentIndex()) : RowNumber();
+    inputs_->Refresh();
+    lstInputs->setCurrentIndex(inputs_->PlaceOf(chosen));
+    timers_->Refresh();
+    if (anew)
+        log_->RefreshAll();
+    else
+        log_->Refresh();
+    lstLog->scrollToBottom();
+    lblWhere->setText(WhereText());
+    lblNotice->setText(NoticeText());
+    lblNotice->setVisible(!lblNotice->text().isEmpty());
+    fraLimit_->Show(run_.Wanted());
+    buttons_->SetBringBackPossible(run_.CanBringBack());
+}
+
+QString dckRun::WhereText() const {
+    if (run_.Past() == nullptr)
+        return tr("This table cannot be run yet.");
+    if (run_.State() == kNoState)
+        return tr("The power is off.");
+    return tr("%1 at %2").arg(StateText(document_, run_.State())).arg(run_.Past()->Now().Where().Now);
+}
+
+QString dckRun::NoticeText() const {
+    QStringList lines;
+    for (const std::string& obstacle : run_.Obstacles())
+        lines += QString::fromStdString(obstacle);
+    if (run_.Past() != nullptr)
+        lines += QString::fromStdString(run::OutcomeText(document_, *run_.Past()));
+    const QString notice = QString::fromStdString(run_.Notice());
+    if (!notice.isEmpty() && !lines.contains(notice))
+        lines.prepend(notice);
+    lines.removeAll(QString());
+    for (QString& line : lines)
+        line[0] = line[0].toUpper();
+    return lines.join(QLatin1Char('\n'));
+}
+
+bool dckRun::ShowsCounts() const { return chkCounts->isChecked(); }
+
+QString dckRun::Unit() const { return player_->Unit(); }
+
+void dckRun::StopTime() { player_->Stop(); }
+
+void dckRun::AddBelow(QWidget* widget) { below_->addWidget(widget); }
+
+} // namespace orvane
