@@ -121,9 +121,10 @@ struct Ageing {
     FileSystem::Path Name;
     std::uint64_t Size = 0;
     JournalTime Time; // that its age counts from
-    std::chrono::days Limit{};
+    std::chrono::hours Limit{};
     bool IsOrphan = false;
     bool IsOver = false;
+    bool IsUnfinished = false;
 };
 
 // All but what somebody has open.
@@ -136,9 +137,11 @@ std::vector<Ageing> AgeingFiles(FileSystem& files, const FileSystem::Path& folde
                        listed.IsOver && !isDiscarded});
     }
     for (const Entry& entry : EntriesOf(files, folder)) {
+        const bool isUnfinished = entry.Parsed.Kind == RecoveryFileKind::Unfinished;
         if (!IsJournal(entry))
-            all.push_back({entry.Name, 0, entry.Parsed.Time, RecoveryFolder::kAge, false,
-                           entry.Parsed.Kind == RecoveryFileKind::Unfinished});
+            all.push_back({entry.Name, 0, entry.Parsed.Time,
+                           isUnfinished ? RecoveryFolder::kUnfinishedAge : RecoveryFolder::kAge, false, false,
+                           isUnfinished});
     }
     for (Ageing& file : all)
         file.Size = files.Look(folder / file.Name).Got.Size;
@@ -240,12 +243,14 @@ Result<FileSystem::Path> RecoveryFolder::KeepReplaced(const FileSystem::Path& re
     return {{}, failure};
 }
 
+// A young part of a journal is left alone: its writer has made it and is about to lock it, and would have no
+// journal if it found the lock taken.
 void RecoveryFolder::Age(JournalTime now, std::uint64_t mostBytes) const {
     std::vector<Ageing> kept;
     for (Ageing& file : AgeingFiles(files_, folder_)) {
         if (file.IsOver || now - file.Time > file.Limit)
             RemoveUnused(files_, folder_ / file.Name);
-        else
+        else if (!file.IsUnfinished)
             kept.push_back(std::move(file));
     }
     std::uint64_t size = 0;

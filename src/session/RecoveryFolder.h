@@ -50,6 +50,7 @@ class RecoveryFolder {
   public:
     static constexpr std::chrono::days kDiscardedAge{7};
     static constexpr std::chrono::days kAge{90};            // of orphans and of replaced bytes
+    static constexpr std::chrono::hours kUnfinishedAge{1};  // of what nobody will finish any more
     static constexpr std::uint64_t kMostBytes = 200u << 20; // in all
 
     RecoveryFolder(FileSystem& files, FileSystem::Path folder) : files_(files), folder_(std::move(folder)) {}

@@ -252,9 +252,12 @@ TEST_F(RecoveryFolderTest, TheNewestOrphanStaysHoweverLargeItIs) {
     EXPECT_THAT(Names(), ElementsAre(name));
 }
 
-TEST_F(RecoveryFolderTest, PartsOfNewJournalsGo) {
-    Put("20261121T205300Z-0123ABCD.orj.new", "part");
-    Folder.Age(TestClock());
+TEST_F(RecoveryFolderTest, PartsOfNewJournalsGoWhenNobodyCanBeWritingThem) {
+    const std::string part = Put("20261121T205300Z-0123ABCD.orj.new", "part");
+    const JournalTime begun = ParseRecoveryName(part)->Time;
+    Folder.Age(begun + RecoveryFolder::kUnfinishedAge, 0);
+    EXPECT_THAT(Names(), ElementsAre(part));
+    Folder.Age(begun + RecoveryFolder::kUnfinishedAge + std::chrono::seconds(1));
     EXPECT_THAT(Names(), IsEmpty());
 }
 
