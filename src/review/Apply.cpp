@@ -4,29 +4,13 @@
 #include "review/Apply.h"
 
 #include "review/Presence.h"
+#include "review/SetFields.h"
 
 #include <array>
 
 namespace orvane::review {
 
 namespace {
-
-template <const auto& kFields, typename Record>
-void SetField(Record& record, const Change& change) {
-    VisitStoredField<kFields>(change.Tag, [&](const auto& field) {
-        using Value = std::remove_cvref_t<decltype(record.*field.Member)>;
-        record.*field.Member = std::get<Value>(change.After);
-    });
-}
-
-template <const auto& kFields, typename Record>
-void SetFields(Record& record, const std::vector<FieldValue>& values) {
-    auto value = values.begin();
-    ForEachStoredField<kFields>([&](const auto& field) {
-        using Value = std::remove_cvref_t<decltype(record.*field.Member)>;
-        record.*field.Member = std::get<Value>(*value++);
-    });
-}
 
 class Applier {
   public:
@@ -61,7 +45,6 @@ class Applier {
     void PutState(const StateRecord& from, StateRecord& to) const;
     void KeepBlankWidths();
     void Make(const Change& change);
-    void SetMachineField(const Change& change);
     void PutCells(const std::vector<CellContent>& cells);
     bool IsBlankNow(StateNumber state) const { return !hasStateNow_[IndexIn(StateNumbers(), state)]; }
 
@@ -96,7 +79,7 @@ void Applier::KeepBlankWidths() {
 void Applier::Make(const Change& change) {
     switch (change.Kind) {
     case ChangeKind::MachineField:
-        return SetMachineField(change);
+        return SetMachineField(new_, change);
     case ChangeKind::EventAdded:
         SetFields<kEventFields>(new_.Event(change.New.Row), change.What.Fields);
         return PutCells(change.What.Cells);
@@ -123,12 +106,6 @@ void Applier::Make(const Change& change) {
     case ChangeKind::StateMoved:
         return;
     }
-}
-
-void Applier::SetMachineField(const Change& change) {
-    SetField<kGeneralFields>(new_.General, change);
-    SetField<kViewFields>(new_.View, change);
-    SetField<kRowHeightFields>(new_.View.RowVisible, change);
 }
 
 void Applier::PutCells(const std::vector<CellContent>& cells) {

@@ -155,6 +155,7 @@ std::string Renumbered(const Pairing<Number>& pairing, const std::string& what) 
             pairing.Numbers().Contains(number) && pairing.HasNew(number) && !pairing.HasMoved(number);
         return counts ? pairing.NewOf(number) - number : 0;
     };
+    int count = 0;
     const Number end = pairing.Numbers().Last() + 1;
     for (Number first = pairing.Numbers().First(); first < end; ++first) {
         if (shift(first) == 0)
@@ -162,12 +163,13 @@ std::string Renumbered(const Pairing<Number>& pairing, const std::string& what) 
         Number last = first;
         while (shift(last + 1) == shift(first))
             ++last;
-        text += (text.empty() ? what : ", ") + NumbersText(first.Number(), last.Number()) +
+        count += last - first + 1;
+        text += (text.empty() ? "" : ", ") + NumbersText(first.Number(), last.Number()) +
                 (first == last ? " is " : " are ") +
                 NumbersText(first.Number() + shift(first), last.Number() + shift(first));
         first = last;
     }
-    return text;
+    return text.empty() ? text : what + (count == 1 ? " " : "s ") + text;
 }
 
 } // namespace
@@ -177,8 +179,8 @@ ToldChange TellChange(const Change& change, const FsmDocument& oldOne, const Fsm
 }
 
 std::string TellRenumbering(const Matching& matching) {
-    const std::string states = Renumbered(matching.States, "states ");
-    const std::string events = Renumbered(matching.Rows, "events ");
+    const std::string states = Renumbered(matching.States, "state");
+    const std::string events = Renumbered(matching.Rows, "event");
     return states + (states.empty() || events.empty() ? "" : "; ") + events;
 }
 

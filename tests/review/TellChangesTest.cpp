@@ -68,6 +68,13 @@ TEST(TellChanges, OneLineSaysWhatWasRenumbered) {
     EXPECT_EQ(Told(newOne, Pump()), "renumbered: states 3..4 are 2..3\nstate 2:New removed\n");
 }
 
+TEST(TellChanges, OneThatWasRenumberedIsNotSeveral) {
+    SmallTable newOne;
+    newOne.Name(1, "Idle", ";idle").Name(2, "Run", ";run\r\n;fast").Name(4, "Stop", ";stop").Name(3, "New");
+    newOne.Cell(1, 6, 2).Cell(2, 7, 4, ";slow").Cell(4, 8, 1).Cell(2, kTimeoutRow, 1);
+    EXPECT_EQ(Told(Pump(), newOne), "renumbered: state 3 is 4\nstate 3:New added\n");
+}
+
 TEST(TellChanges, AMoveIsToldWithTheOldNumber) {
     SmallTable newOne = Pump();
     std::swap(newOne.Document().Event(6), newOne.Document().Event(9));
