@@ -25,13 +25,16 @@ _orvanec() {
 
     case $verb:$before in
         check:--format) COMPREPLY=($(compgen -W 'text json' -- "$typed")) && return ;;
+        diff:--format) COMPREPLY=($(compgen -W 'text json html' -- "$typed")) && return ;;
+        diff:--same | diff:--different | merge:--path) return ;;
+        git:git) COMPREPLY=($(compgen -W 'enable' -- "$typed")) && return ;;
         test:--reading)
             COMPREPLY=($(compgen -W 'at-limit after-limit unstarted-since-power-on unstarted-expired' -- "$typed"))
             return
             ;;
         test:--filter | test:-j | test:--jobs | explore:--from | explore:--to) return ;;
         generate:-o | generate:--output | format:-o | format:--output | test:--junit | test:--markdown | \
-            simulate:--csv | simulate:--vcd)
+            simulate:--csv | simulate:--vcd | merge:-o | merge:--output)
             local IFS=$'\n'
             compopt -o filenames 2>/dev/null
             COMPREPLY=($(compgen -f -- "$typed"))
@@ -40,7 +43,7 @@ _orvanec() {
     esac
     case $verb:$typed in
         :-*) COMPREPLY=($(compgen -W '--help --version' -- "$typed")) ;;
-        :*) COMPREPLY=($(compgen -W 'generate check format test simulate explore' -- "$typed")) ;;
+        :*) COMPREPLY=($(compgen -W 'generate check format test simulate explore diff show merge conflicts git' -- "$typed")) ;;
         check:-*) COMPREPLY=($(compgen -W '--advice --format --help' -- "$typed")) ;;
         generate:-* | format:-*) COMPREPLY=($(compgen -W '--output --help' -- "$typed")) ;;
         test:-*)
@@ -48,6 +51,12 @@ _orvanec() {
                 --notes-fail --reading --rename --strict --update' -- "$typed"))
             ;;
         simulate:-*) COMPREPLY=($(compgen -W '--csv --help --vcd' -- "$typed")) ;;
+        diff:-*) COMPREPLY=($(compgen -W '--different --format --help --no-view --same' -- "$typed")) ;;
+        show:-*) COMPREPLY=($(compgen -W '--help --textconv' -- "$typed")) ;;
+        merge:-*) COMPREPLY=($(compgen -W '--help --ours --output --path --theirs' -- "$typed")) ;;
+        conflicts:-*) COMPREPLY=($(compgen -W '--help' -- "$typed")) ;;
+        git:-*) COMPREPLY=($(compgen -W '--global --help --yes' -- "$typed")) ;;
+        git:*) ;;
         explore:-*) COMPREPLY=($(compgen -W '--from --help --json --to' -- "$typed")) ;;
         test:* | simulate:*) _orvanec_tests "$typed" ;;
         *) _orvanec_documents "$typed" ;;

@@ -67,7 +67,7 @@ void ForTriples(int count, Law law) {
 }
 
 TEST(MergeLaws, WithOneSideUnchangedTheOtherSideIsTheResult) {
-    ForTriples(Triples(400), [](const Triple& triple, int number) {
+    ForTriples(Triples(120), [](const Triple& triple, int number) {
         const MergeResult ours = Merge(triple.Base.Document, triple.Ours.Document, triple.Base.Document);
         EXPECT_EQ(File(ours.Document), File(triple.Ours.Document)) << number;
         EXPECT_TRUE(ours.Conflicts.empty()) << number;
@@ -78,7 +78,7 @@ TEST(MergeLaws, WithOneSideUnchangedTheOtherSideIsTheResult) {
 }
 
 TEST(MergeLaws, WhatBothSidesDidAlikeIsDoneOnce) {
-    ForTriples(Triples(400), [](const Triple& triple, int number) {
+    ForTriples(Triples(120), [](const Triple& triple, int number) {
         const MergeResult both = Merge(triple.Base.Document, triple.Ours.Document, triple.Ours.Document);
         EXPECT_EQ(File(both.Document), File(triple.Ours.Document)) << number;
         EXPECT_TRUE(both.Conflicts.empty()) << number;
@@ -86,7 +86,7 @@ TEST(MergeLaws, WhatBothSidesDidAlikeIsDoneOnce) {
 }
 
 TEST(MergeLaws, HoldForDocumentsOfAnyKind) {
-    ExpectProperty({.Cases = 60, .LargestSize = 40}, [] {
+    ExpectProperty({.Cases = 12, .LargestSize = 30}, [] {
         const FsmDocument base = *AnyDocument();
         FsmDocument changed = base;
         for (const DocumentEdit& edit : *rc::gen::container<std::vector<DocumentEdit>>(AnyEdit()))
@@ -98,7 +98,7 @@ TEST(MergeLaws, HoldForDocumentsOfAnyKind) {
 }
 
 TEST(MergeLaws, TheSidesExchangedGiveTheSameButForTheOrder) {
-    ForTriples(Triples(400), [](const Triple& triple, int number) {
+    ForTriples(Triples(120), [](const Triple& triple, int number) {
         const MergeResult one = Merge(triple.Base.Document, triple.Ours.Document, triple.Theirs.Document);
         const MergeResult other = Merge(triple.Base.Document, triple.Theirs.Document, triple.Ours.Document);
         EXPECT_EQ(one.Conflicts.empty(), other.Conflicts.empty()) << number;
@@ -294,7 +294,7 @@ int StillThere(const review::Pairing<Number>& toOurs, const review::Pairing<Numb
 TEST(MergeLaws, NoChangeOfEitherSideIsMissing) {
     int clean = 0;
     int changes = 0;
-    const int count = Triples(600);
+    const int count = Triples(200);
     ForTriples(count, [&](const Triple& triple, int number) {
         SCOPED_TRACE(number);
         const FsmDocument& base = triple.Base.Document;
