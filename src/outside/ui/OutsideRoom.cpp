@@ -61,6 +61,7 @@ void OutsideRoom::BeginFile() {
     lookDue_.stop();
     answered_ = {};
     if (session_.Stamp()) {
+        canonical_ = QFileInfo(FileName()).canonicalFilePath();
         TakeAsSeen(*session_.Stamp());
         Watch();
     } else {
@@ -115,8 +116,7 @@ void OutsideRoom::Look() {
 
 // What cannot be read now may be readable soon; until then nothing is known of it.
 OutsideRoom::Notice OutsideRoom::WhatHappened() {
-    const QString canonical = QFileInfo(FileName()).canonicalFilePath(); // empty when it is gone
-    const bool isOnlyHere = canonical.isEmpty() || marker_.Take(NativePath(canonical));
+    const bool isOnlyHere = canonical_.isEmpty() || marker_.Take(NativePath(canonical_));
     const Result<KnownFile> now = LookAgain(files_, NativePath(FileName()), last_);
     if (now.Failure == std::errc::no_such_file_or_directory)
         return {Happened::Gone, {}};

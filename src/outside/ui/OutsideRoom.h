@@ -70,7 +70,10 @@ class OutsideRoom : public Room {
     QTimer lookDue_;                              // a child of the window, where it is found by its name
     QVBoxLayout* above_ = nullptr;
     QPointer<fraFileChanged> fraFileChanged_; // made when there is something to tell
-    KnownFile last_;                          // the file as it was seen last
+    // The file with all links followed, as of when it was opened or saved: the folder of a slow drive is told
+    // of at every change of the program beside it, and each look should ask no more than it must.
+    QString canonical_;
+    KnownFile last_; // the file as it was seen last
     Notice shown_;
     Notice answered_;
 };
