@@ -79,9 +79,35 @@ void AddTyping(MedianTable& table, TableDriver& driver, const FsmDocument& docum
             return time;
         },
         Generating(document));
+}
+
+// A document without changes: what is discarded waits for the disk, and the first change after that begins a
+// journal.
+void AddOpening(MedianTable& table, TableDriver& driver, const FsmDocument& document) {
     table.Add(
         "open", "read", 5, [&driver] { return TimeOfOperation([&] { driver.Open(); }); },
         Reading(WriteDocument(document)));
+}
+
+// Two transitions, of which the second counts: the first one after the switch begins a journal with all that
+// there is.
+double TimeOfTransition(TableDriver& driver, bool keepsJournal, int& target) {
+    driver.KeepJournal(keepsJournal);
+    double time = 0;
+    for (int edit = 0; edit < 2; ++edit) {
+        target = target % kStateCount + 1;
+        driver.BeginTarget(21, 50, QString::number(target));
+        time = TimeOfOperation([&] { driver.CommitTarget(); });
+    }
+    return time;
+}
+
+void AddJournal(MedianTable& table, TableDriver& driver, const FsmDocument&) {
+    const auto target = std::make_shared<int>(1);
+    const auto type = [&driver, target](bool keepsJournal) -> Timed {
+        return [&driver, target, keepsJournal] { return TimeOfTransition(driver, keepsJournal, *target); };
+    };
+    table.Add("typed transition", "the same without journal", 1.1, type(true), type(false));
 }
 
 struct StructuralEdit {
@@ -117,12 +143,14 @@ void AddStructure(MedianTable& table, TableDriver& driver, const FsmDocument& do
 
 // One window at a time, so that none takes the focus from another.
 template <typename AddOperations>
-void MeasureWindow(const FsmDocument& document, const AddOperations& addOperations) {
+void MeasureWindow(const FsmDocument& document, const AddOperations& addOperations, bool edits = true) {
+    const QTemporaryDir state; // nothing is there to be recovered
+    qputenv("XDG_STATE_HOME", state.path().toLocal8Bit());
     TableDriver driver(document);
     MedianTable table;
     addOperations(table, driver, document);
     table.Measure(kRounds);
-    if (driver.ProgramSize() == 0)
+    if (edits && driver.ProgramSize() == 0)
         throw std::runtime_error("no program was written");
     table.Print(std::cout);
 }
@@ -135,7 +163,14 @@ void MeasureStart(const std::filesystem::path& programs) {
         command.front() = programs / command.front();
         return [command] { return TimeOfCommand(command, "/dev/null"); };
     };
+    // No place for a journal is where no home is told.
+    const auto startAt = [&](const std::string& home) {
+        const std::string program = programs / "orvane_start";
+        return start({"/usr/bin/env", "XDG_STATE_HOME=", "HOME=" + home, program, document});
+    };
     MedianTable table;
+    table.Add("start on a document", "the same without journal", 1.02, startAt(folder.path().toStdString()),
+              startAt("nowhere"));
     table.Add("start", "empty window", 1.5, start({"orvane_start"}), start({"empty_start"}));
     table.Add("start", "window with one menu", 1.5, start({"orvane_start"}), start({"empty_start", "File"}));
     table.Add("start on a document", "empty window", 1.5, start({"orvane_start", document}),
@@ -153,12 +188,14 @@ int main(int argc, char** argv) {
     const QTemporaryDir applicationData;
     qputenv("APPDATA", applicationData.path().toLocal8Bit());
     qputenv("XDG_CONFIG_HOME", applicationData.path().toLocal8Bit()); // the user's settings stay as they are
-    qputenv("XDG_STATE_HOME", applicationData.path().toLocal8Bit());  // and so does what he may recover
+    qputenv("XDG_STATE_HOME", applicationData.path().toLocal8Bit());  // and so does what can be recovered
     const QApplication application(argc, argv);
     std::cout << "| operation | time (ms) | floor | floor (ms) | ratio | aim |\n"
               << "| --- | ---: | --- | ---: | ---: | ---: |\n";
     using namespace orvane;
     MeasureWindow(DocumentAtTheLimit(), AddTyping);
+    MeasureWindow(DocumentAtTheLimit(), AddJournal);
+    MeasureWindow(DocumentAtTheLimit(), AddOpening, false);
     MeasureWindow(SampleDocument(kStateCount - 1, kLastRow - kFirstEventRow), AddStructure);
     MeasureStart(std::filesystem::path(argv[0]).parent_path());
     return 0;

@@ -6,6 +6,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QCheckBox>
 #include <QFile>
 #include <QFileInfo>
 #include <QLineEdit>
@@ -35,7 +36,7 @@ TableDriver::TableDriver(const FsmDocument& document) {
 }
 
 void TableDriver::Open() {
-    window_.Start({folder_.filePath(kDocumentFile), true});
+    window_.Start({.DocumentPath = folder_.filePath(kDocumentFile), .NoSplash = true});
     QApplication::processEvents();
 }
 
@@ -81,6 +82,17 @@ void TableDriver::UseGeneralCodeEditor(const std::function<void()>& use) {
 
 void TableDriver::TypeLetter(const char* pane) {
     SendKey(Find<QWidget>(pane), Qt::Key_X, QStringLiteral("x"));
+    QApplication::processEvents();
+}
+
+void TableDriver::KeepJournal(bool keep) {
+    if (window_.findChild<QCheckBox*>(QStringLiteral("chkKeepJournal")) == nullptr) {
+        Trigger("mnuFRecover");
+        Find<QWidget>("frmRecovery").hide();
+    }
+    auto& box = Find<QCheckBox>("chkKeepJournal");
+    if (box.isChecked() != keep)
+        box.click();
     QApplication::processEvents();
 }
 

@@ -33,6 +33,9 @@ class TableDriver {
     // Types one letter into the pane, which has the focus.
     void TypeLetter(const char* pane);
 
+    // As the user switches it in the window for recovery.
+    void KeepJournal(bool keep);
+
     QAction* Item(const char* name) { return &Find<QAction>(name); }
     qint64 ProgramSize() const;
 
