@@ -364,6 +364,18 @@ TEST_F(RecoveryTest, ASaveThatTheJournalNoLongerHeardOfIsNotTakenForAnotherProgr
     EXPECT_TRUE(Answers.Seen().empty());
 }
 
+TEST_F(RecoveryTest, WorkOnADocumentThatIsGoneIsSavedWhereItWas) {
+    LoseWork();
+    ASSERT_TRUE(QFile::remove(Path(QStringLiteral("machine.zfsm"))));
+    StartAgain();
+    EXPECT_EQ(Shown("lstRecovered", 0, 4), "gone");
+    Press(Recovery(), "cmdRecover");
+    EXPECT_TRUE(Title().starts_with("*machine.zfsm"));
+    EXPECT_EQ(SavedDocument().State(2).Targets[6], 2);
+    EXPECT_FALSE(Title().starts_with("*"));
+    EXPECT_TRUE(Answers.Seen().empty());
+}
+
 TEST_F(RecoveryTest, TheScriptThatWasBeingTypedComesBackInItsWindow) {
     StartOn(PumpDocument());
     Trigger("mnuBuilder");
