@@ -24,6 +24,8 @@ start_program() {
     started+=("$!")
 }
 
+ended() { ! kill -0 "${started[-1]}"; }
+
 define_event() { # ROW NAME CODE
     click_cell "$1" 0
     if [ -n "$3" ]; then
@@ -109,7 +111,7 @@ in_table
 press ctrl+s
 await "the saved document" title_is "$(xdotool getwindowname "$table" | sed 's/^\*//')"
 press alt+F4
-await "the program to end" gone ' - Orvane V'
+await "the program to end" ended # its window goes before
 start_program "$work/home/pump.zfsm"
 await_table '^pump.zfsm - Orvane V'
 
