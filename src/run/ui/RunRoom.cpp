@@ -4,6 +4,7 @@
 #include "run/LiveRun.h"
 #include "run/RanTests.h"
 #include "run/ui/PictureOfRun.h"
+#include "run/ui/RunExports.h"
 #include "run/ui/TestFileAccess.h"
 #include "run/ui/TestsPane.h"
 #include "run/ui/dckRun.h"
@@ -185,7 +186,11 @@ void RunRoom::Do(RunWish wish) {
     case RunWish::RunTests:
         return RunTests();
     case RunWish::SavePicture:
+        pane_->StopTime();
+        return SavePicture(window_, session_, pane_->TimelinePicture());
     case RunWish::SaveVcd:
+        pane_->StopTime();
+        return SaveVcd(window_, session_, *run_, pane_->Unit());
     case RunWish::ShowAgain:
         break;
     }

@@ -45,20 +45,6 @@ std::vector<run::RunStep> StepsUpTo(const run::History& past) {
     return steps;
 }
 
-std::optional<run::TestTime> UnitTime(const QString& unit) {
-    const QStringList parts = unit.split(QLatin1Char(' '));
-    if (parts.size() != 2)
-        return std::nullopt;
-    run::TestTime time{parts[0].toStdString(), run::TimeSuffix::Hours, {}};
-    if (parts[1] == QLatin1String("ms"))
-        time.Suffix = run::TimeSuffix::Milliseconds;
-    else if (parts[1] == QLatin1String("s"))
-        time.Suffix = run::TimeSuffix::Seconds;
-    else if (parts[1] == QLatin1String("min"))
-        time.Suffix = run::TimeSuffix::Minutes;
-    return time;
-}
-
 // The first thing that the file would not be understood for, with its place.
 QString FirstSlip(const std::string& bytes, const Session& session, const QString& path) {
     const run::TestReadResult read = run::ReadTestFile(bytes);
@@ -89,6 +75,20 @@ QString ChooseTestFile(QWidget& window, const Session& session) {
 }
 
 } // namespace
+
+std::optional<run::TestTime> UnitTime(const QString& unit) {
+    const QStringList parts = unit.split(QLatin1Char(' '));
+    if (parts.size() != 2)
+        return std::nullopt;
+    run::TestTime time{parts[0].toStdString(), run::TimeSuffix::Hours, {}};
+    if (parts[1] == QLatin1String("ms"))
+        time.Suffix = run::TimeSuffix::Milliseconds;
+    else if (parts[1] == QLatin1String("s"))
+        time.Suffix = run::TimeSuffix::Seconds;
+    else if (parts[1] == QLatin1String("min"))
+        time.Suffix = run::TimeSuffix::Minutes;
+    return time;
+}
 
 QString TestFileBeside(const Session& session) {
     if (session.Path().empty())

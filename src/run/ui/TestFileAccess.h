@@ -3,6 +3,7 @@
 #pragma once
 
 #include "run/LiveRun.h"
+#include "run/TestText.h"
 
 #include <QString>
 
@@ -20,6 +21,9 @@ QString TestFileBeside(const Session& session);
 
 // The name of the document's file as messages tell it.
 std::string DocumentFileName(const Session& session);
+
+// A length of time as the pane gives it, "0.1 s", as a test says it; none for an empty text.
+std::optional<run::TestTime> UnitTime(const QString& unit);
 
 // The bytes of a file of tests; none when it cannot be read, which the user is told in a box.
 std::optional<std::string> ReadTests(QWidget& window, const QString& path);

@@ -11,6 +11,7 @@
 #include "run/ui/TimersModel.h"
 #include "run/ui/fraLimit.h"
 #include "run/ui/fraRunButtons.h"
+#include "run/ui/timRun.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>
@@ -18,6 +19,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QShortcut>
 #include <QSplitter>
 
@@ -89,11 +91,32 @@ void dckRun::MakeLists(QVBoxLayout& layout) {
     lstInputs->setAccessibleName(tr("Inputs"));
     lstTimers->setAccessibleName(tr("Timers"));
     lstLog->setAccessibleName(tr("What happened"));
-    splitter->setSizes({200, 80, 160});
+    splitter->addWidget(MakeTimeline(splitter));
+    splitter->setSizes({180, 80, 140, 170});
     layout.addWidget(splitter, 1);
     ConnectInputs();
     connect(lstLog, &QTableView::clicked, this,
             [this](const QModelIndex& index) { Q_EMIT TimeWanted(log_->EntryAt(index).When); });
+}
+
+// A run may use more inputs than there is room for.
+QWidget* dckRun::MakeTimeline(QWidget* parent) {
+    auto* area = new QScrollArea(parent);
+    area->setWidgetResizable(true);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    area->setFocusPolicy(Qt::NoFocus);
+    timRun_ = new timRun(document_, run_, area);
+    area->setWidget(timRun_);
+    area->setMinimumHeight(timRun_->fontMetrics().height() * 6);
+    connect(timRun_, &timRun::TimeWanted, this, &dckRun::TimeWanted);
+    return area;
+}
+
+void dckRun::AddButton(QBoxLayout& row, const char* name, const QString& caption, const QString& hint,
+                       RunWish wish) {
+    QPushButton* button = MakeRunButton(body_, name, caption, hint);
+    connect(button, &QPushButton::clicked, this, [this, wish] { Q_EMIT Wanted(wish); });
+    row.addWidget(button);
 }
 
 void dckRun::MakeBottom(QVBoxLayout& layout) {
@@ -106,14 +129,18 @@ void dckRun::MakeBottom(QVBoxLayout& layout) {
     auto* row = new QHBoxLayout;
     row->addWidget(chkCounts);
     row->addStretch();
-    const auto add = [&](const char* name, const QString& caption, const QString& hint, RunWish wish) {
-        QPushButton* button = MakeRunButton(body_, name, caption, hint);
-        connect(button, &QPushButton::clicked, this, [this, wish] { Q_EMIT Wanted(wish); });
-        row->addWidget(button);
-    };
-    add("cmdSaveAsTest", tr("Save as test"), tr("Writes the run into the file of tests beside the document"),
-        RunWish::SaveAsTest);
-    add("cmdRunTests", tr("Run tests"), tr("Runs the tests beside the document"), RunWish::RunTests);
+    auto* exports = new QHBoxLayout;
+    exports->addStretch();
+    AddButton(*exports, "cmdSavePicture", tr("Picture..."), tr("Saves the timeline as a picture (PNG)"),
+              RunWish::SavePicture);
+    AddButton(*exports, "cmdSaveVcd", tr("VCD..."),
+              tr("Saves the run up to this moment for viewers of signals, such as GTKWave"),
+              RunWish::SaveVcd);
+    layout.addLayout(exports);
+    AddButton(*row, "cmdSaveAsTest", tr("Save as test"),
+              tr("Writes the run into the file of tests beside the document"), RunWish::SaveAsTest);
+    AddButton(*row, "cmdRunTests", tr("Run tests"), tr("Runs the tests beside the document"),
+              RunWish::RunTests);
     layout.addLayout(row);
 }
 
@@ -181,6 +208,7 @@ void dckRun::ShowRun(bool anew) {
     else
         log_->Refresh();
     lstLog->scrollToBottom();
+    timRun_->Refresh();
     lblWhere->setText(WhereText());
     lblNotice->setText(NoticeText());
     lblNotice->setVisible(!lblNotice->text().isEmpty());
@@ -216,6 +244,12 @@ bool dckRun::ShowsCounts() const { return chkCounts->isChecked(); }
 QString dckRun::Unit() const { return player_->Unit(); }
 
 void dckRun::StopTime() { player_->Stop(); }
+
+// All lanes, also where they have not got their place yet.
+QPixmap dckRun::TimelinePicture() const {
+    timRun_->resize(timRun_->size().expandedTo(timRun_->sizeHint()));
+    return timRun_->grab();
+}
 
 void dckRun::AddBelow(QWidget* widget) { below_->addWidget(widget); }
 

@@ -6,6 +6,7 @@
 
 #include <QDockWidget>
 
+class QBoxLayout;
 class QCheckBox;
 class QLabel;
 class QTableView;
@@ -18,6 +19,7 @@ class InputsView;
 class LogModel;
 class RunPlayer;
 class TimersModel;
+class timRun;
 class fraLimit;
 class fraRunButtons;
 
@@ -37,6 +39,7 @@ class dckRun : public QDockWidget {
     QString Unit() const;
     // Time passes by itself no more.
     void StopTime();
+    QPixmap TimelinePicture() const;
     // Behind the lists, above the last row of buttons.
     void AddBelow(QWidget* widget);
 
@@ -54,6 +57,9 @@ class dckRun : public QDockWidget {
   private:
     void MakeTop(QVBoxLayout& layout);
     void MakeLists(QVBoxLayout& layout);
+    QWidget* MakeTimeline(QWidget* parent);
+    void AddButton(QBoxLayout& row, const char* name, const QString& caption, const QString& hint,
+                   RunWish wish);
     void MakeBottom(QVBoxLayout& layout);
     void AddKeys();
     void AddKey(const QKeySequence& key, RunWish wish);
@@ -76,6 +82,7 @@ class dckRun : public QDockWidget {
     InputsView* lstInputs;
     QTableView* lstTimers;
     QTableView* lstLog;
+    timRun* timRun_;
     QVBoxLayout* below_;
     QCheckBox* chkCounts;
 };
