@@ -39,7 +39,7 @@ std::vector<run::RunStep> LongRun(std::size_t steps) {
 void StepBack(benchmark::State& state) {
     const FsmDocument document = FullTableThatRests();
     run::LiveRun live(document);
-    live.Play(LongRun(run::kLongestRun), {}, {run::kLongestRun, 0});
+    live.Play({LongRun(run::kLongestRun), {}, {}, {run::kLongestRun, 0}});
     const std::size_t steps = live.Past()->Steps().size();
     std::size_t back = 0;
     for ([[maybe_unused]] auto iteration : state) {
@@ -55,7 +55,7 @@ void PlayAgain(benchmark::State& state) {
     const FsmDocument document = FullTableThatRests();
     const auto steps = std::size_t(state.range(0));
     run::LiveRun live(document);
-    live.Play(LongRun(steps), {}, {steps, 0});
+    live.Play({LongRun(steps), {}, {}, {steps, 0}});
     for ([[maybe_unused]] auto iteration : state)
         live.Recompile();
     state.counters["steps"] = double(live.Past()->Steps().size());

@@ -30,6 +30,7 @@ LiveRun::~LiveRun() = default;
 
 void LiveRun::Restart() {
     given_.clear();
+    readings_ = {};
     cutOff_.clear();
     recorded_ = {{}, {}, document_};
     allFits_ = true;
@@ -45,7 +46,7 @@ void LiveRun::Build() {
     machine_.reset();
     if (!obstacles_.empty())
         return;
-    machine_ = std::make_unique<Machine>(document_, given_);
+    machine_ = std::make_unique<Machine>(document_, given_, readings_);
     history_ = std::make_unique<History>(*machine_);
 }
 
@@ -231,12 +232,13 @@ void LiveRun::ToChange() {
         Wait(wait);
 }
 
-void LiveRun::Play(const std::vector<RunStep>& steps, const Constants& given, Moment shown) {
+void LiveRun::Play(const RunToPlay& played) {
     notice_.clear();
     if (history_)
         cutOff_ = StepsOf(*history_);
-    given_ = given;
-    recorded_ = {steps, shown, document_};
+    given_ = played.Given;
+    readings_ = played.Read;
+    recorded_ = {played.Steps, played.Shown, document_};
     Build();
     allFits_ = history_ != nullptr;
     if (history_)

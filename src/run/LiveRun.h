@@ -23,6 +23,14 @@ struct WantedLimit {
     bool operator==(const WantedLimit&) const = default;
 };
 
+// A run that was made elsewhere.
+struct RunToPlay {
+    std::vector<RunStep> Steps;
+    Constants Given;
+    Readings Read;
+    Moment Shown;
+};
+
 class LiveRun {
   public:
     // The document outlives the run and stays at its address.
@@ -40,6 +48,7 @@ class LiveRun {
     const Machine* Built() const { return machine_.get(); }
     const History* Past() const { return history_.get(); }
     const Constants& Given() const { return given_; }
+    const Readings& Read() const { return readings_; }
     // The state that the machine is in; none without power.
     StateNumber State() const;
     bool IsTrue(RowNumber event) const;
@@ -57,8 +66,9 @@ class LiveRun {
     // Time passes for somebody who looks on: makes no new step as long as nothing happens.
     void PassTime(Units units);
     bool CanGoOn() const; // time can pass
-    // Does all these steps in a new run and shows one moment of it.
-    void Play(const std::vector<RunStep>& steps, const Constants& given, Moment shown);
+    // Does all its steps in a new run and shows one moment of it. Constants and readings stay for what
+    // follows.
+    void Play(const RunToPlay& played);
 
     // The limit that is asked for, or that of the present state that could be another one.
     std::optional<WantedLimit> Wanted() const;
@@ -89,6 +99,7 @@ class LiveRun {
 
     const FsmDocument& document_;
     Constants given_;
+    Readings readings_;
     std::vector<std::string> obstacles_;
     std::unique_ptr<Machine> machine_;
     std::unique_ptr<History> history_; // goes before its machine

@@ -16,6 +16,8 @@ bool Has(const PlannedStep& step, Doing what) {
                        [what](const PlannedDoing& doing) { return doing.What == what; });
 }
 
+std::string FileNameOf(const std::string& path) { return path.substr(path.find_last_of("/\\") + 1); }
+
 // A test as the steps of a run. What its signals mean is worked out by walking through it.
 class StepsOfTest {
   public:
@@ -100,12 +102,16 @@ RanTests RunTestsOf(std::string_view bytes, const FsmDocument& document, const s
     RanTests ran;
     ran.Slips = read.Slips;
     ran.Slips.insert(ran.Slips.end(), plan.Slips.begin(), plan.Slips.end());
+    if (const std::optional<TestName> machine = MachineOf(read.File);
+        machine && FileNameOf(machine->Text) != documentName)
+        ran.Slips.insert(ran.Slips.begin(),
+                         {machine->At, "these are tests of " + machine->Text + ", not of " + documentName});
     if (!ran.Slips.empty())
         return ran;
     ran.Given = plan.Given;
+    ran.Read = {plan.AfterLimit.value_or(false), plan.UnstartedExpired.value_or(false)};
     const TestRunner runner(document, plan, {});
-    const Machine machine(document, plan.Given,
-                          {plan.AfterLimit.value_or(false), plan.UnstartedExpired.value_or(false)});
+    const Machine machine(document, plan.Given, ran.Read);
     Coverage coverage = runner.NoCoverage();
     for (const PlannedTest& test : plan.Tests)
         ran.Tests.push_back(Ran(machine, plan, test, runner.Run(test, coverage)));

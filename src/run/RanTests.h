@@ -21,9 +21,11 @@ struct RanTest {
 };
 
 struct RanTests {
-    std::vector<TestMessage> Slips; // when there are any, nothing was run
+    std::vector<TestMessage>
+        Slips; // when there are any, nothing was run; also that the tests are of another document
     std::vector<RanTest> Tests;
     Constants Given;
+    Readings Read; // what the verdicts are of
     CoverageCount States;
     CoverageCount Transitions;
 };

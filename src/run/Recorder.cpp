@@ -208,6 +208,10 @@ NamesHead NamesIn(const TestFile& file, const FsmDocument& document) {
 std::string KeyOf(const TestLine& line) {
     if (const auto* constant = std::get_if<ConstantHead>(&line.What))
         return "constant " + constant->Name.Text;
+    if (const auto* reading = std::get_if<ReadingHead>(&line.What))
+        return reading->Choice == ReadingChoice::AtLimit || reading->Choice == ReadingChoice::AfterLimit
+                   ? "reading of limits"
+                   : "reading of timers";
     const bool once =
         std::holds_alternative<UnitHead>(line.What) || std::holds_alternative<MachineHead>(line.What);
     return once ? NumberText(std::int64_t(line.What.index())) : std::string();
@@ -216,7 +220,7 @@ std::string KeyOf(const TestLine& line) {
 } // namespace
 
 TestFile RecordTest(const FsmDocument& document, const Recording& recording) {
-    const Machine machine(document, recording.Given);
+    const Machine machine(document, recording.Given, recording.Read);
     TestFile file;
     if (recording.Machine)
         AddLine(file, MachineHead{NameOf(*recording.Machine)});
@@ -224,6 +228,10 @@ TestFile RecordTest(const FsmDocument& document, const Recording& recording) {
         AddLine(file, UnitHead{*recording.Unit});
     for (const auto& [name, value] : recording.Given)
         AddLine(file, ConstantHead{NameOf(ToUtf8(name)), value});
+    if (recording.Read.AfterLimit)
+        AddLine(file, ReadingHead{ReadingChoice::AfterLimit});
+    if (recording.Read.UnstartedExpired)
+        AddLine(file, ReadingHead{ReadingChoice::UnstartedExpired});
     AddLine(file, TestHead{recording.Name});
     for (TestStep& step : StepWriter(document, machine).Run(recording.Steps))
         AddLine(file, std::move(step));

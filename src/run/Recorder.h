@@ -22,9 +22,10 @@ struct Recording {
     std::string Name;                   // of the test, UTF-8, one line
     std::optional<TestTime> Unit;       // how long a unit is, when that is known
     std::optional<std::string> Machine; // the document's file, when it is not the one beside the test
+    Readings Read = {};                 // as the run was
 };
 
-// What the first reading of the controllers gives stands in it, so that the test passes.
+// What the run's reading of the controllers gives stands in it, so that the test passes.
 TestFile RecordTest(const FsmDocument& document, const Recording& recording);
 
 // The file with the test at its end and all else as it was. What the file says about itself stays: only heads

@@ -218,6 +218,18 @@ TEST_F(LivePump, APulseOfAHeldInputSaysThatItIsHeld) {
     EXPECT_TRUE(run.IsTrue(kStop));
 }
 
+TEST_F(LivePump, ARunFromElsewhereIsPlayedUnderItsReadingAndCanBeLeftAgain) {
+    run.PowerOn();
+    run.Wait(3);
+    run.Play(
+        {{{0, RunAct::PowerOn}, PulseOf(BitOf(kStart)), WaitFor(100)}, {}, {.AfterLimit = true}, {2, 0}});
+    EXPECT_EQ(Where(), "2 at 0");
+    run.Forward();
+    EXPECT_EQ(Where(), "2 at 100");
+    run.BringBack();
+    EXPECT_EQ(Where(), "1 at 3");
+}
+
 TEST_F(LivePump, AnotherDocumentBeginsWithoutARun) {
     run.PowerOn();
     run.Pulse(kStart);

@@ -63,6 +63,19 @@ TEST(RanTests, SignalsAreTheEventsThatFollowFromThem) {
     EXPECT_EQ(ran.Tests[0].Steps.back(), PulseOf(BitOf(6)));
 }
 
+TEST(RanTests, TestsOfAnotherDocumentAreNotRun) {
+    const RanTests ran = RunTestsOf("machine ../x/other.zfsm\ntest t\n => Idle\n", Pump(), "pump.zfsm");
+    ASSERT_EQ(ran.Slips.size(), 1U);
+    EXPECT_EQ(ran.Slips[0].Text, "these are tests of ../x/other.zfsm, not of pump.zfsm");
+    EXPECT_THAT(RunTestsOf("machine ../x/pump.zfsm\ntest t\n => Idle\n", Pump(), "pump.zfsm").Slips,
+                IsEmpty());
+}
+
+TEST(RanTests, TheReadingOfTheFileIsThatOfTheRun) {
+    const RanTests ran = RunTestsOf("reading after-limit\ntest t\n => Idle\n", Pump(), "pump.zfsm");
+    EXPECT_EQ(ran.Read, (Readings{true, false}));
+}
+
 // Every test beside an example, as a run, ends where the test ends.
 TEST(RanTests, ExamplesEndAsRunsWhereTheyEndAsTests) {
     int tests = 0;

@@ -120,6 +120,19 @@ TEST(Recorder, ATestIsAddedBehindWhatTheFileHas) {
     EXPECT_EQ(WithTest("", recorded), WriteTestFile(recorded));
 }
 
+TEST(Recorder, TheReadingOfTheRunIsThatOfTheTest) {
+    const FsmDocument pump = test::PumpTable().Document();
+    const std::vector<RunStep> steps{kPowerOn, PulseOf(kStart), WaitFor(101)};
+    const TestFile file =
+        RecordTest(pump, {steps, {}, "t", std::nullopt, std::nullopt, {.AfterLimit = true}});
+    const std::string text = WriteTestFile(file);
+    EXPECT_THAT(text, HasSubstr("reading after-limit\n"));
+    EXPECT_THAT(text, HasSubstr("+100 "));
+    EXPECT_EQ(Wrong(pump, text), "");
+    const std::string twice = WithTest(text, file);
+    EXPECT_EQ(twice.find("reading", twice.find("reading") + 1), std::string::npos);
+}
+
 TEST(Recorder, NamesThatStandTwiceOrAreNoneAreToldByNumber) {
     FsmDocument pump = test::PumpTable().Document();
     pump.Event(7).Name = "Start";

@@ -92,11 +92,10 @@ void RunRoom::MakePane() {
     window_.addDockWidget(Qt::RightDockWidgetArea, pane_);
     tests_ = new TestsPane(pane_);
     pane_->AddBelow(tests_);
-    connect(tests_, &TestsPane::TestChosen, this,
-            [this](const run::RanTest& test, const run::Constants& given) {
-                run_->Play(test.Steps, given, test.Before);
-                Show(Log::IsAnother);
-            });
+    connect(tests_, &TestsPane::TestChosen, this, [this](const run::RunToPlay& test) {
+        run_->Play(test);
+        Show(Log::IsAnother);
+    });
     connect(pane_, &QDockWidget::visibilityChanged, this, &RunRoom::PaneShown);
     connect(pane_, &dckRun::Wanted, this, &RunRoom::Do);
     connect(pane_, &dckRun::PulseWanted, this, &RunRoom::FireEvent);

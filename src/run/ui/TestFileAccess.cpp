@@ -134,9 +134,9 @@ QString SaveRunAsTest(QWidget& window, const Session& session, const run::LiveRu
         former = *std::move(bytes);
     }
     const std::vector<run::RunStep> steps = StepsUpTo(*run.Past());
-    const std::string bytes =
-        run::WithTest(former, run::RecordTest(session.Document(), {steps, run.Given(), name.toStdString(),
-                                                                   UnitTime(unit), std::nullopt}));
+    const std::string bytes = run::WithTest(
+        former, run::RecordTest(session.Document(), {steps, run.Given(), name.toStdString(), UnitTime(unit),
+                                                     std::nullopt, run.Read()}));
     if (const QString slip = FirstSlip(bytes, session, path); !slip.isEmpty()) {
         Tell(&window,
              Text("The test was not saved, because the file would not be understood any more.\n%1").arg(slip),

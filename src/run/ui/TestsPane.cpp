@@ -46,7 +46,8 @@ TestsPane::TestsPane(QWidget* parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(lblTests);
     layout->addWidget(lstTests);
-    connect(lstTests, &QTableView::clicked, this, [this](const QModelIndex& index) { Choose(index.row()); });
+    connect(lstTests, &QTableView::clicked, this,
+            [this](const QModelIndex& index) { Choose(std::size_t(index.row())); });
     hide();
 }
 
@@ -73,7 +74,7 @@ void TestsPane::Show(run::RanTests tests, const QString& name) {
     if (failed == tests_.Tests.end())
         return;
     lstTests->selectRow(int(failed - tests_.Tests.begin()));
-    Q_EMIT TestChosen(*failed, tests_.Given);
+    Choose(std::size_t(failed - tests_.Tests.begin()));
 }
 
 void TestsPane::ShowRefused(const QString& name, const std::vector<std::string>& why) {
@@ -99,9 +100,11 @@ QString TestsPane::Summary() const {
         .arg(tests_.Transitions.All);
 }
 
-void TestsPane::Choose(int row) {
-    if (std::size_t(row) < tests_.Tests.size() && tests_.Slips.empty())
-        Q_EMIT TestChosen(tests_.Tests[std::size_t(row)], tests_.Given);
+void TestsPane::Choose(std::size_t test) {
+    if (test >= tests_.Tests.size())
+        return;
+    const run::RanTest& chosen = tests_.Tests[test];
+    Q_EMIT TestChosen({chosen.Steps, tests_.Given, tests_.Read, chosen.Before});
 }
 
 } // namespace orvane

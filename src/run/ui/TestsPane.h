@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "run/LiveRun.h"
 #include "run/RanTests.h"
 
 #include <QWidget>
@@ -25,11 +26,11 @@ class TestsPane : public QWidget {
 
   Q_SIGNALS:
     // Somebody wants to see it: the first that failed, or one that was clicked.
-    void TestChosen(const orvane::run::RanTest& test, const orvane::run::Constants& given);
+    void TestChosen(const orvane::run::RunToPlay& test);
 
   private:
     void AddRow(const QString& verdict, std::size_t line, const QString& test, const QString& why);
-    void Choose(int row);
+    void Choose(std::size_t test);
     QString Summary() const;
 
     run::RanTests tests_;
