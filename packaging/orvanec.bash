@@ -32,9 +32,9 @@ _orvanec() {
             COMPREPLY=($(compgen -W 'at-limit after-limit unstarted-since-power-on unstarted-expired' -- "$typed"))
             return
             ;;
-        test:--filter | test:-j | test:--jobs | explore:--from | explore:--to) return ;;
+        test:--filter | test:-j | test:--jobs | explore:--from | explore:--to | tour:--limit) return ;;
         generate:-o | generate:--output | format:-o | format:--output | test:--junit | test:--markdown | \
-            simulate:--csv | simulate:--vcd | merge:-o | merge:--output)
+            simulate:--csv | simulate:--vcd | tour:-o | tour:--output | merge:-o | merge:--output)
             local IFS=$'\n'
             compopt -o filenames 2>/dev/null
             COMPREPLY=($(compgen -f -- "$typed"))
@@ -43,7 +43,7 @@ _orvanec() {
     esac
     case $verb:$typed in
         :-*) COMPREPLY=($(compgen -W '--help --version' -- "$typed")) ;;
-        :*) COMPREPLY=($(compgen -W 'generate check format test simulate explore diff show merge conflicts git' -- "$typed")) ;;
+        :*) COMPREPLY=($(compgen -W 'generate check format test simulate explore tour diff show merge conflicts git' -- "$typed")) ;;
         check:-*) COMPREPLY=($(compgen -W '--advice --format --help' -- "$typed")) ;;
         generate:-* | format:-*) COMPREPLY=($(compgen -W '--output --help' -- "$typed")) ;;
         test:-*)
@@ -51,6 +51,8 @@ _orvanec() {
                 --notes-fail --reading --rename --strict --update' -- "$typed"))
             ;;
         simulate:-*) COMPREPLY=($(compgen -W '--csv --help --vcd' -- "$typed")) ;;
+        tour:-*)
+            COMPREPLY=($(compgen -W '--empty-cells --help --limit --output --together' -- "$typed")) ;;
         diff:-*) COMPREPLY=($(compgen -W '--different --format --help --no-view --same' -- "$typed")) ;;
         show:-*) COMPREPLY=($(compgen -W '--help --textconv' -- "$typed")) ;;
         merge:-*) COMPREPLY=($(compgen -W '--help --ours --output --path --theirs' -- "$typed")) ;;

@@ -45,6 +45,11 @@ constexpr const char* kSimulateNotes =
     "Without a file of tests the machine is switched on, and that is all. Steps alone do on standard\n"
     "input. Exit status 1 is an expectation that failed, 3 a file that could not be understood.";
 
+constexpr const char* kTourNotes =
+    "Example: orvanec tour pump.zfsm --empty-cells -o pump.ztest\n"
+    "         writes tests that take every transition and try what should do nothing\n\n"
+    "The tests say what the machine does now, right or wrong: read them once, and they notice what\n"
+    "changes. What they leave out is told on standard error.";
 constexpr const char* kExploreNotes =
     "Example: orvanec explore pump.zfsm\n"
     "         tells timeouts that can never be due, states with no way back and the like\n"
@@ -53,12 +58,13 @@ constexpr const char* kExploreNotes =
     "Exit status: 0 nothing is found, or the way; 1 something is, or no way; 2 wrong usage; 3 a file that\n"
     "             could not be read, or a state that is not there";
 
-constexpr std::array<std::pair<const char*, Verb>, 11> kVerbs{{{"generate", Verb::Generate},
+constexpr std::array<std::pair<const char*, Verb>, 12> kVerbs{{{"generate", Verb::Generate},
                                                                {"check", Verb::Check},
                                                                {"format", Verb::Format},
                                                                {"test", Verb::Test},
                                                                {"simulate", Verb::Simulate},
                                                                {"explore", Verb::Explore},
+                                                               {"tour", Verb::Tour},
                                                                {"diff", Verb::Diff},
                                                                {"show", Verb::Show},
                                                                {"merge", Verb::Merge},
@@ -141,6 +147,9 @@ class CommandLine {
 
     void AddMachineVerbs() {
         machines_.AddSimulate(AddVerb("simulate", "Print what a machine does, step by step", kSimulateNotes));
+        CLI::App& tour = AddVerb("tour", "Write tests that take every transition", kTourNotes);
+        machines_.AddTour(tour);
+        AddOutput(tour, "Write to FILE instead of standard output");
         machines_.AddExplore(
             AddVerb("explore", "Tell what holds in all behaviours of a machine", kExploreNotes));
     }
@@ -206,6 +215,7 @@ Arguments CommandLine::Parse(int count, const char* const* values) {
         arguments.Testing = tests_.Take();
     arguments.Simulating = machines_.TakeSimulate();
     arguments.Exploring = machines_.TakeExplore();
+    arguments.Touring = machines_.TakeTour();
     arguments.Advice = advice_;
     if (arguments.What == Verb::Test && arguments.Documents.empty())
         arguments.Documents = {"."};

@@ -13,9 +13,11 @@
 
 namespace orvane::cli {
 
-enum class Verb { Generate, Check, Format, Test, Simulate, Explore, Diff, Show, Merge, Conflicts, Git };
+enum class Verb { Generate, Check, Format, Test, Simulate, Explore, Tour, Diff, Show, Merge, Conflicts, Git };
 // The verbs of the machine of one document.
-constexpr bool LooksIntoOne(Verb verb) { return verb == Verb::Simulate || verb == Verb::Explore; }
+constexpr bool LooksIntoOne(Verb verb) {
+    return verb == Verb::Simulate || verb == Verb::Explore || verb == Verb::Tour;
+}
 
 // The verbs about several versions of one document.
 constexpr bool ComparesVersions(Verb verb) {
@@ -36,6 +38,7 @@ struct Arguments {
     TestArguments Testing;
     SimulateArguments Simulating;
     ExploreArguments Exploring;
+    TourArguments Touring;
     ReviewArguments Reviewing;
 };
 

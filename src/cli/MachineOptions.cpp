@@ -42,6 +42,15 @@ void MachineOptions::AddExplore(CLI::App& verb) {
     verb.add_flag("--json", explore_.Json, "Report as one line of JSON");
 }
 
+void MachineOptions::AddTour(CLI::App& verb) {
+    AddDocument(verb);
+    verb.add_flag("--empty-cells", tour_.EmptyCells, "Try events in the states that have nothing for them");
+    verb.add_flag("--together", tour_.Together, "Try neighbouring events at the same time");
+    verb.add_option("--limit", tour_.MostSteps, "Take at most STEPS steps after power-on (10000)")
+        ->check(CLI::Range(1, 1'000'000))
+        ->type_name("STEPS");
+}
+
 std::string MachineOptions::TakeDocument() {
     ShowBracket(document_);
     return std::move(document_);

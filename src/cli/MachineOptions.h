@@ -17,11 +17,13 @@ class MachineOptions {
   public:
     void AddSimulate(CLI::App& verb);
     void AddExplore(CLI::App& verb);
+    void AddTour(CLI::App& verb);
 
     // Once, after the command line was parsed.
     std::string TakeDocument();
     SimulateArguments TakeSimulate();
     ExploreArguments TakeExplore();
+    TourArguments TakeTour() const { return tour_; }
 
   private:
     void AddDocument(CLI::App& verb);
@@ -29,6 +31,7 @@ class MachineOptions {
     std::string document_;
     SimulateArguments simulate_;
     ExploreArguments explore_;
+    TourArguments tour_;
 };
 
 } // namespace orvane::cli

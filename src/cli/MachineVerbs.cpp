@@ -4,6 +4,7 @@
 #include "cli/ExploreVerb.h"
 #include "cli/MessageText.h"
 #include "cli/SimulateVerb.h"
+#include "cli/TourVerb.h"
 
 #include <exception>
 
@@ -13,6 +14,8 @@ Outcome RunMachineVerb(const Arguments& arguments, const TestFiles& files) noexc
     try {
         if (arguments.What == Verb::Explore)
             return RunExplore(arguments, files);
+        if (arguments.What == Verb::Tour)
+            return RunTour(arguments, files);
         return RunSimulate(arguments, files);
     } catch (const std::exception& error) {
         return {{}, FailureLine(arguments.Documents.front(), error.what()), kFileError};

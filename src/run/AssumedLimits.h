@@ -9,7 +9,8 @@ namespace orvane::run {
 // What a limit that only the user knows is taken for where a test has to name one.
 inline constexpr Units kAssumedLimit = 10;
 
-// That number for all limits that are names, and for all that code computes.
+// That number for all limits that are names, and for all that code computes; more than any constant limit for
+// code in states that do not start their timer.
 struct AssumedLimits {
     explicit AssumedLimits(const FsmDocument& document);
 

@@ -9,7 +9,7 @@
 namespace orvane::run {
 
 // What a test says that was just seen: every state on the way, by which row it came there last, how many
-// pieces of code ran, and a line of those of the last transition.
+// pieces of code ran, and a line of each of the last of them.
 TestExpectation RecordedExpectation(const FsmDocument& document, const Machine& machine, const Clock& clock,
                                     const StepResult& result);
 

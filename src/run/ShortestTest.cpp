@@ -91,7 +91,8 @@ class Finder {
     std::optional<TestFile> Write(const std::vector<Way>& ways, const std::string& name) const {
         WayDriver driver(machine_, assumed_.Surroundings, space_);
         for (const Way& way : ways) {
-            if (!driver.Go(way))
+            const bool last = &way == &ways.back();
+            if (!driver.Go(way, last ? WayDriver::End::Anywhere : WayDriver::End::AtItsEnd))
                 return std::nullopt;
         }
         return RecordTest(document_, {driver.Steps(), assumed_.Given, name, std::nullopt, std::nullopt});

@@ -196,6 +196,19 @@ void StateSpace::AddEndless(const FoundScan& scan) {
         endless_.push_back(std::move(endless));
 }
 
+std::optional<Units> StateSpace::RestFrom(const Config& config) const {
+    std::optional<Units> rest;
+    for (const TimerReach& reach : horizon_.Of(config.State)) {
+        const Units started = config.Started[reach.Timer];
+        if (started == kNever && machine_.Read().UnstartedExpired)
+            continue;
+        const Units elapsed = config.Now - std::max<Units>(started, 0);
+        if (const std::optional<Units> next = horizon_.Next(reach, elapsed))
+            rest = std::min(rest.value_or(*next - elapsed), *next - elapsed);
+    }
+    return rest;
+}
+
 std::optional<std::uint32_t> StateSpace::Find(const Config& config) const {
     RunPlace place{config, {}};
     for (std::size_t timer = 0; timer < config.Started.size(); ++timer) {

@@ -33,7 +33,7 @@ struct SpaceWay {
     std::uint32_t FirstTaken = 0; // of the transitions in it
     std::uint16_t TakenCount = 0;
     bool Raw = false;         // power came on and nothing more, so that the inputs need not stay as they are
-    Units Wait = 0;           // so long the machine rests; 0 for scans
+    Units Wait = 0;           // so long the machine rests at most; 0 for scans
     std::uint64_t Events = 0; // that are there, as few as it takes
 };
 
@@ -73,6 +73,10 @@ class StateSpace {
     // Where a running machine is; none when it is nowhere that was found.
     std::optional<std::uint32_t> Find(const Config& config) const;
     std::optional<std::uint32_t> Find(const RunPlace& place) const;
+
+    // How long a machine that is there has to rest until it is at another place; a way of the space only says
+    // how long at most. None when it never is.
+    std::optional<Units> RestFrom(const Config& config) const;
 
     // A machine that is there, at a time that stands for all others. Not for the place without power.
     RunPlace PlaceOf(std::uint32_t place) const;

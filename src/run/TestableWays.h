@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <queue>
 #include <span>
 #include <utility>
@@ -16,17 +17,18 @@
 namespace orvane::run {
 
 struct TestableWay {
-    const SpaceWay* First = nullptr;
-    std::uint32_t To = 0;          // where it ends: of a wait, settled
-    std::vector<Cell> Transitions; // that are taken
+    std::uint32_t To = 0;     // where it ends: of a wait, settled
+    std::uint64_t Events = 0; // that are there
+    Units Wait = 0;           // 0 for scans and for power that comes on
     bool IsPowerOn = false;
+    std::vector<Cell> Transitions; // that are taken
 
     // How many lines of a test it takes; settling is part of the line before. Inputs that are there when
     // power comes on stay, and mostly have to go again.
     int Cost() const {
         if (IsPowerOn)
-            return First->Events == 0 ? 1 : 3;
-        return First->Wait == 0 && First->Events == 0 ? 0 : 1;
+            return Events == 0 ? 1 : 3;
+        return Wait == 0 && Events == 0 ? 0 : 1;
     }
 };
 
@@ -39,7 +41,8 @@ class TestableWays {
     const StateSpace& Space() const { return space_; }
 
   private:
-    TestableWay Settled(const SpaceWay& wait) const;
+    void AddWaits(std::uint32_t place, const SpaceWay& wait);
+    std::optional<TestableWay> Settled(const SpaceWay& wait, std::uint64_t events) const;
 
     const Machine& machine_;
     const Inputs& given_;

@@ -21,31 +21,38 @@ void WayDriver::Begin() {
     }
 }
 
-bool WayDriver::Go(std::span<const TestableWay* const> way) {
+bool WayDriver::Go(std::span<const TestableWay* const> way, End end) {
     while (!way.empty()) {
         const TestableWay& next = *way.front();
         std::size_t gone = 1;
         if (next.IsPowerOn)
-            PowerOn(next.First->Events);
-        else if (next.First->Wait > 0)
-            Wait(next.First->Wait, next.First->Events);
+            PowerOn(next.Events);
+        else if (next.Wait > 0)
+            Wait(next.Events);
         else
-            gone = GoScan(way);
-        const bool last = gone == way.size();
-        if (!IsIdle(outcome_) || (!last && Place() != way[gone - 1]->To))
-            return last && IsIdle(outcome_);
+            gone = GoScan(way, end);
+        const bool anywhere = gone == way.size() && end == End::Anywhere;
+        if (!IsIdle(outcome_) || (!anywhere && Place() != way[gone - 1]->To))
+            return false;
         way = way.subspan(gone);
     }
     return true;
 }
 
-void WayDriver::Try(std::uint64_t events) {
-    if (clock_->Surroundings().Events != 0 && RestsWithout())
+bool WayDriver::Try(std::uint64_t events) {
+    const bool rests = clock_->Surroundings().Events == 0 || RestsWithout();
+    Clock tried = *clock_;
+    tried.Surroundings().Events = rests ? 0 : events;
+    const Outcome outcome = rests ? tried.Pulse(events) : tried.Scan(1);
+    if (!IsIdle(outcome) || !space_.Find(tried.Where()))
+        return false;
+    if (rests && clock_->Surroundings().Events != 0)
         Switch(0);
-    if (clock_->Surroundings().Events == 0)
+    if (rests)
         Pulse(events);
     else
         ScanOnce(events);
+    return true;
 }
 
 std::optional<std::uint32_t> WayDriver::Place() const {
@@ -85,25 +92,28 @@ void WayDriver::ScanOnce(std::uint64_t events) {
 }
 
 // The machine rests with these events.
-void WayDriver::Wait(Units units, std::uint64_t events) {
+void WayDriver::Wait(std::uint64_t events) {
     if (clock_->Surroundings().Events != events)
         Switch(events);
-    if (steps_.back().What == RunAct::Wait)
+    const Units units = space_.RestFrom(clock_->Where()).value_or(1);
+    if (steps_.back().What == RunAct::Wait && nothingCame_)
         steps_.back().Amount += std::uint64_t(units);
     else
         steps_.push_back(WaitFor(units));
+    const Config before = clock_->Where();
     outcome_ = clock_->Advance(units);
+    nothingCame_ = clock_->Where().State == before.State && clock_->Where().Started == before.Started;
 }
 
 // How many of the ways one step goes.
-std::size_t WayDriver::GoScan(std::span<const TestableWay* const> way) {
-    const std::uint64_t events = way.front()->First->Events;
-    const bool staysOn = way.size() > 1 && way[1]->First->Wait > 0 && way[1]->First->Events == events;
+std::size_t WayDriver::GoScan(std::span<const TestableWay* const> way, End end) {
+    const std::uint64_t events = way.front()->Events;
+    const bool staysOn = way.size() > 1 && way[1]->Wait > 0 && way[1]->Events == events;
     if (staysOn || events == 0) {
         Clock held = *clock_;
         held.Surroundings().Events = events;
         const Outcome outcome = held.Settle();
-        const std::size_t gone = ComesAlong(held, outcome, way);
+        const std::size_t gone = ComesAlong(held, outcome, way, end);
         if (gone > 0 && clock_->Surroundings().Events != events) {
             Switch(events);
             return gone;
@@ -114,7 +124,7 @@ std::size_t WayDriver::GoScan(std::span<const TestableWay* const> way) {
     if (events != 0 && clock_->Surroundings().Events == 0) {
         Clock pulsed = *clock_;
         const Outcome outcome = pulsed.Pulse(events);
-        if (const std::size_t gone = ComesAlong(pulsed, outcome, way); gone > 0) {
+        if (const std::size_t gone = ComesAlong(pulsed, outcome, way, end); gone > 0) {
             Pulse(events);
             return gone;
         }
@@ -126,7 +136,7 @@ std::size_t WayDriver::GoScan(std::span<const TestableWay* const> way) {
 // A machine that settled without events behind the first scan went the ways that need none, too. The last way
 // may end anywhere.
 std::size_t WayDriver::ComesAlong(const Clock& clock, Outcome outcome,
-                                  std::span<const TestableWay* const> way) const {
+                                  std::span<const TestableWay* const> way, End end) const {
     if (!IsIdle(outcome))
         return 0;
     const std::optional<std::uint32_t> place = space_.Find(clock.Where());
@@ -136,7 +146,7 @@ std::size_t WayDriver::ComesAlong(const Clock& clock, Outcome outcome,
         if (gone < way.size() && way[gone]->Cost() > 0)
             break;
     }
-    return way.size() == 1 ? 1 : 0;
+    return way.size() == 1 && end == End::Anywhere ? 1 : 0;
 }
 
 bool WayDriver::RestsWithout() const {

@@ -23,27 +23,36 @@ class WayDriver {
     // The power is off, and a new run begins.
     void Begin();
 
+    // Where a way is to end: a transition on it is enough, so that the machine may settle behind it, or the
+    // place counts.
+    enum class End { Anywhere, AtItsEnd };
+
     // Goes the way, which must begin where the machine is. False when it does not come along: then it is
     // somewhere else.
-    bool Go(std::span<const TestableWay* const> way);
+    bool Go(std::span<const TestableWay* const> way, End end);
 
-    // Other events that are there for one scan, with whatever comes of it.
-    void Try(std::uint64_t events);
+    // These events are there for one scan, with whatever comes of it. Refused, with nothing done, when the
+    // machine would not come to rest then.
+    bool Try(std::uint64_t events);
 
     // None when the machine never came to rest, or is where the space does not know.
     std::optional<std::uint32_t> Place() const;
 
+    bool HasPower() const { return hasPower_; }
+    // Since Begin(), the limits that are set before power comes on among them.
     const std::vector<RunStep>& Steps() const { return steps_; }
+    // All that happened since the last call.
+    std::vector<Happening> TakeLog() { return clock_->TakeLog(); }
 
   private:
     void PowerOn(std::uint64_t events);
     void Switch(std::uint64_t events);
     void Pulse(std::uint64_t events);
     void ScanOnce(std::uint64_t events);
-    void Wait(Units units, std::uint64_t events);
-    std::size_t GoScan(std::span<const TestableWay* const> way);
-    std::size_t ComesAlong(const Clock& clock, Outcome outcome,
-                           std::span<const TestableWay* const> way) const;
+    void Wait(std::uint64_t events);
+    std::size_t GoScan(std::span<const TestableWay* const> way, End end);
+    std::size_t ComesAlong(const Clock& clock, Outcome outcome, std::span<const TestableWay* const> way,
+                           End end) const;
     bool RestsWithout() const;
 
     const Machine& machine_;
@@ -52,6 +61,7 @@ class WayDriver {
     std::optional<Clock> clock_; // always there
     Outcome outcome_ = Outcome::Quiet;
     bool hasPower_ = false;
+    bool nothingCame_ = false; // of the last wait, so that the next one is the same
     std::vector<RunStep> steps_;
 };
 

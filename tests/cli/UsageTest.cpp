@@ -36,7 +36,8 @@ TEST_F(Usage, HelpOfTheProgramAndOfEachVerbHasAnExample) {
         {"format --help", "Example: orvanec format pump.zfsm -o tidy.zfsm\n"},
         {"test --help", "Example: orvanec test --coverage=100 pump.zfsm\n"},
         {"simulate --help", "Example: orvanec simulate pump.zfsm pump.ztest"},
-        {"explore --help", "Example: orvanec explore pump.zfsm\n"}};
+        {"explore --help", "Example: orvanec explore pump.zfsm\n"},
+        {"tour --help", "Example: orvanec tour pump.zfsm --empty-cells -o pump.ztest\n"}};
     for (const auto& [arguments, example] : examples) {
         const RunResult run = Run(arguments);
         EXPECT_EQ(run.Status, 0) << arguments;
@@ -54,10 +55,11 @@ TEST_F(Usage, HelpOfTheProgramListsTheVerbs) {
 
 TEST_F(Usage, WrongUsageIsSaidOnStandardError) {
     ExpectWrong(
-        "", "No verb is given; the verbs are generate, check, format, test, simulate, explore, diff, show, "
-            "merge, conflicts and git");
+        "",
+        "No verb is given; the verbs are generate, check, format, test, simulate, explore, tour, diff, show, "
+        "merge, conflicts and git");
     ExpectWrong("frobnicate a", "There is no verb frobnicate; the verbs are generate, check, format, test, "
-                                "simulate, explore, diff, show, "
+                                "simulate, explore, tour, diff, show, "
                                 "merge, conflicts and git");
     ExpectWrong("generate", "No document is given");
     ExpectWrong("check", "No document is given");
