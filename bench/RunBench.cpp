@@ -1,15 +1,25 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What a scan of a machine costs, beside the least that any automaton with such a table does: find the lowest
 // true event of the state, look up its target, go there. Both take the same stream of inputs in the same run.
+// Then what a user waits for: tests, what can be known of a machine, and a tour.
 #include "RatioTable.h"
 #include "SampleDocuments.h"
+#include "core/DocumentReader.h"
+#include "core/TimingMode.h"
+#include "run/Advice.h"
 #include "run/Machine.h"
+#include "run/TestReader.h"
+#include "run/TestRunner.h"
+#include "run/Tour.h"
 
 #include <benchmark/benchmark.h>
 
 #include <array>
 #include <bit>
+#include <filesystem>
+#include <fstream>
 #include <iostream>
+#include <iterator>
 #include <random>
 
 namespace orvane {
@@ -62,6 +72,55 @@ void BareTable(benchmark::State& state, const FsmDocument& document) {
     }
 }
 
+// As `orvanec test` does it, but for reading the files: 10,000 steps under all four readings.
+void RunSteps(benchmark::State& state, FsmDocument document) {
+    for (const StateNumber number : StateNumbers()) { // a limit that has to be computed is not known
+        document.State(number).TimingMode = kStartConstant;
+        document.State(number).TimeConst = "1000";
+    }
+    std::string text;
+    for (int test = 0; test < 100; ++test) {
+        text += "test of many steps\n";
+        for (int step = 0; step < 100; ++step)
+            text += step % 2 == 0 ? "pulse #6\n" : "+5 pulse #7\n";
+    }
+    for ([[maybe_unused]] auto iteration : state) {
+        const run::TestReadResult read = run::ReadTestFile(text);
+        const run::TestPlan plan = run::PlanTests(read.File, document, "document");
+        const run::TestRunner runner(document, plan, {});
+        run::Coverage coverage = runner.NoCoverage();
+        for (const run::PlannedTest& test : plan.Tests)
+            benchmark::DoNotOptimize(runner.Run(test, coverage));
+    }
+}
+
+void Explore(benchmark::State& state, const std::vector<FsmDocument>& documents) {
+    for ([[maybe_unused]] auto iteration : state) {
+        for (const FsmDocument& document : documents)
+            benchmark::DoNotOptimize(run::AdviceOn(document));
+    }
+}
+
+void MakeTour(benchmark::State& state, const FsmDocument& document) {
+    for ([[maybe_unused]] auto iteration : state)
+        benchmark::DoNotOptimize(run::MakeTour(document, {}));
+}
+
+// The examples that stand beside the benchmark's sources.
+std::vector<FsmDocument> Examples() {
+    std::vector<FsmDocument> examples;
+    const auto folder = std::filesystem::path(__FILE__).parent_path().parent_path() / "examples";
+    std::error_code none;
+    for (const auto& entry : std::filesystem::directory_iterator(folder, none)) {
+        if (entry.path().extension() != ".zfsm")
+            continue;
+        std::ifstream file(entry.path(), std::ios::binary);
+        const std::string bytes{std::istreambuf_iterator<char>(file), {}};
+        examples.push_back(ReadDocument(bytes).Document);
+    }
+    return examples;
+}
+
 } // namespace
 } // namespace orvane
 
@@ -82,9 +141,24 @@ int main(int argc, char** argv) {
     const FsmDocument limit = DocumentAtTheLimit();
     benchmark::RegisterBenchmark("scan/limit", [&](benchmark::State& state) { Scan(state, limit); });
     benchmark::RegisterBenchmark("bare/limit", [&](benchmark::State& state) { BareTable(state, limit); });
+    benchmark::RegisterBenchmark("steps/limit", [&](benchmark::State& state) { RunSteps(state, limit); });
+    const std::vector<FsmDocument> examples = Examples();
+    benchmark::RegisterBenchmark("explore/examples",
+                                 [&](benchmark::State& state) { Explore(state, examples); });
+    benchmark::RegisterBenchmark("explore/limit", [&](benchmark::State& state) { Explore(state, {limit}); });
+    const FsmDocument large = SampleDocument(40, 39); // as many transitions as the largest real machine
+    benchmark::RegisterBenchmark("tour/large", [&](benchmark::State& state) { MakeTour(state, large); });
+    benchmark::RegisterBenchmark("tour/limit", [&](benchmark::State& state) { MakeTour(state, limit); });
     LeastTimes times;
     benchmark::RunSpecifiedBenchmarks(&times);
     // A cell of this table is one scan: 50 ns are 20 million a second.
-    times.PrintTable(std::cout, {{"scan, 1024 times", "limit", "scan/limit", "bare/limit", kScans, 0, 10}});
+    const int exampleCount = std::max<int>(static_cast<int>(examples.size()), 1);
+    times.PrintTable(std::cout,
+                     {{"scan, 1024 times", "limit", "scan/limit", "bare/limit", kScans, 0, 10},
+                      {"test, a cell is a step", "limit", "steps/limit", "", 10'000, 0, 0},
+                      {"explore, a cell is one", "examples", "explore/examples", "", exampleCount, 0, 0},
+                      {"explore", "limit", "explore/limit", "", 100 * 49, 0, 0},
+                      {"tour", "40 by 39", "tour/large", "", 40 * 39, 0, 0},
+                      {"tour", "limit", "tour/limit", "", 100 * 49, 0, 0}});
     return 0;
 }

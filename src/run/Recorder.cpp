@@ -27,8 +27,8 @@ TestTime TimeOf(Units units) { return {NumberText(units), TimeSuffix::None, {}};
 // timeouts come.
 class StepWriter {
   public:
-    StepWriter(const FsmDocument& document, const Machine& machine)
-        : names_(document, ""), machine_(machine), clock_(machine) {}
+    StepWriter(const FsmDocument& document, const Machine& machine, bool atLimit)
+        : names_(document, ""), machine_(machine), atLimit_(atLimit), clock_(machine) {}
 
     std::vector<TestStep> Run(std::span<const RunStep> steps) {
         Units passing = 0; // waits in a row are one: how often somebody pressed a key says nothing
@@ -126,7 +126,7 @@ class StepWriter {
         }
         Pass(due - clock_.Where().Now);
         const std::optional<Units> next = clock_.NextTimeout();
-        if (constant && due < end && (!next || *next > due + 1))
+        if (constant && !atLimit_ && due < end && (!next || *next > due + 1))
             Pass(1);
         EndLine();
     }
@@ -148,6 +148,7 @@ class StepWriter {
 
     NameBook names_;
     const Machine& machine_;
+    const bool atLimit_;
     Clock clock_;
     bool hasPower_ = false;
     int looks_ = 0;
@@ -233,7 +234,7 @@ TestFile RecordTest(const FsmDocument& document, const Recording& recording) {
     if (recording.Read.UnstartedExpired)
         AddLine(file, ReadingHead{ReadingChoice::UnstartedExpired});
     AddLine(file, TestHead{recording.Name});
-    for (TestStep& step : StepWriter(document, machine).Run(recording.Steps))
+    for (TestStep& step : StepWriter(document, machine, recording.AtLimit).Run(recording.Steps))
         AddLine(file, std::move(step));
     FillExpectations(file, document, machine);
     const auto test = std::find_if(file.Lines.begin(), file.Lines.end(), [](const TestLine& line) {

@@ -23,6 +23,7 @@ struct Recording {
     std::optional<TestTime> Unit;       // how long a unit is, when that is known
     std::optional<std::string> Machine; // the document's file, when it is not the one beside the test
     Readings Read = {};                 // as the run was
+    bool AtLimit = false; // the file says that limits are up at them: no line stands a unit behind one
 };
 
 // What the run's reading of the controllers gives stands in it, so that the test passes.

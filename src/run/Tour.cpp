@@ -88,7 +88,8 @@ class TourGuide {
         const bool wasOn = driver_.HasPower();
         driver_.Begin();
         if (wasOn)
-            AddTest(RecordTest(document_, {steps, assumed_.Given, Name(), std::nullopt, std::nullopt}));
+            AddTest(
+                RecordTest(document_, {steps, assumed_.Given, Name(), std::nullopt, std::nullopt, {}, true}));
         return true;
     }
 

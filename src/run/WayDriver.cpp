@@ -96,13 +96,8 @@ void WayDriver::Wait(std::uint64_t events) {
     if (clock_->Surroundings().Events != events)
         Switch(events);
     const Units units = space_.RestFrom(clock_->Where()).value_or(1);
-    if (steps_.back().What == RunAct::Wait && nothingCame_)
-        steps_.back().Amount += std::uint64_t(units);
-    else
-        steps_.push_back(WaitFor(units));
-    const Config before = clock_->Where();
+    steps_.push_back(WaitFor(units));
     outcome_ = clock_->Advance(units);
-    nothingCame_ = clock_->Where().State == before.State && clock_->Where().Started == before.Started;
 }
 
 // How many of the ways one step goes.

@@ -61,7 +61,6 @@ class WayDriver {
     std::optional<Clock> clock_; // always there
     Outcome outcome_ = Outcome::Quiet;
     bool hasPower_ = false;
-    bool nothingCame_ = false; // of the last wait, so that the next one is the same
     std::vector<RunStep> steps_;
 };
 

@@ -176,10 +176,11 @@ TEST(Tour, OfRandomMachinesPassesAndCoversWhatATestCanTake) {
 template <typename MakeWrong>
 std::vector<std::string> Unnoticed(const TourOptions& options, int& tried, const MakeWrong& makeWrong) {
     std::vector<std::string> unnoticed;
-    std::size_t machines = 0;
+    int machines = 0;
     for (const test::NamedDocument& machine : SoundMachines()) {
         const Tour tour = MakeTour(machine.Document, options);
-        if (tour.Transitions.All > 25 || ++machines % 3 != 0)
+        const bool isExample = machine.Name.ends_with(".zfsm");
+        if (!isExample && (tour.Transitions.All > 25 || ++machines % 3 != 0))
             continue; // the others are enough
         const TestFile tests = ReadBack(tour.Tests);
         for (const StateNumber state : StateNumbers()) {
