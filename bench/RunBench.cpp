@@ -106,12 +106,9 @@ void MakeTour(benchmark::State& state, const FsmDocument& document) {
         benchmark::DoNotOptimize(run::MakeTour(document, {}));
 }
 
-// The examples that stand beside the benchmark's sources.
 std::vector<FsmDocument> Examples() {
     std::vector<FsmDocument> examples;
-    const auto folder = std::filesystem::path(__FILE__).parent_path().parent_path() / "examples";
-    std::error_code none;
-    for (const auto& entry : std::filesystem::directory_iterator(folder, none)) {
+    for (const auto& entry : std::filesystem::directory_iterator(ORVANE_EXAMPLES)) {
         if (entry.path().extension() != ".zfsm")
             continue;
         std::ifstream file(entry.path(), std::ios::binary);

@@ -2,7 +2,6 @@
 #include "run/RecordedExpectation.h"
 
 #include "run/CodeLines.h"
-#include "run/NameBook.h"
 #include "run/StepCheck.h"
 #include "run/TestWriter.h"
 #include "text/AnsiText.h"
@@ -33,9 +32,9 @@ std::string TellingLine(const std::string& code) {
 
 class Expectation {
   public:
-    Expectation(const FsmDocument& document, const Machine& machine, const Clock& clock,
-                const StepResult& result)
-        : document_(document), names_(document, ""), machine_(machine), clock_(clock), result_(result) {
+    Expectation(const FsmDocument& document, const NameBook& names, const Machine& machine,
+                const Clock& clock, const StepResult& result)
+        : document_(document), names_(names), machine_(machine), clock_(clock), result_(result) {
         for (const Happening& happening : result.Log) {
             if (!happening.What.Holds)
                 last_ = &happening.What;
@@ -107,7 +106,7 @@ class Expectation {
     }
 
     const FsmDocument& document_;
-    NameBook names_;
+    const NameBook& names_;
     const Machine& machine_;
     const Clock& clock_;
     const StepResult& result_;
@@ -117,9 +116,9 @@ class Expectation {
 
 } // namespace
 
-TestExpectation RecordedExpectation(const FsmDocument& document, const Machine& machine, const Clock& clock,
-                                    const StepResult& result) {
-    return Expectation(document, machine, clock, result).Run();
+TestExpectation RecordedExpectation(const FsmDocument& document, const NameBook& names,
+                                    const Machine& machine, const Clock& clock, const StepResult& result) {
+    return Expectation(document, names, machine, clock, result).Run();
 }
 
 } // namespace orvane::run

@@ -3,6 +3,7 @@
 
 #include "core/FsmDocument.h"
 #include "run/Clock.h"
+#include "run/NameBook.h"
 #include "run/TestText.h"
 #include "run/TestWalk.h"
 
@@ -10,7 +11,7 @@ namespace orvane::run {
 
 // What a test says that was just seen: every state on the way, by which row it came there last, how many
 // pieces of code ran, and a line of each of the last of them.
-TestExpectation RecordedExpectation(const FsmDocument& document, const Machine& machine, const Clock& clock,
-                                    const StepResult& result);
+TestExpectation RecordedExpectation(const FsmDocument& document, const NameBook& names,
+                                    const Machine& machine, const Clock& clock, const StepResult& result);
 
 } // namespace orvane::run

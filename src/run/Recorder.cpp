@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <set>
 #include <utility>
 
 namespace orvane::run {
@@ -163,12 +164,13 @@ void AddLine(TestFile& file, auto&& what) { file.Lines.push_back({std::move(what
 void FillExpectations(TestFile& file, const FsmDocument& document, const Machine& machine) {
     const TestPlan plan = PlanTests(file, document, "");
     TestWalk walk(machine, plan);
+    const NameBook names(document, "");
     std::vector<TestExpectation> found;
     for (const PlannedStep& step : plan.Tests.front().Steps) {
         std::optional<StepResult> result = walk.PowerOnBefore(step);
         if (std::optional<StepResult> done = walk.Do(step))
             result = std::move(done);
-        found.push_back(RecordedExpectation(document, machine, walk.Where(), *result));
+        found.push_back(RecordedExpectation(document, names, machine, walk.Where(), *result));
     }
     auto next = found.begin();
     for (TestLine& line : file.Lines) {
@@ -181,13 +183,13 @@ void FillExpectations(TestFile& file, const FsmDocument& document, const Machine
 NamesHead NamesIn(const TestFile& file, const FsmDocument& document) {
     NamesHead names;
     NameBook book(document, "");
+    std::set<std::pair<bool, int>> told;
     const auto add = [&](bool isEvent, const TestName& name, auto number) {
-        if (!number || name.Text.empty())
+        if (!number || name.Text.empty() || !told.emplace(isEvent, number->Number()).second)
             return;
         NamesHead::Entry entry{isEvent, name};
         entry.Name.Number = number->Number();
-        if (std::find(names.Entries.begin(), names.Entries.end(), entry) == names.Entries.end())
-            names.Entries.push_back(std::move(entry));
+        names.Entries.push_back(std::move(entry));
     };
     for (const TestLine& line : file.Lines) {
         const auto* step = std::get_if<TestStep>(&line.What);

@@ -12,6 +12,8 @@
 
 #include <algorithm>
 #include <array>
+#include <set>
+#include <utility>
 
 namespace orvane::run {
 
@@ -119,7 +121,7 @@ class TourGuide {
 
     void AddNames(const NamesHead& names) {
         for (const NamesHead::Entry& entry : names.Entries) {
-            if (std::find(names_.Entries.begin(), names_.Entries.end(), entry) == names_.Entries.end())
+            if (named_.emplace(entry.IsEvent, entry.Name.Number.value_or(0)).second)
                 names_.Entries.push_back(entry);
         }
     }
@@ -150,6 +152,7 @@ class TourGuide {
     WayDriver driver_;
     int tests_ = 0;
     NamesHead names_;
+    std::set<std::pair<bool, int>> named_; // what stands in it
     Tour tour_;
 };
 
