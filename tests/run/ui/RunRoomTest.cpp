@@ -280,6 +280,21 @@ TEST_F(RunRoomTest, AClickInTheLogGoesToThatMoment) {
     EXPECT_EQ(Rows("lstLog").size(), 4U);
 }
 
+// As many rows as before say something else.
+TEST_F(RunRoomTest, TheLogOfAnotherRunIsDrawnAgain) {
+    StartRunning(TimedPump());
+    PressButton("cmdPowerOn");
+    PressKey(Qt::Key_Space);
+    int resets = 0;
+    QObject::connect(List("lstLog").model(), &QAbstractItemModel::modelReset, &Pane(), [&] { ++resets; });
+    PressKey(Qt::Key_Space);
+    EXPECT_EQ(resets, 0);
+    PressButton("cmdPowerOn");
+    EXPECT_EQ(resets, 1);
+    TypeTarget(6, 1, QStringLiteral("3"));
+    EXPECT_EQ(resets, 2);
+}
+
 TEST_F(RunRoomTest, F1InThePaneOpensItsPage) {
     OpenedAddresses opened;
     StartRunning(TimedPump());
