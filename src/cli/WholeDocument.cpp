@@ -3,6 +3,7 @@
 
 #include "cli/DocumentPath.h"
 #include "cli/MessageText.h"
+#include "core/ForeignBytes.h"
 #include "files/FileReader.h"
 
 #include <utility>
@@ -19,6 +20,8 @@ std::optional<ReadResult> ReadNamedDocument(FileSystem& files, const std::string
         return std::nullopt;
     }
     ReadResult read = ReadDocument(file.Bytes());
+    for (const ReaderMessage& message : ForeignMessages(file.Bytes()))
+        outcome.Errors += MessageLine(name, message);
     for (const ReaderMessage& message : read.Messages)
         outcome.Errors += MessageLine(name, message);
     if (read.BrokeOff)

@@ -103,6 +103,10 @@ TEST_F(Diff, TextSavedAsUtf8ByMistakeIsShownAsWhatItIsNow) {
     WriteFile("utf8.zfsm", Replaced(PumpDocument(), "<NAME>Idle", "<NAME>K\xC3\xBChl"));
     EXPECT_THAT(Run("diff good.zfsm utf8.zfsm").Output,
                 HasSubstr("state 1:K\xC3\x83\xC2\xBChl renamed from K\xC3\xBChl (guessed)\n"));
+    WriteFile("utf8.zfsm",
+              Replaced(Replaced(PumpDocument(), "\xA4", "\xC2\xA4"), "<NAME>Idle", "<NAME>K\xC3\xBChl"));
+    EXPECT_THAT(Run("diff good.zfsm utf8.zfsm").Errors,
+                StartsWith("utf8.zfsm: Saved as UTF-8 by another program: "));
 }
 
 TEST_F(Diff, ShowWritesTheDocumentWithNames) {

@@ -118,6 +118,12 @@ TEST_F(Merge, AnEmptyBaseIsThatOfADocumentThatBothSidesAdded) {
     EXPECT_EQ(Run("merge empty base.zfsm base.zfsm").Output, PumpDocument());
 }
 
+TEST_F(Merge, TheMarksOfATextMergeAreTold) {
+    WriteFile("marks.zfsm", Replaced(PumpDocument(), "\xA4<STATE>2:", "<<<<<<< HEAD\r\n\xA4<STATE>2:"));
+    EXPECT_THAT(Run("merge base.zfsm marks.zfsm name.zfsm -o out").Errors,
+                HasSubstr("The marks of a merge conflict stand from here"));
+}
+
 TEST_F(Merge, LineEndsAreNoChange) {
     std::string lf = PumpDocument();
     std::erase(lf, '\r');
