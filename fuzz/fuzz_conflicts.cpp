@@ -19,7 +19,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     for (const review::FoundBlock& block : review::FindConflictBlocks(bytes)) {
         Require(block.Line > last && block.Line <= lines, "blocks stand one behind the other in the text");
         last = block.Line;
-        const std::string again = review::ConflictBlock(ToUtf8(block.Title), block.Base, block.Theirs);
+        const std::string title = ToUtf8(block.Title);
+        const std::string again = review::ConflictBlock({title, block.Base, block.Theirs});
         const std::vector<review::FoundBlock> found = review::FindConflictBlocks(again);
         Require(found.size() == 1 && found.front().IsWhole, "a block that is written is found as a whole");
         Require(found.front().Title == block.Title, "its title comes back");

@@ -35,7 +35,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         rest.remove_prefix(std::min(rest.size(), line.size() + 1));
         const auto fault = line.find('=') == std::string_view::npos
                                ? review::AddDifferent(wishes, line, machine)
-                               : review::AddSame(wishes, line, machine, machine);
+                               : review::AddSame(wishes, line, {machine, machine});
         Require(!fault || !fault->empty(), "a fault says something");
     }
     const review::Matching matching = review::Match(machine, machine, wishes);

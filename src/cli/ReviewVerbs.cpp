@@ -23,7 +23,7 @@ namespace {
 std::optional<Outcome> ReadWishes(const ReviewArguments& asked, const FsmDocument& oldOne,
                                   const FsmDocument& newOne, review::Wishes& wishes) {
     for (const std::string& text : asked.Same) {
-        if (const auto fault = review::AddSame(wishes, text, oldOne, newOne))
+        if (const auto fault = review::AddSame(wishes, text, {oldOne, newOne}))
             return WrongUsage("--same: " + ShownName(*fault));
     }
     for (const std::string& text : asked.Different) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "review/Compare.h"
 
+#include "review/DocumentPair.h"
 #include "review/Match.h"
 #include "review/Presence.h"
 
@@ -10,19 +11,26 @@ namespace orvane::review {
 
 namespace {
 
+// Of one kind, on both sides.
+template <typename Number>
+struct PresentOnes {
+    std::vector<Number> Old;
+    std::vector<Number> New;
+};
+
 // Calls went(old), and same(old, new) or came(new), in the order of the new numbers; what went comes behind
 // what it stood behind.
 template <typename Number, typename Went, typename Same, typename Came>
-void InNewOrder(const std::vector<Number>& oldOnes, const std::vector<Number>& newOnes,
-                const Pairing<Number>& pairing, Went went, Same same, Came came) {
-    auto next = oldOnes.begin();
+void InNewOrder(const PresentOnes<Number>& present, const Pairing<Number>& pairing, Went went, Same same,
+                Came came) {
+    auto next = present.Old.begin();
     const auto tellWentUpTo = [&](Number end) {
-        for (; next != oldOnes.end() && *next < end; ++next) {
+        for (; next != present.Old.end() && *next < end; ++next) {
             if (!pairing.HasNew(*next))
                 went(*next);
         }
     };
-    for (const Number number : newOnes) {
+    for (const Number number : present.New) {
         if (!pairing.HasOld(number)) {
             came(number);
             continue;
@@ -36,13 +44,13 @@ void InNewOrder(const std::vector<Number>& oldOnes, const std::vector<Number>& n
 
 class Comparer {
   public:
-    Comparer(const FsmDocument& oldOne, const FsmDocument& newOne, const Matching& matching)
-        : old_(oldOne), new_(newOne), same_(matching), list_{matching, {}} {}
+    Comparer(const DocumentPair& documents, const Matching& matching)
+        : old_(documents.Old), new_(documents.New), same_(matching), list_{matching, {}} {}
 
     ChangeList Compare() {
         CompareMachine();
         InNewOrder(
-            PresentEvents(old_), PresentEvents(new_), same_.Rows,
+            PresentOnes<RowNumber>{PresentEvents(old_), PresentEvents(new_)}, same_.Rows,
             [this](RowNumber row) {
                 Add({ChangeKind::EventRemoved, {row, kNoState}, {}}, EventContent(old_, row, false));
             },
@@ -51,7 +59,7 @@ class Comparer {
                 Add({ChangeKind::EventAdded, {}, {row, kNoState}}, EventContent(new_, row, true));
             });
         InNewOrder(
-            PresentStates(old_), PresentStates(new_), same_.States,
+            PresentOnes<StateNumber>{PresentStates(old_), PresentStates(new_)}, same_.States,
             [this](StateNumber state) {
                 Add({ChangeKind::StateRemoved, {kNoRow, state}, {}}, StateContent(old_.State(state), state));
             },
@@ -208,7 +216,7 @@ Content Comparer::StateContent(const StateRecord& record, StateNumber state) con
 } // namespace
 
 ChangeList Compare(const FsmDocument& oldOne, const FsmDocument& newOne, const Matching& matching) {
-    return Comparer(oldOne, newOne, matching).Compare();
+    return Comparer({oldOne, newOne}, matching).Compare();
 }
 
 ChangeList Compare(const FsmDocument& oldOne, const FsmDocument& newOne) {

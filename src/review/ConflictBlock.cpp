@@ -112,11 +112,11 @@ class DocumentSearch {
 
 } // namespace
 
-std::string ConflictBlock(std::string_view title, std::string_view base, std::string_view theirs) {
+std::string ConflictBlock(const BlockContent& content) {
     std::string block(kBegin);
-    block.append(FromUtf8(title, '?')).append(kLineEnd);
-    block.append(kBase).append(kLineEnd).append(AsComments(base));
-    block.append(kTheirs).append(kLineEnd).append(AsComments(theirs));
+    block.append(FromUtf8(content.Title, '?')).append(kLineEnd);
+    block.append(kBase).append(kLineEnd).append(AsComments(content.Base));
+    block.append(kTheirs).append(kLineEnd).append(AsComments(content.Theirs));
     return block.append(kEnd);
 }
 

@@ -19,8 +19,14 @@
 
 namespace orvane::review {
 
-// Document text without a line end behind it. The title is UTF-8.
-std::string ConflictBlock(std::string_view title, std::string_view base, std::string_view theirs);
+struct BlockContent {
+    std::string_view Title; // UTF-8
+    std::string_view Base;  // document text
+    std::string_view Theirs;
+};
+
+// Document text without a line end behind it.
+std::string ConflictBlock(const BlockContent& content);
 
 // A block as it stands in a text, as document text.
 struct FoundBlock {

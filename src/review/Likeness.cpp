@@ -30,9 +30,8 @@ class Likeness::Sum {
     double same_ = 0;
 };
 
-Likeness::Likeness(const MachineDigest& oldOne, const MachineDigest& newOne, const Matching& known,
-                   TextIds& ids)
-    : old_(oldOne), new_(newOne), known_(known), ids_(ids) {
+Likeness::Likeness(const Machines& machines, const Matching& known, TextIds& ids)
+    : old_(machines.Old), new_(machines.New), known_(known), ids_(ids) {
     for (const RowNumber row : CellRows()) {
         if (known.Rows.HasNew(row))
             rows_.push_back({row, known.Rows.NewOf(row)});

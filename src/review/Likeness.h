@@ -14,8 +14,13 @@ namespace orvane::review {
 // nearer one in the order is a little more alike.
 class Likeness {
   public:
+    struct Machines {
+        const MachineDigest& Old;
+        const MachineDigest& New;
+    };
+
     // All must outlive it.
-    Likeness(const MachineDigest& oldOne, const MachineDigest& newOne, const Matching& known, TextIds& ids);
+    Likeness(const Machines& machines, const Matching& known, TextIds& ids);
 
     double OfStates(StateNumber oldState, StateNumber newState) const;
     double OfEvents(RowNumber oldRow, RowNumber newRow) const;

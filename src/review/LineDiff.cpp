@@ -122,9 +122,14 @@ std::vector<std::span<const LineChange>> Groups(std::span<const LineChange> chan
     return groups;
 }
 
+struct BothLines {
+    const Lines& Old;
+    const Lines& New;
+};
+
 class Hunks {
   public:
-    Hunks(const Lines& oldLines, const Lines& newLines) : old_(oldLines), new_(newLines) {}
+    explicit Hunks(const BothLines& lines) : old_(lines.Old), new_(lines.New) {}
 
     void Add(std::span<const LineChange> group) {
         const LineChange& first = group.front();
@@ -206,10 +211,12 @@ std::vector<LineChange> DiffLines(const Lines& oldLines, const Lines& newLines) 
 }
 
 std::vector<std::string> UnifiedDiff(std::string_view oldText, std::string_view newText) {
+    if (oldText == newText)
+        return {};
     const Lines oldLines = LinesOf(oldText);
     const Lines newLines = LinesOf(newText);
     const std::vector<LineChange> changes = DiffLines(oldLines, newLines);
-    Hunks hunks(oldLines, newLines);
+    Hunks hunks({oldLines, newLines});
     for (const std::span<const LineChange> group : Groups(changes))
         hunks.Add(group);
     return hunks.Take();

@@ -86,8 +86,11 @@ class LineMerger {
         if (theirs == base)
             return;
         ++conflicts_;
-        if (blocks_ == Blocks::With)
-            merged_.push_back(ConflictBlock(title_, TextOf(base), TextOf(theirs)));
+        if (blocks_ == Blocks::Without)
+            return;
+        const std::string baseText = TextOf(base);
+        const std::string theirText = TextOf(theirs);
+        merged_.push_back(ConflictBlock({title_, baseText, theirText}));
     }
 
     Lines base_;

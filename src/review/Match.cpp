@@ -8,6 +8,7 @@
 
 #include "core/DocumentWriter.h"
 #include "review/Assignment.h"
+#include "review/DocumentPair.h"
 #include "review/Likeness.h"
 #include "review/ListLength.h"
 
@@ -48,8 +49,8 @@ void JoinByUniqueKey(Pairing<Number>& pairing, const Sides<Number>& free, OldKey
 
 class Matcher {
   public:
-    Matcher(const FsmDocument& oldOne, const FsmDocument& newOne, const Wishes& wishes)
-        : old_(oldOne, ids_), new_(newOne, ids_) {
+    Matcher(const DocumentPair& documents, const Wishes& wishes)
+        : old_(documents.Old, ids_), new_(documents.New, ids_) {
         Follow(wishes.States, known_.States, states_ = {old_.States(), new_.States()});
         Follow(wishes.Rows, known_.Rows, rows_ = {old_.Events(), new_.Events()});
         JoinByNames();
@@ -195,14 +196,14 @@ void JoinAssigned(Pairing<Number>& pairing, const Sides<Number>& free, LikenessO
 }
 
 void Matcher::AssignStates(Matching& next, const Matching& seenThrough) {
-    const Likeness likeness(old_, new_, seenThrough, ids_);
+    const Likeness likeness({old_, new_}, seenThrough, ids_);
     JoinAssigned(next.States, states_, [&](StateNumber oldState, StateNumber newState) {
         return likeness.OfStates(oldState, newState);
     });
 }
 
 void Matcher::AssignEvents(Matching& next, const Matching& seenThrough) {
-    const Likeness likeness(old_, new_, seenThrough, ids_);
+    const Likeness likeness({old_, new_}, seenThrough, ids_);
     JoinAssigned(next.Rows, rows_,
                  [&](RowNumber oldRow, RowNumber newRow) { return likeness.OfEvents(oldRow, newRow); });
 }
@@ -260,8 +261,8 @@ Matching Match(const FsmDocument& oldOne, const FsmDocument& newOne, const Wishe
     if (oldBytes == newBytes && wishes.States.empty() && wishes.Rows.empty())
         return NumberByNumber(oldOne);
     if (oldBytes <= newBytes)
-        return Matcher(oldOne, newOne, wishes).Best();
-    return Matcher(newOne, oldOne, wishes.Mirrored()).Best().Mirrored();
+        return Matcher({oldOne, newOne}, wishes).Best();
+    return Matcher({newOne, oldOne}, wishes.Mirrored()).Best().Mirrored();
 }
 
 } // namespace orvane::review

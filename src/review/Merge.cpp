@@ -40,7 +40,7 @@ std::string& TextFor(const Conflict& conflict, FsmDocument& document) {
 void PlaceBlock(const Conflict& conflict, FsmDocument& document) {
     std::string& text = TextFor(conflict, document);
     text.append(text.empty() ? "" : kLineEnd)
-        .append(ConflictBlock(conflict.What, conflict.Base, conflict.Theirs));
+        .append(ConflictBlock({conflict.What, conflict.Base, conflict.Theirs}));
 }
 
 // When these were asked nothing had its number in the merged document yet.

@@ -51,7 +51,7 @@ class Orderer {
 
     // Returns what found no room.
     std::vector<Node<Number>*> GiveNumbers() {
-        const std::vector<Node<Number>*> homeless = MakeRoom();
+        std::vector<Node<Number>*> homeless = MakeRoom();
         Number next = OrderedNumbers<Number>().First();
         for (Node<Number>* node : slots_) {
             if (node)
@@ -174,12 +174,12 @@ class WholeOrder {
         return row.IsOn(side) ? EventContent(plan_.Document(side), row.On(side)) : "";
     }
     template <typename Number>
-    void GiveUp(const std::vector<Node<Number>*>& homeless, const std::string& kind,
-                const std::string& limit) {
+    void GiveUp(const std::vector<Node<Number>*>& homeless, const char* kind, const char* limit) {
         for (Node<Number>* node : homeless) {
             node->Stays = false;
-            Ask(ConflictKind::NoRoom,
-                kind + TitleOf(plan_, *node) + " has no room: a document has at most " + limit);
+            std::string what = kind;
+            what.append(TitleOf(plan_, *node)).append(" has no room: a document has at most ").append(limit);
+            Ask(ConflictKind::NoRoom, what);
             plan_.Conflicts.back().Theirs = ContentOf(*node, Side::Theirs);
             plan_.Conflicts.back().Ours = ContentOf(*node, Side::Ours);
         }

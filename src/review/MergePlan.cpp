@@ -34,24 +34,34 @@ std::map<std::string, std::vector<Number>> ByName(const FsmDocument& document,
     return byName;
 }
 
-// What both sides added is the same where it has a name that neither side added twice, or where it has the
-// same number and the same content.
 template <typename Number>
-std::map<Number, Number> AddedTwice(const MergePlan& plan, const std::vector<Number>& ours,
-                                    const std::vector<Number>& theirs) {
+struct Added {
+    std::vector<Number> Ours;
+    std::vector<Number> Theirs;
+};
+
+template <typename Number>
+void PairSameNumbers(std::map<Number, Number>& pairs, const Added<Number>& added) {
+    for (const Number number : added.Theirs) {
+        if (std::find(added.Ours.begin(), added.Ours.end(), number) != added.Ours.end())
+            pairs.emplace(number, number);
+    }
+}
+
+// What both sides added is the same where it has a name that neither side added twice, or else where it has
+// the same name and the same number.
+template <typename Number>
+std::map<Number, Number> AddedTwice(const MergePlan& plan, const Added<Number>& added) {
     std::map<Number, Number> pairs; // ours by theirs
-    const auto oursByName = ByName(plan.Document(Side::Ours), ours);
-    for (const auto& [name, numbers] : ByName(plan.Document(Side::Theirs), theirs)) {
+    const auto oursByName = ByName(plan.Document(Side::Ours), added.Ours);
+    for (const auto& [name, numbers] : ByName(plan.Document(Side::Theirs), added.Theirs)) {
         const auto same = oursByName.find(name);
         if (same == oursByName.end())
             continue;
         if (!name.empty() && numbers.size() == 1 && same->second.size() == 1)
             pairs.emplace(numbers.front(), same->second.front());
         else
-            for (const Number number : numbers) {
-                if (std::find(same->second.begin(), same->second.end(), number) != same->second.end())
-                    pairs.emplace(number, number);
-            }
+            PairSameNumbers<Number>(pairs, {same->second, numbers});
     }
     return pairs;
 }
@@ -61,15 +71,15 @@ void AddNodes(const MergePlan& plan, Nodes<Number>& nodes, Pairing<Number> Match
               const std::array<std::vector<Number>, 3>& present) {
     for (const Number number : present[IndexOf(Side::Base)])
         nodes.Add({{number, (plan.ToOurs.*kind).NewOf(number), (plan.ToTheirs.*kind).NewOf(number)}});
-    const std::vector<Number> ours = AddedOnes(present[IndexOf(Side::Ours)], plan.ToOurs.*kind);
-    const std::vector<Number> theirs = AddedOnes(present[IndexOf(Side::Theirs)], plan.ToTheirs.*kind);
-    const std::map<Number, Number> oursOf = AddedTwice(plan, ours, theirs);
-    for (const Number number : ours) {
+    const Added<Number> added{AddedOnes(present[IndexOf(Side::Ours)], plan.ToOurs.*kind),
+                              AddedOnes(present[IndexOf(Side::Theirs)], plan.ToTheirs.*kind)};
+    const std::map<Number, Number> oursOf = AddedTwice(plan, added);
+    for (const Number number : added.Ours) {
         const auto twin = std::find_if(oursOf.begin(), oursOf.end(),
                                        [&](const auto& pair) { return pair.second == number; });
         nodes.Add({{Number(), number, twin == oursOf.end() ? Number() : twin->first}});
     }
-    for (const Number number : theirs) {
+    for (const Number number : added.Theirs) {
         if (oursOf.count(number) == 0)
             nodes.Add({{Number(), Number(), number}});
     }

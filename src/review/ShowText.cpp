@@ -59,7 +59,7 @@ class Shower {
             if (IsEmptyCell(record, row))
                 continue;
             Line("  in " + NameOf(state) + LeadsTo(record.Targets[row]));
-            Code("    ", record.Actions[row]);
+            Code(4, record.Actions[row]);
         }
         return std::move(text_);
     }
@@ -80,9 +80,9 @@ class Shower {
     }
 
     void Line(const std::string& line) { text_ += line + "\n"; }
-    void Code(const std::string& indent, const std::string& text) {
+    void Code(std::size_t indent, const std::string& text) {
         for (const std::string_view line : LinesOf(text))
-            Line(indent + CodeLine(line));
+            Line(std::string(indent, ' ') + CodeLine(line));
     }
 
     // Names are shown trimmed; one with blanks at its ends is shown once more as it is.
@@ -96,7 +96,7 @@ class Shower {
         if (!IsCode(field.File.Tag))
             return Line("  " + std::string(field.Name) + ": " + OneLine(value));
         Line("  " + std::string(field.Name) + ":");
-        Code("    ", value);
+        Code(4, value);
     }
     template <typename Field, typename Value>
     void ShowField(const Field& field, const Value& value) {
@@ -146,7 +146,7 @@ void Shower::ShowState(StateNumber state) {
         if (IsEmptyCell(record, row))
             continue;
         Line("  on " + NameOf(row) + LeadsTo(record.Targets[row]));
-        Code("    ", record.Actions[row]);
+        Code(4, record.Actions[row]);
     }
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "review/TellChanges.h"
 
+#include "review/DocumentPair.h"
 #include "review/LineDiff.h"
 #include "review/Titles.h"
 #include "text/NumberText.h"
@@ -13,8 +14,8 @@ namespace {
 
 class Teller {
   public:
-    Teller(const Change& change, const FsmDocument& oldOne, const FsmDocument& newOne)
-        : change_(change), old_(oldOne), new_(newOne) {}
+    Teller(const Change& change, const DocumentPair& documents)
+        : change_(change), old_(documents.Old), new_(documents.New) {}
 
     ToldChange Tell() {
         switch (change_.Kind) {
@@ -175,7 +176,7 @@ std::string Renumbered(const Pairing<Number>& pairing, const std::string& what) 
 } // namespace
 
 ToldChange TellChange(const Change& change, const FsmDocument& oldOne, const FsmDocument& newOne) {
-    return Teller(change, oldOne, newOne).Tell();
+    return Teller(change, {oldOne, newOne}).Tell();
 }
 
 std::string TellRenumbering(const Matching& matching) {

@@ -37,7 +37,7 @@ class Side {
             return FindState(ParseNumber(text), std::nullopt, text);
         if (colon != std::string_view::npos && IsNumber(text.substr(0, colon)))
             return FindState(ParseNumber(text.substr(0, colon)), text.substr(colon + 1), text);
-        const Named byName = FindName(text);
+        Named byName = FindName(text);
         if (!byName.Fault.empty() && text.starts_with('e') && IsNumber(text.substr(1)))
             return FindRow(ParseNumber(text.substr(1)), text);
         return byName;
@@ -116,10 +116,9 @@ std::optional<std::string> Add(std::vector<Wish<Number>>& wishes, const Wish<Num
 
 } // namespace
 
-std::optional<std::string> AddSame(Wishes& wishes, std::string_view text, const FsmDocument& oldOne,
-                                   const FsmDocument& newOne) {
-    const Side oldSide(oldOne, "old");
-    const Side newSide(newOne, "new");
+std::optional<std::string> AddSame(Wishes& wishes, std::string_view text, const DocumentPair& documents) {
+    const Side oldSide(documents.Old, "old");
+    const Side newSide(documents.New, "new");
     std::optional<std::string> fault;
     for (std::size_t at = text.find('='); at != std::string_view::npos; at = text.find('=', at + 1)) {
         const Named oldName = oldSide.Find(text.substr(0, at));

@@ -2,7 +2,7 @@
 // Reads what a user says of identities: which state or event is which.
 #pragma once
 
-#include "core/FsmDocument.h"
+#include "review/DocumentPair.h"
 #include "review/Match.h"
 
 #include <optional>
@@ -17,7 +17,7 @@ namespace orvane::review {
 
 // "OLD=NEW": the same state, or the same event, in both documents. A name may hold "=".
 [[nodiscard]] std::optional<std::string> AddSame(Wishes& wishes, std::string_view text,
-                                                 const FsmDocument& oldOne, const FsmDocument& newOne);
+                                                 const DocumentPair& documents);
 
 // "OLD": it is not in the new document.
 [[nodiscard]] std::optional<std::string> AddDifferent(Wishes& wishes, std::string_view text,

@@ -18,7 +18,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 TEST(ConflictBlock, IsFoundAgainWithWhatItHolds) {
-    const std::string block = ConflictBlock("K\xC3\xBChl, name", "old\r\nlines", "");
+    const std::string block = ConflictBlock({"K\xC3\xBChl, name", "old\r\nlines", ""});
     EXPECT_EQ(block, ";<<<<<<< CONFLICT: K\xFChl, name\r\n;||||||| BASE\r\n;old\r\n;lines\r\n"
                      ";======= THEIRS\r\n;>>>>>>> CONFLICT");
     EXPECT_THAT(FindConflictBlocks("\tOn\r\n" + block + "\r\n\tOff"),
@@ -26,7 +26,7 @@ TEST(ConflictBlock, IsFoundAgainWithWhatItHolds) {
 }
 
 TEST(ConflictBlock, OneThatWasCutShortIsStillAConflict) {
-    const std::string block = ConflictBlock("a", "b", "c");
+    const std::string block = ConflictBlock({"a", "b", "c"});
     for (std::size_t length = std::string_view(";<<<<<<< CONFLICT: ").size(); length < block.size();
          ++length) {
         const std::vector<FoundBlock> found = FindConflictBlocks(block.substr(0, length));
@@ -44,7 +44,7 @@ TEST(ConflictBlock, MarkersOfOtherToolsAreNone) {
 
 TEST(FindConflicts, LooksIntoEveryTextOfADocument) {
     FsmDocument document = EveryFieldDocument();
-    const std::string block = ConflictBlock("a", "b", "c");
+    const std::string block = ConflictBlock({"a", "b", "c"});
     document.General.HeaderComment = block;
     document.Event(6).Code = block;
     document.State(100).TimingVar = block;
@@ -80,7 +80,7 @@ TEST(MergeLines, ChangesThatTouchAreAConflict) {
     EXPECT_EQ(Merged("1", "1\r\nx", "1\r\ny"), "conflict");
     EXPECT_EQ(Merged("", "x", "y"), "conflict");
     const MergedText merged = MergeLines({"1\r\n2\r\n3", "1\r\nx\r\n3", "1\r\ny\r\nz\r\n3"}, "t");
-    EXPECT_EQ(merged.Text, "1\r\nx\r\n" + ConflictBlock("t", "2", "y\r\nz") + "\r\n3");
+    EXPECT_EQ(merged.Text, "1\r\nx\r\n" + ConflictBlock({"t", "2", "y\r\nz"}) + "\r\n3");
     EXPECT_EQ(merged.Conflicts, 1);
     EXPECT_EQ(MergeLines({"1", "x", "y"}, "t", review::Blocks::Without).Text, "x");
 }

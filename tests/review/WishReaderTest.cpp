@@ -18,9 +18,11 @@ SmallTable Table() {
     return table;
 }
 
+const FsmDocument kTable = Table().Document();
+
 Wishes Read(const char* text) {
     Wishes wishes;
-    EXPECT_EQ(AddSame(wishes, text, Table().Document(), Table().Document()), std::nullopt) << text;
+    EXPECT_EQ(AddSame(wishes, text, {kTable, kTable}), std::nullopt) << text;
     return wishes;
 }
 
@@ -33,7 +35,7 @@ void ExpectStates(const char* text, int oldState, int newState) {
 
 std::string Fault(const char* text) {
     Wishes wishes;
-    return AddSame(wishes, text, Table().Document(), Table().Document()).value_or("no fault");
+    return AddSame(wishes, text, {kTable, kTable}).value_or("no fault");
 }
 
 TEST(WishReader, TakesNumbersNamesAndBoth) {
@@ -73,12 +75,12 @@ TEST(WishReader, SaysWhatIsWrong) {
 TEST(WishReader, RefusesASecondWishForTheSame) {
     Wishes wishes;
     const FsmDocument document = Table().Document();
-    EXPECT_EQ(AddSame(wishes, "1=3", document, document), std::nullopt);
+    EXPECT_EQ(AddSame(wishes, "1=3", {document, document}), std::nullopt);
     EXPECT_EQ(AddDifferent(wishes, "2", document), std::nullopt);
     EXPECT_EQ(AddDifferent(wishes, "e6", document), std::nullopt);
-    EXPECT_EQ(AddSame(wishes, "1=4", document, document),
+    EXPECT_EQ(AddSame(wishes, "1=4", {document, document}),
               "\"1=4\" says again what the same state or event is");
-    EXPECT_EQ(AddSame(wishes, "5=3", document, document),
+    EXPECT_EQ(AddSame(wishes, "5=3", {document, document}),
               "\"5=3\" says again what the same state or event is");
     EXPECT_EQ(AddDifferent(wishes, "2", document), "\"2\" says again what the same state or event is");
     EXPECT_EQ(wishes.States.size(), 2u);
