@@ -136,6 +136,12 @@ class Orderer {
     Slots slots_;
 };
 
+// How many of a kind a document holds, for people.
+struct Limit {
+    const char* Kind;
+    const char* Most;
+};
+
 class WholeOrder {
   public:
     explicit WholeOrder(MergePlan& plan) : plan_(plan) {}
@@ -146,13 +152,13 @@ class WholeOrder {
             plan_.Notes.push_back("both sides moved states; their order is ours");
         states.Order();
         DecideStart(states);
-        GiveUp(states.GiveNumbers(), "state ", "100 states");
+        GiveUp(states.GiveNumbers(), {"state ", "100 states"});
         Orderer<RowNumber> rows(plan_, plan_.Rows, &Matching::Rows);
         if (rows.IsDisputed())
             Ask(ConflictKind::Order,
                 "both sides moved events; their order, which is their priority, is ours");
         rows.Order();
-        GiveUp(rows.GiveNumbers(), "event ", "49 events");
+        GiveUp(rows.GiveNumbers(), {"event ", "49 events"});
     }
 
   private:
@@ -174,11 +180,13 @@ class WholeOrder {
         return row.IsOn(side) ? EventContent(plan_.Document(side), row.On(side)) : "";
     }
     template <typename Number>
-    void GiveUp(const std::vector<Node<Number>*>& homeless, const char* kind, const char* limit) {
+    void GiveUp(const std::vector<Node<Number>*>& homeless, const Limit& limit) {
         for (Node<Number>* node : homeless) {
             node->Stays = false;
-            std::string what = kind;
-            what.append(TitleOf(plan_, *node)).append(" has no room: a document has at most ").append(limit);
+            std::string what = limit.Kind;
+            what.append(TitleOf(plan_, *node))
+                .append(" has no room: a document has at most ")
+                .append(limit.Most);
             Ask(ConflictKind::NoRoom, what);
             plan_.Conflicts.back().Theirs = ContentOf(*node, Side::Theirs);
             plan_.Conflicts.back().Ours = ContentOf(*node, Side::Ours);

@@ -14,6 +14,9 @@ namespace orvane::review {
 
 namespace {
 
+// A longer text names nothing: it would be tried at each of its "=".
+constexpr std::size_t kLongestWish = 1000;
+
 struct Named {
     std::variant<std::monostate, StateNumber, RowNumber> What;
     std::string Fault; // when there is nothing
@@ -117,6 +120,8 @@ std::optional<std::string> Add(std::vector<Wish<Number>>& wishes, const Wish<Num
 } // namespace
 
 std::optional<std::string> AddSame(Wishes& wishes, std::string_view text, const DocumentPair& documents) {
+    if (text.size() > kLongestWish)
+        return "a text of " + NumberText(std::int64_t(text.size())) + " bytes names no state or event";
     const Side oldSide(documents.Old, "old");
     const Side newSide(documents.New, "new");
     std::optional<std::string> fault;

@@ -70,6 +70,7 @@ TEST(WishReader, SaysWhatIsWrong) {
     EXPECT_EQ(Fault("1=e6"), "a state is no event: \"1=e6\"");
     EXPECT_EQ(Fault("="), "the old document has no state or event \"\"");
     EXPECT_EQ(Fault(""), "\"\" is not OLD=NEW");
+    EXPECT_EQ(Fault(std::string(100000, '=').c_str()), "a text of 100000 bytes names no state or event");
 }
 
 TEST(WishReader, RefusesASecondWishForTheSame) {
