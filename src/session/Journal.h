@@ -35,6 +35,7 @@ class Journal final : public SessionObserver, private JournalSource {
 
     // Whether a journal is kept at all. Who wants none leaves none behind: what was written so far goes.
     void Keep(bool keep);
+    bool Keeps() const { return keeps_; }
 
     // Waits until the disk has everything.
     void SyncNow() { writer_.SyncNow(); }

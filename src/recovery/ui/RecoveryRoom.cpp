@@ -152,7 +152,7 @@ void RecoveryRoom::GoOnWith(AdoptedJournal recovered) {
     const std::vector<std::string> messages = recovered.Journal.Messages;
     const AdoptedJournal held{{}, recovered.Files};
     journal_->GoOnWith(std::move(recovered));
-    if (!KeepsJournal()) // nothing holds the work in its place
+    if (!journal_->Keeps()) // nothing holds the work in its place
         folder_->LetGo(held);
     const WorkList work = Work();
     Window().ShowWork(work);

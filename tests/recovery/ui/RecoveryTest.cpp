@@ -1,80 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The real main window, left in the middle of the work and started again.
-#include "core/DocumentWriter.h"
-#include "files/NativeFiles.h"
-#include "kit/KeepsJournal.h"
-#include "session/RecoveryFolder.h"
-#include "support/ui/Controls.h"
-#include "support/ui/TableFixture.h"
-
-#include <QAbstractItemModel>
-#include <QApplication>
-#include <QCheckBox>
-#include <QDir>
-#include <QLabel>
-#include <QPlainTextEdit>
-#include <QTest>
-#include <QTreeView>
+#include "recovery/ui/RecoveryFixture.h"
 
 namespace orvane {
 namespace {
 
-const QString kNoDocument = QStringLiteral("/nosplash");
-
-JournalTime Now() { return std::chrono::floor<std::chrono::milliseconds>(std::chrono::system_clock::now()); }
-
-class RecoveryTest : public TableFixture {
-  protected:
-    ~RecoveryTest() override { (void)SetKeepsJournal(true); }
-
-    RecoveryFolder Folder() { return {files_, FolderPath().toStdString()}; }
-    QString FolderPath() const { return Path(QStringLiteral("state/orvane/recovery")); }
-    QStringList Journals() const { return QDir(FolderPath()).entryList({QStringLiteral("*.orj")}); }
-
-    // A window that drew transitions of event 6 in the states from 1 on, each to itself, and was killed.
-    void LoseTransitions(const QString& document, int count) {
-        WriteFile(document, WriteDocument(PumpDocument()));
-        Start({Path(document)});
-        for (int state = 1; state <= count; ++state)
-            TypeTarget(6, state, QString::number(state));
-        Crash();
-    }
-    void LoseWork() { LoseTransitions(QStringLiteral("machine.zfsm"), 2); }
-
-    bool IsOffered() {
-        const QWidget* window = Find<QWidget>("frmRecovery");
-        return window != nullptr && window->isVisible();
-    }
-    // Starts again and waits until what was lost is offered.
-    void StartAgain(const QString& argument = kNoDocument) {
-        Start({argument});
-        ASSERT_TRUE(QTest::qWaitFor([this] { return IsOffered(); }));
-    }
-    // The same, and draws something in a document of its own.
-    void StartAgainAndDraw() {
-        WriteFile(QStringLiteral("other.zfsm"), WriteDocument(PumpDocument()));
-        StartAgain(Path(QStringLiteral("other.zfsm")));
-        TypeTarget(7, 1, QStringLiteral("2"));
-    }
-    QWidget& Recovery() { return *Find<QWidget>("frmRecovery"); }
-    QTreeView& List(const char* name) { return Named<QTreeView>(Recovery(), name); }
-    int Count(const char* list) { return List(list).model()->rowCount(); }
-    std::string Shown(const char* list, int row, int column) {
-        return List(list).model()->index(row, column).data().toString().toStdString();
-    }
-    void Choose(const char* list, int row) { List(list).setCurrentIndex(List(list).model()->index(row, 0)); }
-    QPlainTextEdit& Script() {
-        for (QWidget* window : QApplication::topLevelWidgets()) {
-            if (window->objectName() == QStringLiteral("frmBuilder"))
-                return Named<QPlainTextEdit>(*window, "txtBuildScript");
-        }
-        throw std::runtime_error("no builder window");
-    }
-    bool IsEnabled(const char* button) { return Named<QPushButton>(Recovery(), button).isEnabled(); }
-
-  private:
-    NativeFiles files_;
-};
+class RecoveryTest : public RecoveryFixture {};
 
 TEST_F(RecoveryTest, WhatAKilledWindowHadDrawnIsOfferedAndComesBack) {
     LoseWork();
@@ -334,7 +265,7 @@ TEST_F(RecoveryTest, WorkThatAnotherWindowHasTakenIsNotTakenTwice) {
     LoseWork();
     StartAgain();
     const RecoveryFolder folder = Folder();
-    const Result<AdoptedJournal> taken = folder.Adopt(Journals().constFirst().toStdString(), Now());
+    const Result<AdoptedJournal> taken = folder.Adopt(Journals().constFirst().toStdString(), TimeNow());
     ASSERT_FALSE(taken.Failure);
     Answers.Press(QMessageBox::Ok);
     Press(Recovery(), "cmdRecover");
@@ -393,44 +324,6 @@ TEST_F(RecoveryTest, TheScriptThatWasBeingTypedComesBackInItsWindow) {
         Crash();
     }
     EXPECT_FALSE(ReadFile(QStringLiteral("machine.b1d")).ends_with("half a li"));
-}
-
-TEST_F(RecoveryTest, WhoSwitchesTheJournalOffLeavesNoCopies) {
-    StartOn(PumpDocument());
-    Trigger("mnuFRecover");
-    auto& keep = Named<QCheckBox>(Recovery(), "chkKeepJournal");
-    EXPECT_TRUE(keep.isChecked());
-    TypeTarget(6, 2, QStringLiteral("2"));
-    ASSERT_EQ(Journals().size(), 1);
-    keep.click();
-    EXPECT_TRUE(Journals().isEmpty()) << "what was kept so far goes too";
-    TypeTarget(6, 1, QStringLiteral("1"));
-    EXPECT_TRUE(Journals().isEmpty());
-    Crash();
-    StartOn(PumpDocument());
-    TypeTarget(6, 1, QStringLiteral("1"));
-    EXPECT_TRUE(Journals().isEmpty()) << "it holds for later starts";
-    Trigger("mnuFRecover");
-    auto& kept = Named<QCheckBox>(Recovery(), "chkKeepJournal");
-    EXPECT_FALSE(kept.isChecked());
-    kept.click();
-    TypeTarget(6, 2, QStringLiteral("1"));
-    EXPECT_EQ(Journals().size(), 1);
-}
-
-// Nothing takes the place of the recovered journal, so it stays until somebody deletes it.
-TEST_F(RecoveryTest, WithoutAJournalRecoveredWorkStaysInTheList) {
-    LoseWork();
-    StartAgain();
-    auto& keep = Named<QCheckBox>(Recovery(), "chkKeepJournal");
-    keep.click();
-    Press(Recovery(), "cmdRecover");
-    EXPECT_EQ(Text(6, 2), "2:Run");
-    EXPECT_EQ(Count("lstRecovered"), 1);
-    Answers.Press(QMessageBox::Yes);
-    Press(Recovery(), "cmdDeleteAll");
-    EXPECT_TRUE(Journals().isEmpty());
-    keep.click();
 }
 
 } // namespace
