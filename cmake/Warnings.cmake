@@ -2,6 +2,11 @@
 # that what another compiler newly warns of stops nobody.
 add_library(orvane_warnings INTERFACE)
 target_compile_options(orvane_warnings INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+  # Of a conversion GCC warns only where a value may be lost. A number of a row or a state, which is never below zero,
+  # is an index as it is.
+  target_compile_options(orvane_warnings INTERFACE -Wno-sign-conversion)
+endif()
 if(MINGW)
   # This compiler's release takes what std::string does with a literal for an overlap.
   target_compile_options(orvane_warnings INTERFACE -Wno-restrict)
