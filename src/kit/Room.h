@@ -13,7 +13,7 @@ class QMainWindow;
 namespace orvane {
 
 class Session;
-class Vocabulary;
+struct Vocabulary;
 enum class Command : unsigned char;
 enum class ObserverRank;
 struct Change;

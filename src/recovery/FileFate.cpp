@@ -3,11 +3,10 @@
 
 namespace orvane {
 
-std::optional<FileFate> FateBySizeAndTime(const FileAsKnown& known, std::uint64_t size,
-                                          std::int64_t modified) {
-    if (size != known.Size)
+std::optional<FileFate> FateBySizeAndTime(const FileAsKnown& known, const FileMeasure& now) {
+    if (now.Size != known.Size)
         return FileFate::ChangedSince;
-    if (modified == known.Modified)
+    if (now.Modified == known.Modified)
         return FileFate::AsItWas;
     return std::nullopt;
 }

@@ -26,10 +26,15 @@ struct FileAsKnown {
     bool operator==(const FileAsKnown&) const = default;
 };
 
+// What is seen of the file now without reading it.
+struct FileMeasure {
+    std::uint64_t Size = 0;
+    std::int64_t Modified = 0;
+};
+
 // As far as can be told without reading the file; none when its bytes have to be compared. Another time alone
 // says nothing: a copied folder, or a tool that writes the same bytes again, leaves the file as it was.
-std::optional<FileFate> FateBySizeAndTime(const FileAsKnown& known, std::uint64_t size,
-                                          std::int64_t modified);
+std::optional<FileFate> FateBySizeAndTime(const FileAsKnown& known, const FileMeasure& now);
 
 FileFate FateByBytes(const FileAsKnown& known, const std::array<std::uint8_t, 32>& sha256);
 

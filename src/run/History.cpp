@@ -11,7 +11,7 @@ namespace {
 // tenth of a millisecond; and the copies of a long run take no more room than its steps.
 constexpr std::size_t kWorkBetweenCopies = 256;
 
-std::size_t IndexOf(int row, int state) { return std::size_t(state * kTableRows + row); }
+std::size_t IndexOf(int row, int state) { return std::size_t(state) * kTableRows + row; }
 
 } // namespace
 

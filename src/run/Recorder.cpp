@@ -158,7 +158,7 @@ class StepWriter {
     std::vector<TestStep> lines_;
 };
 
-void AddLine(TestFile& file, auto&& what) { file.Lines.push_back({std::move(what), std::nullopt, {}}); }
+void AddLine(TestFile& file, auto what) { file.Lines.push_back({std::move(what), std::nullopt, {}}); }
 
 // Runs the test as any other and writes down what it finds.
 void FillExpectations(TestFile& file, const FsmDocument& document, const Machine& machine) {

@@ -99,12 +99,11 @@ void Scans::Look(Partial&& partial) {
     const std::uint64_t tested = machine_.State(partial.Done.To.At.State).Events;
     for (std::uint64_t left = tested & ~partial.Absent; left != 0; left &= left - 1) {
         const std::uint64_t event = LowestBit(left);
-        const bool known = (partial.Done.Events & event) != 0;
-        Partial with = known ? std::move(partial) : partial;
+        if ((partial.Done.Events & event) != 0)
+            return Step(std::move(partial), false);
+        Partial with = partial;
         with.Done.Events |= event;
         Step(std::move(with), false);
-        if (known)
-            return;
         partial.Absent |= event;
     }
     LookWithoutEvents(std::move(partial));

@@ -87,7 +87,7 @@ std::uint32_t StateSpace::Add(const RunPlace& place) {
     return found->second;
 }
 
-void StateSpace::AddWays(std::vector<FoundScan> scans, bool raw) {
+void StateSpace::AddWays(const std::vector<FoundScan>& scans, bool raw) {
     for (const FoundScan& scan : scans) {
         if (scan.Spins) {
             AddEndless(scan);

@@ -86,7 +86,7 @@ class StateSpace {
     Units Now() const { return 2 * horizon_.Longest() + 2; }
     std::string Key(const RunPlace& place) const;
     std::uint32_t Add(const RunPlace& place);
-    void AddWays(std::vector<FoundScan> scans, bool raw);
+    void AddWays(const std::vector<FoundScan>& scans, bool raw);
     void See(const FoundScan& scan);
     void AddWaits(std::uint32_t place);
     void AddWait(const RunPlace& rests, Units wait, std::uint64_t events);

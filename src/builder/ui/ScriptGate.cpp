@@ -21,14 +21,14 @@ bool IsNamedAsScript(const QString& path) {
 // With all links followed, also when the file itself is not there.
 QString TrueFolder(const QString& path) {
     const QFileInfo folder(QFileInfo(path).absolutePath());
-    const QString canonical = folder.canonicalFilePath();
+    QString canonical = folder.canonicalFilePath();
     return canonical.isEmpty() ? QDir::cleanPath(folder.absoluteFilePath()) : canonical;
 }
 
 } // namespace
 
 QString ScriptTarget(const QString& path) {
-    const QString canonical = QFileInfo(path).canonicalFilePath();
+    QString canonical = QFileInfo(path).canonicalFilePath();
     if (!canonical.isEmpty())
         return canonical;
     return TrueFolder(path) + QLatin1Char('/') + QFileInfo(path).fileName();

@@ -179,9 +179,7 @@ void frmBuilder::Settle() {
         return;
     settled_ = true;
     const QString named = txtFileName->text();
-    if (!named.isEmpty() && !MayUse(named))
-        SettleOnDefault();
-    else if (!named.isEmpty() && (ReadScript(named) || !QFileInfo(DefaultName()).isFile()))
+    if (!named.isEmpty() && MayUse(named) && (ReadScript(named) || !QFileInfo(DefaultName()).isFile()))
         Load(named);
     else
         SettleOnDefault();

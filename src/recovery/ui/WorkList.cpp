@@ -33,7 +33,7 @@ FileFate FateSoFar(FileSystem& files, const OrphanedJournal& orphan) {
     if (!orphan.Stamp)
         return FileFate::ChangedSince;
     const FileAsKnown known{orphan.Stamp->Size, orphan.Stamp->Modified, orphan.Stamp->Sha256};
-    const std::optional<FileFate> fate = FateBySizeAndTime(known, facts.Got.Size, facts.Got.Changed);
+    const std::optional<FileFate> fate = FateBySizeAndTime(known, {facts.Got.Size, facts.Got.Changed});
     return fate ? *fate : FateOfBytes(files, path, known);
 }
 
