@@ -5,6 +5,20 @@
 
 namespace orvane {
 
+bool TakeBenchmarkArguments(int argc, char** argv, int repetitions) {
+    // Defaults first: what the caller says comes later and wins. The library keeps the program's name.
+    std::vector<std::string> defaults = {"--benchmark_repetitions=" + std::to_string(repetitions),
+                                         "--benchmark_min_time=0.05",
+                                         "--benchmark_enable_random_interleaving=true"};
+    std::vector<char*> pointers = {argv[0]};
+    for (std::string& argument : defaults)
+        pointers.push_back(argument.data());
+    pointers.insert(pointers.end(), argv + 1, argv + argc);
+    int count = static_cast<int>(pointers.size());
+    benchmark::Initialize(&count, pointers.data());
+    return !benchmark::ReportUnrecognizedArguments(count, pointers.data());
+}
+
 void LeastTimes::ReportRuns(const std::vector<Run>& runs) {
     for (const Run& run : runs) {
         if (run.run_type != Run::RT_Iteration || run.error_occurred)

@@ -21,6 +21,10 @@ struct RatioLine {
     double Aim = 0; // the largest ratio that is good; 0 when there is none
 };
 
+// Reads the command line of a benchmark program, which measures each operation so many times unless the
+// caller says otherwise. False when there is something that no benchmark knows; it is told on standard error.
+bool TakeBenchmarkArguments(int argc, char** argv, int repetitions);
+
 // Keeps the least time of each benchmark, and prints only the table made of them: what disturbs a
 // measurement only ever adds to it.
 class LeastTimes : public benchmark::ConsoleReporter {

@@ -123,16 +123,7 @@ std::vector<FsmDocument> Examples() {
 
 int main(int argc, char** argv) {
     using namespace orvane;
-    // Defaults first: what the caller says comes later and wins.
-    std::vector<std::string> arguments = {argv[0], "--benchmark_repetitions=15", "--benchmark_min_time=0.05",
-                                          "--benchmark_enable_random_interleaving=true"};
-    arguments.insert(arguments.end(), argv + 1, argv + argc);
-    std::vector<char*> pointers;
-    for (std::string& argument : arguments)
-        pointers.push_back(argument.data());
-    int count = static_cast<int>(pointers.size());
-    benchmark::Initialize(&count, pointers.data());
-    if (benchmark::ReportUnrecognizedArguments(count, pointers.data()))
+    if (!TakeBenchmarkArguments(argc, argv, 15))
         return 2;
 
     const FsmDocument limit = DocumentAtTheLimit();

@@ -38,7 +38,7 @@ class Simulation {
         if (machine_ == nullptr || !CanBeRun(*machine_, document_, outcome_))
             return std::move(outcome_);
         if (!asked_.Tests)
-            Print(run::SimulatePowerOn(*machine_, run::Machine(*machine_)), run::Machine(*machine_));
+            PrintPowerOn();
         else if (ReadTests() && Plan())
             RunChosen();
         return std::move(outcome_);
@@ -46,6 +46,10 @@ class Simulation {
 
   private:
     bool FromStandardInput() const { return asked_.Tests == "-"; }
+    void PrintPowerOn() {
+        const run::Machine machine(*machine_);
+        Print(run::SimulatePowerOn(*machine_, machine), machine);
+    }
     std::string TestsName() const { return FromStandardInput() ? "standard input" : *asked_.Tests; }
 
     bool ReadTests() {
