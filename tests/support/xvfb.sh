@@ -45,7 +45,8 @@ await() {
 
 start_display() {
     exec 3<>"$work/number"
-    Xvfb -displayfd 3 -screen 0 1280x900x24 -nolisten tcp 2>"$work/Xvfb.log" &
+    # Without -noreset it begins anew when its last client goes, and drops the one that is just coming.
+    Xvfb -displayfd 3 -screen 0 1280x900x24 -nolisten tcp -noreset 2>"$work/Xvfb.log" &
     started+=($!)
     await "a display" test -s "$work/number"
     DISPLAY=:$(head -1 "$work/number")
