@@ -38,12 +38,6 @@ std::string RowHead(const FsmDocument& document, RowNumber row, const TextMeasur
     }
 }
 
-// A star stands for an action.
-std::string TransitionText(const FsmDocument& document, const StateRecord& state, RowNumber row) {
-    const std::string target = TargetText(document, state.Targets[row]);
-    return state.Actions[row].empty() ? target : target + "*";
-}
-
 std::string StateCell(const FsmDocument& document, Cell cell) {
     const StateRecord& state = document.State(cell.State);
     switch (cell.Row.Number()) {
@@ -56,7 +50,7 @@ std::string StateCell(const FsmDocument& document, Cell cell) {
     case kTimingModeRow:
         return TimingText(state);
     default:
-        return TransitionText(document, state, cell.Row);
+        return TransitionText(document, cell);
     }
 }
 
@@ -88,6 +82,12 @@ std::string ForceLREventAction(Twips column0Width, const TextMeasurer& measure) 
 
 std::string TargetText(const FsmDocument& document, StateNumber state) {
     return state == kNoState ? "" : NumberText(state.Number()) + ":" + document.State(state).Name;
+}
+
+std::string TransitionText(const FsmDocument& document, Cell cell) {
+    const StateRecord& state = document.State(cell.State);
+    const std::string target = TargetText(document, state.Targets[cell.Row]);
+    return state.Actions[cell.Row].empty() ? target : target + "*";
 }
 
 std::string TimingText(const StateRecord& state) {

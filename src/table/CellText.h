@@ -22,6 +22,9 @@ std::string ForceLREventAction(Twips column0Width, const TextMeasurer& measure);
 // How a cell names the state it leads to: number, ":" and name (12:Wait), nothing for kNoState.
 std::string TargetText(const FsmDocument& document, StateNumber state);
 
+// What the cell of a transition says when there is room: the target, and a star for an action.
+std::string TransitionText(const FsmDocument& document, Cell cell);
+
 // How a state times out, in brief; nothing for a mode that nobody knows.
 std::string TimingText(const StateRecord& state);
 

@@ -23,6 +23,10 @@ void RenumberTargets(FsmDocument& document, TableClipboard& clipboard, StateRang
         Renumber(document.State(state), change);
     Renumber(clipboard.ClipState, change);
     Renumber(clipboard.ClipTarget, change);
+    for (BlockCell& cell : clipboard.ClipBlock.Cells) {
+        if (cell.Target)
+            Renumber(*cell.Target, change);
+    }
 }
 
 } // namespace orvane

@@ -59,6 +59,16 @@ StateNumber LastFreeColumnBehind(const FsmDocument& document, StateNumber state)
     return kNoState;
 }
 
+// Whether a copied transition leads to the state.
+bool LeadsTo(const TableClipboard& clipboard, StateNumber state) {
+    if (clipboard.Kind == ClipKind::Transition)
+        return clipboard.ClipTarget == state;
+    const std::vector<BlockCell>& cells = clipboard.ClipBlock.Cells;
+    return clipboard.Kind == ClipKind::Block &&
+           std::any_of(cells.begin(), cells.end(),
+                       [state](const BlockCell& cell) { return cell.Target == state; });
+}
+
 void Forget(TableClipboard& clipboard) { clipboard.Kind = ClipKind::Empty; }
 
 UserMessage BottomRowInUse(StateNumber state) {
@@ -131,8 +141,7 @@ std::optional<UserMessage> InsertState(FsmDocument& document, TableClipboard& cl
 
 void DeleteState(FsmDocument& document, TableClipboard& clipboard, StateNumber state) {
     RequireInRange(state, StateNumbers(), "state");
-    const bool leadsHere = clipboard.Kind == ClipKind::Transition && clipboard.ClipTarget == state;
-    if (leadsHere || clipboard.Kind == ClipKind::Event)
+    if (LeadsTo(clipboard, state) || clipboard.Kind == ClipKind::Event)
         Forget(clipboard);
     StateRecord last = document.State(kStateCount); // stays as it is
     for (StateNumber k = state; k < kStateCount; ++k) {

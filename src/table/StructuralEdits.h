@@ -29,7 +29,7 @@ std::optional<UserMessage> InsertState(FsmDocument& document, TableClipboard& cl
 
 // Takes the state of the column out. Transitions to it are left, and now lead to the state that was behind
 // it. Column 100 keeps its content, so that columns 99 and 100 are the same then. A copied event is
-// forgotten, and so is a copied transition to the state.
+// forgotten, and so are copied transitions when one leads to the state.
 void DeleteState(FsmDocument& document, TableClipboard& clipboard, StateNumber state);
 
 } // namespace orvane

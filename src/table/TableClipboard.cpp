@@ -44,6 +44,33 @@ void CopyTransitionAction(const FsmDocument& document, TableClipboard& clipboard
     clipboard.Kind = ClipKind::TransitionAction;
 }
 
+void CopyCells(const FsmDocument& document, TableClipboard& clipboard, const CellChoice& choice) {
+    if (choice.Size() == 1)
+        return CopyTransition(document, clipboard, {choice.Rows.front(), choice.States.front()});
+    if (choice.IsEmpty())
+        return;
+    clipboard.ClipBlock = BlockOf(document, choice);
+    clipboard.Kind = ClipKind::Block;
+}
+
+void CutCells(FsmDocument& document, TableClipboard& clipboard, const CellChoice& choice) {
+    CopyCells(document, clipboard, choice);
+    ClearCells(document, choice);
+}
+
+std::optional<CellBlock> BlockToPaste(const TableClipboard& clipboard) {
+    switch (clipboard.Kind) {
+    case ClipKind::Block:
+        return clipboard.ClipBlock;
+    case ClipKind::Transition:
+        return CellBlock{1, {{clipboard.ClipTarget, clipboard.ClipAction}}};
+    case ClipKind::TransitionAction:
+        return CellBlock{1, {{std::nullopt, clipboard.ClipAction}}};
+    default:
+        return std::nullopt;
+    }
+}
+
 void CutEntryAction(FsmDocument& document, TableClipboard& clipboard, StateNumber state) {
     CopyEntryAction(document, clipboard, state);
     DeleteEntryAction(document, state);
@@ -100,6 +127,8 @@ PasteItems EnablePasteItems(ClipKind kind, PasteItems present) {
         return {.EntryAction = true};
     case ClipKind::Transition:
         return {.Transition = true, .TransitionAction = true};
+    case ClipKind::Block:
+        return {.Transition = true};
     case ClipKind::TransitionAction:
         break;
     }

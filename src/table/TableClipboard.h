@@ -3,13 +3,14 @@
 
 #include "core/Cell.h"
 #include "core/FsmDocument.h"
+#include "table/CellBlock.h"
 
 #include <array>
 #include <string>
 
 namespace orvane {
 
-enum class ClipKind { Empty, State, Event, EntryAction, Transition, TransitionAction };
+enum class ClipKind { Empty, State, Event, EntryAction, Transition, TransitionAction, Block };
 
 // What was last copied or cut in the table: one thing, the kind says which. The rest is left over from
 // earlier copies; it is pasted only by a command that EnablePasteItems() has left enabled.
@@ -25,6 +26,8 @@ struct TableClipboard {
     std::string ClipAction; // a transition, or its action alone
     StateNumber ClipTarget = kNoState;
 
+    CellBlock ClipBlock; // several transitions
+
     bool operator==(const TableClipboard&) const = default;
 };
 
@@ -33,6 +36,10 @@ void CopyEvent(const FsmDocument& document, TableClipboard& clipboard, RowNumber
 void CopyEntryAction(const FsmDocument& document, TableClipboard& clipboard, StateNumber state);
 void CopyTransition(const FsmDocument& document, TableClipboard& clipboard, Cell cell);
 void CopyTransitionAction(const FsmDocument& document, TableClipboard& clipboard, Cell cell);
+
+// One cell is copied as a transition, several as a block; no cell leaves the clipboard as it is.
+void CopyCells(const FsmDocument& document, TableClipboard& clipboard, const CellChoice& choice);
+void CutCells(FsmDocument& document, TableClipboard& clipboard, const CellChoice& choice);
 
 void CutEntryAction(FsmDocument& document, TableClipboard& clipboard, StateNumber state);
 void CutTransition(FsmDocument& document, TableClipboard& clipboard, Cell cell);
@@ -45,6 +52,10 @@ void PasteEvent(FsmDocument& document, const TableClipboard& clipboard, RowNumbe
 void PasteEntryAction(FsmDocument& document, const TableClipboard& clipboard, StateNumber state);
 void PasteTransition(FsmDocument& document, const TableClipboard& clipboard, Cell cell);
 void PasteTransitionAction(FsmDocument& document, const TableClipboard& clipboard, Cell cell);
+
+// What the clipboard has for transition cells: a block, one cell, an action alone that leaves the target of
+// its cell. None for any other content.
+std::optional<CellBlock> BlockToPaste(const TableClipboard& clipboard);
 
 void DeleteEntryAction(FsmDocument& document, StateNumber state);
 
