@@ -24,7 +24,7 @@ _orvanec() {
     [ "$before" = = ] && before=${COMP_WORDS[COMP_CWORD - 2]}
 
     case $verb:$before in
-        check:--format) COMPREPLY=($(compgen -W 'text json' -- "$typed")) && return ;;
+        check:--format | find:--format) COMPREPLY=($(compgen -W 'text json' -- "$typed")) && return ;;
         diff:--format) COMPREPLY=($(compgen -W 'text json html' -- "$typed")) && return ;;
         diff:--same | diff:--different | merge:--path) return ;;
         git:git) COMPREPLY=($(compgen -W 'enable' -- "$typed")) && return ;;
@@ -43,9 +43,10 @@ _orvanec() {
     esac
     case $verb:$typed in
         :-*) COMPREPLY=($(compgen -W '--help --version' -- "$typed")) ;;
-        :*) COMPREPLY=($(compgen -W 'generate check format test simulate explore tour diff show merge conflicts git' -- "$typed")) ;;
+        :*) COMPREPLY=($(compgen -W 'generate check format find test simulate explore tour diff show merge conflicts git' -- "$typed")) ;;
         check:-*) COMPREPLY=($(compgen -W '--advice --format --help' -- "$typed")) ;;
         generate:-* | format:-*) COMPREPLY=($(compgen -W '--output --help' -- "$typed")) ;;
+        find:-*) COMPREPLY=($(compgen -W '--format --help --ignore-case --regex --word' -- "$typed")) ;;
         test:-*)
             COMPREPLY=($(compgen -W '--coverage --filter --help --jobs --json --junit --list --markdown
                 --notes-fail --reading --rename --strict --update' -- "$typed"))

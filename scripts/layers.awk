@@ -8,7 +8,7 @@ BEGIN {
     uses["core"] = "text"
     uses["table"] = uses["codegen"] = uses["editors"] = uses["builder"] = uses["welcome"] = "core text"
     uses["review"] = "core text"
-    uses["find"] = "core text table"
+    uses["find"] = "core text table codegen"
     uses["run"] = uses["diagram"] = uses["export"] = "core text codegen"
     uses["session"] = "core table files text"
     uses["recovery"] = uses["outside"] = "core text"

@@ -2,6 +2,7 @@
 #include "cli/Arguments.h"
 
 #include "cli/BracketArgument.h"
+#include "cli/FindOptions.h"
 #include "cli/MachineOptions.h"
 #include "cli/MessageText.h"
 #include "cli/ReviewOptions.h"
@@ -58,9 +59,16 @@ constexpr const char* kExploreNotes =
     "Exit status: 0 nothing is found, or the way; 1 something is, or no way; 2 wrong usage; 3 a file that\n"
     "             could not be read, or a state that is not there";
 
-constexpr std::array<std::pair<const char*, Verb>, 12> kVerbs{{{"generate", Verb::Generate},
+constexpr const char* kFindNotes =
+    "Example: orvanec find --word PST_Horn *.zfsm\n"
+    "         prints DOC:LINE: PLACE: TEXT for each place where it stands, DOC being open at LINE\n\n"
+    "Regular expressions: . [a-z] [^;] \\d \\w \\s \\t ^ $ \\b ( ) | * + ? {2,5}, within a line.\n"
+    "Exit status: 0 found, 1 nothing found, 2 wrong usage, 3 a file that could not be read to its end";
+
+constexpr std::array<std::pair<const char*, Verb>, 13> kVerbs{{{"generate", Verb::Generate},
                                                                {"check", Verb::Check},
                                                                {"format", Verb::Format},
+                                                               {"find", Verb::Find},
                                                                {"test", Verb::Test},
                                                                {"simulate", Verb::Simulate},
                                                                {"explore", Verb::Explore},
@@ -108,6 +116,7 @@ class CommandLine {
         AddGenerate();
         AddCheck();
         AddFormat();
+        find_.AddTo(AddVerb("find", "Print where a text stands in documents", kFindNotes));
         AddTest();
         AddMachineVerbs();
         AddReview();
@@ -182,6 +191,7 @@ class CommandLine {
     std::optional<std::string> output_;
     std::string format_ = "text";
     bool advice_ = false;
+    FindOptions find_;
     TestOptions tests_;
     MachineOptions machines_;
     ReviewOptions review_;
@@ -207,9 +217,11 @@ Arguments CommandLine::Parse(int count, const char* const* values) {
     Arguments arguments;
     arguments.What = Asked();
     arguments.Documents = arguments.What == Verb::Format     ? std::vector{std::move(document_)}
+                          : arguments.What == Verb::Find     ? find_.TakeDocuments()
                           : LooksIntoOne(arguments.What)     ? std::vector{machines_.TakeDocument()}
                           : ComparesVersions(arguments.What) ? review_.TakeDocuments()
                                                              : std::move(documents_);
+    arguments.Finding = find_.Take();
     arguments.Reviewing = review_.Take();
     if (arguments.What == Verb::Test)
         arguments.Testing = tests_.Take();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "cli/FindArguments.h"
 #include "cli/Outcome.h"
 #include "cli/ReviewArguments.h"
 #include "cli/RunArguments.h"
@@ -13,7 +14,22 @@
 
 namespace orvane::cli {
 
-enum class Verb { Generate, Check, Format, Test, Simulate, Explore, Tour, Diff, Show, Merge, Conflicts, Git };
+enum class Verb {
+    Generate,
+    Check,
+    Format,
+    Find,
+    Test,
+    Simulate,
+    Explore,
+    Tour,
+    Diff,
+    Show,
+    Merge,
+    Conflicts,
+    Git
+};
+
 // The verbs of the machine of one document.
 constexpr bool LooksIntoOne(Verb verb) {
     return verb == Verb::Simulate || verb == Verb::Explore || verb == Verb::Tour;
@@ -35,6 +51,7 @@ struct Arguments {
     std::optional<std::string> Output;  // a path or kStandardOutput; only with one document
     ReportFormat Format = ReportFormat::Text;
     bool Advice = false; // Check tells what explore finds, too
+    FindArguments Finding;
     TestArguments Testing;
     SimulateArguments Simulating;
     ExploreArguments Exploring;

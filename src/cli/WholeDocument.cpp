@@ -10,7 +10,8 @@
 
 namespace orvane::cli {
 
-std::optional<ReadResult> ReadNamedDocument(FileSystem& files, const std::string& name, Outcome& outcome) {
+std::optional<ReadResult> ReadNamedDocument(FileSystem& files, const std::string& name, Outcome& outcome,
+                                            TextStarts* starts) {
     const FileContent file = ReadStream(files, PathOf(name), kLargestDocument);
     if (file.Failure) {
         const bool tooLarge = file.Failure->Reason == std::errc::file_too_large;
@@ -19,7 +20,7 @@ std::optional<ReadResult> ReadNamedDocument(FileSystem& files, const std::string
         outcome.Raise(kFileError);
         return std::nullopt;
     }
-    ReadResult read = ReadDocument(file.Bytes());
+    ReadResult read = ReadDocument(file.Bytes(), starts);
     for (const ReaderMessage& message : ForeignMessages(file.Bytes()))
         outcome.Errors += MessageLine(name, message);
     for (const ReaderMessage& message : read.Messages)

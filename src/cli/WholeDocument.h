@@ -11,8 +11,10 @@
 namespace orvane::cli {
 
 // What a file holds as a document, as far as it could be read; the outcome has what there is to tell about
-// it, and status 3 when it was not read to its end. None when it could not be read at all.
-std::optional<ReadResult> ReadNamedDocument(FileSystem& files, const std::string& name, Outcome& outcome);
+// it, and status 3 when it was not read to its end. None when it could not be read at all. The starts, where
+// they are asked for, tell where each text stands.
+std::optional<ReadResult> ReadNamedDocument(FileSystem& files, const std::string& name, Outcome& outcome,
+                                            TextStarts* starts = nullptr);
 
 // The same of a document that is of no use unless it was read to its end.
 std::optional<FsmDocument> ReadWholeDocument(FileSystem& files, const std::string& name, Outcome& outcome);

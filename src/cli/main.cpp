@@ -2,6 +2,7 @@
 // orvanec: checks documents and writes their programs without a window.
 #include "cli/Arguments.h"
 #include "cli/EndingSignals.h"
+#include "cli/FindVerb.h"
 #include "cli/MachineVerbs.h"
 #include "cli/MessageText.h"
 #include "cli/OrderedWork.h"
@@ -43,8 +44,10 @@ int Do(const Arguments& arguments) {
         return Deliver(WrongUsage(ShownName(date.Fault)));
     NativeFiles files;
     const auto unfinished = std::make_shared<UnfinishedFiles>(files);
-    if (arguments.What != Verb::Check)
+    if (arguments.What != Verb::Check && arguments.What != Verb::Find)
         RemoveWhenTold(unfinished);
+    if (arguments.What == Verb::Find)
+        return RunFind(arguments, files);
     if (arguments.What == Verb::Test)
         return RunTests(arguments, TestFiles(files, *unfinished));
     if (LooksIntoOne(arguments.What))

@@ -4,6 +4,7 @@
 #include "core/DocumentTags.h"
 #include "core/RecordFields.h"
 #include "core/TagScanner.h"
+#include "core/TextStarts.h"
 #include "text/AnsiText.h"
 #include "text/NumberText.h"
 
@@ -50,7 +51,7 @@ std::string ShownTag(std::string_view tag) {
 
 class Reader {
   public:
-    explicit Reader(std::string_view bytes) : scanner_(bytes) {}
+    Reader(std::string_view bytes, TextStarts* starts) : scanner_(bytes), starts_(starts) {}
 
     ReadResult Read();
 
@@ -71,11 +72,18 @@ class Reader {
     Kind HeadNumber(NumberRange<Kind> range);
     void RequireWholeValue() const;
     void SetText(std::string& text, std::string_view value);
+    void TellStart(Cell record, std::string_view tag) {
+        if (starts_ != nullptr)
+            starts_->Add(record, tag, scanner_.TagLine());
+    }
 
     // Reads the value of the record's field that has the tag; tells a tag that none has.
     template <typename Fields, typename Record>
     void ReadField(const Fields& fields, Record& record, std::string_view tag);
-    void ReadValue(const FieldInFile&, std::string& text) { SetText(text, scanner_.NextValue()); }
+    void ReadValue(const FieldInFile& file, std::string& text) {
+        TellStart(record_, file.Tag);
+        SetText(text, scanner_.NextValue());
+    }
     void ReadValue(const FieldInFile& file, bool& mark);
     void ReadValue(const FieldInFile&, std::int16_t& number) { number = NextNumber<std::int16_t>(); }
     void ReadValue(const FieldInFile&, std::int32_t& number) { number = NextNumber<std::int32_t>(); }
@@ -98,7 +106,9 @@ class Reader {
     void Tell(std::string text) { result_.Messages.push_back({std::move(text), scanner_.TagLine()}); }
 
     TagScanner scanner_;
+    TextStarts* const starts_;
     ReadResult result_;
+    Cell record_;          // whose fields are read
     std::string_view tag_; // the field being read
     std::string block_;    // the block it stands in, " in state 7", empty at top level
     std::size_t unknownTags_ = 0;
@@ -130,6 +140,7 @@ void Reader::ReadTopLevel() {
             return;
         tag_ = *found;
         block_.clear();
+        record_ = {};
         if (tag_ == tag::kRowVisible)
             ReadRowHeights();
         else if (tag_ == tag::kEvent)
@@ -183,6 +194,7 @@ void Reader::ReadRowHeights() {
 void Reader::ReadEvent() {
     const RowNumber row = HeadNumber(CellRows());
     EventRecord& event = result_.Document.Event(row);
+    record_ = {row, kNoState};
     block_ = " in event row " + NumberText(row.Number());
     ReadBlock(tag::kEventEnd, [&](std::string_view tag) { ReadField(kEventFields, event, tag); });
 }
@@ -190,6 +202,7 @@ void Reader::ReadEvent() {
 void Reader::ReadState() {
     const StateNumber number = HeadNumber(StateNumbers());
     StateRecord& state = result_.Document.State(number);
+    record_ = {kNoRow, number};
     block_ = " in state " + NumberText(number.Number());
     ReadBlock(tag::kStateEnd, [&](std::string_view tag) {
         if (tag == tag::kTransitions)
@@ -207,10 +220,12 @@ void Reader::ReadTransitions(StateRecord& state) {
         }
         const IndexedValue value = SplitIndex(scanner_.NextValue());
         const RowNumber row = NumberOf(value.Index, CellRows());
-        if (tag == tag::kTarget)
+        if (tag == tag::kTarget) {
             state.Targets[row] = NumberOf(value.Rest, TargetNumbers());
-        else
-            SetText(state.Actions[row], value.Rest);
+            return;
+        }
+        TellStart({row, record_.State}, tag::kAction);
+        SetText(state.Actions[row], value.Rest);
     });
 }
 
@@ -266,13 +281,13 @@ ReadResult Refused(std::string why) {
 
 } // namespace
 
-ReadResult ReadDocument(std::string_view bytes) {
+ReadResult ReadDocument(std::string_view bytes, TextStarts* starts) {
     if (bytes.size() > kLargestDocument)
         return Refused("The file is " + std::string(kTooLargeForADocument));
     const bool blank = bytes.find_first_not_of(" \t\r\n") == std::string_view::npos;
     if (!blank && bytes.find(kTagOpen) == std::string_view::npos)
         return Refused("The file is not a document: it holds no field");
-    return Reader(bytes).Read();
+    return Reader(bytes, starts).Read();
 }
 
 } // namespace orvane

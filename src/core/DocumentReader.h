@@ -33,9 +33,12 @@ struct ReadResult {
     bool BrokeOff = false; // a number was out of bounds, or the file ended inside a block or value
 };
 
+class TextStarts;
+
 // Reads in one pass; the cost grows with the number of bytes only. Takes CR LF, LF and CR as line ends. Never
 // fails: an unknown tag is told and skipped, a number out of bounds ends the reading. A file that is too
-// large, or that holds text but not one field, is refused: an empty document that broke off.
-ReadResult ReadDocument(std::string_view bytes);
+// large, or that holds text but not one field, is refused: an empty document that broke off. Where starts are
+// asked for, they tell where each text stands.
+ReadResult ReadDocument(std::string_view bytes, TextStarts* starts = nullptr);
 
 } // namespace orvane

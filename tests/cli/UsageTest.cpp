@@ -34,6 +34,7 @@ TEST_F(Usage, HelpOfTheProgramAndOfEachVerbHasAnExample) {
         {"generate --help", "Example: SOURCE_DATE_EPOCH=0 orvanec generate -o - pump.zfsm\n"},
         {"check --help", "Example: orvanec check --format=json *.zfsm\n"},
         {"format --help", "Example: orvanec format pump.zfsm -o tidy.zfsm\n"},
+        {"find --help", "Example: orvanec find --word PST_Horn *.zfsm\n"},
         {"test --help", "Example: orvanec test --coverage=100 pump.zfsm\n"},
         {"simulate --help", "Example: orvanec simulate pump.zfsm pump.ztest"},
         {"explore --help", "Example: orvanec explore pump.zfsm\n"},
@@ -49,18 +50,17 @@ TEST_F(Usage, HelpOfTheProgramAndOfEachVerbHasAnExample) {
 TEST_F(Usage, HelpOfTheProgramListsTheVerbs) {
     const std::string help = Run("--help").Output;
     EXPECT_THAT(help, HasSubstr("Usage: orvanec [OPTIONS] VERB\n"));
-    EXPECT_THAT(help, testing::ContainsRegex(
-                          "Verbs:\n  generate .*\n  check .*\n  format .*\n  test .*\n  simulate "));
+    EXPECT_THAT(help,
+                testing::ContainsRegex(
+                    "Verbs:\n  generate .*\n  check .*\n  format .*\n  find .*\n  test .*\n  simulate "));
 }
 
 TEST_F(Usage, WrongUsageIsSaidOnStandardError) {
-    ExpectWrong(
-        "",
-        "No verb is given; the verbs are generate, check, format, test, simulate, explore, tour, diff, show, "
-        "merge, conflicts and git");
-    ExpectWrong("frobnicate a", "There is no verb frobnicate; the verbs are generate, check, format, test, "
-                                "simulate, explore, tour, diff, show, "
-                                "merge, conflicts and git");
+    const std::string verbs =
+        "the verbs are generate, check, format, find, test, simulate, explore, tour, diff, "
+        "show, merge, conflicts and git";
+    ExpectWrong("", "No verb is given; " + verbs);
+    ExpectWrong("frobnicate a", "There is no verb frobnicate; " + verbs);
     ExpectWrong("generate", "No document is given");
     ExpectWrong("check", "No document is given");
     ExpectWrong("format", "No document is given");
