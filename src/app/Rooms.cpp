@@ -6,6 +6,7 @@
 #include "editors/ui/EditorsRoom.h"
 #include "outside/ui/OutsideRoom.h"
 #include "recovery/ui/RecoveryRoom.h"
+#include "review/ui/ReviewRoom.h"
 #include "run/ui/RunRoom.h"
 #include "table/ui/BacktrackRoom.h"
 #include "table/ui/TableRoom.h"
@@ -23,6 +24,7 @@ std::vector<std::unique_ptr<Room>> MakeRooms(const RoomPlace& place) {
     rooms.push_back(std::make_unique<EditorsRoom>(place));
     rooms.push_back(std::make_unique<RecoveryRoom>(place));
     rooms.push_back(std::make_unique<RunRoom>(place));
+    rooms.push_back(std::make_unique<ReviewRoom>(place));
     rooms.push_back(std::make_unique<WelcomeRoom>(place));
     return rooms;
 }

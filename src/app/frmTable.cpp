@@ -92,6 +92,10 @@ void frmTable::AddRoom(std::unique_ptr<Room> room) {
     });
     connect(room.get(), &Room::DocumentWanted, this, &frmTable::OpenDocument);
     connect(room.get(), &Room::CommandWanted, this, &frmTable::Run);
+    connect(room.get(), &Room::CompareWanted, this, [this](const VersionsToCompare& versions) {
+        for (const auto& other : rooms_)
+            other->CompareVersions(versions);
+    });
     connect(room.get(), &Room::LeaveAsked, this, [this](bool& mayLeave) {
         mayLeave = std::all_of(rooms_.begin(), rooms_.end(), [](const auto& r) { return r->MayLeave(); });
     });

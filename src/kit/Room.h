@@ -19,6 +19,7 @@ enum class ObserverRank;
 struct Change;
 struct CommandEntry;
 struct CommandLine;
+struct VersionsToCompare;
 
 // What every room is made from; all of it outlives the room.
 struct RoomPlace {
@@ -58,6 +59,8 @@ class Room : public QObject {
     virtual void FireEvent(RowNumber) {}
     // Somebody asks for this document to be opened, after the question about unsaved work.
     virtual void OpenDocument(const QString&) {}
+    // Somebody asks what is different between two versions of a document.
+    virtual void CompareVersions(const VersionsToCompare&) {}
     // Whether another document may take the place of this one, as far as this room is concerned.
     virtual bool MayLeave() { return true; }
     // Whether the program may end as far as this room is concerned, and then what it has to do for that.
@@ -73,6 +76,7 @@ class Room : public QObject {
     void EventFired(orvane::RowNumber row);
     void DocumentWanted(const QString& path);
     void CommandWanted(orvane::Command command);
+    void CompareWanted(const orvane::VersionsToCompare& versions);
     void MenuWanted(orvane::Command menu, const QPoint& globalPosition);
     // The open document is about to be left for another one: asks the user about unsaved work. The answer is
     // there when the signal returns.

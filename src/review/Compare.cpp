@@ -2,45 +2,15 @@
 #include "review/Compare.h"
 
 #include "review/DocumentPair.h"
+#include "review/InNewOrder.h"
 #include "review/Match.h"
 #include "review/Presence.h"
 
-#include <algorithm>
+#include <array>
 
 namespace orvane::review {
 
 namespace {
-
-// Of one kind, on both sides.
-template <typename Number>
-struct PresentOnes {
-    std::vector<Number> Old;
-    std::vector<Number> New;
-};
-
-// Calls went(old), and same(old, new) or came(new), in the order of the new numbers; what went comes behind
-// what it stood behind.
-template <typename Number, typename Went, typename Same, typename Came>
-void InNewOrder(const PresentOnes<Number>& present, const Pairing<Number>& pairing, Went went, Same same,
-                Came came) {
-    auto next = present.Old.begin();
-    const auto tellWentUpTo = [&](Number end) {
-        for (; next != present.Old.end() && *next < end; ++next) {
-            if (!pairing.HasNew(*next))
-                went(*next);
-        }
-    };
-    for (const Number number : present.New) {
-        if (!pairing.HasOld(number)) {
-            came(number);
-            continue;
-        }
-        if (!pairing.HasMoved(pairing.OldOf(number)))
-            tellWentUpTo(pairing.OldOf(number));
-        same(pairing.OldOf(number), number);
-    }
-    tellWentUpTo(pairing.Numbers().Last() + 1);
-}
 
 class Comparer {
   public:

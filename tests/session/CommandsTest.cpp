@@ -49,6 +49,7 @@ mnuPref: Preferences
   mnuPolytask: Polytask
 mnuView: View
   mnuViewRun: Run the machine
+  mnuCompareWith: Compare with...
 mnuRun: Run
   mnuPowerOn: Power on
   mnuStep: Step

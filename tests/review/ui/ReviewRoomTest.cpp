@@ -1,0 +1,130 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "core/DocumentWriter.h"
+#include "support/ui/Controls.h"
+#include "support/ui/TableFixture.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QTableView>
+#include <QTreeView>
+
+#include <gmock/gmock.h>
+
+namespace orvane {
+namespace {
+
+using testing::ElementsAre;
+
+const QString kDocument = QStringLiteral("machine.zfsm");
+
+class ReviewRoomTest : public TableFixture {
+  protected:
+    static QWidget* Comparison() {
+        for (QWidget* window : QApplication::topLevelWidgets()) {
+            if (window->objectName() == QLatin1String("frmCompare"))
+                return window;
+        }
+        return nullptr;
+    }
+    QWidget& Compare() {
+        Trigger("mnuCompareWith");
+        return *Comparison();
+    }
+    static QTreeView& List() { return Named<QTreeView>(*Comparison(), "lstChanges"); }
+    static std::vector<std::string> Changes() {
+        const QAbstractItemModel& model = *List().model();
+        std::vector<std::string> changes;
+        for (int row = 0; row < model.rowCount(); ++row)
+            changes.push_back(model.index(row, 0).data().toString().toStdString() + " " +
+                              model.index(row, 1).data().toString().toStdString());
+        return changes;
+    }
+    static std::string Summary() { return Named<QLabel>(*Comparison(), "lblSummary").text().toStdString(); }
+    // The comparison is made in a thread.
+    template <typename Matcher>
+    static void ExpectChanges(const Matcher& expected) {
+        EXPECT_TRUE(QTest::qWaitFor([&] { return testing::Matches(expected)(Changes()); }));
+        EXPECT_THAT(Changes(), expected) << Summary();
+    }
+};
+
+TEST_F(ReviewRoomTest, TheWindowIsNotMadeBeforeItIsAskedFor) {
+    StartOn(PumpDocument());
+    EXPECT_EQ(Comparison(), nullptr);
+    EXPECT_TRUE(Compare().isVisible());
+    ExpectChanges(testing::IsEmpty());
+    EXPECT_TRUE(QTest::qWaitFor([&] {
+        return Summary() == "No changes from machine.zfsm on disk to this window.";
+    })) << Summary();
+}
+
+TEST_F(ReviewRoomTest, WhatWasEditedSinceTheSaveIsListedAndFollowsUndo) {
+    StartOn(PumpDocument());
+    TypeTarget(7, 1, QStringLiteral("2"));
+    Compare();
+    ExpectChanges(ElementsAre("~ 1:Idle, Stop: -> 2:Run (was none)"));
+    TypeTarget(6, 2, QStringLiteral("1"));
+    ExpectChanges(ElementsAre("~ 1:Idle, Stop: -> 2:Run (was none)", "~ 2:Run, Start: -> 1:Idle (was none)"));
+    Trigger("mnuUndo");
+    ExpectChanges(ElementsAre("~ 1:Idle, Stop: -> 2:Run (was none)"));
+    Trigger("mnuFSave");
+    ExpectChanges(testing::IsEmpty());
+}
+
+TEST_F(ReviewRoomTest, ADocumentWithoutAFileSaysWhatToDo) {
+    Start({QStringLiteral("/nosplash")});
+    Compare();
+    EXPECT_EQ(Summary(),
+              "The document has no file yet: there is nothing on disk to compare it with. Save it, "
+              "or choose another file.");
+}
+
+TEST_F(ReviewRoomTest, OneChangeIsTakenBackAsOneUndoStep) {
+    StartOn(PumpDocument());
+    TypeTarget(7, 1, QStringLiteral("2"));
+    TypeTarget(6, 2, QStringLiteral("1"));
+    const QWidget& window = Compare();
+    ExpectChanges(testing::SizeIs(2));
+    Press(window, "cmdTakeOver");
+    ExpectChanges(ElementsAre("~ 2:Run, Start: -> 1:Idle (was none)"));
+    EXPECT_EQ(Text(7, 1), "");
+    EXPECT_EQ(Text(6, 2), "1:Idle");
+    Trigger("mnuUndo");
+    EXPECT_EQ(Text(7, 1), "2:Run");
+    EXPECT_THAT(Panel("Panel3"), testing::StartsWith("Undone: take over a change"));
+}
+
+TEST_F(ReviewRoomTest, WhatAnotherProgramWroteIsTakenOver) {
+    StartOn(PumpDocument());
+    FsmDocument foreign = PumpDocument();
+    foreign.State(2).Name = "Work";
+    WriteFile(kDocument, WriteDocument(foreign));
+    const QWidget& window = Compare();
+    ExpectChanges(ElementsAre("~ state 2:Work renamed from Run (guessed)"));
+    EXPECT_EQ(Named<QPushButton>(window, "cmdTakeOver").text().toStdString(), "&Take over");
+    Press(window, "cmdTakeOver");
+    ExpectChanges(testing::IsEmpty());
+    EXPECT_EQ(Text(0, 2), "2:Work");
+}
+
+TEST_F(ReviewRoomTest, KeysGoFromChangeToChangeAndRound) {
+    StartOn(PumpDocument());
+    TypeTarget(7, 1, QStringLiteral("2"));
+    TypeTarget(6, 2, QStringLiteral("1"));
+    QWidget& window = Compare();
+    ExpectChanges(testing::SizeIs(2));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    const auto chosen = [] { return List().currentIndex().row(); };
+    EXPECT_EQ(chosen(), 0);
+    QTest::keyClick(&window, Qt::Key_F8);
+    EXPECT_EQ(chosen(), 1);
+    EXPECT_EQ(Named<QTableView>(window, "tblCompare").currentIndex().data().toString().toStdString(),
+              "~ none → 1:Idle");
+    QTest::keyClick(&window, Qt::Key_F8);
+    EXPECT_EQ(chosen(), 0);
+    QTest::keyClick(&window, Qt::Key_F7);
+    EXPECT_EQ(chosen(), 1);
+}
+
+} // namespace
+} // namespace orvane
