@@ -17,6 +17,8 @@ bool Moved(const std::vector<Taken>& scan) {
 
 Clock::Clock(const Machine& machine) : machine_(machine) {}
 
+Clock::Clock(const Machine& machine, Config at) : machine_(machine), config_(std::move(at)) {}
+
 Outcome Clock::PowerOn() {
     scan_.clear();
     last_.clear();

@@ -39,6 +39,8 @@ class Clock {
   public:
     // The machine must have a state to start in, and must outlive the clock.
     explicit Clock(const Machine& machine);
+    // A machine that has power and is there.
+    Clock(const Machine& machine, Config at);
 
     // What surrounds the machine. A change shows at the next scan.
     Inputs& Surroundings() { return inputs_; }

@@ -287,6 +287,55 @@ void LiveRun::GiveLimit(Units units) {
     Do(last);
 }
 
+std::optional<WayAsked> LiveRun::AskWay(StateNumber to) {
+    notice_.clear();
+    if (!history_ || !IsIdle(history_->End())) {
+        notice_ = WhyNot({0, RunAct::PowerOn});
+        return std::nullopt;
+    }
+    const Clock& now = history_->Now();
+    return WayAsked{to, history_->HasPower() ? std::optional(now.Where()) : std::nullopt, now.Surroundings(),
+                    given_, readings_};
+}
+
+// What was assumed is said: the user may know better.
+void LiveRun::GoWay(StateNumber to, const WayFromRun& way) {
+    if (!way.Steps) {
+        notice_ = WhyNoWay(to, way);
+        return;
+    }
+    given_.insert(way.Assumed.begin(), way.Assumed.end());
+    if (!way.Assumed.empty())
+        Recompile();
+    for (const RunStep& step : *way.Steps) {
+        if (!Do(step))
+            return;
+    }
+    notice_ = "The shortest way to " + ToUtf8(StateTitle(document_, to)) + " was played";
+    if (State() != to)
+        notice_ += ", which it leaves again at once";
+    for (const auto& [name, value] : way.Assumed)
+        notice_ += "; the limit " + ToUtf8(name) + " was taken as " + NumberText(value);
+    for (const RunStep& step : *way.Steps) {
+        if (step.What == RunAct::Limit)
+            notice_ += "; the limit of " + ToUtf8(StateTitle(document_, int(step.State))) + " was taken as " +
+                       NumberText(step.Time());
+    }
+}
+
+std::string LiveRun::WhyNoWay(StateNumber to, const WayFromRun& way) const {
+    const std::string title = ToUtf8(StateTitle(document_, to));
+    if (!way.PlaceKnown)
+        return "The way to " + title +
+               " is not known from here, because a limit was another one before; power on "
+               "and ask again";
+    if (!way.Complete)
+        return "No way to " + title + " was found, but the machine is too large to be looked at whole";
+    if (State() == kNoState)
+        return "No way leads from power on to " + title;
+    return "No way leads from " + ToUtf8(StateTitle(document_, State())) + " to " + title;
+}
+
 void LiveRun::Back() {
     notice_.clear();
     if (history_)

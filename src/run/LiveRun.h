@@ -5,6 +5,7 @@
 #pragma once
 
 #include "run/History.h"
+#include "run/WayFromRun.h"
 
 #include <memory>
 #include <optional>
@@ -74,6 +75,12 @@ class LiveRun {
     std::optional<WantedLimit> Wanted() const;
     void GiveLimit(Units units);
 
+    // The shortest way from the moment shown to a state: what there is to be looked for, which takes its
+    // time, and what came of it on the same table and at the same moment. None, with a notice, when the run
+    // cannot go on.
+    std::optional<WayAsked> AskWay(StateNumber to);
+    void GoWay(StateNumber to, const WayFromRun& way);
+
     void Back();
     void Forward();
     void GoToTime(Units time);
@@ -96,6 +103,7 @@ class LiveRun {
     void TellOtherWay(const History& before);
     std::string WhyNot(const RunStep& step) const;
     std::string WhyLost(const RunStep& step) const;
+    std::string WhyNoWay(StateNumber to, const WayFromRun& way) const;
 
     const FsmDocument& document_;
     Constants given_;

@@ -51,7 +51,7 @@ Scans::Partial Scans::PoweredOn(Units now) const {
 void Scans::Go(Partial first, bool settles) {
     open_.push_back(std::move(first));
     while (!open_.empty()) {
-        if (found_.size() + open_.size() > most_) {
+        if (found_.size() + open_.size() > most_ || stop_.stop_requested()) {
             leftOut_ = true;
             return open_.clear();
         }

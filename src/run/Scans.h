@@ -8,6 +8,8 @@
 
 #include <bitset>
 #include <cstdint>
+#include <stop_token>
+#include <utility>
 #include <vector>
 
 namespace orvane::run {
@@ -32,9 +34,9 @@ class Scans {
     // A variable limit that is not given is decided on at each look: from 0 on it may be any number. Constant
     // limits must be known.
     // Of one place no more than `most` scans are found: many tests in a row of states that let no time pass
-    // have too many.
-    Scans(const Machine& machine, const Inputs& given, std::size_t most)
-        : machine_(machine), given_(given), most_(most) {}
+    // have too many. None any more are found once somebody says stop.
+    Scans(const Machine& machine, const Inputs& given, std::size_t most, std::stop_token stop = {})
+        : machine_(machine), given_(given), most_(most), stop_(std::move(stop)) {}
 
     // All scans from there.
     std::vector<FoundScan> From(const RunPlace& place);
@@ -76,6 +78,7 @@ class Scans {
     const Machine& machine_;
     const Inputs given_;
     const std::size_t most_;
+    const std::stop_token stop_;
     bool leftOut_ = false;
     Inputs inputs_;
     States looksAtUnstarted_;

@@ -6,6 +6,7 @@
 #include "run/Recorder.h"
 #include "run/TestableWays.h"
 #include "run/WayDriver.h"
+#include "run/WayToState.h"
 #include "text/AnsiText.h"
 
 #include <algorithm>
@@ -14,8 +15,6 @@
 namespace orvane::run {
 
 namespace {
-
-using Way = std::vector<const TestableWay*>;
 
 class Finder {
   public:
@@ -64,15 +63,8 @@ class Finder {
         return places;
     }
 
-    // Ends where the state is entered, be it only for a moment.
     Way WayTo(std::span<const std::uint32_t> from, StateNumber to) const {
-        return ShortestWay(ways_, from, [&](std::uint32_t, const TestableWay& way) {
-            const auto entered = [&](Cell taken) {
-                return machine_.State(taken.State).Targets[IndexIn(TableRows(), taken.Row)] == to.Number();
-            };
-            return (space_.StateAt(way.To) == to && (way.IsPowerOn || !way.Transitions.empty())) ||
-                   std::any_of(way.Transitions.begin(), way.Transitions.end(), entered);
-        });
+        return WayToState(machine_, ways_, from, to);
     }
 
     Way WayToPlace(std::uint32_t place) const {

@@ -27,7 +27,10 @@ std::uint32_t NumberAt(const std::string& key, std::size_t at) {
 } // namespace
 
 StateSpace::StateSpace(const Machine& machine, const Inputs& given, const SpaceLimits& limits)
-    : machine_(machine), horizon_(machine, given), scans_(machine, given, limits.Ways), limits_(limits) {
+    : machine_(machine),
+      horizon_(machine, given),
+      scans_(machine, given, limits.Ways, limits.Stop),
+      limits_(limits) {
     keys_.push_back(&places_.emplace("", kPowerOff).first->first);
     states_.emplace_back();
     firstWays_.push_back(0);

@@ -15,6 +15,7 @@
 #include <cstdint>
 #include <optional>
 #include <span>
+#include <stop_token>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -25,6 +26,7 @@ namespace orvane::run {
 struct SpaceLimits {
     std::size_t Places = 100'000;
     std::size_t Ways = 2'000'000;
+    std::stop_token Stop = {}; // somebody in another thread does not want to know any more: not complete then
 };
 
 // A scan, power that comes on, or time that passes.

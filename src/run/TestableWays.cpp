@@ -11,9 +11,10 @@ constexpr int kMostScans = 1000; // beyond it a wait is not worth waiting for
 
 } // namespace
 
-TestableWays::TestableWays(const Machine& machine, const Inputs& given, const StateSpace& space)
+TestableWays::TestableWays(const Machine& machine, const Inputs& given, const StateSpace& space,
+                           const std::stop_token& stop)
     : machine_(machine), given_(given), space_(space), ways_(space.Places()) {
-    for (std::uint32_t place = 0; place < space.Places(); ++place) {
+    for (std::uint32_t place = 0; place < space.Places() && !stop.stop_requested(); ++place) {
         for (const SpaceWay& way : space.From(place)) {
             const std::span<const Cell> taken = space.TakenOn(way);
             if (way.Wait > 0)

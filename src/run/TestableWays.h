@@ -11,6 +11,7 @@
 #include <optional>
 #include <queue>
 #include <span>
+#include <stop_token>
 #include <utility>
 #include <vector>
 
@@ -34,8 +35,9 @@ struct TestableWay {
 
 class TestableWays {
   public:
-    // All must outlive this.
-    TestableWays(const Machine& machine, const Inputs& given, const StateSpace& space);
+    // All must outlive this. Not all ways are there once somebody says stop.
+    TestableWays(const Machine& machine, const Inputs& given, const StateSpace& space,
+                 const std::stop_token& stop = {});
 
     std::span<const TestableWay> From(std::uint32_t place) const { return ways_[place]; }
     const StateSpace& Space() const { return space_; }

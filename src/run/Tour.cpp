@@ -23,21 +23,23 @@ constexpr std::size_t kLongTest = 60; // steps; then another test begins
 
 class TourGuide {
   public:
-    TourGuide(const FsmDocument& document, const TourOptions& options)
+    TourGuide(const FsmDocument& document, const TourOptions& options, const TourWatch& watch)
         : document_(document),
           options_(options),
+          watch_(watch),
           assumed_(document),
           machine_(document, assumed_.Given),
-          space_(machine_, assumed_.Surroundings),
-          ways_(machine_, assumed_.Surroundings, space_),
+          space_(machine_, assumed_.Surroundings, {.Stop = watch.Stop}),
+          ways_(machine_, assumed_.Surroundings, space_, watch.Stop),
           goals_(machine_, ways_, options),
           driver_(machine_, assumed_.Surroundings, space_) {}
 
     Tour Run() {
-        while (!goals_.Done() && !tour_.StepsRanOut && GoOn()) {
+        while (!goals_.Done() && !tour_.StepsRanOut && !watch_.Stop.stop_requested() && GoOn()) {
         }
         EndTest();
         AddHeads();
+        tour_.Asked = options_;
         tour_.Transitions = goals_.Transitions();
         tour_.EmptyCells = goals_.EmptyCells();
         tour_.Pairs = goals_.Pairs();
@@ -81,7 +83,14 @@ class TourGuide {
         for (const Happening& happening : driver_.TakeLog())
             goals_.See(happening.What);
         tour_.StepsRanOut = tour_.Steps + driver_.Steps().size() > options_.MostSteps;
+        if (watch_.Percent != nullptr)
+            *watch_.Percent = std::max(goals_.PercentSeen(), PercentGone());
         return true;
+    }
+
+    int PercentGone() const {
+        const std::size_t gone = std::min(tour_.Steps + driver_.Steps().size(), options_.MostSteps);
+        return static_cast<int>(gone * 100 / std::max<std::size_t>(options_.MostSteps, 1));
     }
 
     // What was driven becomes a test, and the power is off.
@@ -144,6 +153,7 @@ class TourGuide {
 
     const FsmDocument& document_;
     const TourOptions& options_;
+    const TourWatch& watch_;
     const AssumedLimits assumed_;
     const Machine machine_;
     const StateSpace space_;
@@ -158,8 +168,8 @@ class TourGuide {
 
 } // namespace
 
-Tour MakeTour(const FsmDocument& document, const TourOptions& options) {
-    return TourGuide(document, options).Run();
+Tour MakeTour(const FsmDocument& document, const TourOptions& options, const TourWatch& watch) {
+    return TourGuide(document, options, watch).Run();
 }
 
 } // namespace orvane::run

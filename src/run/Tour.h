@@ -8,7 +8,9 @@
 #include "run/Coverage.h"
 #include "run/TestText.h"
 
+#include <atomic>
 #include <cstddef>
+#include <stop_token>
 #include <string>
 #include <vector>
 
@@ -20,7 +22,14 @@ struct TourOptions {
     std::size_t MostSteps = 10'000; // after power-on
 };
 
+// For those who wait for a tour in another thread.
+struct TourWatch {
+    std::stop_token Stop = {};           // what comes back then is of no use
+    std::atomic<int>* Percent = nullptr; // of what is to be seen
+};
+
 struct Tour {
+    TourOptions Asked;
     TestFile Tests; // without a machine line
     std::size_t Steps = 0;
     CoverageCount Transitions; // of those that a test can take
@@ -33,6 +42,6 @@ struct Tour {
 
 // The document must have no obstacles. Limits that only the user knows are taken as kAssumedLimit, and the
 // first reading of what is not known of the controllers counts. Same document, same tests.
-Tour MakeTour(const FsmDocument& document, const TourOptions& options);
+Tour MakeTour(const FsmDocument& document, const TourOptions& options, const TourWatch& watch = {});
 
 } // namespace orvane::run

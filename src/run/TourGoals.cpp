@@ -41,6 +41,13 @@ TourGoals::TourGoals(const Machine& machine, const TestableWays& ways, const Tou
             trialsOf_[state.Number()].clear();
         trials_ += trialsOf_[state.Number()].size();
     }
+    allTrials_ = trials_;
+}
+
+int TourGoals::PercentSeen() const {
+    const std::size_t all = all_.count() + allTrials_;
+    const std::size_t left = open_.count() + trials_;
+    return all == 0 ? 100 : static_cast<int>((all - left) * 100 / all);
 }
 
 // Several at once: a transition that does not belong there would be taken by any of them.

@@ -21,6 +21,9 @@ class TourGoals {
 
     bool Done() const { return open_.none() && trials_ == 0; }
 
+    // What is seen, or given up, of all that there was.
+    int PercentSeen() const;
+
     // There is a transition to see on the way.
     bool IsOn(const TestableWay& way) const;
 
@@ -58,7 +61,8 @@ class TourGoals {
     Cells open_;
     Cells givenUp_;
     std::array<std::vector<Trial>, kStateCount + 1> trialsOf_;
-    std::size_t trials_ = 0;
+    std::size_t trials_ = 0; // left
+    std::size_t allTrials_ = 0;
     CoverageCount emptyCells_;
     CoverageCount pairs_;
 };

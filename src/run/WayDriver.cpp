@@ -21,6 +21,16 @@ void WayDriver::Begin() {
     }
 }
 
+void WayDriver::BeginAt(const std::optional<Config>& at, const Inputs& there) {
+    hasPower_ = at.has_value();
+    clock_.emplace(machine_);
+    if (at)
+        clock_.emplace(machine_, *at);
+    clock_->Surroundings() = there;
+    outcome_ = Outcome::Quiet;
+    steps_.clear();
+}
+
 bool WayDriver::Go(std::span<const TestableWay* const> way, End end) {
     while (!way.empty()) {
         const TestableWay& next = *way.front();
@@ -62,7 +72,7 @@ std::optional<std::uint32_t> WayDriver::Place() const {
 }
 
 void WayDriver::PowerOn(std::uint64_t events) {
-    if (events != 0)
+    if (events != clock_->Surroundings().Events)
         steps_.push_back(SwitchTo(events));
     steps_.push_back({});
     clock_->Surroundings().Events = events;

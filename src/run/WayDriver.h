@@ -23,6 +23,9 @@ class WayDriver {
     // The power is off, and a new run begins.
     void Begin();
 
+    // Begins where a run stands, with what surrounds it; no power is where that is none.
+    void BeginAt(const std::optional<Config>& at, const Inputs& there);
+
     // Where a way is to end: a transition on it is enough, so that the machine may settle behind it, or the
     // place counts.
     enum class End { Anywhere, AtItsEnd };

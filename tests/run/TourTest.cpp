@@ -302,5 +302,21 @@ TEST(Tour, TogetherNoticesExchangedPriorities) {
     EXPECT_FALSE(Unnoticed({}, tried, exchange).empty());
 }
 
+TEST(Tour, TellsHowFarItIs) {
+    std::atomic<int> percent = 0;
+    test::SmallTable table;
+    table.Name(1, "A").Cell(1, 6, 2).Name(2, "B").Cell(2, 7, 1);
+    EXPECT_EQ(MakeTour(table.Document(), {}, {{}, &percent}).Transitions.Taken, 2U);
+    EXPECT_EQ(percent, 100);
+}
+
+TEST(Tour, EndsWhenSomebodyStopsIt) {
+    std::stop_source stop;
+    stop.request_stop();
+    test::SmallTable table;
+    table.Name(1, "A").Cell(1, 6, 2).Name(2, "B").Cell(2, 7, 1);
+    EXPECT_EQ(MakeTour(table.Document(), {}, {stop.get_token(), nullptr}).Steps, 0U);
+}
+
 } // namespace
 } // namespace orvane::run

@@ -58,6 +58,7 @@ mnuRun: Run
   (a line)
   mnuSaveAsTest: Save as test
   mnuRunTests: Run tests
+  mnuTour: Make a tour
 mnuHelp: Help
   mnuHelpPages: Help pages
   mnuRecent: Recent files

@@ -8,6 +8,7 @@
 #include "run/ui/TestFileAccess.h"
 #include "run/ui/TestsPane.h"
 #include "run/ui/dckRun.h"
+#include "run/ui/frmTour.h"
 #include "session/Commands.h"
 #include "session/Session.h"
 
@@ -23,7 +24,7 @@ namespace {
 
 constexpr auto kOwnCommands =
     std::to_array<Command>({Command::ViewRun, Command::PowerOn, Command::StepTime, Command::StepBack,
-                            Command::ToTimeout, Command::SaveAsTest, Command::RunTests});
+                            Command::ToTimeout, Command::SaveAsTest, Command::RunTests, Command::Tour});
 
 // What the program of the table depends on.
 bool ChangesTheMachine(ChangeKind kind) {
@@ -61,6 +62,8 @@ ObserverRank RunRoom::Rank() const { return ObserverRank::Rooms; }
 void RunRoom::Run(Command command) {
     if (command == Command::ViewRun)
         return TogglePane();
+    if (command == Command::Tour)
+        return MakeTour();
     ShowPane();
     Do(WishOf(command));
 }
@@ -92,6 +95,10 @@ void RunRoom::MakePane() {
     window_.addDockWidget(Qt::RightDockWidgetArea, pane_);
     tests_ = new TestsPane(pane_);
     pane_->AddBelow(tests_);
+    ConnectPane();
+}
+
+void RunRoom::ConnectPane() {
     connect(tests_, &TestsPane::TestChosen, this, [this](const run::RunToPlay& test) {
         run_->Play(test);
         Show(Log::IsAnother);
@@ -111,6 +118,8 @@ void RunRoom::MakePane() {
         run_->GoToTime(time);
         Show(Log::GoesOn);
     });
+    connect(pane_, &dckRun::WayWanted, this, &RunRoom::FindWay);
+    connect(pane_, &dckRun::SearchUnwanted, this, [this] { Show(Log::GoesOn); });
     connect(pane_, &dckRun::LimitGiven, this, [this](run::Units units) {
         run_->GiveLimit(units);
         Show(Log::IsAnother);
@@ -123,6 +132,7 @@ void RunRoom::PaneShown(bool shown) {
         return;
     if (!shown) {
         pane_->StopTime();
+        DropSearch();
         session_.ShowRun(std::nullopt);
         return;
     }
@@ -132,13 +142,20 @@ void RunRoom::PaneShown(bool shown) {
 }
 
 void RunRoom::Told(const Change& change) {
+    if (change.Kind != ChangeKind::Replaced && !ChangesTheMachine(change.Kind))
+        return;
+    if (frmTour_ != nullptr)
+        frmTour_->TakeEdit();
+    if (run_ != nullptr)
+        TellRun(change);
+}
+
+void RunRoom::TellRun(const Change& change) {
     if (change.Kind == ChangeKind::Replaced) {
         pane_->StopTime();
         tests_->hide();
         run_->Restart();
         missedEdits_ = false;
-    } else if (!ChangesTheMachine(change.Kind)) {
-        return;
     } else if (IsShown()) {
         run_->Recompile();
     } else {
@@ -196,6 +213,40 @@ void RunRoom::Do(RunWish wish) {
     Show(Log::GoesOn);
 }
 
+// Of a large machine it takes its time. Whatever is done meanwhile ends the search.
+void RunRoom::FindWay(StateNumber to) {
+    pane_->StopTime();
+    const std::optional<run::WayAsked> asked = run_->AskWay(to);
+    Show(Log::GoesOn);
+    if (!asked)
+        return;
+    pane_->ShowSearch(true);
+    way_.Begin([document = session_.Document(), asked = *asked](
+                   const std::stop_token& stop) { return run::FindWayFromRun(document, asked, stop); },
+               [this, to](const run::WayFromRun& way) {
+                   pane_->ShowSearch(false);
+                   run_->GoWay(to, way);
+                   Show(Log::IsAnother);
+               });
+}
+
+void RunRoom::DropSearch() {
+    if (!way_.IsOn())
+        return;
+    way_.Drop();
+    pane_->ShowSearch(false);
+}
+
+void RunRoom::MakeTour() {
+    if (frmTour_ == nullptr) {
+        frmTour_ = new frmTour(session_, &window_);
+        connect(frmTour_, &frmTour::Saved, this, &Room::Said);
+    }
+    frmTour_->show();
+    frmTour_->raise();
+    frmTour_->activateWindow();
+}
+
 void RunRoom::SaveAsTest() {
     pane_->StopTime();
     const QString said = SaveRunAsTest(window_, session_, *run_, pane_->Unit());
@@ -223,6 +274,7 @@ void RunRoom::RunTests() {
 }
 
 void RunRoom::Show(Log log) {
+    DropSearch();
     if (!run_->CanGoOn())
         pane_->StopTime();
     pane_->ShowRun(log == Log::IsAnother);

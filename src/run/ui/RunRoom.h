@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "kit/Background.h"
 #include "kit/Room.h"
+#include "run/WayFromRun.h"
 #include "run/ui/RunWish.h"
 
 #include <memory>
@@ -10,6 +12,7 @@ namespace orvane {
 
 class TestsPane;
 class dckRun;
+class frmTour;
 namespace run {
 class LiveRun;
 }
@@ -26,7 +29,7 @@ class RunRoom : public Room {
     std::span<const Command> Commands() const override;
     void Run(Command command) override;
     ObserverRank Rank() const override;
-    bool Listens() const override { return run_ != nullptr; }
+    bool Listens() const override { return run_ != nullptr || frmTour_ != nullptr; }
     void Told(const Change& change) override;
     void FireEvent(RowNumber row) override;
 
@@ -37,7 +40,12 @@ class RunRoom : public Room {
     void ShowPane();
     void MakePane();
     void PaneShown(bool shown);
+    void ConnectPane();
+    void TellRun(const Change& change);
     void Do(RunWish wish);
+    void FindWay(StateNumber to);
+    void DropSearch();
+    void MakeTour();
     void SaveAsTest();
     void RunTests();
     void Show(Log log);
@@ -48,7 +56,9 @@ class RunRoom : public Room {
     std::unique_ptr<run::LiveRun> run_; // made when the pane is
     dckRun* pane_ = nullptr;
     TestsPane* tests_ = nullptr; // in the pane
+    frmTour* frmTour_ = nullptr; // belongs to the main window; made when it is asked for
     bool missedEdits_ = false;   // while the pane was hidden
+    Background<run::WayFromRun> way_{*this};
 };
 
 } // namespace orvane

@@ -10,10 +10,12 @@
 #include "run/RunWords.h"
 #include "run/TestPlan.h"
 #include "run/TestReader.h"
+#include "run/TourText.h"
 #include "run/ui/StateText.h"
 #include "session/Session.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QInputDialog>
@@ -146,6 +148,33 @@ QString SaveRunAsTest(QWidget& window, const Session& session, const run::LiveRu
     if (!WriteTests(window, path, bytes))
         return {};
     return Text("The test \"%1\" is in %2 now.").arg(name, QFileInfo(path).fileName());
+}
+
+QString ChooseTourFile(QWidget& window, const Session& session) {
+    const QString beside = TestFileBeside(session);
+    const QString offered = beside.isEmpty() ? QStringLiteral("tour.ztest")
+                                             : beside.chopped(int(std::string_view(".ztest").size())) +
+                                                   QLatin1String("-tour.ztest");
+    return QFileDialog::getSaveFileName(&window, Text("Save the tour"), offered, Text("Tests (*.ztest)"));
+}
+
+QString SaveTour(QWidget& window, const Session& session, const run::Tour& tour, const QString& path) {
+    std::optional<std::string> machine;
+    if (!session.Path().empty() && path != TestFileBeside(session))
+        machine =
+            QFileInfo(path).dir().relativeFilePath(QString::fromStdString(session.Path())).toStdString();
+    if (!WriteTests(window, path, run::TourFile(tour, machine)))
+        return {};
+    QStringList said{
+        Text("%1: %2").arg(QFileInfo(path).fileName(), QString::fromStdString(run::TourSummary(tour)))};
+    if (tour.StepsRanOut)
+        said += Text("the rest needs more steps than were allowed");
+    const std::vector<std::string> gaps = run::TourGaps(tour, session.Document());
+    if (!gaps.empty())
+        said += QString::fromStdString(gaps.front());
+    if (gaps.size() > 1)
+        said += Text("and %1 more").arg(gaps.size() - 1);
+    return said.join(QLatin1String("; "));
 }
 
 } // namespace orvane

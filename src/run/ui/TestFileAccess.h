@@ -4,6 +4,7 @@
 
 #include "run/LiveRun.h"
 #include "run/TestText.h"
+#include "run/Tour.h"
 
 #include <QString>
 
@@ -31,5 +32,12 @@ std::optional<std::string> ReadTests(QWidget& window, const QString& path);
 // Asks for the name of the test, and for the file where the document has none, and adds the run up to the
 // moment shown. What the status bar tells of it comes back, empty when nothing was written.
 QString SaveRunAsTest(QWidget& window, const Session& session, const run::LiveRun& run, const QString& unit);
+
+// Where a tour is to go: beside the document, under a name of its own, unless the user says otherwise.
+QString ChooseTourFile(QWidget& window, const Session& session);
+
+// Writes the tour into a file of its own. What the status bar tells comes back, empty when nothing was
+// written, which the user was told then.
+QString SaveTour(QWidget& window, const Session& session, const run::Tour& tour, const QString& path);
 
 } // namespace orvane

@@ -11,6 +11,7 @@
 #include "run/ui/TimersModel.h"
 #include "run/ui/fraLimit.h"
 #include "run/ui/fraRunButtons.h"
+#include "run/ui/fraWay.h"
 #include "run/ui/timRun.h"
 
 #include <QCheckBox>
@@ -59,6 +60,7 @@ dckRun::dckRun(const FsmDocument& document, const run::LiveRun& run, QWidget* pa
 
 void dckRun::MakeTop(QVBoxLayout& layout) {
     buttons_ = new fraRunButtons(body_);
+    way_ = new fraWay(document_, body_);
     player_ = new RunPlayer(body_);
     lblWhere = MakeLabel(body_, "lblWhere");
     QFont large = lblWhere->font();
@@ -66,9 +68,12 @@ void dckRun::MakeTop(QVBoxLayout& layout) {
     lblWhere->setFont(large);
     lblNotice = MakeLabel(body_, "lblNotice");
     fraLimit_ = new fraLimit(document_, body_);
-    for (QWidget* widget : std::initializer_list<QWidget*>{buttons_, player_, lblWhere, lblNotice, fraLimit_})
+    for (QWidget* widget :
+         std::initializer_list<QWidget*>{buttons_, way_, player_, lblWhere, lblNotice, fraLimit_})
         layout.addWidget(widget);
     connect(buttons_, &fraRunButtons::Wanted, this, &dckRun::Wanted);
+    connect(way_, &fraWay::Wanted, this, &dckRun::WayWanted);
+    connect(way_, &fraWay::StopWanted, this, &dckRun::SearchUnwanted);
     connect(player_, &RunPlayer::TimePassed, this, &dckRun::TimePassed);
     connect(player_, &RunPlayer::NextWanted, this, [this] { Q_EMIT Wanted(RunWish::ToChange); });
     connect(fraLimit_, &fraLimit::Given, this, &dckRun::LimitGiven);
@@ -203,10 +208,12 @@ void dckRun::ShowRun(bool anew) {
     inputs_->Refresh();
     lstInputs->setCurrentIndex(inputs_->PlaceOf(chosen));
     timers_->Refresh();
-    if (anew)
+    if (anew) {
+        way_->Refresh();
         log_->RefreshAll();
-    else
+    } else {
         log_->Refresh();
+    }
     lstLog->scrollToBottom();
     timRun_->Refresh();
     lblWhere->setText(WhereText());
@@ -244,6 +251,8 @@ bool dckRun::ShowsCounts() const { return chkCounts->isChecked(); }
 QString dckRun::Unit() const { return player_->Unit(); }
 
 void dckRun::StopTime() { player_->Stop(); }
+
+void dckRun::ShowSearch(bool on) { way_->ShowSearch(on); }
 
 // All lanes, also where they have not got their place yet.
 QPixmap dckRun::TimelinePicture() const {

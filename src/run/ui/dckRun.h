@@ -22,6 +22,7 @@ class TimersModel;
 class timRun;
 class fraLimit;
 class fraRunButtons;
+class fraWay;
 
 // The pane beside the table in which the machine is run. It shows a run and tells what the user wants done
 // to it; it does nothing to it itself.
@@ -40,6 +41,8 @@ class dckRun : public QDockWidget {
     // Time passes by itself no more.
     void StopTime();
     QPixmap TimelinePicture() const;
+    // A way to a state is being looked for.
+    void ShowSearch(bool on);
     // Behind the lists, above the last row of buttons.
     void AddBelow(QWidget* widget);
 
@@ -50,6 +53,8 @@ class dckRun : public QDockWidget {
     void TimePassed(orvane::run::Units units);
     void TimeWanted(orvane::run::Units time);
     void LimitGiven(orvane::run::Units units);
+    void WayWanted(orvane::StateNumber to);
+    void SearchUnwanted();
 
   protected:
     bool event(QEvent* event) override;
@@ -72,6 +77,7 @@ class dckRun : public QDockWidget {
     const run::LiveRun& run_;
     QWidget* body_;
     fraRunButtons* buttons_;
+    fraWay* way_;
     RunPlayer* player_;
     QLabel* lblWhere;
     QLabel* lblNotice;

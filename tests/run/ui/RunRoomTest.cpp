@@ -303,5 +303,39 @@ TEST_F(RunRoomTest, F1InThePaneOpensItsPage) {
     EXPECT_TRUE(opened.Addresses[0].toString().endsWith(QStringLiteral("4975.htm")));
 }
 
+// The state is chosen by a piece of its name.
+TEST_F(RunRoomTest, TheShortestWayToAStateIsPlayedAsStepsOfTheRun) {
+    StartRunning(TimedPump());
+    QComboBox& state = Named<QComboBox>(Window(), "cboState");
+    state.lineEdit()->selectAll();
+    QTest::keyClicks(state.lineEdit(), QStringLiteral("ru"));
+    PressButton("cmdGoToState");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Where() == "2:Run at 0"; })) << Where();
+    EXPECT_EQ(Notice(), "The shortest way to 2:Run was played");
+    EXPECT_EQ(Named<QPushButton>(Window(), "cmdGoToState").text(), QStringLiteral("Go"));
+    PressKey(Qt::Key_Backspace);
+    EXPECT_EQ(Where(), "1:Idle at 0");
+    state.setCurrentText(QStringLiteral("3:Wait"));
+    PressButton("cmdGoToState");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Notice() == "No way leads from 1:Idle to 3:Wait"; }))
+        << Notice();
+}
+
+TEST_F(RunRoomTest, WhatIsDoneMeanwhileEndsTheSearchForAWay) {
+    StartRunning(TimedPump());
+    PressButton("cmdPowerOn");
+    Named<QComboBox>(Window(), "cboState").setCurrentText(QStringLiteral("2:Run"));
+    PressButton("cmdGoToState");
+    EXPECT_EQ(Named<QPushButton>(Window(), "cmdGoToState").text(), QStringLiteral("Stop"));
+    PressButton("cmdStep");
+    EXPECT_EQ(Named<QPushButton>(Window(), "cmdGoToState").text(), QStringLiteral("Go"));
+    PressButton("cmdGoToState");
+    PressButton("cmdGoToState"); // stops it
+    QCoreApplication::processEvents();
+    EXPECT_EQ(Where(), "1:Idle at 1");
+    TypeTarget(7, 1, QStringLiteral("2"));
+    EXPECT_EQ(Where(), "1:Idle at 1");
+}
+
 } // namespace
 } // namespace orvane
