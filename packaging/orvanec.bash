@@ -27,14 +27,16 @@ _orvanec() {
         check:--format | find:--format) COMPREPLY=($(compgen -W 'text json' -- "$typed")) && return ;;
         diff:--format) COMPREPLY=($(compgen -W 'text json html' -- "$typed")) && return ;;
         diff:--same | diff:--different | merge:--path) return ;;
+        diagram:--format) COMPREPLY=($(compgen -W 'svg dot' -- "$typed")) && return ;;
+        diagram:--direction) COMPREPLY=($(compgen -W 'lr td' -- "$typed")) && return ;;
         git:git) COMPREPLY=($(compgen -W 'enable' -- "$typed")) && return ;;
         test:--reading)
             COMPREPLY=($(compgen -W 'at-limit after-limit unstarted-since-power-on unstarted-expired' -- "$typed"))
             return
             ;;
-        test:--filter | test:-j | test:--jobs | explore:--from | explore:--to | tour:--limit) return ;;
+        test:--filter | test:-j | test:--jobs | explore:--from | explore:--to | tour:--limit | diagram:--focus) return ;;
         generate:-o | generate:--output | format:-o | format:--output | test:--junit | test:--markdown | \
-            simulate:--csv | simulate:--vcd | tour:-o | tour:--output | merge:-o | merge:--output)
+            simulate:--csv | simulate:--vcd | tour:-o | tour:--output | diagram:-o | diagram:--output | merge:-o | merge:--output)
             local IFS=$'\n'
             compopt -o filenames 2>/dev/null
             COMPREPLY=($(compgen -f -- "$typed"))
@@ -43,7 +45,7 @@ _orvanec() {
     esac
     case $verb:$typed in
         :-*) COMPREPLY=($(compgen -W '--help --version' -- "$typed")) ;;
-        :*) COMPREPLY=($(compgen -W 'generate check format find test simulate explore tour diff show merge conflicts git' -- "$typed")) ;;
+        :*) COMPREPLY=($(compgen -W 'generate check format find test simulate explore tour diagram diff show merge conflicts git' -- "$typed")) ;;
         check:-*) COMPREPLY=($(compgen -W '--advice --format --help' -- "$typed")) ;;
         generate:-* | format:-*) COMPREPLY=($(compgen -W '--output --help' -- "$typed")) ;;
         find:-*) COMPREPLY=($(compgen -W '--format --help --ignore-case --regex --word' -- "$typed")) ;;
@@ -54,6 +56,8 @@ _orvanec() {
         simulate:-*) COMPREPLY=($(compgen -W '--csv --help --vcd' -- "$typed")) ;;
         tour:-*)
             COMPREPLY=($(compgen -W '--empty-cells --help --limit --output --together' -- "$typed")) ;;
+        diagram:-*)
+            COMPREPLY=($(compgen -W '--direction --focus --format --help --no-else --output' -- "$typed")) ;;
         diff:-*) COMPREPLY=($(compgen -W '--different --format --help --no-view --same' -- "$typed")) ;;
         show:-*) COMPREPLY=($(compgen -W '--help --textconv' -- "$typed")) ;;
         merge:-*) COMPREPLY=($(compgen -W '--help --ours --output --path --theirs' -- "$typed")) ;;

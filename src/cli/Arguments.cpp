@@ -2,6 +2,7 @@
 #include "cli/Arguments.h"
 
 #include "cli/BracketArgument.h"
+#include "cli/ExportOptions.h"
 #include "cli/FindOptions.h"
 #include "cli/MachineOptions.h"
 #include "cli/MessageText.h"
@@ -65,7 +66,7 @@ constexpr const char* kFindNotes =
     "Regular expressions: . [a-z] [^;] \\d \\w \\s \\t ^ $ \\b ( ) | * + ? {2,5}, within a line.\n"
     "Exit status: 0 found, 1 nothing found, 2 wrong usage, 3 a file that could not be read to its end";
 
-constexpr std::array<std::pair<const char*, Verb>, 13> kVerbs{{{"generate", Verb::Generate},
+constexpr std::array<std::pair<const char*, Verb>, 14> kVerbs{{{"generate", Verb::Generate},
                                                                {"check", Verb::Check},
                                                                {"format", Verb::Format},
                                                                {"find", Verb::Find},
@@ -73,6 +74,7 @@ constexpr std::array<std::pair<const char*, Verb>, 13> kVerbs{{{"generate", Verb
                                                                {"simulate", Verb::Simulate},
                                                                {"explore", Verb::Explore},
                                                                {"tour", Verb::Tour},
+                                                               {"diagram", Verb::Diagram},
                                                                {"diff", Verb::Diff},
                                                                {"show", Verb::Show},
                                                                {"merge", Verb::Merge},
@@ -86,6 +88,11 @@ std::string VerbList() {
     return list;
 }
 
+constexpr const char* kDiagramNotes =
+    "Example: orvanec diagram pump.zfsm -o pump.svg\n"
+    "         draws the machine; orvanec diagram --focus=Idle pump.zfsm what is around one state\n\n"
+    "A design with errors is drawn with signs where they are. Above 600 lines between states only what is\n"
+    "around state 1 is drawn.";
 constexpr const char* kDiffNotes =
     "Example: orvanec diff old.zfsm new.zfsm\n"
     "         tells what was done: states and events that came, went, moved or have another name, and\n"
@@ -119,6 +126,7 @@ class CommandLine {
         find_.AddTo(AddVerb("find", "Print where a text stands in documents", kFindNotes));
         AddTest();
         AddMachineVerbs();
+        AddExport();
         AddReview();
     }
 
@@ -162,6 +170,11 @@ class CommandLine {
         machines_.AddExplore(
             AddVerb("explore", "Tell what holds in all behaviours of a machine", kExploreNotes));
     }
+    void AddExport() {
+        CLI::App& diagram = AddVerb("diagram", "Draw a machine", kDiagramNotes);
+        export_.AddDiagram(diagram);
+        AddOutput(diagram, "Write to FILE instead of standard output");
+    }
     void AddReview() {
         review_.AddDiff(AddVerb("diff", "Tell what leads from one document to another", kDiffNotes));
         review_.AddShow(
@@ -194,6 +207,7 @@ class CommandLine {
     FindOptions find_;
     TestOptions tests_;
     MachineOptions machines_;
+    ExportOptions export_;
     ReviewOptions review_;
     std::string firstWord_;
 };
@@ -219,6 +233,7 @@ Arguments CommandLine::Parse(int count, const char* const* values) {
     arguments.Documents = arguments.What == Verb::Format     ? std::vector{std::move(document_)}
                           : arguments.What == Verb::Find     ? find_.TakeDocuments()
                           : LooksIntoOne(arguments.What)     ? std::vector{machines_.TakeDocument()}
+                          : GivesAnotherForm(arguments.What) ? std::vector{export_.TakeDocument()}
                           : ComparesVersions(arguments.What) ? review_.TakeDocuments()
                                                              : std::move(documents_);
     arguments.Finding = find_.Take();
@@ -228,6 +243,7 @@ Arguments CommandLine::Parse(int count, const char* const* values) {
     arguments.Simulating = machines_.TakeSimulate();
     arguments.Exploring = machines_.TakeExplore();
     arguments.Touring = machines_.TakeTour();
+    arguments.Drawing = export_.TakeDiagram();
     arguments.Advice = advice_;
     if (arguments.What == Verb::Test && arguments.Documents.empty())
         arguments.Documents = {"."};

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "cli/ExportArguments.h"
 #include "cli/FindArguments.h"
 #include "cli/Outcome.h"
 #include "cli/ReviewArguments.h"
@@ -23,6 +24,7 @@ enum class Verb {
     Simulate,
     Explore,
     Tour,
+    Diagram,
     Diff,
     Show,
     Merge,
@@ -34,6 +36,9 @@ enum class Verb {
 constexpr bool LooksIntoOne(Verb verb) {
     return verb == Verb::Simulate || verb == Verb::Explore || verb == Verb::Tour;
 }
+
+// The verbs that give one document another form.
+constexpr bool GivesAnotherForm(Verb verb) { return verb == Verb::Diagram; }
 
 // The verbs about several versions of one document.
 constexpr bool ComparesVersions(Verb verb) {
@@ -56,6 +61,7 @@ struct Arguments {
     SimulateArguments Simulating;
     ExploreArguments Exploring;
     TourArguments Touring;
+    DiagramArguments Drawing;
     ReviewArguments Reviewing;
 };
 

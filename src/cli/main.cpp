@@ -2,6 +2,7 @@
 // orvanec: checks documents and writes their programs without a window.
 #include "cli/Arguments.h"
 #include "cli/EndingSignals.h"
+#include "cli/ExportVerbs.h"
 #include "cli/FindVerb.h"
 #include "cli/MachineVerbs.h"
 #include "cli/MessageText.h"
@@ -52,6 +53,8 @@ int Do(const Arguments& arguments) {
         return RunTests(arguments, TestFiles(files, *unfinished));
     if (LooksIntoOne(arguments.What))
         return Deliver(RunMachineVerb(arguments, TestFiles(files, *unfinished)));
+    if (GivesAnotherForm(arguments.What))
+        return Deliver(RunExportVerb(arguments, TestFiles(files, *unfinished)));
     const Run run{arguments, date.Date, files, *unfinished};
     if (ComparesVersions(arguments.What))
         return Deliver(RunReviewVerb(run));
