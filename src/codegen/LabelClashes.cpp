@@ -1,36 +1,24 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "codegen/LabelClashes.h"
 
+#include "codegen/ActionBlocks.h"
 #include "codegen/Labels.h"
 #include "codegen/Reachability.h"
 #include "codegen/TimerList.h"
-#include "core/Cell.h"
 #include "core/TimingMode.h"
-#include "text/AnsiText.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace orvane {
 
 namespace {
 
-bool HasActionBlock(const FsmDocument& document, Cell cell) {
-    const StateRecord& record = document.State(cell.State);
-    if (record.Targets[cell.Row] == kNoState || record.Actions[cell.Row].empty())
-        return false;
-    if (cell.Row == kTimeoutRow)
-        return HasConstantLimit(record.TimingMode) && !Trim(record.TimeConst).empty();
-    return cell.Row != kElseRow && !document.Event(cell.Row).Code.empty();
-}
-
 void AddLabelsOfState(std::vector<std::string>& labels, const FsmDocument& document, StateNumber state) {
     labels.push_back(StateEntryLabel(document, state));
     labels.push_back(StateLoopLabel(document, state));
-    unsigned counter = 0;
-    for (const RowNumber row : CellRows()) {
-        if (HasActionBlock(document, {row, state}))
-            labels.push_back(ActionSkipLabel(document, state, counter++));
-    }
+    for (SkipLabel& skip : SkipLabels(document, state))
+        labels.push_back(std::move(skip.Label));
 }
 
 void AddLabelsOfTimers(std::vector<std::string>& labels, const FsmDocument& document,
