@@ -20,6 +20,7 @@ namespace orvane::review {
 namespace {
 
 constexpr double kLikeEnough = 0.5; // half of the content
+constexpr double kLikeAtAll = 0.1;  // a tenth: enough where that takes less to tell than two things
 constexpr int kMostRounds = 10;
 
 // One kind of thing, states or events, on both sides.
@@ -69,7 +70,7 @@ class Matcher {
                 shortest = length;
                 best = found;
             }
-            best = WithoutCostlyGuesses(best);
+            best = WithCheapGuesses(WithoutCostlyGuesses(best));
         }
         best.States.MarkMoves();
         best.Rows.MarkMoves();
@@ -89,6 +90,10 @@ class Matcher {
     void AssignStates(Matching& next, const Matching& seenThrough);
     void AssignEvents(Matching& next, const Matching& seenThrough);
     Matching WithoutCostlyGuesses(Matching matching) const;
+    Matching WithCheapGuesses(Matching matching);
+    template <typename Number, typename LikenessOf>
+    void JoinCheap(Matching& matching, Pairing<Number> Matching::*kind, const Sides<Number>& sides,
+                   LikenessOf likenessOf) const;
     template <typename Number>
     void PartCostly(Matching& matching, Pairing<Number> Matching::*kind, const Sides<Number>& sides) const;
 
@@ -229,6 +234,42 @@ void Matcher::PartCostly(Matching& matching, Pairing<Number> Matching::*kind,
             continue;
         matching = parted;
         length = partedLength;
+    }
+}
+
+// What was renamed and edited all over is still the same one when the list gets shorter by that. With nothing
+// in common it is not: one that went and one that came can be small enough to make a shorter list together.
+Matching Matcher::WithCheapGuesses(Matching matching) {
+    const Matching seenThrough = matching;
+    const Likeness likeness({old_, new_}, seenThrough, ids_);
+    JoinCheap(matching, &Matching::States, states_, [&](StateNumber oldState, StateNumber newState) {
+        return likeness.OfStates(oldState, newState);
+    });
+    JoinCheap(matching, &Matching::Rows, rows_,
+              [&](RowNumber oldRow, RowNumber newRow) { return likeness.OfEvents(oldRow, newRow); });
+    return matching;
+}
+
+template <typename Number, typename LikenessOf>
+void Matcher::JoinCheap(Matching& matching, Pairing<Number> Matching::*kind, const Sides<Number>& sides,
+                        LikenessOf likenessOf) const {
+    std::size_t length = ListLength(old_, new_, matching);
+    for (const Number oldOne : sides.Old) {
+        if ((matching.*kind).HasNew(oldOne))
+            continue;
+        std::optional<Matching> shorter;
+        for (const Number newOne : sides.New) {
+            if ((matching.*kind).HasOld(newOne) || likenessOf(oldOne, newOne) < kLikeAtAll)
+                continue;
+            Matching joined = matching;
+            (joined.*kind).Join(oldOne, newOne, true);
+            const std::size_t joinedLength = ListLength(old_, new_, joined);
+            if (joinedLength >= length)
+                continue;
+            length = joinedLength;
+            shorter = joined;
+        }
+        matching = shorter.value_or(matching);
     }
 }
 
