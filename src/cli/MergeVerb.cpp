@@ -23,9 +23,9 @@ class MergeRun {
     explicit MergeRun(const Run& run) : run_(run), asked_(run.Asked.Reviewing), names_(run.Asked.Documents) {}
 
     Outcome Do() {
-        const std::optional<FsmDocument> base = ReadWholeDocument(run_.Files, names_[0], outcome_);
-        const std::optional<FsmDocument> ours = ReadWholeDocument(run_.Files, names_[1], outcome_);
-        const std::optional<FsmDocument> theirs = ReadWholeDocument(run_.Files, names_[2], outcome_);
+        const std::optional<FsmDocument> base = Read(names_[0]);
+        const std::optional<FsmDocument> ours = Read(names_[1]);
+        const std::optional<FsmDocument> theirs = Read(names_[2]);
         if (!base || !ours || !theirs || StillHasConflicts(names_[1], *ours) ||
             StillHasConflicts(names_[2], *theirs))
             return std::move(outcome_);
@@ -41,6 +41,10 @@ class MergeRun {
     }
 
   private:
+    std::optional<FsmDocument> Read(const std::string& name) {
+        return ReadWholeDocument(run_.Files, name, outcome_, TextMarks::Refused);
+    }
+
     review::MergeResult Merged(const FsmDocument& base, const FsmDocument& ours,
                                const FsmDocument& theirs) const {
         if (asked_.TakeOurs)

@@ -16,7 +16,12 @@ namespace orvane::cli {
 std::optional<ReadResult> ReadNamedDocument(FileSystem& files, const std::string& name, Outcome& outcome,
                                             TextStarts* starts = nullptr);
 
+// The marks that a merge line by line has put around what two people changed are told; or they are a reason
+// not to read the document, which then is neither version: status 2.
+enum class TextMarks { Told, Refused };
+
 // The same of a document that is of no use unless it was read to its end.
-std::optional<FsmDocument> ReadWholeDocument(FileSystem& files, const std::string& name, Outcome& outcome);
+std::optional<FsmDocument> ReadWholeDocument(FileSystem& files, const std::string& name, Outcome& outcome,
+                                             TextMarks marks = TextMarks::Told);
 
 } // namespace orvane::cli

@@ -126,6 +126,8 @@ GeneratedProgram CodeGenerator::Run() {
     EmitStateBlocks();
     EmitTimerDefinitions();
     EmitNonVolatileData();
+    for (Finding& conflict : CheckMergeConflicts(document_))
+        Tell(std::move(conflict));
     return {text_.Take(), std::move(report_)};
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "codegen/DesignChecks.h"
 
+#include "core/ConflictMark.h"
+#include "core/RecordFields.h"
 #include "core/StateLabel.h"
 #include "core/TimingMode.h"
 #include "text/AnsiText.h"
@@ -21,6 +23,27 @@ constexpr std::string_view kMissingPrefix =
 
 Finding StateFinding(FindingKind kind, const FsmDocument& document, Cell place, std::string_view what) {
     return {kind, place, "State " + StateTitle(document, place.State) + std::string(what)};
+}
+
+template <typename Fields, typename Record>
+bool HasConflictInText(const Fields& fields, const Record& record) {
+    bool has = false;
+    ForEachField(fields, [&](const auto& field) {
+        if constexpr (std::is_same_v<std::remove_cvref_t<decltype(record.*field.Member)>, std::string>)
+            has = has || HoldsConflict(record.*field.Member);
+    });
+    return has;
+}
+
+Finding ConflictFinding(Cell place, const std::string& where) {
+    return {FindingKind::MergeConflict, place, where + " has a conflict of a merge that nobody has resolved"};
+}
+
+std::string CellTitle(const FsmDocument& document, Cell cell) {
+    const std::string state = "State " + StateTitle(document, cell.State);
+    if (cell.Row == kTimeoutRow || cell.Row == kElseRow)
+        return state + (cell.Row == kElseRow ? ", the ELSE action," : ", the timeout action,");
+    return state + ", the action in row " + NumberText(cell.Row.Number()) + ",";
 }
 
 } // namespace
@@ -94,6 +117,27 @@ std::optional<Finding> CheckUnreachable(const FsmDocument& document, const Reach
     if (record.Name.empty() && std::none_of(CellRows().begin(), CellRows().end(), hasTarget))
         return std::nullopt;
     return StateFinding(FindingKind::UnreachableState, document, {kNoRow, state}, " is unreachable");
+}
+
+std::vector<Finding> CheckMergeConflicts(const FsmDocument& document) {
+    std::vector<Finding> findings;
+    if (HasConflictInText(kGeneralFields, document.General))
+        findings.push_back(ConflictFinding({}, "The general code"));
+    for (const RowNumber row : EventRows()) {
+        if (HasConflictInText(kEventFields, document.Event(row)))
+            findings.push_back(
+                ConflictFinding({row, kNoState}, "The event in row " + NumberText(row.Number())));
+    }
+    for (const StateNumber state : StateNumbers()) {
+        const StateRecord& record = document.State(state);
+        if (HasConflictInText(kStateFields, record))
+            findings.push_back(ConflictFinding({kNoRow, state}, "State " + StateTitle(document, state)));
+        for (const RowNumber row : CellRows()) {
+            if (HoldsConflict(record.Actions[row]))
+                findings.push_back(ConflictFinding({row, state}, CellTitle(document, {row, state})));
+        }
+    }
+    return findings;
 }
 
 } // namespace orvane

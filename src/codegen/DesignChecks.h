@@ -10,6 +10,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace orvane {
 
@@ -33,5 +34,9 @@ std::optional<Finding> CheckTimeoutAndElse(const FsmDocument& document, StateNum
 // In use, by its name or by a target, but not reached. State 1 is never called unreachable.
 std::optional<Finding> CheckUnreachable(const FsmDocument& document, const Reachability& reachability,
                                         StateNumber state);
+
+// Texts in which a merge of two versions has left something for people to decide: each in the machine as a
+// whole, in an event, in a state or in a cell is a finding.
+std::vector<Finding> CheckMergeConflicts(const FsmDocument& document);
 
 } // namespace orvane

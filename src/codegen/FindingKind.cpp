@@ -34,9 +34,11 @@ std::string_view KindName(FindingKind kind) {
     case FindingKind::TimeoutAndElse:
         return "timeout-and-else";
     case FindingKind::UnreachableState:
+        return "unreachable-state";
+    case FindingKind::MergeConflict:
         break;
     }
-    return "unreachable-state";
+    return "merge-conflict";
 }
 
 Severity SeverityOf(FindingKind kind) {
@@ -46,6 +48,7 @@ Severity SeverityOf(FindingKind kind) {
         return Severity::Note;
     case FindingKind::DeadEnd:
     case FindingKind::UnreachableState:
+    case FindingKind::MergeConflict:
         return Severity::Warning;
     case FindingKind::MissingPrefix:
     case FindingKind::MissingEventCode:

@@ -23,12 +23,14 @@ enum class FindingKind {
     DeadEnd,
     TimeoutAndElse,
     UnreachableState,
+    MergeConflict,
 };
 
-inline constexpr auto kFindingKinds = std::to_array(
-    {FindingKind::MissingPrefix, FindingKind::MissingEventCode, FindingKind::TimingModeWithoutTimeout,
-     FindingKind::MissingTimeConstant, FindingKind::MissingVariableTime, FindingKind::MissingTimingMode,
-     FindingKind::DeadEnd, FindingKind::TimeoutAndElse, FindingKind::UnreachableState});
+inline constexpr auto kFindingKinds =
+    std::to_array({FindingKind::MissingPrefix, FindingKind::MissingEventCode,
+                   FindingKind::TimingModeWithoutTimeout, FindingKind::MissingTimeConstant,
+                   FindingKind::MissingVariableTime, FindingKind::MissingTimingMode, FindingKind::DeadEnd,
+                   FindingKind::TimeoutAndElse, FindingKind::UnreachableState, FindingKind::MergeConflict});
 
 // The word that tools know the kind by, such as "missing-time-constant".
 std::string_view KindName(FindingKind kind);

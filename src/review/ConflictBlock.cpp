@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "review/ConflictBlock.h"
 
+#include "core/ConflictMark.h"
 #include "review/LineDiff.h"
 #include "review/Titles.h"
 #include "text/AnsiText.h"
@@ -9,7 +10,7 @@ namespace orvane::review {
 
 namespace {
 
-constexpr std::string_view kBegin = ";<<<<<<< CONFLICT: ";
+constexpr std::string_view kBegin = kConflictMark;
 constexpr std::string_view kBase = ";||||||| BASE";
 constexpr std::string_view kTheirs = ";======= THEIRS";
 constexpr std::string_view kEnd = ";>>>>>>> CONFLICT";
@@ -20,8 +21,6 @@ std::string AsComments(std::string_view text) {
         comments.append(";").append(line).append(kLineEnd);
     return comments;
 }
-
-bool MayHoldBlock(std::string_view text) { return text.find(kBegin) != std::string_view::npos; }
 
 class BlockFinder {
   public:
@@ -87,7 +86,7 @@ class DocumentSearch {
             const StateRecord& record = document_.State(state);
             SearchFields<kStateFields>("state " + StateTitle(document_, state), record);
             for (const RowNumber row : CellRows()) {
-                if (MayHoldBlock(record.Actions[row])) // there are too many to name each
+                if (HoldsConflict(record.Actions[row])) // there are too many to name each
                     SearchText(StateTitle(document_, state) + ", " + RowTitle(document_, row) + ", action",
                                record.Actions[row]);
             }
@@ -104,7 +103,7 @@ class DocumentSearch {
         });
     }
     void SearchText(const std::string& where, std::string_view text) {
-        if (!MayHoldBlock(text))
+        if (!HoldsConflict(text))
             return;
         for (FoundBlock& block : FindConflictBlocks(text))
             placed_.push_back({where, std::move(block)});

@@ -77,6 +77,31 @@ TEST_F(Merge, ADocumentWithConflictsIsNotMergedAgain) {
     EXPECT_FALSE(Exists("again.zfsm"));
 }
 
+TEST_F(Merge, ADocumentWithTheMarksOfATextMergeIsRefused) {
+    std::string marked = ReadFile("entry.zfsm");
+    const std::size_t line = marked.find('\n') + 1;
+    marked.insert(line, "<<<<<<< ours\r\n=======\r\n>>>>>>> theirs\r\n");
+    WriteFile("marked.zfsm", marked);
+    const RunResult run = Run("merge base.zfsm marked.zfsm name.zfsm -o merged.zfsm");
+    EXPECT_EQ(run.Status, 2);
+    EXPECT_THAT(run.Errors,
+                testing::HasSubstr("orvanec: marked.zfsm: is not merged: it holds a merge line by line that "
+                                   "nobody finished\n"));
+    EXPECT_THAT(run.Errors, testing::HasSubstr("Resolve the conflict first"));
+    EXPECT_FALSE(Exists("merged.zfsm"));
+}
+
+TEST_F(Merge, WhatAMergeLeftOpenIsAWarningOfTheCheck) {
+    (void)Run("merge base.zfsm entry.zfsm slow.zfsm -o merged.zfsm");
+    EXPECT_EQ(Run("check entry.zfsm").Output.find("conflict"), std::string::npos);
+    const RunResult run = Run("check merged.zfsm");
+    EXPECT_EQ(run.Status, 0);
+    EXPECT_THAT(run.Output, testing::HasSubstr(
+                                "Warning: State 2:Run has a conflict of a merge that nobody has resolved\n"));
+    EXPECT_THAT(Run("check --format=json merged.zfsm").Output,
+                testing::HasSubstr("{\"severity\":\"warning\",\"kind\":\"merge-conflict\",\"state\":2,"));
+}
+
 TEST_F(Merge, ACleanMergeTakesTheListOfAnEarlierOneAway) {
     (void)Run("merge base.zfsm entry.zfsm slow.zfsm -o merged.zfsm");
     EXPECT_EQ(Run("merge base.zfsm entry.zfsm name.zfsm -o merged.zfsm").Status, 0);

@@ -150,6 +150,30 @@ TEST(DesignChecks, AStateInUseThatIsNotReachedIsUnreachable) {
     EXPECT_EQ(CheckUnreachable(document, reachability, 6), std::nullopt);
 }
 
+TEST(DesignChecks, WhatAMergeLeftToPeopleIsFoundInEveryKindOfText) {
+    const std::string block = ";ours\r\n;<<<<<<< CONFLICT: place\r\n;||||||| BASE\r\n;======= THEIRS\r\n"
+                              ";theirs\r\n;>>>>>>> CONFLICT";
+    constexpr const char* open = " has a conflict of a merge that nobody has resolved";
+    FsmDocument document = WithState(3, "Idle");
+    EXPECT_TRUE(CheckMergeConflicts(document).empty());
+    document.State(3).ExitCode = ";not at the begin of a line ;<<<<<<< CONFLICT: no";
+    EXPECT_TRUE(CheckMergeConflicts(document).empty());
+    document.General.HeaderComment = block;
+    document.Event(7).Tooltip = block;
+    document.State(3).EntryCode = block;
+    document.State(3).Actions[kElseRow] = block;
+    document.State(3).Actions[54] = block;
+    EXPECT_EQ(
+        CheckMergeConflicts(document),
+        (std::vector<Finding>{
+            {FindingKind::MergeConflict, {}, std::string("The general code") + open},
+            {FindingKind::MergeConflict, {7, 0}, std::string("The event in row 7") + open},
+            {FindingKind::MergeConflict, {0, 3}, std::string("State 3:Idle") + open},
+            {FindingKind::MergeConflict, {5, 3}, std::string("State 3:Idle, the ELSE action,") + open},
+            {FindingKind::MergeConflict, {54, 3}, std::string("State 3:Idle, the action in row 54,") + open},
+        }));
+}
+
 TEST(DesignChecks, StateOneIsNeverCalledUnreachable) {
     const FsmDocument document = WithState(1, "Idle");
     EXPECT_EQ(CheckUnreachable(document, ComputeReachability(document), 1), std::nullopt);

@@ -34,6 +34,7 @@ TEST(FindingKind, WordsNeverChange) {
     EXPECT_EQ(KindName(FindingKind::DeadEnd), "dead-end");
     EXPECT_EQ(KindName(FindingKind::TimeoutAndElse), "timeout-and-else");
     EXPECT_EQ(KindName(FindingKind::UnreachableState), "unreachable-state");
+    EXPECT_EQ(KindName(FindingKind::MergeConflict), "merge-conflict");
 }
 
 TEST(FindingKind, SeveritiesHaveNames) {
