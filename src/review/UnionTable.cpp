@@ -113,7 +113,10 @@ std::string UnionTable::RowName(int row) const {
     if (row == 0)
         return "State";
     const UnionLine<RowNumber>& line = Row(row);
-    return line.New == kNoRow ? RowTitle(documents_.Old, line.Old) : RowTitle(documents_.New, line.New);
+    if (!EventRows().Contains(line.New) && line.New != kNoRow)
+        return RowTitle(documents_.New, line.New);
+    return OneLine(line.New == kNoRow ? documents_.Old.Event(line.Old).Name
+                                      : documents_.New.Event(line.New).Name);
 }
 
 std::string UnionTable::ColumnName(int column) const {

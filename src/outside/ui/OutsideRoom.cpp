@@ -2,6 +2,7 @@
 #include "outside/ui/OutsideRoom.h"
 
 #include "kit/FilePath.h"
+#include "kit/VersionsToCompare.h"
 #include "outside/ui/fraFileChanged.h"
 #include "session/Session.h"
 #include "session/UserRecoveryFolder.h"
@@ -163,6 +164,7 @@ fraFileChanged& OutsideRoom::Strip() {
         above_->insertWidget(0, fraFileChanged_);
         connect(fraFileChanged_, &fraFileChanged::ReloadWanted, this,
                 [this] { Q_EMIT DocumentWanted(FileName()); });
+        connect(fraFileChanged_, &fraFileChanged::CompareWanted, this, [this] { Q_EMIT CompareWanted({}); });
         connect(fraFileChanged_, &fraFileChanged::KeepWanted, this, [this] {
             answered_ = shown_;
             Show(shown_);

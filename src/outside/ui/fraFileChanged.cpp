@@ -23,9 +23,9 @@ fraFileChanged::fraFileChanged(QWidget* parent) : QFrame(parent) {
     row->addWidget(lblFileChanged, 1);
     cmdReload = AddButton(QStringLiteral("cmdReload"), tr("&Reload"));
     cmdCompareFile = AddButton(QStringLiteral("cmdCompareFile"), tr("&Compare..."));
-    cmdCompareFile->hide();
     cmdKeep = AddButton(QStringLiteral("cmdKeep"), tr("&Keep"));
     connect(cmdReload, &QPushButton::clicked, this, &fraFileChanged::ReloadWanted);
+    connect(cmdCompareFile, &QPushButton::clicked, this, &fraFileChanged::CompareWanted);
     connect(cmdKeep, &QPushButton::clicked, this, &fraFileChanged::KeepWanted);
 }
 
@@ -40,7 +40,8 @@ QPushButton* fraFileChanged::AddButton(const QString& name, const QString& capti
 void fraFileChanged::Present(const QString& text, Offer offer) {
     lblFileChanged->setText(text);
     setAccessibleName(text);
-    cmdReload->setVisible(offer == Offer::Reload);
+    for (QPushButton* button : {cmdReload, cmdCompareFile})
+        button->setVisible(offer == Offer::Reload);
     cmdKeep->setText(offer == Offer::Reload ? tr("&Keep") : tr("&OK"));
     show();
 }

@@ -22,6 +22,7 @@ class fraFileChanged : public QFrame {
 
   Q_SIGNALS:
     void ReloadWanted();
+    void CompareWanted();
     void KeepWanted();
 
   private:
@@ -29,7 +30,7 @@ class fraFileChanged : public QFrame {
 
     QLabel* lblFileChanged = nullptr;
     QPushButton* cmdReload = nullptr;
-    QPushButton* cmdCompareFile = nullptr; // hidden: there is no window that compares yet
+    QPushButton* cmdCompareFile = nullptr;
     QPushButton* cmdKeep = nullptr;
 };
 

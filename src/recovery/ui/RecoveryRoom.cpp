@@ -3,8 +3,10 @@
 
 #include "core/ProgramVersion.h"
 #include "kit/AnsiString.h"
+#include "kit/DocumentFile.h"
 #include "kit/KeepsJournal.h"
 #include "kit/UserMessageBox.h"
+#include "kit/VersionsToCompare.h"
 #include "recovery/ui/RecoveryTexts.h"
 #include "recovery/ui/frmRecovery.h"
 #include "session/Commands.h"
@@ -13,6 +15,7 @@
 #include "session/UserRecoveryFolder.h"
 
 #include <QEvent>
+#include <QFileInfo>
 #include <QMainWindow>
 #include <QWindow>
 
@@ -24,6 +27,15 @@ namespace orvane {
 namespace {
 
 constexpr auto kOwnCommands = std::to_array<Command>({Command::RecoverWork});
+
+// What the work was begun from: its file as it is now, or an empty table where there is none.
+NamedVersion BeganFrom(const QString& path) {
+    DocumentFile file = path.isEmpty() ? DocumentFile() : ReadDocumentFile(path);
+    if (!file.Content)
+        return {RecoveryRoom::tr("an empty table"), std::make_shared<const FsmDocument>()};
+    return {RecoveryRoom::tr("%1 on disk").arg(QFileInfo(path).fileName()),
+            std::make_shared<const FsmDocument>(std::move(file.Content->Document))};
+}
 
 } // namespace
 
@@ -120,6 +132,7 @@ frmRecovery& RecoveryRoom::Window() {
         frmRecovery_ = new frmRecovery(&main_);
         frmRecovery_->ShowKeepJournal(KeepsJournal());
         connect(frmRecovery_, &frmRecovery::RecoverWanted, this, &RecoveryRoom::Recover);
+        connect(frmRecovery_, &frmRecovery::CompareWanted, this, &RecoveryRoom::Compare);
         connect(frmRecovery_, &frmRecovery::DiscardWanted, this, &RecoveryRoom::Discard);
         connect(frmRecovery_, &frmRecovery::DeleteAllWanted, this, &RecoveryRoom::DeleteAll);
         connect(frmRecovery_, &frmRecovery::KeepJournalChosen, this, &RecoveryRoom::Keep);
@@ -164,6 +177,25 @@ void RecoveryRoom::GoOnWith(AdoptedJournal recovered) {
         Tell(&main_, news.Loss);
     for (const std::string& message : messages)
         Tell(&main_, FromAnsi(message));
+}
+
+// Looked at only: the work stays where it is. When its document is open here, that is what it is compared
+// with, so that single changes can be taken over.
+void RecoveryRoom::Compare(const std::string& name) {
+    Result<AdoptedJournal> adopted = folder_->Adopt(name, TimeNow());
+    if (adopted.Failure)
+        return Tell(frmRecovery_, WhyNotTaken(adopted.Failure));
+    folder_->LetGo(adopted.Got);
+    RecoveredJournal& journal = adopted.Got.Journal;
+    if (journal.History.empty())
+        return Tell(frmRecovery_, NothingReadable());
+    const QString path = QString::fromStdString(journal.Head.Path);
+    VersionsToCompare versions;
+    if (path.isEmpty() || journal.Head.Path != session_.Path())
+        versions.Here = BeganFrom(path);
+    versions.Other = NamedVersion{tr("what was not saved"),
+                                  std::make_shared<const FsmDocument>(std::move(journal.Document))};
+    Q_EMIT CompareWanted(versions);
 }
 
 void RecoveryRoom::Discard(const std::string& name) {

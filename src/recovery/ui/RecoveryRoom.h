@@ -45,6 +45,7 @@ class RecoveryRoom : public Room {
     void Refresh();
     void Recover(const std::string& name);
     void GoOnWith(AdoptedJournal recovered);
+    void Compare(const std::string& name);
     void Discard(const std::string& name);
     void DeleteAll();
     void Keep(bool keep);

@@ -64,9 +64,9 @@ void frmRecovery::BuildControls() {
     cmdLater = AddButton(QStringLiteral("cmdLater"), tr("Later"));
     cmdDeleteAll = AddButton(QStringLiteral("cmdDeleteAll"), tr("Delete all..."));
     cmdRecover->setDefault(true);
-    cmdCompare->hide(); // nothing can be compared with yet
 
     connect(cmdRecover, &QPushButton::clicked, this, &frmRecovery::Recover);
+    connect(cmdCompare, &QPushButton::clicked, this, &frmRecovery::Compare);
     connect(cmdDiscard, &QPushButton::clicked, this, &frmRecovery::Discard);
     connect(cmdLater, &QPushButton::clicked, this, &frmRecovery::reject);
     connect(cmdDeleteAll, &QPushButton::clicked, this, &frmRecovery::DeleteAll);
@@ -156,7 +156,8 @@ void frmRecovery::TakeSelection(const QTreeView* list, QTreeView* other) {
 }
 
 void frmRecovery::ShowWhatIsPossible() {
-    cmdRecover->setEnabled(Chosen() != nullptr);
+    for (QPushButton* button : {cmdRecover, cmdCompare})
+        button->setEnabled(Chosen() != nullptr);
     cmdDiscard->setEnabled(lstRecovered->selectionModel()->hasSelection());
     cmdDeleteAll->setEnabled(left_->rowCount() + discarded_->rowCount() > 0);
 }
@@ -174,6 +175,11 @@ const WorkItem* frmRecovery::Chosen() const {
 void frmRecovery::Recover() {
     if (const WorkItem* chosen = Chosen())
         Q_EMIT RecoverWanted(std::string(chosen->Name));
+}
+
+void frmRecovery::Compare() {
+    if (const WorkItem* chosen = Chosen())
+        Q_EMIT CompareWanted(std::string(chosen->Name));
 }
 
 void frmRecovery::Discard() {

@@ -31,6 +31,7 @@ class frmRecovery : public QDialog {
   Q_SIGNALS:
     // Names of journals.
     void RecoverWanted(const std::string& name);
+    void CompareWanted(const std::string& name);
     void DiscardWanted(const std::string& name);
     void DeleteAllWanted();
     void KeepJournalChosen(bool keep);
@@ -44,6 +45,7 @@ class frmRecovery : public QDialog {
     void Select(const std::string& name);
     void ShowWhatIsPossible();
     void Recover();
+    void Compare();
     void Discard();
     void DeleteAll();
 

@@ -5,6 +5,28 @@
 
 namespace orvane {
 
+namespace {
+
+KnownIdentities CarriedOn(const ComparisonTask& task) {
+    const bool hasWishes = !task.Known.Wishes.States.empty() || !task.Known.Wishes.Rows.empty();
+    if (!hasWishes)
+        return {};
+    if (*task.Known.Here == *task.Here)
+        return {task.Known.Wishes, task.Here};
+    return {review::CarriedOn(task.Known.Wishes, review::Match(*task.Known.Here, *task.Here)), task.Here};
+}
+
+Comparison Compared(const ComparisonTask& task) {
+    KnownIdentities known = CarriedOn(task);
+    const FsmDocument& before = task.OtherIsOlder ? *task.Other : *task.Here;
+    const FsmDocument& after = task.OtherIsOlder ? *task.Here : *task.Other;
+    auto versions = std::make_shared<const review::ComparedVersions>(
+        before, after, task.OtherIsOlder ? known.Wishes.Mirrored() : known.Wishes, task.View);
+    return {std::move(versions), std::move(known)};
+}
+
+} // namespace
+
 ComparisonWorker::~ComparisonWorker() {
     if (thread_.joinable())
         thread_.join();
@@ -20,19 +42,18 @@ void ComparisonWorker::Begin(ComparisonTask task) {
 void ComparisonWorker::Start(ComparisonTask task) {
     isWanted_ = true;
     thread_ = std::thread([this, task = std::move(task)] {
-        auto versions =
-            std::make_shared<const review::ComparedVersions>(*task.Old, *task.New, task.Wishes, task.View);
+        const Comparison comparison = Compared(task);
         QMetaObject::invokeMethod(
-            this, [this, versions] { Finish(versions); }, Qt::QueuedConnection);
+            this, [this, comparison] { Finish(comparison); }, Qt::QueuedConnection);
     });
 }
 
-void ComparisonWorker::Finish(const std::shared_ptr<const review::ComparedVersions>& versions) {
+void ComparisonWorker::Finish(const Comparison& comparison) {
     thread_.join();
     if (next_)
         return Start(*std::exchange(next_, std::nullopt));
     if (std::exchange(isWanted_, false))
-        Q_EMIT Done(versions);
+        Q_EMIT Done(comparison);
 }
 
 } // namespace orvane

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "review/ComparedVersions.h"
+#include "review/Identity.h"
 
 #include <QObject>
 
@@ -11,11 +11,24 @@
 
 namespace orvane {
 
-struct ComparisonTask {
-    std::shared_ptr<const FsmDocument> Old;
-    std::shared_ptr<const FsmDocument> New;
+// What somebody said about states and events. The old side is the document that is open here, with the
+// numbers that it had then.
+struct KnownIdentities {
     review::Wishes Wishes;
+    std::shared_ptr<const FsmDocument> Here; // none without wishes
+};
+
+struct ComparisonTask {
+    std::shared_ptr<const FsmDocument> Here;
+    std::shared_ptr<const FsmDocument> Other;
+    bool OtherIsOlder = true;
+    KnownIdentities Known;
     review::ComparedVersions::View View = review::ComparedVersions::View::Compared;
+};
+
+struct Comparison {
+    std::shared_ptr<const review::ComparedVersions> Versions;
+    KnownIdentities Known; // with the numbers of the document as it was compared
 };
 
 // Compares in a thread: documents without names can take a second. The newest task wins; of one that another
@@ -32,11 +45,11 @@ class ComparisonWorker : public QObject {
     void Drop() { next_.reset(), isWanted_ = false; }
 
   Q_SIGNALS:
-    void Done(const std::shared_ptr<const orvane::review::ComparedVersions>& versions);
+    void Done(const orvane::Comparison& comparison);
 
   private:
     void Start(ComparisonTask task);
-    void Finish(const std::shared_ptr<const review::ComparedVersions>& versions);
+    void Finish(const Comparison& comparison);
 
     std::thread thread_; // joinable from Start to Finish
     std::optional<ComparisonTask> next_;

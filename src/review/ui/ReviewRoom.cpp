@@ -86,6 +86,7 @@ void ReviewRoom::MakeWindow() {
     });
     connect(frmCompare_.get(), &frmCompare::ViewToggled, this, &ReviewRoom::Compare);
     connect(frmCompare_.get(), &frmCompare::TakeOverWanted, this, &ReviewRoom::TakeOver);
+    connect(frmCompare_.get(), &frmCompare::IdentityChosen, this, &ReviewRoom::TakeWish);
     connect(frmCompare_.get(), &frmCompare::ChangeChosen, this, &ReviewRoom::ShowInTable);
     connect(frmCompare_.get(), &frmCompare::Entered, this, &ReviewRoom::ReadAgain);
 }
@@ -126,6 +127,7 @@ void ReviewRoom::TakeRead(const ReadVersion& read) {
         return;
     if (isAnother)
         otherIsOlder_ = IsOlder(read);
+    known_ = {}; // the numbers of the other version may be others now
     other_ = read.Version;
     frmCompare_->Say(read.Notice);
     Compare();
@@ -156,20 +158,28 @@ void ReviewRoom::Compare() {
     if (!other_)
         return;
     const NamedVersion here = Here();
-    const NamedVersion& before = otherIsOlder_ ? *other_ : here;
-    const NamedVersion& after = otherIsOlder_ ? here : *other_;
     const QString takeOver = here_ ? QString() : otherIsOlder_ ? tr("&Take back") : tr("&Take over");
-    frmCompare_->ShowHeading({before.Name, after.Name, takeOver});
+    frmCompare_->ShowHeading(
+        {otherIsOlder_ ? other_->Name : here.Name, otherIsOlder_ ? here.Name : other_->Name, takeOver});
     frmCompare_->ShowBusy();
     shown_.reset();
     const auto view = frmCompare_->ComparesView() ? review::ComparedVersions::View::Compared
                                                   : review::ComparedVersions::View::LeftOut;
-    worker_.Begin({before.Document, after.Document, {}, view});
+    worker_.Begin({here.Document, other_->Document, otherIsOlder_, known_, view});
 }
 
-void ReviewRoom::TakeShown(const std::shared_ptr<const review::ComparedVersions>& versions) {
-    shown_ = versions;
-    frmCompare_->ShowVersions(versions);
+void ReviewRoom::TakeShown(const Comparison& comparison) {
+    shown_ = comparison.Versions;
+    known_ = comparison.Known;
+    frmCompare_->ShowVersions(shown_);
+}
+
+void ReviewRoom::TakeWish(const review::Wishes& wish) {
+    if (!shown_)
+        return;
+    known_.Wishes = review::Added(known_.Wishes, otherIsOlder_ ? wish.Mirrored() : wish);
+    known_.Here = std::make_shared<const FsmDocument>(otherIsOlder_ ? shown_->New() : shown_->Old());
+    Compare();
 }
 
 // What is taken over comes from the list that leads away from the open document.

@@ -40,7 +40,8 @@ class ReviewRoom : public Room {
     bool IsOlder(const ReadVersion& read) const;
     void ShowHeading();
     void Compare();
-    void TakeShown(const std::shared_ptr<const review::ComparedVersions>& versions);
+    void TakeShown(const Comparison& comparison);
+    void TakeWish(const review::Wishes& wish);
     void TakeOver(std::size_t change);
     void ShowInTable(std::size_t change);
     NamedVersion Here() const;
@@ -57,6 +58,7 @@ class ReviewRoom : public Room {
     bool isGiven_ = false;              // the other version was handed in, and is not read
     std::optional<NamedVersion> other_; // none while there is none
     bool otherIsOlder_ = true;
+    KnownIdentities known_;
     std::shared_ptr<const review::ComparedVersions> shown_; // none while it is compared anew
 };
 

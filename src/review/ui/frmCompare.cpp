@@ -28,8 +28,11 @@ namespace {
 
 constexpr QSize kFirstSize{1100, 720};
 constexpr int kHelpPage = 4980;
-constexpr int kColumnWidth = 130; // pixels, of a state
-constexpr int kSeen = 100;        // milliseconds after which a comparison is one that is waited for
+constexpr int kColumnWidth = 130;   // pixels, of a state
+constexpr int kIdentityLength = 20; // characters
+constexpr int kGap = 16;            // pixels
+constexpr int kLongestName = 30;    // characters of a name in a prompt
+constexpr int kSeen = 100;          // milliseconds after which a comparison is one that is waited for
 constexpr auto kSources =
     std::to_array<VersionSource>({VersionSource::Disk, VersionSource::Head, VersionSource::File});
 
@@ -44,6 +47,7 @@ frmCompare::frmCompare(const Vocabulary& vocabulary, QWidget* parent)
     setWindowTitle(tr("Compare versions"));
     BuildChoices();
     BuildViews();
+    BuildIdentity();
     sides_->SetVocabulary(vocabulary);
     BuildButtons();
     LayOut();
@@ -67,7 +71,6 @@ void frmCompare::BuildChoices() {
     connect(cmdExchange, &QPushButton::clicked, this, &frmCompare::ExchangeWanted);
     chkView = new QCheckBox(tr("&Widths, heights and shown rows too"), this);
     chkView->setObjectName(QStringLiteral("chkView"));
-    chkView->setChecked(true);
     connect(chkView, &QCheckBox::clicked, this, &frmCompare::ViewToggled);
     for (QLabel** label : {&lblSummary, &lblNotice}) {
         *label = new QLabel(this);
@@ -103,6 +106,19 @@ void frmCompare::BuildViews() {
     connect(lstChanges, &QTreeView::doubleClicked, this,
             [this](const QModelIndex& index) { Q_EMIT ChangeChosen(std::size_t(index.row())); });
     sides_ = new CodeSides(this);
+}
+
+void frmCompare::BuildIdentity() {
+    lblIdentity = new QLabel(this);
+    lblIdentity->setObjectName(QStringLiteral("lblIdentity"));
+    lblIdentity->setTextFormat(Qt::PlainText);
+    cboIdentity = new QComboBox(this);
+    cboIdentity->setObjectName(QStringLiteral("cboIdentity"));
+    cboIdentity->setAccessibleName(tr("What it is in the other version"));
+    cboIdentity->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    cboIdentity->setMinimumContentsLength(kIdentityLength);
+    connect(cboIdentity, &QComboBox::activated, this,
+            [this](int chosen) { Q_EMIT IdentityChosen(wishes_[std::size_t(chosen)]); });
 }
 
 void frmCompare::BuildButtons() {
@@ -147,6 +163,9 @@ void frmCompare::LayOut() {
     auto* buttons = new QHBoxLayout;
     for (QPushButton* button : {cmdPrevious, cmdNext, cmdTakeOver})
         buttons->addWidget(button);
+    buttons->addSpacing(kGap);
+    buttons->addWidget(lblIdentity);
+    buttons->addWidget(cboIdentity);
     buttons->addStretch(1);
     buttons->addWidget(cmdClose);
     auto* all = new QVBoxLayout(this);
@@ -206,6 +225,8 @@ void frmCompare::Show(std::shared_ptr<const review::ComparedVersions> versions) 
     const bool hasChanges = changes_->rowCount() > 0;
     for (QPushButton* button : {cmdPrevious, cmdNext, cmdTakeOver})
         button->setEnabled(hasChanges);
+    lblIdentity->hide();
+    cboIdentity->hide();
 }
 
 void frmCompare::ShowSummary() {
@@ -246,10 +267,31 @@ void frmCompare::ShowChange() {
     lastRow_ = row;
     const std::size_t change(row);
     sides_->ShowSides(review::SidesOf(*versions_, change));
+    ShowIdentity(versions_->List().Changes[change]);
     const review::UnionPlace place = versions_->Table().PlaceOf(versions_->List().Changes[change]);
     const QModelIndex cell = union_->index(place.Row, place.Column);
     tblCompare->setCurrentIndex(cell);
     tblCompare->scrollTo(cell);
+}
+
+// Names and content can both mislead: whoever knows better says so here.
+void frmCompare::ShowIdentity(const review::Change& change) {
+    const std::optional<review::Identity> identity = review::IdentityOf(*versions_, change);
+    lblIdentity->setVisible(identity.has_value());
+    cboIdentity->setVisible(identity.has_value());
+    if (!identity)
+        return;
+    QString what = QString::fromStdString(identity->What);
+    if (what.size() > kLongestName)
+        what = what.left(kLongestName) + QStringLiteral("...");
+    what += identity->IsGuess ? tr(" (guessed)") : QString();
+    lblIdentity->setText(identity->IsOfOld ? tr("Old %1 is in the new version").arg(what)
+                                           : tr("New %1 is in the old version").arg(what));
+    wishes_ = identity->AsWished;
+    cboIdentity->clear();
+    for (const std::string& other : identity->Others)
+        cboIdentity->addItem(QString::fromStdString(other));
+    cboIdentity->setCurrentIndex(int(identity->Present));
 }
 
 // Round the list: behind the last one comes the first.

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "review/ComparedVersions.h"
+#include "review/Identity.h"
 #include "review/ui/VersionReader.h"
 
 #include <QTimer>
@@ -58,6 +58,7 @@ class frmCompare : public QWidget {
     // By its place in the list.
     void TakeOverWanted(std::size_t change);
     void ChangeChosen(std::size_t change);
+    void IdentityChosen(const orvane::review::Wishes& wish);
     // The user has come to the window.
     void Entered();
 
@@ -69,12 +70,14 @@ class frmCompare : public QWidget {
 
     void BuildChoices();
     void BuildViews();
+    void BuildIdentity();
     void BuildButtons();
     void LayOut();
     QPushButton* AddButton(const QString& name, const QString& caption);
     void Show(std::shared_ptr<const review::ComparedVersions> versions);
     void ShowSummary();
     void ShowChange();
+    void ShowIdentity(const review::Change& change);
     void SelectChange(int row);
     void SelectAt(const QModelIndex& cell);
     void Go(Direction direction);
@@ -89,6 +92,8 @@ class frmCompare : public QWidget {
     QTableView* tblCompare = nullptr;
     QTreeView* lstChanges = nullptr;
     CodeSides* sides_ = nullptr;
+    QLabel* lblIdentity = nullptr;
+    QComboBox* cboIdentity = nullptr;
     QPushButton* cmdPrevious = nullptr;
     QPushButton* cmdNext = nullptr;
     QPushButton* cmdTakeOver = nullptr;
@@ -98,6 +103,7 @@ class frmCompare : public QWidget {
     QTimer* tmrCompare_; // runs while what is shown may still be
     Heading heading_;
     std::shared_ptr<const review::ComparedVersions> versions_; // what is shown; none for nothing
+    std::vector<review::Wishes> wishes_;                       // those that can be chosen
     int lastRow_ = 0;                                          // of the change that was looked at last
 };
 

@@ -25,6 +25,40 @@ TEST_F(RecoveryTest, WhatAKilledWindowHadDrawnIsOfferedAndComesBack) {
     EXPECT_FALSE(IsOffered());
 }
 
+// The window that compares, and what it lists.
+std::vector<std::string> Compared() {
+    std::vector<std::string> changes;
+    for (const QWidget* window : QApplication::topLevelWidgets()) {
+        if (window->objectName() != QLatin1String("frmCompare") || !window->isVisible())
+            continue;
+        const QAbstractItemModel& model = *Named<QTreeView>(*window, "lstChanges").model();
+        for (int row = 0; row < model.rowCount(); ++row)
+            changes.push_back(model.index(row, 1).data().toString().toStdString());
+    }
+    return changes;
+}
+
+TEST_F(RecoveryTest, WhatWasLostIsComparedWithItsFileAndStaysInTheList) {
+    LoseWork();
+    StartAgain();
+    Press(Recovery(), "cmdCompare");
+    const std::vector<std::string> lost{"1:Idle, Start: -> 1:Idle (was 2:Run)",
+                                        "2:Run, Start: -> 2:Run (was none)"};
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Compared() == lost; }));
+    EXPECT_EQ(Count("lstRecovered"), 1);
+    Press(Recovery(), "cmdRecover");
+    EXPECT_EQ(Text(6, 2), "2:Run");
+}
+
+TEST_F(RecoveryTest, WhatWasLostIsComparedWithItsDocumentWhenThatIsOpen) {
+    LoseWork();
+    StartAgain(Path(QStringLiteral("machine.zfsm")));
+    Press(Recovery(), "cmdCompare");
+    EXPECT_TRUE(QTest::qWaitFor([] { return Compared().size() == 2; }));
+    TypeTarget(6, 2, QStringLiteral("2"));
+    EXPECT_TRUE(QTest::qWaitFor([] { return Compared().size() == 1; }));
+}
+
 TEST_F(RecoveryTest, UndoAndRedoGoAcrossTheCrash) {
     LoseWork();
     StartAgain();

@@ -14,6 +14,7 @@ namespace orvane {
 namespace {
 
 using testing::ElementsAre;
+using testing::IsSupersetOf;
 
 const QString kDocument = QStringLiteral("machine.zfsm");
 
@@ -38,6 +39,18 @@ class ReviewRoomTest : public TableFixture {
             changes.push_back(model.index(row, 0).data().toString().toStdString() + " " +
                               model.index(row, 1).data().toString().toStdString());
         return changes;
+    }
+    // Somebody else renames a state in the file.
+    void Rename(int state, const std::string& name) {
+        FsmDocument foreign = PumpDocument();
+        foreign.State(state).Name = name;
+        WriteFile(kDocument, WriteDocument(foreign));
+    }
+    // The state or event of the chosen change is not in the other version.
+    static void ChooseNoPartner() {
+        auto& partner = Named<QComboBox>(*Comparison(), "cboIdentity");
+        partner.setFocus();
+        QTest::keyClick(&partner, Qt::Key_Home);
     }
     static std::string Summary() { return Named<QLabel>(*Comparison(), "lblSummary").text().toStdString(); }
     // The comparison is made in a thread.
@@ -105,6 +118,84 @@ TEST_F(ReviewRoomTest, WhatAnotherProgramWroteIsTakenOver) {
     Press(window, "cmdTakeOver");
     ExpectChanges(testing::IsEmpty());
     EXPECT_EQ(Text(0, 2), "2:Work");
+}
+
+TEST_F(ReviewRoomTest, AGuessIsOverruledUntilTheWindowIsAskedForAgain) {
+    StartOn(PumpDocument());
+    Rename(2, "Work");
+    const QWidget& window = Compare();
+    ExpectChanges(ElementsAre("~ state 2:Work renamed from Run (guessed)"));
+    EXPECT_EQ(Named<QLabel>(window, "lblIdentity").text().toStdString(),
+              "Old state 2:Run (guessed) is in the new version");
+    EXPECT_EQ(Named<QComboBox>(window, "cboIdentity").currentText().toStdString(), "2:Work");
+    ChooseNoPartner();
+    ExpectChanges(IsSupersetOf({"- state 2:Run removed", "+ state 2:Work added"}));
+    Press(window, "cmdClose");
+    Compare();
+    ExpectChanges(ElementsAre("~ state 2:Work renamed from Run (guessed)"));
+}
+
+TEST_F(ReviewRoomTest, WhatWasSaidOfAStateHoldsWhenItsNumberShifts) {
+    StartOn(PumpDocument());
+    Rename(2, "Work");
+    Compare();
+    ExpectChanges(testing::SizeIs(1));
+    ChooseNoPartner();
+    ExpectChanges(IsSupersetOf({"- state 2:Run removed", "+ state 2:Work added"}));
+    Click(0, 1, Qt::RightButton);
+    PoppedUp();
+    Trigger("mnuInsertState");
+    ExpectChanges(IsSupersetOf({"- state 3:Run removed", "+ state 2:Work added"}));
+}
+
+TEST_F(ReviewRoomTest, TheStripOfAForeignChangeOpensTheComparison) {
+    StartOn(PumpDocument());
+    Rename(1, "Rest");
+    ASSERT_TRUE(QTest::qWaitFor([this] { return Find<QPushButton>("cmdCompareFile") != nullptr; }));
+    Press(Window(), "cmdCompareFile");
+    ASSERT_NE(Comparison(), nullptr);
+    ExpectChanges(ElementsAre("~ state 1:Rest renamed from Idle (guessed)"));
+}
+
+TEST_F(ReviewRoomTest, AnotherDocumentIsComparedWithItsOwnFile) {
+    StartOn(PumpDocument());
+    TypeTarget(7, 1, QStringLiteral("2"));
+    Compare();
+    ExpectChanges(testing::SizeIs(1));
+    Answers.Press(QMessageBox::No);
+    Trigger("mnuFNew");
+    EXPECT_TRUE(QTest::qWaitFor([] { return Summary().starts_with("The document has no file yet"); }));
+    EXPECT_TRUE(Changes().empty());
+}
+
+TEST_F(ReviewRoomTest, WhatIsHiddenComparesNothingAndIsAnewWhenItComesBack) {
+    StartOn(PumpDocument());
+    QWidget& window = Compare();
+    ExpectChanges(testing::IsEmpty());
+    window.close();
+    TypeTarget(7, 1, QStringLiteral("2"));
+    Compare();
+    ExpectChanges(ElementsAre("~ 1:Idle, Stop: -> 2:Run (was none)"));
+}
+
+TEST_F(ReviewRoomTest, AMoveSaysWhyItIsNotTakenOver) {
+    FsmDocument document = PumpDocument();
+    document.State(3).Name = "Wait";
+    StartOn(document);
+    std::swap(document.State(2), document.State(3));
+    for (const StateNumber state : StateNumbers()) {
+        for (const RowNumber row : CellRows()) {
+            StateNumber& target = document.State(state).Targets[row];
+            target = target == StateNumber(2) ? StateNumber(3) : target;
+        }
+    }
+    WriteFile(kDocument, WriteDocument(document));
+    const QWidget& window = Compare();
+    ExpectChanges(ElementsAre(testing::StartsWith("> state")));
+    Press(window, "cmdTakeOver");
+    EXPECT_EQ(Named<QLabel>(window, "lblNotice").text().toStdString(),
+              "A move cannot be taken over by itself. Move it in the table.");
+    EXPECT_FALSE(Item("mnuUndo")->isEnabled());
 }
 
 TEST_F(ReviewRoomTest, KeysGoFromChangeToChangeAndRound) {
