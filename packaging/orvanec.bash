@@ -28,6 +28,11 @@ _orvanec() {
         diff:--format) COMPREPLY=($(compgen -W 'text json html' -- "$typed")) && return ;;
         diff:--same | diff:--different | merge:--path) return ;;
         diagram:--format) COMPREPLY=($(compgen -W 'svg dot' -- "$typed")) && return ;;
+        export:--format)
+            COMPREPLY=($(compgen -W 'html markdown csv csv-long json dot mermaid plantuml scxml' -- "$typed"))
+            return
+            ;;
+        import:--format) COMPREPLY=($(compgen -W 'json csv scxml' -- "$typed")) && return ;;
         diagram:--direction) COMPREPLY=($(compgen -W 'lr td' -- "$typed")) && return ;;
         git:git) COMPREPLY=($(compgen -W 'enable' -- "$typed")) && return ;;
         test:--reading)
@@ -36,7 +41,7 @@ _orvanec() {
             ;;
         test:--filter | test:-j | test:--jobs | explore:--from | explore:--to | tour:--limit | diagram:--focus) return ;;
         generate:-o | generate:--output | format:-o | format:--output | test:--junit | test:--markdown | \
-            simulate:--csv | simulate:--vcd | tour:-o | tour:--output | diagram:-o | diagram:--output | merge:-o | merge:--output)
+            simulate:--csv | simulate:--vcd | tour:-o | tour:--output | diagram:-o | diagram:--output | export:-o | export:--output | import:-o | import:--output | merge:-o | merge:--output)
             local IFS=$'\n'
             compopt -o filenames 2>/dev/null
             COMPREPLY=($(compgen -f -- "$typed"))
@@ -45,7 +50,7 @@ _orvanec() {
     esac
     case $verb:$typed in
         :-*) COMPREPLY=($(compgen -W '--help --version' -- "$typed")) ;;
-        :*) COMPREPLY=($(compgen -W 'generate check format find test simulate explore tour diagram diff show merge conflicts git' -- "$typed")) ;;
+        :*) COMPREPLY=($(compgen -W 'generate check format find test simulate explore tour diagram export import diff show merge conflicts git' -- "$typed")) ;;
         check:-*) COMPREPLY=($(compgen -W '--advice --format --help' -- "$typed")) ;;
         generate:-* | format:-*) COMPREPLY=($(compgen -W '--output --help' -- "$typed")) ;;
         find:-*) COMPREPLY=($(compgen -W '--format --help --ignore-case --regex --word' -- "$typed")) ;;
@@ -58,6 +63,13 @@ _orvanec() {
             COMPREPLY=($(compgen -W '--empty-cells --help --limit --output --together' -- "$typed")) ;;
         diagram:-*)
             COMPREPLY=($(compgen -W '--direction --focus --format --help --no-else --output' -- "$typed")) ;;
+        export:-*) COMPREPLY=($(compgen -W '--format --help --no-safe --output --safe' -- "$typed")) ;;
+        import:-*) COMPREPLY=($(compgen -W '--format --help --output' -- "$typed")) ;;
+        import:*)
+            local IFS=$'\n'
+            compopt -o filenames 2>/dev/null
+            COMPREPLY=($(compgen -f -- "$typed"))
+            ;;
         diff:-*) COMPREPLY=($(compgen -W '--different --format --help --no-view --same' -- "$typed")) ;;
         show:-*) COMPREPLY=($(compgen -W '--help --textconv' -- "$typed")) ;;
         merge:-*) COMPREPLY=($(compgen -W '--help --ours --output --path --theirs' -- "$typed")) ;;

@@ -66,7 +66,7 @@ constexpr const char* kFindNotes =
     "Regular expressions: . [a-z] [^;] \\d \\w \\s \\t ^ $ \\b ( ) | * + ? {2,5}, within a line.\n"
     "Exit status: 0 found, 1 nothing found, 2 wrong usage, 3 a file that could not be read to its end";
 
-constexpr std::array<std::pair<const char*, Verb>, 14> kVerbs{{{"generate", Verb::Generate},
+constexpr std::array<std::pair<const char*, Verb>, 16> kVerbs{{{"generate", Verb::Generate},
                                                                {"check", Verb::Check},
                                                                {"format", Verb::Format},
                                                                {"find", Verb::Find},
@@ -75,6 +75,8 @@ constexpr std::array<std::pair<const char*, Verb>, 14> kVerbs{{{"generate", Verb
                                                                {"explore", Verb::Explore},
                                                                {"tour", Verb::Tour},
                                                                {"diagram", Verb::Diagram},
+                                                               {"export", Verb::Export},
+                                                               {"import", Verb::Import},
                                                                {"diff", Verb::Diff},
                                                                {"show", Verb::Show},
                                                                {"merge", Verb::Merge},
@@ -93,6 +95,12 @@ constexpr const char* kDiagramNotes =
     "         draws the machine; orvanec diagram --focus=Idle pump.zfsm what is around one state\n\n"
     "A design with errors is drawn with signs where they are. Above 600 lines between states only what is\n"
     "around state 1 is drawn.";
+constexpr const char* kExportNotes =
+    "Example: orvanec export --format=html pump.zfsm -o pump.html\n\n"
+    "json has all that the document holds, and csv-long all transitions; import reads them again.";
+constexpr const char* kImportNotes = "Example: orvanec import pump.csv -o pump.zfsm\n\n"
+                                     "Reads json, both forms of csv, and flat state charts (scxml). What is "
+                                     "left out is told on standard error.";
 constexpr const char* kDiffNotes =
     "Example: orvanec diff old.zfsm new.zfsm\n"
     "         tells what was done: states and events that came, went, moved or have another name, and\n"
@@ -174,6 +182,12 @@ class CommandLine {
         CLI::App& diagram = AddVerb("diagram", "Draw a machine", kDiagramNotes);
         export_.AddDiagram(diagram);
         AddOutput(diagram, "Write to FILE instead of standard output");
+        CLI::App& exporting = AddVerb("export", "Write a document in another form", kExportNotes);
+        export_.AddExport(exporting);
+        AddOutput(exporting, "Write to FILE instead of standard output");
+        CLI::App& importing = AddVerb("import", "Make a document of a file in another form", kImportNotes);
+        export_.AddImport(importing);
+        AddOutput(importing, "The document to write; - is standard output");
     }
     void AddReview() {
         review_.AddDiff(AddVerb("diff", "Tell what leads from one document to another", kDiffNotes));
@@ -244,6 +258,7 @@ Arguments CommandLine::Parse(int count, const char* const* values) {
     arguments.Exploring = machines_.TakeExplore();
     arguments.Touring = machines_.TakeTour();
     arguments.Drawing = export_.TakeDiagram();
+    arguments.Exporting = export_.TakeExport();
     arguments.Advice = advice_;
     if (arguments.What == Verb::Test && arguments.Documents.empty())
         arguments.Documents = {"."};

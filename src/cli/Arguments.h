@@ -25,6 +25,8 @@ enum class Verb {
     Explore,
     Tour,
     Diagram,
+    Export,
+    Import,
     Diff,
     Show,
     Merge,
@@ -38,7 +40,9 @@ constexpr bool LooksIntoOne(Verb verb) {
 }
 
 // The verbs that give one document another form.
-constexpr bool GivesAnotherForm(Verb verb) { return verb == Verb::Diagram; }
+constexpr bool GivesAnotherForm(Verb verb) {
+    return verb == Verb::Diagram || verb == Verb::Export || verb == Verb::Import;
+}
 
 // The verbs about several versions of one document.
 constexpr bool ComparesVersions(Verb verb) {
@@ -62,6 +66,7 @@ struct Arguments {
     ExploreArguments Exploring;
     TourArguments Touring;
     DiagramArguments Drawing;
+    ExportArguments Exporting;
     ReviewArguments Reviewing;
 };
 

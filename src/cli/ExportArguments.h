@@ -15,4 +15,10 @@ struct DiagramArguments {
     bool NoElse = false;
 };
 
+// What `orvanec export` and `orvanec import` are asked for beside them.
+struct ExportArguments {
+    std::string Format; // a word of the command line; for an import empty: what the file's name says
+    bool Safe = true;   // cells of a table that look like formulas get an apostrophe
+};
+
 } // namespace orvane::cli

@@ -27,6 +27,25 @@ void ExportOptions::AddDiagram(CLI::App& verb) {
     verb.add_flag("--no-else", diagram_.NoElse, "Leave ELSE out");
 }
 
+void ExportOptions::AddExport(CLI::App& verb) {
+    AddDocument(verb, "The document");
+    verb.add_option("--format", export_.Format,
+                    "html, markdown, csv, csv-long, json, dot, mermaid, plantuml or scxml")
+        ->check(CLI::IsMember(
+            {"html", "markdown", "csv", "csv-long", "json", "dot", "mermaid", "plantuml", "scxml"}))
+        ->required()
+        ->type_name("FORMAT");
+    verb.add_flag("--safe,!--no-safe", export_.Safe,
+                  "csv: an apostrophe before cells that look like formulas (default)");
+}
+
+void ExportOptions::AddImport(CLI::App& verb) {
+    verb.add_option("FILE", document_, "The file")->required()->type_name("");
+    verb.add_option("--format", export_.Format, "json, csv or scxml; what the file's name says without it")
+        ->check(CLI::IsMember({"json", "csv", "scxml"}))
+        ->type_name("FORMAT");
+}
+
 std::string ExportOptions::TakeDocument() {
     ShowBracket(document_);
     return std::move(document_);

@@ -4,6 +4,7 @@
 #include "cli/ExportArguments.h"
 
 #include <string>
+#include <utility>
 
 namespace CLI {
 class App;
@@ -16,16 +17,20 @@ namespace orvane::cli {
 class ExportOptions {
   public:
     void AddDiagram(CLI::App& verb);
+    void AddExport(CLI::App& verb);
+    void AddImport(CLI::App& verb);
 
     // Once, after the command line was parsed.
     std::string TakeDocument();
     DiagramArguments TakeDiagram();
+    ExportArguments TakeExport() { return std::move(export_); }
 
   private:
     void AddDocument(CLI::App& verb, const char* purpose);
 
     std::string document_;
     DiagramArguments diagram_;
+    ExportArguments export_;
 };
 
 } // namespace orvane::cli

@@ -2,6 +2,8 @@
 #include "cli/ExportVerbs.h"
 
 #include "cli/DiagramVerb.h"
+#include "cli/ExportVerb.h"
+#include "cli/ImportVerb.h"
 #include "cli/MessageText.h"
 
 #include <exception>
@@ -11,6 +13,10 @@ namespace orvane::cli {
 
 Outcome RunExportVerb(const Arguments& arguments, const TestFiles& files) noexcept {
     try {
+        if (arguments.What == Verb::Export)
+            return RunExport(arguments, files);
+        if (arguments.What == Verb::Import)
+            return RunImport(arguments, files);
         return RunDiagram(arguments, files);
     } catch (const std::exception& error) {
         return {{}, FailureLine(arguments.Documents.front(), error.what()), kFileError};

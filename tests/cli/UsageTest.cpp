@@ -56,9 +56,9 @@ TEST_F(Usage, HelpOfTheProgramListsTheVerbs) {
 }
 
 TEST_F(Usage, WrongUsageIsSaidOnStandardError) {
-    const std::string verbs =
-        "the verbs are generate, check, format, find, test, simulate, explore, tour, diagram, diff, "
-        "show, merge, conflicts and git";
+    const std::string verbs = "the verbs are generate, check, format, find, test, simulate, explore, tour, "
+                              "diagram, export, import, diff, "
+                              "show, merge, conflicts and git";
     ExpectWrong("", "No verb is given; " + verbs);
     ExpectWrong("frobnicate a", "There is no verb frobnicate; " + verbs);
     ExpectWrong("generate", "No document is given");

@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "cli/Arguments.h"
+#include "cli/Outcome.h"
+#include "cli/TestFiles.h"
+
+namespace orvane::cli {
+
+// Writes a document in another form. May throw what the engine throws.
+Outcome RunExport(const Arguments& arguments, const TestFiles& files);
+
+} // namespace orvane::cli

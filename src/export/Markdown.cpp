@@ -1,0 +1,123 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "export/Exports.h"
+#include "export/Names.h"
+#include "text/AnsiText.h"
+
+namespace orvane::exports {
+
+namespace {
+
+constexpr std::size_t kMostColumns = 12;
+
+// On one line; every sign that could mean something is taken for itself.
+std::string Plain(std::string_view ansi) {
+    std::string plain;
+    for (const char character : ToUtf8(OneLine(ansi))) {
+        if (character == '<')
+            plain += "&lt;";
+        else if (character == '>')
+            plain += "&gt;";
+        else if (character == '&')
+            plain += "&amp;";
+        else if (std::string_view("\\`*_{}[]()#+-.!|~").find(character) != std::string_view::npos)
+            (plain += '\\') += character;
+        else
+            plain += character;
+    }
+    return plain;
+}
+
+// A fence longer than any row of back quotes in the code.
+std::string Code(const std::string& title, std::string_view ansi) {
+    if (ansi.empty())
+        return "";
+    const std::string lines = Utf8Lines(ansi);
+    std::string fence = "```";
+    while (lines.find(fence) != std::string::npos)
+        fence += '`';
+    return title + ":\n\n" + fence + "\n" + lines + (lines.ends_with('\n') ? "" : "\n") + fence + "\n\n";
+}
+
+class MarkdownWriter {
+  public:
+    explicit MarkdownWriter(const FsmDocument& document)
+        : document_(document), states_(UsedStates(document)), rows_(UsedRows(document)) {}
+
+    std::string Write() {
+        const std::string name = Plain(document_.General.FsmName);
+        text_ = "# " + (name.empty() ? "Machine" : name) + "\n\n" +
+                Code("Header", document_.General.HeaderComment);
+        if (states_.size() <= kMostColumns)
+            WriteTable();
+        text_ += "## States\n\n";
+        for (const StateNumber state : states_)
+            WriteState(state);
+        text_ += "## Events\n\n";
+        for (const RowNumber row : rows_) {
+            if (row >= kFirstEventRow)
+                text_ += "### " + Plain(RowText(document_, row)) + "\n\n" +
+                         Comment(document_.Event(row).Tooltip) + Code("Test", document_.Event(row).Code);
+        }
+        text_.resize(text_.size() - 1); // one line end is enough
+        return std::move(text_);
+    }
+
+  private:
+    static std::string Comment(std::string_view comment) {
+        return comment.empty() ? "" : Plain(comment) + "\n\n";
+    }
+
+    void WriteTable() {
+        std::string head = "|";
+        std::string line = "|---|";
+        for (const StateNumber state : states_) {
+            head += " | " + Plain(StateText(document_, state));
+            line += "---|";
+        }
+        text_ += head + " |\n" + line + "\n";
+        for (const RowNumber row : rows_) {
+            text_ += "| " + Plain(RowText(document_, row));
+            for (const StateNumber state : states_)
+                text_ += " | " + CellText(state, row);
+            text_ += " |\n";
+        }
+        text_ += "\n";
+    }
+
+    std::string CellText(StateNumber state, RowNumber row) const {
+        const StateRecord& record = document_.State(state);
+        const StateNumber target = record.Targets[row];
+        const std::string text = target == kNoState ? "" : Plain(StateText(document_, target));
+        return record.Actions[row].empty() ? text : text + "\\*";
+    }
+
+    void WriteState(StateNumber state) {
+        const StateRecord& record = document_.State(state);
+        text_ += "### " + Plain(StateText(document_, state)) + "\n\n" + Comment(record.Tooltip) +
+                 Code("Entry action", record.EntryCode);
+        bool hasWays = false;
+        for (const RowNumber row : rows_) {
+            const StateNumber target = record.Targets[row];
+            if (target == kNoState)
+                continue;
+            const std::string name = row == kTimeoutRow ? TimeoutText(record) : RowText(document_, row);
+            text_ += "- " + Plain(name) + ": to " + Plain(StateText(document_, target)) + "\n";
+            hasWays = true;
+        }
+        text_ += hasWays ? "\n" : "";
+        for (const RowNumber row : rows_)
+            text_ += Code("Action on " + Plain(RowText(document_, row)), record.Actions[row]);
+        text_ += Code("Exit action", record.ExitCode);
+    }
+
+    const FsmDocument& document_;
+    const std::vector<StateNumber> states_;
+    const std::vector<RowNumber> rows_;
+    std::string text_;
+};
+
+} // namespace
+
+std::string MarkdownOf(const FsmDocument& document) { return MarkdownWriter(document).Write(); }
+
+} // namespace orvane::exports

@@ -1,0 +1,167 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "core/Cell.h"
+#include "core/TimingMode.h"
+#include "export/Exports.h"
+#include "export/Names.h"
+#include "export/ScxmlWords.h"
+#include "text/ByteOf.h"
+#include "text/NumberText.h"
+#include "text/XmlText.h"
+
+#include <algorithm>
+
+namespace orvane::exports {
+
+namespace {
+
+// A comment ends at "--".
+std::string CommentText(std::string_view ansi) {
+    std::string text = XmlText(OneLine(ansi));
+    for (std::size_t at = text.find("--"); at != std::string::npos; at = text.find("--"))
+        text.replace(at, 2, "- -");
+    return text.ends_with('-') ? text + " " : text;
+}
+
+// A text as an expression.
+std::string Literal(std::string_view ansi) {
+    std::string literal = "'";
+    for (const char character : ansi) {
+        if (character == '\n')
+            literal += "\\n";
+        else if (character == '\r')
+            literal += "\\r";
+        else if (character == '\t')
+            literal += "\\t";
+        else if (character == '\'' || character == '\\')
+            (literal += '\\') += character;
+        else if (ByteOf(character) < 0x20) // which no XML may hold
+            literal +=
+                std::string("\\x") + (ByteOf(character) < 0x10 ? "0" : "") + HexText(ByteOf(character));
+        else
+            literal += character;
+    }
+    return XmlText(literal + "'");
+}
+
+std::string Log(const std::string& indent, std::string_view label, std::string_view code) {
+    return indent + "<log label=\"" + std::string(label) + "\" expr=\"" + Literal(code) + "\"/>\n";
+}
+
+class ScxmlWriter {
+  public:
+    explicit ScxmlWriter(const FsmDocument& document) : document_(document), states_(UsedStates(document)) {}
+
+    std::string Write() {
+        text_ = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+                "<scxml xmlns=\"http://www.w3.org/2005/07/scxml\" version=\"1.0\" datamodel=\"ecmascript\"";
+        if (!document_.General.FsmName.empty())
+            text_ += " name=\"" + Identifier('m', 1, document_.General.FsmName) + "\"";
+        if (!states_.empty())
+            text_ += " initial=\"" + StateId(states_.front()) + "\"";
+        text_ += ">\n";
+        for (const StateNumber state : states_)
+            WriteState(state);
+        return std::move(text_ += "</scxml>\n");
+    }
+
+  private:
+    std::string StateId(StateNumber state) const {
+        return Identifier('s', state.Number(), document_.State(state).Name);
+    }
+    static std::string TimeoutEvent(StateNumber state) {
+        return std::string(scxml::kTimeoutEvent) + "s" + NumberText(state.Number());
+    }
+
+    void WriteState(StateNumber state) {
+        const StateRecord& record = document_.State(state);
+        text_ += "  <state id=\"" + StateId(state) + "\">\n";
+        WriteEntry(record, state);
+        WriteExit(record, state);
+        for (const RowNumber row : EventRows())
+            WriteTransition(record, {row, state});
+        WriteTransition(record, {kTimeoutRow, state});
+        WriteTransition(record, {kElseRow, state});
+        text_ += "  </state>\n";
+    }
+
+    static bool HasDelay(const StateRecord& record) {
+        return record.TimingMode == kStartConstant && record.Targets[kTimeoutRow] != kNoState;
+    }
+
+    // A limit without a unit is one of the controller's; a chart has only real ones.
+    static std::string Delay(const StateRecord& record) {
+        const std::string limit = OneLine(record.TimeConst);
+        const bool isNumber = !limit.empty() && limit.find_first_not_of("0123456789") == std::string::npos;
+        return isNumber ? limit + "s" : limit;
+    }
+
+    void WriteEntry(const StateRecord& record, StateNumber state) {
+        if (record.EntryCode.empty() && !HasDelay(record))
+            return;
+        text_ += "    <onentry>\n";
+        if (!record.EntryCode.empty())
+            text_ += Log("      ", scxml::kEntry, record.EntryCode);
+        if (HasDelay(record))
+            text_ += "      <send id=\"" + TimeoutEvent(state) + "\" event=\"" + TimeoutEvent(state) +
+                     "\" delay=\"" + XmlText(Delay(record)) + "\"/><!-- limit " +
+                     CommentText(record.TimeConst) + " in the controller's units -->\n";
+        text_ += "    </onentry>\n";
+    }
+
+    void WriteExit(const StateRecord& record, StateNumber state) {
+        if (record.ExitCode.empty() && !HasDelay(record))
+            return;
+        text_ += "    <onexit>\n";
+        if (HasDelay(record))
+            text_ += "      <cancel sendid=\"" + TimeoutEvent(state) + "\"/>\n";
+        if (!record.ExitCode.empty())
+            text_ += Log("      ", scxml::kExit, record.ExitCode);
+        text_ += "    </onexit>\n";
+    }
+
+    void WriteTransition(const StateRecord& record, Cell cell) {
+        const StateNumber target = record.Targets[cell.Row];
+        if (target == kNoState)
+            return;
+        if (cell.Row == kTimeoutRow && !HasDelay(record))
+            WriteLoss(record);
+        text_ += "    <transition" + EventOf(cell) + " target=\"" + StateId(target) + "\"";
+        const std::string& action = record.Actions[cell.Row];
+        text_ +=
+            action.empty() ? "/>\n" : ">\n" + Log("      ", scxml::kAction, action) + "    </transition>\n";
+    }
+
+    std::string EventOf(Cell cell) const {
+        if (cell.Row == kElseRow)
+            return "";
+        const std::string event = cell.Row == kTimeoutRow
+                                      ? TimeoutEvent(cell.State)
+                                      : Identifier('e', cell.Row.Number(), document_.Event(cell.Row).Name);
+        return " event=\"" + event + "\"";
+    }
+
+    void WriteLoss(const StateRecord& record) {
+        const bool continues = IsKnownTimingMode(record.TimingMode) && !StartsTiming(record.TimingMode) &&
+                               record.TimingMode != kNoTiming;
+        std::string lost = "    <!-- nothing sends this event: ";
+        if (continues)
+            lost += "the state goes on with the timer " +
+                    (record.TimerId.empty() ? std::string("without a name") : CommentText(record.TimerId)) +
+                    " that another state started";
+        else if (HasVariableLimit(record.TimingMode))
+            lost += "its limit is computed by " + CommentText(record.TimingVar);
+        else
+            lost += "the state has no timing mode";
+        text_ += lost + " -->\n";
+    }
+
+    const FsmDocument& document_;
+    const std::vector<StateNumber> states_;
+    std::string text_;
+};
+
+} // namespace
+
+std::string ScxmlOf(const FsmDocument& document) { return ScxmlWriter(document).Write(); }
+
+} // namespace orvane::exports
