@@ -270,7 +270,7 @@ void RunRoom::RunTests() {
     if (!run_->Obstacles().empty())
         tests_->ShowRefused(name, run_->Obstacles());
     else
-        tests_->Show(run::RunTestsOf(*bytes, session_.Document(), DocumentFileName(session_)), name);
+        tests_->Show(run::RunTestsOf(*bytes, session_.Document(), DocumentFileName(session_)), name, *bytes);
 }
 
 void RunRoom::Show(Log log) {

@@ -2,8 +2,10 @@
 #include "run/ui/TestsPane.h"
 
 #include "run/ui/InputsView.h"
+#include "run/ui/TestTextPane.h"
 
 #include <QLabel>
+#include <QSplitter>
 #include <QStandardItemModel>
 #include <QTableView>
 #include <QVBoxLayout>
@@ -34,6 +36,7 @@ TestsPane::TestsPane(QWidget* parent)
     : QWidget(parent),
       lblTests(new QLabel(this)),
       lstTests(new QTableView(this)),
+      txtTests(new TestTextPane(this)),
       rows_(new QStandardItemModel(0, 4, this)) {
     lblTests->setObjectName(QStringLiteral("lblTests"));
     lblTests->setWordWrap(true);
@@ -45,7 +48,10 @@ TestsPane::TestsPane(QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(lblTests);
-    layout->addWidget(lstTests);
+    auto* splitter = new QSplitter(Qt::Vertical, this);
+    splitter->addWidget(lstTests);
+    splitter->addWidget(txtTests);
+    layout->addWidget(splitter);
     connect(lstTests, &QTableView::clicked, this,
             [this](const QModelIndex& index) { Choose(std::size_t(index.row())); });
     hide();
@@ -59,8 +65,11 @@ void TestsPane::AddRow(const QString& verdict, std::size_t line, const QString& 
     rows_->appendRow(row);
 }
 
-void TestsPane::Show(run::RanTests tests, const QString& name) {
+void TestsPane::Show(run::RanTests tests, const QString& name, std::string_view text) {
     tests_ = std::move(tests);
+    lstTests->show();
+    txtTests->show();
+    txtTests->ShowTests(text);
     rows_->setRowCount(0);
     for (const run::TestMessage& slip : tests_.Slips)
         AddRow(tr("slip"), slip.At.Line, {}, QString::fromStdString(slip.Text));
@@ -70,11 +79,13 @@ void TestsPane::Show(run::RanTests tests, const QString& name) {
     lblTests->setText(name + QLatin1String(": ") + Summary());
     lstTests->resizeColumnsToContents();
     show();
+    // The first slip, or the first test that failed.
     const auto failed = std::find_if(tests_.Tests.begin(), tests_.Tests.end(), HasFailed);
-    if (failed == tests_.Tests.end())
+    if (tests_.Slips.empty() && failed == tests_.Tests.end())
         return;
-    lstTests->selectRow(int(failed - tests_.Tests.begin()));
-    Choose(std::size_t(failed - tests_.Tests.begin()));
+    const auto row = tests_.Slips.empty() ? failed - tests_.Tests.begin() : 0;
+    lstTests->selectRow(int(row));
+    Choose(std::size_t(row));
 }
 
 void TestsPane::ShowRefused(const QString& name, const std::vector<std::string>& why) {
@@ -84,6 +95,8 @@ void TestsPane::ShowRefused(const QString& name, const std::vector<std::string>&
     for (const std::string& line : why)
         lines += QString::fromStdString(line);
     lblTests->setText(lines.join(QLatin1Char('\n')));
+    lstTests->hide();
+    txtTests->hide();
     show();
 }
 
@@ -100,11 +113,16 @@ QString TestsPane::Summary() const {
         .arg(tests_.Transitions.All);
 }
 
-void TestsPane::Choose(std::size_t test) {
-    if (test >= tests_.Tests.size())
-        return;
-    const run::RanTest& chosen = tests_.Tests[test];
-    Q_EMIT TestChosen({chosen.Steps, tests_.Given, tests_.Read, chosen.Before});
+void TestsPane::Choose(std::size_t row) {
+    if (row < tests_.Slips.size())
+        txtTests->ShowLine(tests_.Slips[row].At.Line, true);
+    else if (row - tests_.Slips.size() < tests_.Tests.size())
+        ChooseTest(tests_.Tests[row - tests_.Slips.size()]);
+}
+
+void TestsPane::ChooseTest(const run::RanTest& test) {
+    txtTests->ShowLine(test.Result.At.Line, HasFailed(test));
+    Q_EMIT TestChosen({test.Steps, tests_.Given, tests_.Read, test.Before});
 }
 
 } // namespace orvane

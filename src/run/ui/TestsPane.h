@@ -12,15 +12,17 @@ class QTableView;
 
 namespace orvane {
 
-// What became of the tests, a row each; hidden until tests were run.
+class TestTextPane;
+
+// What became of the tests, a row each, and their text; hidden until tests were run.
 class TestsPane : public QWidget {
     Q_OBJECT
 
   public:
     explicit TestsPane(QWidget* parent);
 
-    // `name` is the file of the tests.
-    void Show(run::RanTests tests, const QString& name);
+    // `name` is the file of the tests, `text` what stands in it.
+    void Show(run::RanTests tests, const QString& name, std::string_view text);
     // Nothing was run: why, a line each.
     void ShowRefused(const QString& name, const std::vector<std::string>& why);
 
@@ -30,12 +32,14 @@ class TestsPane : public QWidget {
 
   private:
     void AddRow(const QString& verdict, std::size_t line, const QString& test, const QString& why);
-    void Choose(std::size_t test);
+    void Choose(std::size_t row);
+    void ChooseTest(const run::RanTest& test);
     QString Summary() const;
 
     run::RanTests tests_;
     QLabel* lblTests;
     QTableView* lstTests;
+    TestTextPane* txtTests;
     QStandardItemModel* rows_;
 };
 

@@ -3,6 +3,7 @@
 // should.
 #include "run/ui/RunPaneFixture.h"
 
+#include "kit/QScintilla.h"
 #include "support/FileBytes.h"
 #include "support/Folders.h"
 
@@ -17,6 +18,10 @@ namespace {
 
 using testing::ElementsAre;
 using testing::HasSubstr;
+using testing::IsEmpty;
+
+constexpr unsigned kShownMark = 0; // of the pane with the text
+constexpr unsigned kFailedMark = 1;
 
 class RunTestsTest : public RunPaneFixture {
   protected:
@@ -30,6 +35,16 @@ class RunTestsTest : public RunPaneFixture {
     }
     std::string Saved() const { return ReadFile(QStringLiteral("machine.ztest")); }
     std::string Summary() { return Label("lblTests"); }
+    QsciScintilla& TestText() { return Named<QsciScintilla>(Window(), "txtTests"); }
+    // The lines that have this mark, from 1.
+    std::vector<int> Marked(unsigned mark) {
+        std::vector<int> lines;
+        for (int line = 0; line < TestText().lines(); ++line) {
+            if ((TestText().markersAtLine(line) & 1U << mark) != 0)
+                lines.push_back(line + 1);
+        }
+        return lines;
+    }
 };
 
 // The door closes, somebody steps into the beam and stays there: it must stop and open again.
@@ -112,6 +127,42 @@ TEST_F(RunTestsTest, ASlipIsToldWithItsLine) {
     PressButton("cmdRunTests");
     EXPECT_EQ(Summary(), "machine.ztest: not run, because it is not understood");
     EXPECT_THAT(Rows("lstTests"), ElementsAre(HasSubstr("slip|2||no state is called \"Idel\"")));
+}
+
+TEST_F(RunTestsTest, TheTextOfTheTestsIsShownAtTheLineThatFails) {
+    WriteFile(QStringLiteral("machine.ztest"), "; tests\r\ntest goes\n => Idle\ntest wrong\n => Idle\n"
+                                               " pulse Start => Idle\n");
+    StartRunning(TimedPump());
+    PressButton("cmdRunTests");
+    EXPECT_TRUE(TestText().isReadOnly());
+    EXPECT_TRUE(TestText().text().startsWith(QStringLiteral("; tests\r\ntest goes\n")));
+    EXPECT_THAT(Marked(kFailedMark), ElementsAre(6));
+    QTableView& list = List("lstTests");
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, {},
+                      list.visualRect(list.model()->index(0, 2)).center());
+    EXPECT_THAT(Marked(kFailedMark), IsEmpty());
+    EXPECT_THAT(Marked(kShownMark), ElementsAre(2));
+}
+
+// Ends of lines are no words, and neither are they lost by the next line's.
+TEST_F(RunTestsTest, TheTextOfTheTestsIsColouredByItsWords) {
+    WriteFile(QStringLiteral("machine.ztest"), "test goes\r\n => Idle ; said\r\n pulse Start => Run\r\n");
+    StartRunning(TimedPump());
+    PressButton("cmdRunTests");
+    QsciScintilla& text = TestText();
+    text.recolor();
+    const auto colourOf = [&](const char* word) {
+        const long at = text.text().indexOf(QLatin1String(word));
+        return text.lexer()->color(int(text.SendScintilla(QsciScintillaBase::SCI_GETSTYLEAT, at)));
+    };
+    const QColor plain = text.palette().color(QPalette::Text);
+    EXPECT_EQ(colourOf("Idle"), plain);
+    EXPECT_EQ(colourOf("goes"), plain);
+    EXPECT_EQ(colourOf("Run"), plain);
+    EXPECT_NE(colourOf("test"), plain);
+    EXPECT_NE(colourOf("pulse"), plain);
+    EXPECT_NE(colourOf("; said"), plain);
+    EXPECT_NE(colourOf("pulse"), colourOf("test"));
 }
 
 TEST_F(RunTestsTest, ATestIsNotAddedToAFileThatIsNotUnderstood) {
