@@ -58,9 +58,7 @@ class StepWriter {
             Switch(step.Amount);
             break;
         case RunAct::Pulse:
-            AddEvents(Doing::Pulse, step.Amount & ~clock_.Surroundings().Events);
-            clock_.Pulse(step.Amount);
-            return EndLine();
+            return Pulse(step.Amount);
         case RunAct::Limit:
             AddLimit(step);
             clock_.Surroundings().Limits[step.State] = step.Time();
@@ -75,6 +73,25 @@ class StepWriter {
         }
         if (!hasPower_ || step.More)
             return;
+        clock_.Settle();
+        EndLine();
+    }
+
+    // A pulse of a test lets inputs come; where one goes for that scan, as an event that follows from signals
+    // may, it is written as what it is: one scan, and everything as before.
+    void Pulse(std::uint64_t events) {
+        const std::uint64_t there = clock_.Surroundings().Events;
+        if ((there & ~events) == 0) {
+            AddEvents(Doing::Pulse, events & ~there);
+            clock_.Pulse(events);
+            return EndLine();
+        }
+        Switch(events);
+        line_.Doings.emplace_back().What = Doing::Scan;
+        line_.Doings.back().Count = 1;
+        clock_.Scan(1);
+        EndLine();
+        Switch(there);
         clock_.Settle();
         EndLine();
     }

@@ -85,6 +85,16 @@ TEST(Recorder, WaitsInARowAreOne) {
               Recorded(pump, {kPowerOn, PulseOf(kStart), WaitFor(150)}));
 }
 
+// As an event that is there while a signal is not: the pulse of the signal lets it go for one scan.
+TEST(Recorder, AnEventThatGoesForAPulseIsWrittenAsOneScan) {
+    test::SmallTable pump = test::PumpTable();
+    pump.Cell(2, 6, 2); // held by Start, so that Stop alone ends it
+    const std::string text = Recorded(pump.Document(), {kPowerOn, SwitchTo(kStart), PulseOf(kStop)});
+    EXPECT_THAT(text, HasSubstr("off Start on Stop scan 1 => Idle  via Stop"));
+    EXPECT_THAT(text, HasSubstr("off Stop on Start        => Run  via Start"));
+    EXPECT_EQ(Wrong(pump.Document(), text), "");
+}
+
 TEST(Recorder, InputsBeforePowerStandInItsLine) {
     EXPECT_THAT(Recorded(test::PumpTable().Document(), {SwitchTo(kStart), kPowerOn}),
                 HasSubstr("    on Start => Idle => Run  via Start  runs \"On Motor\"  ran 2\n"));
