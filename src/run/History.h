@@ -10,6 +10,7 @@
 #include <cstdint>
 #include <optional>
 #include <span>
+#include <utility>
 #include <vector>
 
 namespace orvane::run {
@@ -61,6 +62,8 @@ class History {
 
     // All steps, also those behind the moment shown.
     std::span<const RunStep> Steps() const { return steps_; }
+    // Of a run that goes: only its log may be asked for then.
+    std::vector<RunStep> TakeSteps() { return std::move(steps_); }
     // What happened up to the moment shown, in order, and what did in the whole run.
     std::span<const LogEntry> Log() const { return {log_.data(), shown_}; }
     std::span<const LogEntry> WholeLog() const { return log_; }

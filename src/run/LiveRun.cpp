@@ -16,6 +16,9 @@ namespace orvane::run {
 
 namespace {
 
+// Some 3 ms on the largest table.
+constexpr std::size_t kReplayedAtOnce = 30'000;
+
 constexpr int kMostTimeoutsToChange = 1000; // a state that only enters itself anew is left alone then
 
 std::vector<RunStep> StepsOf(const History& history) {
@@ -34,6 +37,8 @@ void LiveRun::Restart() {
     cutOff_.clear();
     recorded_ = {{}, {}, document_};
     allFits_ = true;
+    isReplaying_ = false;
+    former_.reset();
     notice_.clear();
     Build();
 }
@@ -52,38 +57,73 @@ void LiveRun::Build() {
 
 void LiveRun::Recompile() {
     notice_.clear();
-    if (history_ && allFits_)
-        recorded_ = {StepsOf(*history_), history_->At(), std::move(recorded_.Table)};
-    const std::unique_ptr<Machine> formerMachine = std::move(machine_);
-    const std::unique_ptr<History> former = std::move(history_);
-    const bool hadAll = allFits_;
+    KeepFormer();
     Build();
-    if (!history_) {
-        allFits_ = false;
-        return;
-    }
-    PlayAgain();
-    FollowCutOff();
-    if (former && hadAll && allFits_)
-        TellOtherWay(*former);
-    if (allFits_)
-        recorded_.Table = document_;
+    isReplaying_ = allFits_ = history_ != nullptr;
+    if (history_)
+        Replay(kReplayedAtOnce);
+    else
+        former_.reset();
 }
 
-void LiveRun::PlayAgain() {
+// A run that is still being played again is dropped: what was recorded before that stays.
+void LiveRun::KeepFormer() {
+    if (!history_ || isReplaying_ || !allFits_)
+        return;
+    recorded_.At = history_->At();
+    recorded_.Steps = history_->TakeSteps();
+    former_ = std::move(history_);
+    formerMachine_ = std::move(machine_);
+}
+
+void LiveRun::ReplayMore() {
+    if (isReplaying_)
+        Replay(kReplayedAtOnce);
+}
+
+void LiveRun::FinishReplay() {
+    if (isReplaying_)
+        Replay(recorded_.Steps.size());
+}
+
+int LiveRun::PercentReplayed() const {
+    const std::size_t all = std::max<std::size_t>(recorded_.Steps.size(), 1);
+    return isReplaying_ ? int(history_->Steps().size() * 100 / all) : 100;
+}
+
+void LiveRun::Replay(std::size_t most) {
     const Followed followed(recorded_.Table, document_);
-    allFits_ = true;
-    for (const RunStep& before : recorded_.Steps) {
+    const std::size_t end = std::min(recorded_.Steps.size(), history_->Steps().size() + most);
+    while (history_->Steps().size() < end) {
+        const RunStep& before = recorded_.Steps[history_->Steps().size()];
         const std::optional<RunStep> step = followed.Step(before);
         if (step && history_->Do(*step))
             continue;
-        allFits_ = false;
-        notice_ = step ? WhyNot(*step) : WhyLost(before);
-        notice_ = "The run stands before step " + NumberText(std::int64_t(history_->At().Steps + 1)) +
-                  ", which does not fit the table any more: " + notice_;
-        return;
+        TellMisfit(before, step);
+        return EndReplay();
     }
+    if (end < recorded_.Steps.size())
+        return;
     history_->GoTo(recorded_.At);
+    EndReplay();
+}
+
+void LiveRun::TellMisfit(const RunStep& before, const std::optional<RunStep>& step) {
+    allFits_ = false;
+    notice_ = step ? WhyNot(*step) : WhyLost(before);
+    notice_ = "The run stands before step " + NumberText(std::int64_t(history_->At().Steps + 1)) +
+              ", which does not fit the table any more: " + notice_;
+}
+
+void LiveRun::EndReplay() {
+    isReplaying_ = false;
+    FollowCutOff();
+    if (former_ && allFits_)
+        TellOtherWay(*former_);
+    former_.reset();
+    formerMachine_.reset();
+    if (allFits_)
+        recorded_.Table = document_;
 }
 
 void LiveRun::FollowCutOff() {
@@ -119,6 +159,7 @@ StateNumber LiveRun::State() const {
 bool LiveRun::IsTrue(RowNumber event) const { return history_ && history_->Now().Surroundings().Has(event); }
 
 bool LiveRun::Do(const RunStep& step) {
+    FinishReplay();
     notice_.clear();
     if (!history_ || !history_->CanDo(step)) {
         notice_ = WhyNot(step);
@@ -154,6 +195,7 @@ std::string LiveRun::WhyLost(const RunStep& step) const {
 }
 
 void LiveRun::PowerOn() {
+    FinishReplay();
     notice_.clear();
     if (!history_) {
         notice_ = obstacles_.front();
@@ -174,6 +216,7 @@ void LiveRun::PowerOn() {
 }
 
 void LiveRun::Pulse(RowNumber event) {
+    FinishReplay();
     const std::uint64_t held = history_ ? history_->Now().Surroundings().Events : 0;
     if (IsTrue(event))
         notice_ = RowText(document_, event) + " is held already; Ctrl+click or H lets it go";
@@ -182,6 +225,7 @@ void LiveRun::Pulse(RowNumber event) {
 }
 
 void LiveRun::Hold(RowNumber event, bool there) {
+    FinishReplay();
     if (IsTrue(event) == there)
         return;
     const std::uint64_t held = history_ ? history_->Now().Surroundings().Events : 0;
@@ -191,6 +235,7 @@ void LiveRun::Hold(RowNumber event, bool there) {
 void LiveRun::Wait(Units units) { Do(WaitFor(units)); }
 
 void LiveRun::PassTime(Units units) {
+    FinishReplay();
     const bool atEnd = history_ && !history_->Steps().empty() &&
                        history_->At() == Moment{history_->Steps().size(), 0} && IsIdle(history_->End());
     const bool nothingHappened =
@@ -206,6 +251,7 @@ void LiveRun::PassTime(Units units) {
 bool LiveRun::CanGoOn() const { return history_ && history_->CanDo(WaitFor(1)); }
 
 void LiveRun::ToTimeout() {
+    FinishReplay();
     if (State() == kNoState)
         return Wait(0);
     const std::optional<Units> due = history_->Now().NextTimeout();
@@ -217,6 +263,7 @@ void LiveRun::ToTimeout() {
 }
 
 void LiveRun::ToChange() {
+    FinishReplay();
     if (State() == kNoState)
         return Wait(0);
     Clock ahead = history_->Now();
@@ -233,17 +280,18 @@ void LiveRun::ToChange() {
 }
 
 void LiveRun::Play(const RunToPlay& played) {
+    FinishReplay();
     notice_.clear();
     if (history_)
         cutOff_ = StepsOf(*history_);
     given_ = played.Given;
     readings_ = played.Read;
     recorded_ = {played.Steps, played.Shown, document_};
+    former_.reset();
     Build();
-    allFits_ = history_ != nullptr;
-    if (history_)
-        PlayAgain();
-    else
+    isReplaying_ = allFits_ = history_ != nullptr;
+    FinishReplay();
+    if (!history_)
         notice_ = obstacles_.front();
 }
 
@@ -268,6 +316,7 @@ std::optional<WantedLimit> LiveRun::Wanted() const {
 
 // The step that came to the limit is done again behind it, so that a test of this run has the limit in time.
 void LiveRun::GiveLimit(Units units) {
+    FinishReplay();
     const std::optional<WantedLimit> wanted = Wanted();
     if (!wanted)
         return;
@@ -288,6 +337,7 @@ void LiveRun::GiveLimit(Units units) {
 }
 
 std::optional<WayAsked> LiveRun::AskWay(StateNumber to) {
+    FinishReplay();
     notice_.clear();
     if (!history_ || !IsIdle(history_->End())) {
         notice_ = WhyNot({0, RunAct::PowerOn});
@@ -337,24 +387,28 @@ std::string LiveRun::WhyNoWay(StateNumber to, const WayFromRun& way) const {
 }
 
 void LiveRun::Back() {
+    FinishReplay();
     notice_.clear();
     if (history_)
         history_->Back();
 }
 
 void LiveRun::Forward() {
+    FinishReplay();
     notice_.clear();
     if (history_)
         history_->Forward();
 }
 
 void LiveRun::GoToTime(Units time) {
+    FinishReplay();
     notice_.clear();
     if (history_)
         history_->GoToTime(time);
 }
 
 void LiveRun::BringBack() {
+    FinishReplay();
     notice_.clear();
     if (!history_ || cutOff_.empty())
         return;

@@ -40,8 +40,13 @@ class LiveRun {
 
     // The document is another one: nothing was done to it.
     void Restart();
-    // The document was edited.
+    // The document was edited. Of a long run only the beginning is played again at once, so that an edit
+    // stays quick; the rest by ReplayMore, or with the next thing that is asked for.
     void Recompile();
+    bool IsReplaying() const { return isReplaying_; }
+    int PercentReplayed() const;
+    void ReplayMore();
+    void FinishReplay(); // before the run is looked at as a whole
 
     // Why there is no machine, one line of UTF-8 each.
     const std::vector<std::string>& Obstacles() const { return obstacles_; }
@@ -97,10 +102,13 @@ class LiveRun {
     };
 
     void Build();
+    void KeepFormer();
+    void Replay(std::size_t most);
+    void EndReplay();
     bool Do(const RunStep& step);
-    void PlayAgain();
     void FollowCutOff();
     void TellOtherWay(const History& before);
+    void TellMisfit(const RunStep& before, const std::optional<RunStep>& step);
     std::string WhyNot(const RunStep& step) const;
     std::string WhyLost(const RunStep& step) const;
     std::string WhyNoWay(StateNumber to, const WayFromRun& way) const;
@@ -112,7 +120,10 @@ class LiveRun {
     std::unique_ptr<Machine> machine_;
     std::unique_ptr<History> history_; // goes before its machine
     Recorded recorded_;
-    bool allFits_ = true; // the history holds all that was recorded
+    bool isReplaying_ = false; // the history holds the beginning of what was recorded
+    std::unique_ptr<Machine> formerMachine_;
+    std::unique_ptr<History> former_; // the run before the edit, while it is played again; only its log
+    bool allFits_ = true;             // the history holds all that was recorded
     std::vector<RunStep> cutOff_;
     std::string notice_;
 };

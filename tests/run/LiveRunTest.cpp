@@ -239,5 +239,77 @@ TEST_F(LivePump, AnotherDocumentBeginsWithoutARun) {
     EXPECT_TRUE(run.Past()->Steps().empty());
 }
 
+class LongRun : public LivePump {
+  protected:
+    LongRun() {
+        run.PowerOn();
+        for (int i = 0; i < kRounds; ++i) {
+            run.Pulse(kStart);
+            run.Pulse(kStop);
+        }
+    }
+
+    static constexpr int kRounds = 50'000;
+    static constexpr std::size_t kSteps = 1 + 2 * kRounds;
+};
+
+TEST_F(LongRun, IsPlayedAgainPieceByPiece) {
+    document.State(2).Targets[7] = 2; // does not stop any more
+    run.Recompile();
+    ASSERT_TRUE(run.IsReplaying());
+    int pieces = 0;
+    for (int percent = run.PercentReplayed(); run.IsReplaying(); ++pieces) {
+        EXPECT_LT(percent, 100);
+        run.ReplayMore();
+        EXPECT_GT(run.PercentReplayed(), percent);
+        percent = run.PercentReplayed();
+    }
+    EXPECT_GE(pieces, 3);
+    EXPECT_EQ(run.Past()->Steps().size(), kSteps);
+    EXPECT_EQ(run.State(), StateNumber(2));
+    EXPECT_THAT(run.Notice(), HasSubstr("Since the edit it "));
+}
+
+TEST_F(LongRun, WhateverIsAskedForIsDoneBehindAllOfIt) {
+    run.Recompile();
+    ASSERT_TRUE(run.IsReplaying());
+    run.Wait(5);
+    EXPECT_FALSE(run.IsReplaying());
+    EXPECT_EQ(run.Past()->Steps().size(), kSteps + 1);
+    run.Recompile();
+    run.Back();
+    EXPECT_EQ(run.Past()->At().Steps, kSteps);
+}
+
+// The first edit's piece was played on a table that is not there any more.
+TEST_F(LongRun, AnEditMeanwhileBeginsAnewAndLosesNothing) {
+    run.GoToTime(0);
+    run.Back();
+    document.Event(6).Name = "Go";
+    run.Recompile();
+    run.ReplayMore();
+    ASSERT_TRUE(run.IsReplaying());
+    document.Event(6).Name = "Begin";
+    run.Recompile();
+    while (run.IsReplaying())
+        run.ReplayMore();
+    EXPECT_EQ(run.Past()->Steps().size(), kSteps);
+    EXPECT_EQ(run.Past()->At().Steps, kSteps - 1);
+    EXPECT_EQ(run.Notice(), "");
+}
+
+TEST_F(LongRun, AnErrorMeanwhileKeepsIt) {
+    run.Recompile();
+    ASSERT_TRUE(run.IsReplaying());
+    document.State(2).TimeConst.clear();
+    run.Recompile();
+    EXPECT_FALSE(run.IsReplaying());
+    EXPECT_FALSE(run.Obstacles().empty());
+    document.State(2).TimeConst = "100";
+    run.Recompile();
+    run.Wait(0);
+    EXPECT_EQ(run.Past()->Steps().size(), kSteps + 1);
+}
+
 } // namespace
 } // namespace orvane::run

@@ -51,7 +51,10 @@ RunWish WishOf(Command command) {
 
 } // namespace
 
-RunRoom::RunRoom(const RoomPlace& place) : session_(place.Open), window_(place.Window) {}
+RunRoom::RunRoom(const RoomPlace& place) : session_(place.Open), window_(place.Window) {
+    tmrReplay_.setInterval(0);
+    connect(&tmrReplay_, &QTimer::timeout, this, &RunRoom::ReplayOn);
+}
 
 RunRoom::~RunRoom() = default;
 
@@ -173,6 +176,7 @@ void RunRoom::FireEvent(RowNumber row) {
 }
 
 void RunRoom::Do(RunWish wish) {
+    run_->FinishReplay();
     switch (wish) {
     case RunWish::PowerOn:
         run_->PowerOn();
@@ -278,7 +282,22 @@ void RunRoom::Show(Log log) {
     if (!run_->CanGoOn())
         pane_->StopTime();
     pane_->ShowRun(log == Log::IsAnother);
-    session_.ShowRun(PictureOfRun(*run_, pane_->ShowsCounts()));
+    session_.ShowRun(run_->IsReplaying() ? RunPicture() : PictureOfRun(*run_, pane_->ShowsCounts()));
+    if (run_->IsReplaying())
+        tmrReplay_.start();
+    else
+        tmrReplay_.stop();
+}
+
+// Between two keys; what is shown of the run meanwhile is only how far it is.
+void RunRoom::ReplayOn() {
+    run_->ReplayMore();
+    if (run_->IsReplaying())
+        pane_->ShowReplay();
+    else if (IsShown())
+        Show(Log::IsAnother);
+    else
+        tmrReplay_.stop();
 }
 
 } // namespace orvane

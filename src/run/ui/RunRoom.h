@@ -6,6 +6,8 @@
 #include "run/WayFromRun.h"
 #include "run/ui/RunWish.h"
 
+#include <QTimer>
+
 #include <memory>
 
 namespace orvane {
@@ -44,6 +46,7 @@ class RunRoom : public Room {
     void TellRun(const Change& change);
     void Do(RunWish wish);
     void FindWay(StateNumber to);
+    void ReplayOn();
     void DropSearch();
     void MakeTour();
     void SaveAsTest();
@@ -58,6 +61,7 @@ class RunRoom : public Room {
     TestsPane* tests_ = nullptr; // in the pane
     frmTour* frmTour_ = nullptr; // belongs to the main window; made when it is asked for
     bool missedEdits_ = false;   // while the pane was hidden
+    QTimer tmrReplay_;           // of a long run after an edit
     Background<run::WayFromRun> way_{*this};
 };
 

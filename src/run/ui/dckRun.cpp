@@ -223,9 +223,13 @@ void dckRun::ShowRun(bool anew) {
     buttons_->SetBringBackPossible(run_.CanBringBack());
 }
 
+void dckRun::ShowReplay() { lblWhere->setText(WhereText()); }
+
 QString dckRun::WhereText() const {
     if (run_.Past() == nullptr)
         return tr("This table cannot be run yet.");
+    if (run_.IsReplaying())
+        return tr("Played again on the edited table: %1 %").arg(run_.PercentReplayed());
     if (run_.State() == kNoState)
         return tr("The power is off.");
     return tr("%1 at %2").arg(StateText(document_, run_.State())).arg(run_.Past()->Now().Where().Now);

@@ -35,6 +35,8 @@ class dckRun : public QDockWidget {
 
     // The run is at another moment; anew when what has happened is another than before.
     void ShowRun(bool anew);
+    // The run is being played again on an edited table, and came further.
+    void ShowReplay();
     bool ShowsCounts() const;
     // How long a unit of time is, as typed; empty where that is not known.
     QString Unit() const;
