@@ -2,8 +2,7 @@
 #include "run/Advice.h"
 
 #include "codegen/DesignChecks.h"
-#include "codegen/LabelClashes.h"
-#include "run/CodeLines.h"
+#include "run/DesignAdvice.h"
 #include "run/FreeLimits.h"
 #include "run/Obstacles.h"
 #include "run/StateSpace.h"
@@ -12,31 +11,26 @@
 #include "text/Ordinal.h"
 
 #include <algorithm>
-#include <map>
 
 namespace orvane::run {
 
 namespace {
 
 constexpr std::array<std::string_view, kAdviceKinds.size()> kNames = {
-    "start-not-1", "dead-timeout", "timer-never-started", "never-yields",
-    "no-way-back", "trap",         "same-test",           "label-twice"};
+    "start-not-1", "dead-timeout", "timer-never-started", "never-yields", "no-way-back", "trap",
+    "same-test",   "label-twice",  "same-name",           "timer-blanks", "oscillates"};
 
 using States = std::bitset<kStateCount + 1>;
 
 class Adviser {
   public:
-    explicit Adviser(const FsmDocument& document)
-        : document_(document), free_(WithFreeLimits(document)), machine_(free_) {}
+    Adviser(const FsmDocument& document, const std::stop_token& stop)
+        : document_(document), stop_(stop), free_(WithFreeLimits(document)), machine_(free_) {}
 
     AdviceResult Run() {
-        AdviseOnLabels();
-        AdviseOnTests();
-        if (machine_.Start() != StateNumber()) {
-            AdviseOnStart();
-            if (Obstacles(document_).empty())
-                AdviseOnBehaviour();
-        }
+        result_.List = AdviceOnDesign(document_);
+        if (machine_.Start() != StateNumber() && Obstacles(document_).empty())
+            AdviseOnBehaviour();
         std::stable_sort(result_.List.begin(), result_.List.end(), [](const Advice& a, const Advice& b) {
             return std::tuple(Ordinal(a.Kind), a.Place.State.Number(), a.Place.Row.Number()) <
                    std::tuple(Ordinal(b.Kind), b.Place.State.Number(), b.Place.Row.Number());
@@ -54,49 +48,20 @@ class Adviser {
         return "row " + NumberText(row.Number()) + (name.empty() ? "" : " (" + name + ")");
     }
 
-    void AdviseOnLabels() {
-        for (const std::string& label : LabelClashes(document_))
-            Add(AdviceKind::LabelTwice, {},
-                "The label " + label + " stands twice in the program; change one of the names it is made of");
-    }
-
-    void AdviseOnTests();
-    void AdviseOnStart() {
-        if (machine_.Start() != StateNumber(1))
-            Add(AdviceKind::StartNot1, {kNoRow, machine_.Start()},
-                "The machine starts in " + Title(machine_.Start()) +
-                    ", the first state that a transition enters, and not in " + Title(1));
-    }
     void AdviseOnBehaviour();
     void AdviseOnTimers(const StateSpace& space);
     void AdviseOnEndlessScans(const StateSpace& space);
     void AdviseOnWays(const StateSpace& space);
 
     const FsmDocument& document_;
+    const std::stop_token& stop_;
     const FsmDocument free_;
     const Machine machine_;
     AdviceResult result_;
 };
 
-void Adviser::AdviseOnTests() {
-    std::map<std::string, RowNumber> firstOf;
-    for (const RowNumber row : EventRows()) {
-        const std::string test(Trim(WithSingleBlanks(document_.Event(row).Code)));
-        const bool used = std::any_of(StateNumbers().begin(), StateNumbers().end(), [&](StateNumber state) {
-            return document_.State(state).Targets[row] != kNoState;
-        });
-        if (test.empty() || !used)
-            continue;
-        const auto [first, isNew] = firstOf.emplace(test, row);
-        if (!isNew)
-            Add(AdviceKind::SameTest, {row, kNoState},
-                "The events in " + EventTitle(first->second) + " and " + EventTitle(row) +
-                    " have the same test; where both lead somewhere only the upper one is taken");
-    }
-}
-
 void Adviser::AdviseOnBehaviour() {
-    const StateSpace space(machine_, Inputs());
+    const StateSpace space(machine_, Inputs(), {.Stop = stop_});
     result_.Complete = space.Complete();
     AdviseOnEndlessScans(space);
     AdviseOnTimers(space);
@@ -134,11 +99,11 @@ void Adviser::AdviseOnEndlessScans(const StateSpace& space) {
                     "as long as the event is there");
             continue;
         }
-        std::string ring;
-        for (const StateNumber state : endless.Ring)
-            ring += (ring.empty() ? "" : ", ") + Title(state);
-        Add(AdviceKind::NeverYields, {endless.Row, lowest},
-            "The states " + ring + " lead to each other and let no time pass: no other machine runs then");
+        std::vector<StateNumber> ring = endless.Ring;
+        std::rotate(ring.begin(), std::min_element(ring.begin(), ring.end()), ring.end());
+        const Advice advice = RingWithoutYield(document_, ring, endless.Row);
+        if (std::find(result_.List.begin(), result_.List.end(), advice) == result_.List.end())
+            result_.List.push_back(advice); // the table alone may have told it
     }
 }
 
@@ -216,6 +181,8 @@ void Adviser::AdviseOnWays(const StateSpace& space) {
 
 std::string_view AdviceKindName(AdviceKind kind) { return kNames.at(Ordinal(kind)); }
 
-AdviceResult AdviceOn(const FsmDocument& document) { return Adviser(document).Run(); }
+AdviceResult AdviceOn(const FsmDocument& document, const std::stop_token& stop) {
+    return Adviser(document, stop).Run();
+}
 
 } // namespace orvane::run

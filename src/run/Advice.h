@@ -7,6 +7,7 @@
 #include "core/FsmDocument.h"
 
 #include <array>
+#include <stop_token>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -22,12 +23,16 @@ enum class AdviceKind {
     NoWayBack,
     Trap,
     SameTest,
-    LabelTwice
+    LabelTwice,
+    SameName,
+    TimerBlanks,
+    Oscillates
 };
 
 inline constexpr auto kAdviceKinds = std::to_array(
     {AdviceKind::StartNot1, AdviceKind::DeadTimeout, AdviceKind::TimerNeverStarted, AdviceKind::NeverYields,
-     AdviceKind::NoWayBack, AdviceKind::Trap, AdviceKind::SameTest, AdviceKind::LabelTwice});
+     AdviceKind::NoWayBack, AdviceKind::Trap, AdviceKind::SameTest, AdviceKind::LabelTwice,
+     AdviceKind::SameName, AdviceKind::TimerBlanks, AdviceKind::Oscillates});
 
 // The word that tools know the kind by, such as "dead-timeout".
 std::string_view AdviceKindName(AdviceKind kind);
@@ -47,6 +52,7 @@ struct AdviceResult {
 
 // Of a document that cannot be run only what can be told without running it.
 // Throws BoundsError when a transition leads to a state that the table does not have.
-AdviceResult AdviceOn(const FsmDocument& document);
+// Once somebody says stop, what comes back is not complete.
+AdviceResult AdviceOn(const FsmDocument& document, const std::stop_token& stop = {});
 
 } // namespace orvane::run
