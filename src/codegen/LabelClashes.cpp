@@ -17,8 +17,14 @@ namespace {
 void AddLabelsOfState(std::vector<std::string>& labels, const FsmDocument& document, StateNumber state) {
     labels.push_back(StateEntryLabel(document, state));
     labels.push_back(StateLoopLabel(document, state));
-    for (SkipLabel& skip : SkipLabels(document, state))
-        labels.push_back(std::move(skip.Label));
+}
+
+// The places behind actions are numbered, so that no two of them have one label. There are thousands of them;
+// they are looked at only where another label could be one of theirs.
+bool CouldBeSkipLabel(const FsmDocument& document, std::string_view label) {
+    const std::string prefix = document.General.FsmName + "_";
+    return label.starts_with(prefix) &&
+           label.find_first_not_of("0123456789ABCDEFabcdef_", prefix.size()) == std::string_view::npos;
 }
 
 void AddLabelsOfTimers(std::vector<std::string>& labels, const FsmDocument& document,
@@ -27,6 +33,17 @@ void AddLabelsOfTimers(std::vector<std::string>& labels, const FsmDocument& docu
         labels.push_back(TimerLabel(document, ""));
     for (const std::string& id : timers.Ids())
         labels.push_back(TimerLabel(document, id));
+}
+
+std::vector<std::string> MoreThanOnce(std::vector<std::string> labels) {
+    std::sort(labels.begin(), labels.end());
+    std::vector<std::string> clashes;
+    for (std::size_t i = 1; i < labels.size(); ++i) {
+        const bool again = labels[i] == labels[i - 1];
+        if (again && (clashes.empty() || clashes.back() != labels[i]))
+            clashes.push_back(labels[i]);
+    }
+    return clashes;
 }
 
 } // namespace
@@ -45,15 +62,16 @@ std::vector<std::string> LabelClashes(const FsmDocument& document) {
             timers.Add(document.State(state).TimerId);
     }
     AddLabelsOfTimers(labels, document, timers);
-
-    std::sort(labels.begin(), labels.end());
-    std::vector<std::string> clashes;
-    for (std::size_t i = 1; i < labels.size(); ++i) {
-        const bool again = labels[i] == labels[i - 1];
-        if (again && (clashes.empty() || clashes.back() != labels[i]))
-            clashes.push_back(labels[i]);
+    const bool skipsMatter = std::any_of(labels.begin(), labels.end(), [&](const std::string& label) {
+        return CouldBeSkipLabel(document, label);
+    });
+    for (const StateNumber state : StateNumbers()) {
+        if (!skipsMatter || !reachability.Reached(state))
+            continue;
+        for (SkipLabel& skip : SkipLabels(document, state))
+            labels.push_back(std::move(skip.Label));
     }
-    return clashes;
+    return MoreThanOnce(std::move(labels));
 }
 
 } // namespace orvane
