@@ -10,11 +10,12 @@ BEGIN {
     uses["review"] = "core text"
     uses["find"] = "core text table codegen"
     uses["run"] = uses["diagram"] = uses["export"] = "core text codegen"
+    uses["findings"] = "core text codegen run"
     uses["session"] = "core table files text"
     uses["recovery"] = uses["outside"] = "core text"
     uses["kit"] = "core text files"
     room = "session core text files kit"
-    engines = "core text files table codegen editors builder welcome find run diagram review export outside"
+    engines = "core text files table codegen editors builder welcome find run findings diagram review export outside"
     uses["cli"] = engines
     uses["app"] = engines " session kit"
 }

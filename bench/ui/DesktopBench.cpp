@@ -8,6 +8,7 @@
 #include "core/DocumentReader.h"
 #include "core/DocumentWriter.h"
 #include "core/TightPacked.h"
+#include "core/TimingMode.h"
 #include "ui/MedianTable.h"
 #include "ui/TableDriver.h"
 
@@ -79,6 +80,45 @@ void AddTyping(MedianTable& table, TableDriver& driver, const FsmDocument& docum
             return time;
         },
         Generating(document));
+}
+
+// A limit that has to be computed is not known.
+FsmDocument RunnableAtTheLimit() {
+    FsmDocument document = DocumentAtTheLimit();
+    for (const StateNumber state : StateNumbers()) {
+        document.State(state).TimingMode = kStartConstant;
+        document.State(state).TimeConst = "1000";
+    }
+    return document;
+}
+
+void AddRunning(MedianTable& table, TableDriver& driver, const FsmDocument& document) {
+    constexpr int steps = 200'000;
+    driver.PlaySteps(steps);
+    const auto target = std::make_shared<int>(1);
+    const auto type = [&driver, target] {
+        *target = *target % kStateCount + 1;
+        driver.BeginTarget(20, 50, QString::number(*target));
+        return TimeOfOperation([&] { driver.CommitTarget(); });
+    };
+    table.Add("typed transition, a run of 200,000 steps open", "pack + generate", 12, type,
+              PackingAndGenerating(document));
+    table.Add(
+        "step of that run, with the table as its picture", "repaint", 4,
+        [&driver] { return TimeOfOperation([&] { driver.Trigger("mnuStep"); }); },
+        [&driver] { return TimeOf([&] { driver.RepaintTable(); }); });
+}
+
+void AddFindings(MedianTable& table, TableDriver& driver, const FsmDocument& document) {
+    driver.Trigger("mnuViewFindings");
+    const auto target = std::make_shared<int>(1);
+    const auto type = [&driver, target] {
+        *target = *target % kStateCount + 1;
+        driver.BeginTarget(20, 50, QString::number(*target));
+        return TimeOfOperation([&] { driver.CommitTarget(); });
+    };
+    table.Add("typed transition, findings listed", "pack + generate", 4, type,
+              PackingAndGenerating(document));
 }
 
 // A document without changes: what is discarded waits for the disk, and the first change after that begins a
@@ -194,6 +234,8 @@ int main(int argc, char** argv) {
               << "| --- | ---: | --- | ---: | ---: | ---: |\n";
     using namespace orvane;
     MeasureWindow(DocumentAtTheLimit(), AddTyping);
+    MeasureWindow(DocumentAtTheLimit(), AddFindings);
+    MeasureWindow(RunnableAtTheLimit(), AddRunning);
     MeasureWindow(DocumentAtTheLimit(), AddJournal);
     MeasureWindow(DocumentAtTheLimit(), AddOpening, false);
     MeasureWindow(SampleDocument(kStateCount - 1, kLastRow - kFirstEventRow), AddStructure);

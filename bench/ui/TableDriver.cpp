@@ -9,6 +9,7 @@
 #include <QCheckBox>
 #include <QFile>
 #include <QFileInfo>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMouseEvent>
@@ -61,6 +62,24 @@ void TableDriver::CommitTarget() {
     SendKey(Find<QLineEdit>("txtCellEdit"), Qt::Key_Return, QStringLiteral("\r"));
     QApplication::processEvents();
 }
+
+// A test that fails in its last line is played up to there.
+void TableDriver::PlaySteps(int steps) {
+    QFile file(folder_.filePath(QStringLiteral("machine.ztest")));
+    if (!file.open(QIODevice::WriteOnly))
+        throw std::runtime_error("the tests cannot be written");
+    file.write("test many steps\n");
+    for (int step = 0; step < steps; ++step)
+        file.write(step % 2 == 0 ? "pulse #6\n" : "+5 pulse #7\n");
+    file.write("+1 => again\n");
+    file.close();
+    Trigger("mnuRunTests");
+    if (Find<QLabel>("lblTests").text().contains(QStringLiteral("1 failed")))
+        return;
+    throw std::runtime_error("the run was not played: " + Find<QLabel>("lblTests").text().toStdString());
+}
+
+void TableDriver::RepaintTable() { Find<QTableView>("MSFlexGrid1").viewport()->repaint(); }
 
 void TableDriver::PressForMenu(int row, int column) {
     Press(row, column, Qt::RightButton);

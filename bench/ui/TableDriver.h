@@ -33,6 +33,10 @@ class TableDriver {
     // Types one letter into the pane, which has the focus.
     void TypeLetter(const char* pane);
 
+    // Plays a test of so many steps in the pane of the run, which stays open.
+    void PlaySteps(int steps);
+    void RepaintTable();
+
     // As the user switches it in the window for recovery.
     void KeepJournal(bool keep);
 

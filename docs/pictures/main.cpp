@@ -8,8 +8,10 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QComboBox>
 #include <QDir>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QTabWidget>
 #include <QTableView>
 #include <QTest>
@@ -26,6 +28,8 @@ using orvane::frmTable;
 constexpr QSize kTableSize(860, 400);
 constexpr QSize kDialogSize(600, 400);
 constexpr QSize kSideSize(640, 480);
+constexpr QSize kPaneSize(1200, 780);
+constexpr QSize kFindingsSize(860, 560);
 
 class Photographer {
   public:
@@ -50,6 +54,8 @@ class Photographer {
     void GeneralCode();
     void SideWindow(const char* item, const char* window, const char* picture);
     void Backtrack();
+    void RunPane();
+    void FindingsPane();
 
     QDir examples_;
     QDir pictures_;
@@ -160,6 +166,30 @@ void Photographer::Backtrack() {
     SideWindow("mnuBacktrack", "frmBackTrack", "backtrack");
 }
 
+// The door closes, and somebody has stood in the beam.
+void Photographer::RunPane() {
+    Open("garage.zfsm");
+    window_->resize(kPaneSize);
+    Trigger("mnuViewRun");
+    window_->findChild<QComboBox*>(QStringLiteral("cboState"))->setCurrentText(QStringLiteral("6:Reverse"));
+    auto* go = window_->findChild<QPushButton*>(QStringLiteral("cmdGoToState"));
+    go->click();
+    if (!QTest::qWaitFor([go] { return go->text() == QStringLiteral("Go"); })) {
+        std::fprintf(stderr, "the way was not found\n");
+        allSaved_ = false;
+    }
+    for (int i = 0; i < 3; ++i)
+        Trigger("mnuStep");
+    Grab(*window_, "run");
+}
+
+void Photographer::FindingsPane() {
+    Open("faulty.zfsm");
+    window_->resize(kFindingsSize);
+    Trigger("mnuViewFindings");
+    Grab(*window_, "findings");
+}
+
 bool Photographer::TakeAll() {
     Table();
     TypedTarget();
@@ -171,6 +201,8 @@ bool Photographer::TakeAll() {
     GeneralCode();
     Open("faulty.zfsm");
     SideWindow("mnuCodeGenerate", "frmGenerator", "report");
+    RunPane();
+    FindingsPane();
     Open("pump.zfsm");
     SideWindow("mnuBuilder", "frmBuilder", "builder");
     window_.reset();

@@ -4,6 +4,7 @@
 #include "builder/ui/BuilderRoom.h"
 #include "codegen/ui/GeneratorRoom.h"
 #include "editors/ui/EditorsRoom.h"
+#include "findings/ui/FindingsRoom.h"
 #include "outside/ui/OutsideRoom.h"
 #include "recovery/ui/RecoveryRoom.h"
 #include "review/ui/ReviewRoom.h"
@@ -23,6 +24,7 @@ std::vector<std::unique_ptr<Room>> MakeRooms(const RoomPlace& place) {
     rooms.push_back(std::make_unique<BacktrackRoom>(place));
     rooms.push_back(std::make_unique<EditorsRoom>(place));
     rooms.push_back(std::make_unique<RecoveryRoom>(place));
+    rooms.push_back(std::make_unique<FindingsRoom>(place));
     rooms.push_back(std::make_unique<RunRoom>(place));
     rooms.push_back(std::make_unique<ReviewRoom>(place));
     rooms.push_back(std::make_unique<WelcomeRoom>(place));

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/TableStatusBar.h"
 
+#include <QEvent>
 #include <QLabel>
 #include <QTextDocument>
 
@@ -16,13 +17,20 @@ TableStatusBar::TableStatusBar(QWidget* parent)
     : QStatusBar(parent),
       Panel1(AddPanel(QStringLiteral("Panel1"), 0)),
       Panel2(AddPanel(QStringLiteral("Panel2"), 0)),
-      Panel3(AddPanel(QStringLiteral("Panel3"), 1)) {
+      Panel3(AddPanel(QStringLiteral("Panel3"), 1)),
+      lblFindings(new QLabel(this)) {
     setObjectName(QStringLiteral("StatusBar1"));
     setAccessibleName(tr("Status"));
     Panel1->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("***")));
     Panel1->setAlignment(Qt::AlignCenter);
     Panel2->setMaximumWidth(kWidestName);
     Panel3->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    lblFindings->setObjectName(QStringLiteral("lblFindings"));
+    lblFindings->setTextFormat(Qt::PlainText);
+    lblFindings->setToolTip(tr("A click lists them; F8 goes to the next"));
+    lblFindings->setCursor(Qt::PointingHandCursor);
+    lblFindings->installEventFilter(this);
+    addPermanentWidget(lblFindings);
 }
 
 QLabel* TableStatusBar::AddPanel(const QString& name, int stretch) {
@@ -37,6 +45,14 @@ void TableStatusBar::ShowShift(bool held) { Panel1->setText(held ? QStringLitera
 
 void TableStatusBar::ShowName(const QString& name) {
     Panel2->setText(name.isEmpty() ? QStringLiteral("[Un-named]") : name);
+}
+
+void TableStatusBar::ShowFindings(const QString& counts) { lblFindings->setText(counts); }
+
+bool TableStatusBar::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == lblFindings && event->type() == QEvent::MouseButtonRelease)
+        Q_EMIT FindingsWanted();
+    return QStatusBar::eventFilter(watched, event);
 }
 
 void TableStatusBar::ShowProblem(const QString& problem) {

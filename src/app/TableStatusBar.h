@@ -18,12 +18,21 @@ class TableStatusBar : public QStatusBar {
     void ShowShift(bool held);
     // The machine's; an empty one shows as "[Un-named]".
     void ShowName(const QString& name);
+    // How many findings there are, in words.
+    void ShowFindings(const QString& counts);
     // What stays wrong while the program runs; empty when nothing is.
     void ShowProblem(const QString& problem);
     // Whether to say how to begin a machine.
     void ShowHowToBegin(bool show);
     // What the last command has done; empty takes it away.
     void Say(const QString& text);
+
+  Q_SIGNALS:
+    // The count of findings was clicked.
+    void FindingsWanted();
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     QLabel* AddPanel(const QString& name, int stretch);
@@ -32,6 +41,7 @@ class TableStatusBar : public QStatusBar {
     QLabel* Panel1;
     QLabel* Panel2;
     QLabel* Panel3;
+    QLabel* lblFindings;
     QString said_;
     QString problem_;
     bool saysHowToBegin_ = false;

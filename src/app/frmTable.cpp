@@ -38,11 +38,16 @@ frmTable::frmTable(QWidget* parent)
     setStatusBar(status_);
     session_.Observe(ObserverRank::Title, *this);
     connect(menus_, &CommandMenus::Chosen, this, &frmTable::Run);
+    connect(status_, &TableStatusBar::FindingsWanted, this, [this] {
+        if (!session_.ListsFindings())
+            Run(Command::ViewFindings);
+    });
     AddHelpKey(*this, kHelpPage);
     Trace("Start at " + QDateTime::currentDateTime().toString(Qt::ISODate).toStdString());
     LoadWords();
     MakeRooms();
     ConnectRecentFiles();
+    status_->ShowFindings(FromAnsi(FindingCounts({})));
     lifecycle_->NewGrid();
 }
 
@@ -147,9 +152,12 @@ void frmTable::PopUp(Command menu, const QPoint& position) {
 
 void frmTable::Told(const Change& change) {
     status_->ShowShift(session_.ShiftHeld());
-    if (change.Kind == ChangeKind::Ran)
+    if (change.Kind == ChangeKind::Judged)
+        status_->ShowFindings(FromAnsi(FindingCounts(session_.Findings())));
+    if (change.Kind == ChangeKind::Ran || change.Kind == ChangeKind::Judged)
         menus_->ShowState(session_);
-    if (change.Kind == ChangeKind::Moved || change.Kind == ChangeKind::Ran)
+    if (change.Kind == ChangeKind::Moved || change.Kind == ChangeKind::Ran ||
+        change.Kind == ChangeKind::Judged)
         return;
     ShowDocumentState();
     if (change.Kind == ChangeKind::Undone)

@@ -23,6 +23,7 @@ enum class ChangeKind {
     Left,          // the document is left with the program
     Moved,         // the pressed cell, the current state, Shift: where the user is, not what he draws
     Ran,           // the machine that runs looks another way, or runs no more
+    Judged,        // what there is to be told of the design is something else, or is listed or not
 };
 
 // Which part of the table shows the change.

@@ -31,6 +31,8 @@ bool IsPossible(const Session& session, const CommandEntry& entry) {
         return session.Pasteable().Transition;
     case Need::ActionToPaste:
         return session.Pasteable().TransitionAction;
+    case Need::Finding:
+        return !session.Findings().empty();
     case Need::UnreachedState:
         return !IsReached(session, session.Pressed().State);
     case Need::Nothing:
@@ -54,6 +56,8 @@ bool IsChecked(const Session& session, Command toggle) {
         return view.Polytask;
     case Command::ViewRun:
         return session.Run().has_value();
+    case Command::ViewFindings:
+        return session.ListsFindings();
     default:
         return false;
     }

@@ -33,6 +33,9 @@ enum class Command : unsigned char {
     Polytask,
     ViewMenu,
     ViewRun,
+    ViewFindings,
+    NextFinding,
+    PreviousFinding,
     CompareWith,
     RunMenu,
     PowerOn,
@@ -94,6 +97,7 @@ enum class Need {
     EntryActionToPaste,
     TransitionToPaste,
     ActionToPaste,
+    Finding,        // something to be told of the design
     UnreachedState, // the pressed one: only a state that no path from state 1 reaches can be deleted
 };
 
@@ -141,9 +145,14 @@ inline constexpr auto kCommands = std::to_array<CommandEntry>({
     {Command::Divider, EntryKind::Divider, "div4", ""},
     {Command::Polytask, EntryKind::Toggle, "mnuPolytask", "Polytask"},
     {Command::ViewMenu, EntryKind::BarMenu, "mnuView", "View"},
+    {Command::ViewFindings, EntryKind::Toggle, "mnuViewFindings", "Findings"},
     {Command::ViewRun, EntryKind::Toggle, "mnuViewRun", "Run the machine"},
     {Command::CompareWith, EntryKind::Item, "mnuCompareWith", "Compare with...", "", Need::Nothing,
      Typing::IsTaken, "take over a change"},
+    {Command::NextFinding, EntryKind::Item, "mnuNextFinding", "Next finding", "F8", Need::Finding,
+     Typing::IsTaken},
+    {Command::PreviousFinding, EntryKind::Item, "mnuPreviousFinding", "Previous finding", "Shift+F8",
+     Need::Finding, Typing::IsTaken},
     {Command::RunMenu, EntryKind::BarMenu, "mnuRun", "Run"},
     {Command::PowerOn, EntryKind::Item, "mnuPowerOn", "Power on", "", Need::Nothing, Typing::IsTaken},
     {Command::StepTime, EntryKind::Item, "mnuStep", "Step", "", Need::Nothing, Typing::IsTaken},

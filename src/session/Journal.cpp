@@ -114,6 +114,7 @@ void Journal::Write(const Change& change) {
     case ChangeKind::ProgramWanted:
     case ChangeKind::Moved:
     case ChangeKind::Ran:
+    case ChangeKind::Judged:
         return;
     }
 }

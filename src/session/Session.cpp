@@ -131,6 +131,18 @@ void Session::ShowRun(std::optional<RunPicture> run) {
     Tell({.Kind = ChangeKind::Ran, .Where = {}});
 }
 
+void Session::ShowFindings(std::vector<DesignFinding> findings) {
+    if (findings == findings_)
+        return;
+    findings_ = std::move(findings);
+    Tell({.Kind = ChangeKind::Judged, .Where = {}});
+}
+
+void Session::ListFindings(bool shown) {
+    if (std::exchange(listsFindings_, shown) != shown)
+        Tell({.Kind = ChangeKind::Judged, .Where = {}});
+}
+
 void Session::RemoveDraftSource(const DraftSource& source) { std::erase(draftSources_, &source); }
 
 std::vector<Draft> Session::Drafts() const {

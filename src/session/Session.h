@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "core/DesignFinding.h"
 #include "core/FsmDocument.h"
 #include "core/UserMessage.h"
 #include "session/Change.h"
@@ -151,6 +152,16 @@ class Session {
     const ProgramState& Program() const { return program_; }
     void SetProgram(const ProgramState& program) { program_ = program; }
 
+    // What the generator's last run has found, in its order.
+    const std::vector<DesignFinding>& Report() const { return report_; }
+    void SetReport(std::vector<DesignFinding> report) { report_ = std::move(report); }
+    // All that there is to be told of the design, errors first; whoever gathers it shows it to all others.
+    const std::vector<DesignFinding>& Findings() const { return findings_; }
+    void ShowFindings(std::vector<DesignFinding> findings);
+    // The list of them is open.
+    bool ListsFindings() const { return listsFindings_; }
+    void ListFindings(bool shown);
+
     // Observers are told in the order of their ranks, those of one rank in the order in which they came.
     void Observe(ObserverRank rank, SessionObserver& observer);
 
@@ -178,6 +189,9 @@ class Session {
     std::optional<RunPicture> run_;
     Twips standardHeight_ = 0;
     ProgramState program_;
+    std::vector<DesignFinding> report_;
+    std::vector<DesignFinding> findings_;
+    bool listsFindings_ = false;
     std::optional<std::string> script_;
     std::vector<const DraftSource*> draftSources_;
     std::vector<Listener> listeners_;

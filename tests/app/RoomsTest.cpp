@@ -16,9 +16,10 @@ class MadeUpRoom : public Room {
 
     ObserverRank Rank() const override { return ObserverRank::Rooms; }
     bool Listens() const override { return IsShown; }
-    // What an open editor holds is told with every letter, and is no change of the document.
+    // What an open editor holds is told with every letter, and is no change of the document; neither is what
+    // there is to be told of it.
     void Told(const Change& change) override {
-        if (change.Kind != ChangeKind::Drafted)
+        if (change.Kind != ChangeKind::Drafted && change.Kind != ChangeKind::Judged)
             Heard.push_back(change.Kind);
     }
     void EditPlace(Cell place) override { Asked = place; }

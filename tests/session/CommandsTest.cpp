@@ -48,8 +48,11 @@ mnuPref: Preferences
   div4
   mnuPolytask: Polytask
 mnuView: View
+  mnuViewFindings: Findings
   mnuViewRun: Run the machine
   mnuCompareWith: Compare with...
+  mnuNextFinding: Next finding
+  mnuPreviousFinding: Previous finding
 mnuRun: Run
   mnuPowerOn: Power on
   mnuStep: Step

@@ -34,6 +34,29 @@ bool AsksForProgram(ChangeKind kind) {
     }
 }
 
+// Of every line end, of whatever kind, a blank.
+std::string OnOneLine(std::string text) {
+    for (const std::string_view end : {"\r\n", "\r", "\n"}) {
+        for (std::size_t at = text.find(end); at != std::string::npos; at = text.find(end, at))
+            text.replace(at, end.size(), " ");
+    }
+    return text;
+}
+
+constexpr FindingLevel LevelOf(Severity severity) {
+    return severity == Severity::Error     ? FindingLevel::Error
+           : severity == Severity::Warning ? FindingLevel::Warning
+                                           : FindingLevel::Note;
+}
+
+std::vector<DesignFinding> ReportForAll(const Report& report) {
+    std::vector<DesignFinding> findings;
+    findings.reserve(report.Findings.size());
+    for (const Finding& finding : report.Findings)
+        findings.push_back({LevelOf(finding.Level()), finding.Place, OnOneLine(finding.Message)});
+    return findings;
+}
+
 } // namespace
 
 GeneratorRoom::GeneratorRoom(const RoomPlace& place)
@@ -96,6 +119,7 @@ void GeneratorRoom::TellSession() {
     ProgramState program = session_.Program();
     program.Written = generator_.GeneratedOk();
     session_.SetProgram(program);
+    session_.SetReport(ReportForAll(generator_.Latest().Findings));
 }
 
 // Nobody waits for it, so what went wrong is told by itself.

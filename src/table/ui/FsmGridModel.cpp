@@ -5,10 +5,25 @@
 #include "table/CellColour.h"
 #include "table/CellText.h"
 #include "table/ui/CellIndex.h"
+#include "text/Ordinal.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace orvane {
+
+namespace {
+
+constexpr std::size_t IndexOfCell(Cell cell) {
+    return IndexIn(TableColumns(), cell.State) * kTableRows + IndexIn(TableRows(), cell.Row);
+}
+
+// 1 for advice up to 4 for an error.
+constexpr unsigned char Badness(FindingLevel level) {
+    return static_cast<unsigned char>(Ordinal(FindingLevel::Advice) + 1 - Ordinal(level));
+}
+
+} // namespace
 
 FsmGridModel::FsmGridModel(const FsmDocument& document, std::unique_ptr<TextMeasurer> measure,
                            QObject* parent)
@@ -34,6 +49,11 @@ QVariant FsmGridModel::data(const QModelIndex& index, int role) const {
         return run_ ? MarkFlags(CellOf(index)) : QVariant();
     case kRunNoteRole:
         return run_ ? FromAnsi(Mark(CellOf(index)).Note) : QVariant();
+    case kFindingRole:
+        return findingOf_.empty() ? 0 : int(findingOf_[IndexOfCell(CellOf(index))]);
+    case kFindingTextRole:
+    case Qt::AccessibleDescriptionRole:
+        return findingOf_.empty() ? QString() : FindingTexts(CellOf(index));
     default:
         return {};
     }
@@ -79,6 +99,28 @@ void FsmGridModel::RunChanged(const RunPicture& before, const RunPicture& after)
     }
     if (before.TrueInputs != after.TrueInputs)
         RowHeadsChanged();
+}
+
+void FsmGridModel::ShowFindings(const std::vector<DesignFinding>& findings) {
+    findings_ = findings;
+    std::vector<unsigned char> before = std::exchange(findingOf_, {});
+    if (!findings_.empty())
+        findingOf_.resize(std::size_t{kTableColumns} * kTableRows);
+    for (const DesignFinding& finding : findings_) {
+        unsigned char& mark = findingOf_[IndexOfCell(finding.Place)];
+        mark = std::max(mark, Badness(finding.Level));
+    }
+    if (findingOf_ != before)
+        AllChanged();
+}
+
+QString FsmGridModel::FindingTexts(Cell cell) const {
+    QStringList texts;
+    for (const DesignFinding& finding : findings_) {
+        if (finding.Place == cell)
+            texts += FromAnsi(finding.Text);
+    }
+    return texts.join(QLatin1Char('\n'));
 }
 
 RunMark FsmGridModel::Mark(Cell cell) const {

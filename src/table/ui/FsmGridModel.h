@@ -2,6 +2,7 @@
 #pragma once
 
 #include "core/Cell.h"
+#include "core/DesignFinding.h"
 #include "core/FsmDocument.h"
 #include "session/RunPicture.h"
 #include "table/TextFitting.h"
@@ -11,6 +12,7 @@
 
 #include <memory>
 #include <optional>
+#include <vector>
 
 namespace orvane {
 
@@ -20,6 +22,9 @@ namespace orvane {
 // end that is there with kHasNote.
 inline constexpr int kRunMarkRole = Qt::UserRole;
 inline constexpr int kRunNoteRole = Qt::UserRole + 1;
+// What there is to be told of the cell: how bad the worst of it is, 0 for nothing, and the texts.
+inline constexpr int kFindingRole = Qt::UserRole + 2;
+inline constexpr int kFindingTextRole = Qt::UserRole + 3;
 inline constexpr int kTakeable = 1;
 inline constexpr int kNextTaken = 2;
 inline constexpr int kLastTaken = 4;
@@ -53,12 +58,16 @@ class FsmGridModel : public QAbstractTableModel {
     void Highlight(Cell cell);
     void ClearHighlight();
 
+    // Their marks stand at the corners of cells and heads.
+    void ShowFindings(const std::vector<DesignFinding>& findings);
+
     // The machine that runs, or none.
     void ShowRun(const std::optional<RunPicture>& run);
 
   private:
     RunMark Mark(Cell cell) const;
     QVariant MarkFlags(Cell cell) const;
+    QString FindingTexts(Cell cell) const;
     void RunChanged(const RunPicture& before, const RunPicture& after);
     QColor Background(Cell cell) const;
     void BackgroundChanged(Cell cell);
@@ -68,6 +77,8 @@ class FsmGridModel : public QAbstractTableModel {
     StateNumber currentState_ = kNoState;
     std::optional<Cell> highlighted_;
     std::optional<RunPicture> run_;
+    std::vector<DesignFinding> findings_;
+    std::vector<unsigned char> findingOf_; // by cell, as kFindingRole gives it; empty while there are none
 };
 
 } // namespace orvane

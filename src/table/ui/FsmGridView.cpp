@@ -2,13 +2,17 @@
 #include "table/ui/FsmGridView.h"
 
 #include "table/ui/CellIndex.h"
+#include "table/ui/FsmGridModel.h"
 #include "table/ui/GridPainter.h"
 
 #include <QApplication>
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QScrollBar>
+#include <QTextDocument>
+#include <QToolTip>
 
 #include <algorithm>
 
@@ -173,7 +177,24 @@ bool FsmGridView::event(QEvent* event) {
 bool FsmGridView::viewportEvent(QEvent* event) {
     if (event->type() == QEvent::Leave)
         Q_EMIT PointerLeft();
+    if (event->type() == QEvent::ToolTip)
+        return ShowFinding(dynamic_cast<const QHelpEvent&>(*event));
     return QTableView::viewportEvent(event);
+}
+
+// The texts of a mark show where the pointer is on it; hints of the cell are another thing.
+bool FsmGridView::ShowFinding(const QHelpEvent& event) {
+    const QModelIndex cell = indexAt(event.pos());
+    const int badness = cell.data(kFindingRole).toInt();
+    const QRect mark = FindingMark(visualRect(cell), badness);
+    if (badness == 0 || !mark.adjusted(0, -2, 2, 1).contains(event.pos()))
+        QToolTip::hideText();
+    else
+        QToolTip::showText(
+            event.globalPos(),
+            Qt::convertFromPlainText(cell.data(kFindingTextRole).toString(), Qt::WhiteSpaceNormal),
+            viewport(), mark);
+    return true;
 }
 
 void FsmGridView::mousePressEvent(QMouseEvent* event) {

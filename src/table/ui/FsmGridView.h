@@ -9,6 +9,8 @@
 #include <QElapsedTimer>
 #include <QTableView>
 
+class QHelpEvent;
+
 namespace orvane {
 
 // A mouse button pressed on a cell, heads included.
@@ -90,6 +92,7 @@ class FsmGridView : public QTableView {
   private:
     // What a mouse button does on the cell under the pointer, done on the current cell.
     void PressCurrentCell(Qt::MouseButton button, Qt::KeyboardModifiers modifiers);
+    bool ShowFinding(const QHelpEvent& event);
     bool DragBorder(const QMouseEvent& event);
     void PressCell(const QMouseEvent& event);
 

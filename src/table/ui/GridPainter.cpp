@@ -22,7 +22,21 @@ constexpr int kNoteMargin = 2;
 constexpr QRgb kQuietNote = qRgb(224, 224, 224);
 constexpr QChar kTimes(0xD7); // behind a count; what was never taken is what one looks for
 
+constexpr int kErrorBadness = 4; // as kFindingRole gives it
+constexpr int kWarningBadness = 3;
+constexpr QRgb kErrorColour = qRgb(192, 0, 0);
+constexpr QRgb kWarningColour = qRgb(200, 110, 0);
+constexpr QRgb kAdviceColour = qRgb(0, 64, 160);
+constexpr int kErrorMark = 9; // pixels of the window
+constexpr int kOtherMark = 7;
+
 } // namespace
+
+QRect FindingMark(const QRect& cell, int badness) {
+    const int size =
+        std::min({badness == kErrorBadness ? kErrorMark : kOtherMark, cell.width(), cell.height() - 1});
+    return {cell.left(), cell.bottom() - size, size, size}; // clear of the line below
+}
 
 GridPainter::GridPainter(FsmGridView& view, CellPictures& pictures)
     : view_(view), pictures_(pictures), painter_(view.viewport()) {
@@ -108,6 +122,8 @@ void GridPainter::PaintCell(const QModelIndex& cell, const QRect& area) {
     }
     if (marks != 0)
         PaintRunMarks(cell, area, marks);
+    if (const int badness = cell.data(kFindingRole).toInt(); badness != 0)
+        PaintFinding(area, badness);
     if (cell == view_.currentIndex()) {
         painter_.setPen(QPen(QColor(kCursorColour), 1, view_.hasFocus() ? Qt::SolidLine : Qt::DotLine));
         painter_.drawRect(QRectF(area).adjusted(0.5, 0.5, -1.5, -1.5)); // the pen stays inside at every scale
@@ -131,6 +147,24 @@ void GridPainter::PaintRunMarks(const QModelIndex& cell, const QRect& area, int 
         painter_.setPen(frame);
         painter_.drawRect(inside.adjusted(1, 1, -1, -1));
     }
+}
+
+// A triangle in the lower left corner, where the text is not: filled for errors and warnings, of which errors
+// have the larger one, and hollow for the rest.
+void GridPainter::PaintFinding(const QRect& area, int badness) {
+    const QRect mark = FindingMark(area, badness);
+    const bool filled = badness >= kWarningBadness;
+    const QColor colour = badness == kErrorBadness     ? QColor(kErrorColour)
+                          : badness == kWarningBadness ? QColor(kWarningColour)
+                                                       : QColor(kAdviceColour);
+    painter_.save();
+    painter_.setRenderHint(QPainter::Antialiasing);
+    painter_.setPen(QPen(colour, 1));
+    painter_.setBrush(filled ? QBrush(colour) : QBrush(Qt::white));
+    painter_.drawPolygon(QPolygonF{QPointF(mark.left(), mark.top()),
+                                   QPointF(mark.left(), mark.top() + mark.height()),
+                                   QPointF(mark.left() + mark.width(), mark.top() + mark.height())});
+    painter_.restore();
 }
 
 void GridPainter::PaintNote(const QRect& area, const QString& note) {

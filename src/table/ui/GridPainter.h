@@ -10,6 +10,9 @@ namespace orvane {
 class FsmGridView;
 class CellPictures;
 
+// Where the mark of what there is to be told of a cell stands in it.
+QRect FindingMark(const QRect& cell, int badness);
+
 // Paints the table: the cells that have scrolled, and over them the heads that have not.
 class GridPainter {
   public:
@@ -34,6 +37,7 @@ class GridPainter {
     void PaintLines(const QList<Stretch>& rows, const QList<Stretch>& columns);
     void PaintCell(const QModelIndex& cell, const QRect& area);
     void PaintRunMarks(const QModelIndex& cell, const QRect& area, int marks);
+    void PaintFinding(const QRect& area, int badness);
     void PaintNote(const QRect& area, const QString& note);
 
     FsmGridView& view_;

@@ -109,6 +109,8 @@ ObserverRank TableRoom::Rank() const { return ObserverRank::Table; }
 void TableRoom::Told(const Change& change) {
     if (change.Kind == ChangeKind::Moved || change.Kind == ChangeKind::Ran)
         return ShowWhereTheUserIs();
+    if (change.Kind == ChangeKind::Judged)
+        return grid_->Model().ShowFindings(session_.Findings());
     if (change.Kind == ChangeKind::Replaced)
         ShowAnotherDocument();
     if (change.RowsForced || change.Kind == ChangeKind::RowsToggled)

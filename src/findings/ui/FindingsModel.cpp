@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "findings/ui/FindingsModel.h"
+
+#include "findings/FindingList.h"
+#include "kit/AnsiString.h"
+
+namespace orvane {
+
+namespace {
+
+enum Column { kSeverity, kPlace, kText, kColumns };
+
+} // namespace
+
+FindingsModel::FindingsModel(const FsmDocument& document, const std::vector<DesignFinding>& findings,
+                             QObject* parent)
+    : QAbstractTableModel(parent), document_(document), findings_(findings) {}
+
+void FindingsModel::Refresh() {
+    beginResetModel();
+    endResetModel();
+}
+
+int FindingsModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : int(findings_.size());
+}
+
+int FindingsModel::columnCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : kColumns; }
+
+QVariant FindingsModel::data(const QModelIndex& index, int role) const {
+    const bool isText = role == Qt::DisplayRole || (role == Qt::ToolTipRole && index.column() == kText);
+    if (!isText || !checkIndex(index, CheckIndexOption::IndexIsValid) ||
+        std::size_t(index.row()) >= findings_.size())
+        return {};
+    const DesignFinding& finding = findings_[std::size_t(index.row())];
+    switch (index.column()) {
+    case kSeverity:
+        return FromAnsi(LevelWord(finding.Level));
+    case kPlace:
+        return FromAnsi(findings::PlaceText(document_, finding.Place)).simplified();
+    default:
+        return FromAnsi(finding.Text);
+    }
+}
+
+QVariant FindingsModel::headerData(int section, Qt::Orientation orientation, int role) const {
+    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
+        return {};
+    return section == kSeverity ? tr("Severity")
+           : section == kPlace  ? tr("Place")
+                                : tr("What there is to be told");
+}
+
+} // namespace orvane
