@@ -30,6 +30,7 @@ constexpr QSize kDialogSize(600, 400);
 constexpr QSize kSideSize(640, 480);
 constexpr QSize kPaneSize(1200, 780);
 constexpr QSize kFindingsSize(860, 560);
+constexpr QSize kComparisonSize(860, 600);
 
 class Photographer {
   public:
@@ -52,10 +53,11 @@ class Photographer {
     void EventEditor();
     void ActionEditor();
     void GeneralCode();
-    void SideWindow(const char* item, const char* window, const char* picture);
+    void SideWindow(const char* item, const char* window, const char* picture, QSize size = kSideSize);
     void Backtrack();
     void RunPane();
     void FindingsPane();
+    void Comparison();
 
     QDir examples_;
     QDir pictures_;
@@ -145,11 +147,11 @@ void Photographer::GeneralCode() {
              [this](QWidget& dialog) { Grab(dialog, "general-code"); });
 }
 
-void Photographer::SideWindow(const char* item, const char* window, const char* picture) {
+void Photographer::SideWindow(const char* item, const char* window, const char* picture, QSize size) {
     Trigger(item);
     for (QWidget* side : QApplication::topLevelWidgets())
         if (side->objectName() == QLatin1String(window) && side->isVisible()) {
-            side->resize(kSideSize);
+            side->resize(size);
             Grab(*side, picture);
             side->close();
             return;
@@ -190,6 +192,22 @@ void Photographer::FindingsPane() {
     Grab(*window_, "findings");
 }
 
+// With what was typed since the document was opened.
+void Photographer::Comparison() {
+    Open("garage.zfsm");
+    for (const int row : {7, 10}) {
+        Press(row, 2, Qt::LeftButton);
+        auto* target = window_->findChild<QLineEdit*>(QStringLiteral("txtCellEdit"));
+        QTest::keyClicks(target, QStringLiteral("4"));
+        QTest::keyClick(target, Qt::Key_Return);
+    }
+    InDialogOf(0, 6, [](QWidget& dialog) {
+        QTest::keyClicks(dialog.findChild<QLineEdit*>(QStringLiteral("txtName")), QStringLiteral("Wait"));
+        dialog.findChild<QPushButton*>(QStringLiteral("cmdOK"))->click();
+    });
+    SideWindow("mnuCompareWith", "frmCompare", "compare", kComparisonSize);
+}
+
 bool Photographer::TakeAll() {
     Table();
     TypedTarget();
@@ -205,6 +223,7 @@ bool Photographer::TakeAll() {
     FindingsPane();
     Open("pump.zfsm");
     SideWindow("mnuBuilder", "frmBuilder", "builder");
+    Comparison(); // leaves something unsaved behind, which the next start would offer
     window_.reset();
     return allSaved_;
 }
