@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/DocumentWriter.h"
 #include "support/ui/Controls.h"
+#include "support/ui/OpenedAddresses.h"
 #include "support/ui/TableFixture.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
 #include <QTableView>
@@ -45,6 +47,12 @@ class ReviewRoomTest : public TableFixture {
         FsmDocument foreign = PumpDocument();
         foreign.State(state).Name = name;
         WriteFile(kDocument, WriteDocument(foreign));
+    }
+    static void ChooseSource(Qt::Key key) {
+        auto& with = Named<QComboBox>(*Comparison(), "cboCompareWith");
+        with.setCurrentIndex(0);
+        with.setFocus();
+        QTest::keyClick(&with, key);
     }
     // The state or event of the chosen change is not in the other version.
     static void ChooseNoPartner() {
@@ -196,6 +204,58 @@ TEST_F(ReviewRoomTest, AMoveSaysWhyItIsNotTakenOver) {
     EXPECT_EQ(Named<QLabel>(window, "lblNotice").text().toStdString(),
               "A move cannot be taken over by itself. Move it in the table.");
     EXPECT_FALSE(Item("mnuUndo")->isEnabled());
+}
+
+TEST_F(ReviewRoomTest, AnotherFileIsComparedWithAndBadOnesAreTold) {
+    StartOn(PumpDocument());
+    FsmDocument other = PumpDocument();
+    other.State(1).Targets[7] = 2;
+    WriteFile(QStringLiteral("other.zfsm"), WriteDocument(other));
+    WriteFile(QStringLiteral("letter.zfsm"), "Dear reader");
+    Compare();
+    Answers.ChooseFile(Path(QStringLiteral("other.zfsm")));
+    ChooseSource(Qt::Key_End);
+    ExpectChanges(ElementsAre("~ 1:Idle, Stop: -> 2:Run (was none)"));
+    Answers.ChooseFile(Path(QStringLiteral("letter.zfsm")));
+    ChooseSource(Qt::Key_End);
+    EXPECT_TRUE(QTest::qWaitFor([] {
+        return Summary().find("cannot be compared with") != std::string::npos;
+    })) << Summary();
+    EXPECT_TRUE(Changes().empty());
+}
+
+TEST_F(ReviewRoomTest, AFileThatIsInNoRepositoryIsTold) {
+    StartOn(PumpDocument());
+    Compare();
+    ExpectChanges(testing::IsEmpty());
+    ChooseSource(Qt::Key_Down);
+    EXPECT_TRUE(QTest::qWaitFor([] {
+        return Summary().starts_with("The file is in no git repository that git can use.");
+    })) << Summary();
+}
+
+TEST_F(ReviewRoomTest, TheSidesAreExchangedAndWhatIsOnlyLookedAtIsLeftOut) {
+    StartOn(PumpDocument());
+    FsmDocument foreign = PumpDocument();
+    foreign.State(1).Targets[7] = 2;
+    foreign.State(1).ColWidth = 1500;
+    WriteFile(kDocument, WriteDocument(foreign));
+    const QWidget& window = Compare();
+    ExpectChanges(ElementsAre("~ 1:Idle, Stop: -> 2:Run (was none)"));
+    Press(window, "cmdExchange");
+    ExpectChanges(ElementsAre("~ 1:Idle, Stop: -> none (was 2:Run)"));
+    Named<QCheckBox>(window, "chkView").click();
+    ExpectChanges(testing::Contains("~ state 1:Idle, column width: 945 (was 1500)"));
+}
+
+TEST_F(ReviewRoomTest, TheHelpKeyOpensThePageOfTheWindow) {
+    OpenedAddresses opened;
+    StartOn(PumpDocument());
+    QWidget& window = Compare();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    QTest::keyClick(&window, Qt::Key_F1);
+    ASSERT_EQ(opened.Addresses.size(), 1);
+    EXPECT_TRUE(opened.Addresses[0].toString().endsWith(QStringLiteral("4980.htm")));
 }
 
 TEST_F(ReviewRoomTest, KeysGoFromChangeToChangeAndRound) {
