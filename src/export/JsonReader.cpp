@@ -21,7 +21,9 @@ class DocumentMaker {
     FsmDocument Make(const JsonValue& root) {
         Require(root, Type::Object, "The JSON text is no object, as documents are");
         Twips width = kDefaultColumnWidth;
-        for (const auto& [key, value] : root.Members) {
+        for (std::size_t i = 0; i < root.Names.size(); ++i) {
+            const std::string& key = root.Names[i];
+            const JsonValue& value = root.List[i];
             if (key == "version" && Number(value, 1, std::numeric_limits<int>::max()) != 1)
                 throw ImportFault{"The version of the JSON text is one that this program does not know",
                                   value.Line};
@@ -29,8 +31,8 @@ class DocumentMaker {
                 Take(value, width);
         }
         FsmDocument document(width);
-        for (const auto& [key, value] : root.Members)
-            TakeMember(document, key, value);
+        for (std::size_t i = 0; i < root.Names.size(); ++i)
+            TakeMember(document, root.Names[i], root.List[i]);
         return document;
     }
 
@@ -110,7 +112,9 @@ class DocumentMaker {
 
     void TakeView(ViewOptions& view, const JsonValue& object) {
         Require(object, Type::Object, "An object is expected here");
-        for (const auto& [key, value] : object.Members) {
+        for (std::size_t i = 0; i < object.Names.size(); ++i) {
+            const std::string& key = object.Names[i];
+            const JsonValue& value = object.List[i];
             if (key == "rowHeights")
                 TakeRowHeights(view.RowVisible, value);
             else if (!TakeField(kViewFields, view, key, value))
@@ -120,7 +124,9 @@ class DocumentMaker {
 
     void TakeRowHeights(RowHeights& heights, const JsonValue& object) {
         Require(object, Type::Object, "An object is expected here");
-        for (const auto& [key, value] : object.Members) {
+        for (std::size_t i = 0; i < object.Names.size(); ++i) {
+            const std::string& key = object.Names[i];
+            const JsonValue& value = object.List[i];
             if (!TakeField(kRowHeightFields, heights, key, value))
                 TellUnknown(key, value);
         }
@@ -128,7 +134,9 @@ class DocumentMaker {
 
     // The number by which an item of a list says which one it is.
     static int Key(const JsonValue& object, const char* name, int least, int most) {
-        for (const auto& [key, value] : object.Members) {
+        for (std::size_t i = 0; i < object.Names.size(); ++i) {
+            const std::string& key = object.Names[i];
+            const JsonValue& value = object.List[i];
             if (key == name)
                 return Number(value, least, most);
         }
@@ -137,7 +145,9 @@ class DocumentMaker {
 
     void TakeEvent(FsmDocument& document, const JsonValue& object) {
         EventRecord& event = document.Event(Key(object, "row", kFirstCellRow, kLastRow));
-        for (const auto& [key, value] : object.Members) {
+        for (std::size_t i = 0; i < object.Names.size(); ++i) {
+            const std::string& key = object.Names[i];
+            const JsonValue& value = object.List[i];
             if (key != "row" && !TakeField(kEventFields, event, key, value))
                 TellUnknown(key, value);
         }
@@ -145,7 +155,9 @@ class DocumentMaker {
 
     void TakeState(FsmDocument& document, const JsonValue& object) {
         StateRecord& state = document.State(Key(object, "number", 1, kStateCount));
-        for (const auto& [key, value] : object.Members) {
+        for (std::size_t i = 0; i < object.Names.size(); ++i) {
+            const std::string& key = object.Names[i];
+            const JsonValue& value = object.List[i];
             if (key == "cells")
                 ForEach(value, [&](const JsonValue& cell) { TakeCell(state, cell); });
             else if (key != "number" && !TakeField(kStateFields, state, key, value))
@@ -155,7 +167,9 @@ class DocumentMaker {
 
     void TakeCell(StateRecord& state, const JsonValue& object) {
         const RowNumber row = Key(object, "row", kFirstCellRow, kLastRow);
-        for (const auto& [key, value] : object.Members) {
+        for (std::size_t i = 0; i < object.Names.size(); ++i) {
+            const std::string& key = object.Names[i];
+            const JsonValue& value = object.List[i];
             if (key == "target")
                 state.Targets[row] = Number(value, kNoState, kStateCount);
             else if (key == "action")

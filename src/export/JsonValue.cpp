@@ -75,7 +75,8 @@ class JsonParser {
             std::string name = Text();
             if (!Take(':'))
                 Fail("A \":\" is missing");
-            object.Members.emplace_back(std::move(name), Value(depth + 1));
+            object.Names.push_back(std::move(name));
+            object.List.push_back(Value(depth + 1));
         } while (Take(','));
         if (!Take('}'))
             Fail("A \",\" or \"}\" is missing");

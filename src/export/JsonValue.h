@@ -4,7 +4,6 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 namespace orvane::exports {
@@ -13,9 +12,9 @@ struct JsonValue {
     enum class Type { Null, Boolean, Number, Text, List, Object };
 
     Type Kind = Type::Null;
-    std::string Text; // UTF-8; of numbers and words what stands there
-    std::vector<JsonValue> List;
-    std::vector<std::pair<std::string, JsonValue>> Members; // in their order
+    std::string Text;               // UTF-8; of numbers and words what stands there
+    std::vector<JsonValue> List;    // items, or the values of members in their order
+    std::vector<std::string> Names; // of the members, UTF-8
     std::size_t Line = 1;
 };
 
