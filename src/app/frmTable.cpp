@@ -91,6 +91,10 @@ void frmTable::AddRoom(std::unique_ptr<Room> room) {
         for (const auto& other : rooms_)
             other->EditPlace(place);
     });
+    connect(room.get(), &Room::PieceWanted, this, [this](const TextPiece& piece) {
+        for (const auto& other : rooms_)
+            other->EditPiece(piece);
+    });
     connect(room.get(), &Room::EventFired, this, [this](RowNumber row) {
         for (const auto& other : rooms_)
             other->FireEvent(row);

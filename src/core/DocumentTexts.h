@@ -7,6 +7,7 @@
 #include "core/FsmDocument.h"
 #include "core/RecordFields.h"
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -30,6 +31,13 @@ struct TextPlace {
     Cell At;
 
     bool operator==(const TextPlace&) const = default;
+};
+
+// A piece of a text, in bytes.
+struct TextPiece {
+    TextPlace Place;
+    std::size_t Start = 0;
+    std::size_t Length = 0;
 };
 
 TextPlace PlaceOfText(MachineText field);

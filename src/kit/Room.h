@@ -19,6 +19,7 @@ enum class ObserverRank;
 struct Change;
 struct CommandEntry;
 struct CommandLine;
+struct TextPiece;
 struct VersionsToCompare;
 
 // What every room is made from; all of it outlives the room.
@@ -55,6 +56,8 @@ class Room : public QObject {
     // (0, 0) what belongs to the machine as a whole, (4..54, state) a transition.
     virtual void ShowPlace(Cell) {}
     virtual void EditPlace(Cell) {}
+    // The same with a piece of a text chosen in its field.
+    virtual void EditPiece(const TextPiece&) {}
     // The user says that the event of this row, 6..54, happens.
     virtual void FireEvent(RowNumber) {}
     // Somebody asks for this document to be opened, after the question about unsaved work.
@@ -73,6 +76,7 @@ class Room : public QObject {
   Q_SIGNALS:
     void PlaceChosen(orvane::Cell place);
     void EditWanted(orvane::Cell place);
+    void PieceWanted(const orvane::TextPiece& piece);
     void EventFired(orvane::RowNumber row);
     void DocumentWanted(const QString& path);
     void CommandWanted(orvane::Command command);

@@ -59,7 +59,7 @@ bool IsChecked(const Session& session, Command toggle) {
     case Command::ViewFindings:
         return session.ListsFindings();
     default:
-        return false;
+        return session.IsPaneShown(toggle);
     }
 }
 

@@ -143,6 +143,20 @@ void Session::ListFindings(bool shown) {
         Tell({.Kind = ChangeKind::Judged, .Where = {}});
 }
 
+bool Session::IsPaneShown(Command toggle) const {
+    return std::find(shownPanes_.begin(), shownPanes_.end(), toggle) != shownPanes_.end();
+}
+
+void Session::SetPaneShown(Command toggle, bool shown) {
+    if (IsPaneShown(toggle) == shown)
+        return;
+    if (shown)
+        shownPanes_.push_back(toggle);
+    else
+        std::erase(shownPanes_, toggle);
+    Tell({.Kind = ChangeKind::Moved, .Where = {}});
+}
+
 void Session::RemoveDraftSource(const DraftSource& source) { std::erase(draftSources_, &source); }
 
 std::vector<Draft> Session::Drafts() const {

@@ -20,6 +20,8 @@
 
 namespace orvane {
 
+enum class Command : unsigned char;
+
 // What kind of thing an edit changes.
 enum class EditKind {
     Design,       // what is generated: one undo step
@@ -135,6 +137,10 @@ class Session {
     const std::optional<RunPicture>& Run() const { return run_; }
     void ShowRun(std::optional<RunPicture> run);
 
+    // Which panes stand beside the table, by the commands that show and hide them.
+    bool IsPaneShown(Command toggle) const;
+    void SetPaneShown(Command toggle, bool shown);
+
     // The height of an ordinary row in the table's font: what a special row comes into sight with.
     Twips StandardHeight() const { return standardHeight_; }
     void SetStandardHeight(Twips height) { standardHeight_ = height; }
@@ -187,6 +193,7 @@ class Session {
     StateNumber currentState_;
     bool shiftHeld_ = false;
     std::optional<RunPicture> run_;
+    std::vector<Command> shownPanes_;
     Twips standardHeight_ = 0;
     ProgramState program_;
     std::vector<DesignFinding> report_;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editors/ui/EditorsRoom.h"
 
+#include "editors/ui/TextField.h"
 #include "editors/ui/frmEventEdit.h"
 #include "editors/ui/frmGeneralCodeEdit.h"
 #include "editors/ui/frmStateEdit.h"
@@ -8,7 +9,9 @@
 #include "session/CommandState.h"
 #include "session/Session.h"
 
+#include <QApplication>
 #include <QMainWindow>
+#include <QTimer>
 
 namespace orvane {
 
@@ -51,6 +54,18 @@ void EditorsRoom::EditPlace(Cell place) {
         EditState(place);
     else
         EditTransitionAction(place);
+}
+
+// The dialog comes up with its own first field; what was asked for follows as soon as it is there.
+void EditorsRoom::EditPiece(const TextPiece& piece) {
+    if (piece.Place == PlaceOfText(&GeneralCode::BuildFile)) // no dialog has the path
+        return Q_EMIT CommandWanted(Command::Builder);
+    const std::string text = TextAt(session_.Document(), piece.Place);
+    QTimer::singleShot(0, this, [piece, text] {
+        if (QWidget* dialog = QApplication::activeModalWidget())
+            ShowPiece(*dialog, piece, text);
+    });
+    EditPlace(piece.Place.At);
 }
 
 ObserverRank EditorsRoom::Rank() const { return ObserverRank::Rooms; }

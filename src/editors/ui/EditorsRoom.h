@@ -27,6 +27,7 @@ class EditorsRoom final : public Room, public DraftSource {
     bool Listens() const override { return true; }
     void Told(const Change& change) override;
     void EditPlace(Cell place) override;
+    void EditPiece(const TextPiece& piece) override;
 
     std::optional<Draft> CurrentDraft() const override;
 
