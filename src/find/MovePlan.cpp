@@ -127,6 +127,14 @@ void Apply(FsmDocument& document, TableClipboard& clipboard, const MovePlan& pla
     std::visit([&](const auto& order) { Rearrange(document, clipboard, order); }, plan.Order);
 }
 
+TableOrder InverseOf(const TableOrder& order) {
+    return std::visit([](const auto& places) { return TableOrder(places.Inverse()); }, order);
+}
+
+void ApplyUnkept(FsmDocument& document, TableClipboard& clipboard, const TableOrder& order) {
+    std::visit([&](const auto& places) { RearrangeUnkept(document, clipboard, places); }, order);
+}
+
 StateNumber NewNumber(const TableOrder& order, StateNumber state) {
     const auto* states = std::get_if<StateOrder>(&order);
     return states == nullptr ? state : states->NewOf(state);

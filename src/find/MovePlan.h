@@ -26,6 +26,11 @@ MovePlan PlanMove(const FsmDocument& document, const TableOrder& order);
 void Apply(FsmDocument& document, TableClipboard& clipboard, const MovePlan& plan,
            const std::vector<bool>& chosen);
 
+// The other way round.
+TableOrder InverseOf(const TableOrder& order);
+// See RearrangeUnkept in table/TableOrder.h.
+void ApplyUnkept(FsmDocument& document, TableClipboard& clipboard, const TableOrder& order);
+
 // The state's number afterwards; kNoState stays.
 StateNumber NewNumber(const TableOrder& order, StateNumber state);
 // The cell's place afterwards.

@@ -149,6 +149,10 @@ RenamePlan PlanRename(const FsmDocument& document, const Subject& subject, const
     return plan;
 }
 
+std::vector<TextChange> AllChanges(const std::vector<TextUse>& uses) {
+    return ChosenChanges(uses, std::vector<bool>(uses.size(), true));
+}
+
 std::vector<TextChange> ChosenChanges(const std::vector<TextUse>& uses, const std::vector<bool>& chosen) {
     std::vector<TextChange> changes;
     for (std::size_t i = 0; i < uses.size(); ++i) {

@@ -20,6 +20,8 @@ struct RenamePlan {
 // to choose.
 RenamePlan PlanRename(const FsmDocument& document, const Subject& subject, const std::string& newName);
 
+std::vector<TextChange> AllChanges(const std::vector<TextUse>& uses);
+
 // The changes of all uses that are chosen; those of the name itself are made in any case. `chosen` has a mark
 // for each use of the plan.
 std::vector<TextChange> ChosenChanges(const std::vector<TextUse>& uses, const std::vector<bool>& chosen);

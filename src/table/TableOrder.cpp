@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "table/TableOrder.h"
 
+#include <array>
+#include <cstdint>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -33,6 +36,12 @@ void MoveCopiedEvent(TableClipboard& clipboard, const StateOrder& order) {
     }
 }
 
+void MoveClipboard(TableClipboard& clipboard, const StateOrder& order) {
+    RenumberTargets(clipboard.ClipState, order);
+    clipboard.ClipTarget = order.NewOf(clipboard.ClipTarget);
+    MoveCopiedEvent(clipboard, order);
+}
+
 } // namespace
 
 void Rearrange(FsmDocument& document, TableClipboard& clipboard, const StateOrder& order) {
@@ -47,9 +56,22 @@ void Rearrange(FsmDocument& document, TableClipboard& clipboard, const StateOrde
         moved = std::move(states[IndexIn(StateNumbers(), state)]);
         RenumberTargets(moved, order);
     }
-    RenumberTargets(clipboard.ClipState, order);
-    clipboard.ClipTarget = order.NewOf(clipboard.ClipTarget);
-    MoveCopiedEvent(clipboard, order);
+    MoveClipboard(clipboard, order);
+}
+
+void RearrangeUnkept(FsmDocument& document, TableClipboard& clipboard, const StateOrder& order) {
+    std::array<std::pair<Twips, std::int16_t>, kStateCount> unkept;
+    for (const StateNumber state : StateNumbers())
+        unkept[IndexIn(StateNumbers(), order.NewOf(state))] = {document.State(state).ColWidth,
+                                                               document.State(state).LastTab};
+    for (const StateNumber state : StateNumbers())
+        std::tie(document.State(state).ColWidth, document.State(state).LastTab) =
+            unkept[IndexIn(StateNumbers(), state)];
+    MoveClipboard(clipboard, order);
+}
+
+void RearrangeUnkept(FsmDocument&, TableClipboard& clipboard, const EventOrder& order) {
+    MoveCells(clipboard.ClipState, order);
 }
 
 void Rearrange(FsmDocument& document, TableClipboard& clipboard, const EventOrder& order) {

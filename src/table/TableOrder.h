@@ -91,6 +91,10 @@ using EventOrder = Arrangement<RowNumber, kFirstEventRow, kLastRow>;
 // the state it led to. The clipboard keeps in step, a copied event with its cells as well.
 void Rearrange(FsmDocument& document, TableClipboard& clipboard, const StateOrder& order);
 
+// Of that only what no undo step brings back: widths, the editors' last tabs, and the clipboard.
+void RearrangeUnkept(FsmDocument& document, TableClipboard& clipboard, const StateOrder& order);
+void RearrangeUnkept(FsmDocument& document, TableClipboard& clipboard, const EventOrder& order);
+
 // Events change their rows, with the cells of all states and of a copied one.
 void Rearrange(FsmDocument& document, TableClipboard& clipboard, const EventOrder& order);
 

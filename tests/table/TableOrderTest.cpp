@@ -79,6 +79,28 @@ TEST(TableOrder, TransitionsLeadToTheStateTheyLedTo) {
     EXPECT_EQ(clipboard.ClipEventActions[3], "of 5");
 }
 
+// A copy of all that a move takes along.
+struct Open {
+    FsmDocument Document;
+    TableClipboard Clipboard;
+};
+
+// Undo puts an image back, which knows no widths.
+TEST(TableOrder, WhatNoStepBringsBackGoesBackByItself) {
+    Open open{EveryFieldDocument(), {}};
+    CopyTransition(open.Document, open.Clipboard, {6, 1});
+    open.Document.State(3).ColWidth = 4321;
+    const Open before = open;
+    const StateOrder order = StateOrder::Moving(3, 1);
+    Rearrange(open.Document, open.Clipboard, order);
+    EXPECT_EQ(Unpack(Pack(before.Document), open.Document), std::vector<std::string>());
+    EXPECT_NE(open.Document, before.Document);
+    RearrangeUnkept(open.Document, open.Clipboard, order.Inverse());
+    EXPECT_EQ(open.Document.State(3).ColWidth, before.Document.State(3).ColWidth);
+    EXPECT_EQ(WriteDocument(open.Document), WriteDocument(before.Document));
+    EXPECT_EQ(open.Clipboard, before.Clipboard);
+}
+
 TEST(TableOrder, AnEventTakesItsCellsAlong) {
     FsmDocument document;
     TableClipboard clipboard;
@@ -112,12 +134,6 @@ Order AnyOrder(std::mt19937& random) {
     std::shuffle(all.begin(), all.end(), random);
     return Order::InOrder(all);
 }
-
-// A copy of all that a move takes along.
-struct Open {
-    FsmDocument Document;
-    TableClipboard Clipboard;
-};
 
 void FillClipboard(Open& open) {
     CopyEvent(open.Document, open.Clipboard, 7);
