@@ -4,6 +4,9 @@
 #include "builder/ui/BuilderRoom.h"
 #include "codegen/ui/GeneratorRoom.h"
 #include "editors/ui/EditorsRoom.h"
+#include "find/ui/FindRoom.h"
+#include "find/ui/MoveRoom.h"
+#include "find/ui/RenameRoom.h"
 #include "findings/ui/FindingsRoom.h"
 #include "outside/ui/OutsideRoom.h"
 #include "recovery/ui/RecoveryRoom.h"
@@ -27,6 +30,9 @@ std::vector<std::unique_ptr<Room>> MakeRooms(const RoomPlace& place) {
     rooms.push_back(std::make_unique<FindingsRoom>(place));
     rooms.push_back(std::make_unique<RunRoom>(place));
     rooms.push_back(std::make_unique<ReviewRoom>(place));
+    rooms.push_back(std::make_unique<FindRoom>(place));
+    rooms.push_back(std::make_unique<RenameRoom>(place));
+    rooms.push_back(std::make_unique<MoveRoom>(place));
     rooms.push_back(std::make_unique<WelcomeRoom>(place));
     return rooms;
 }

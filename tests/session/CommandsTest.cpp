@@ -33,6 +33,11 @@ TEST(Commands, TheMenusAreTheGivenOnesWithHelpBehindThem) {
 mnuEdit: Edit
   mnuUndo: Undo
   mnuRedo: Redo
+  (a line)
+  mnuFind: Find
+  mnuWhereUsed: Where used
+  mnuRename: Rename
+  mnuMove: Move
 mnuCode: Code
   mnuGeneralCode: Edit general code
   mnuCodeGenerate: Generate
@@ -49,6 +54,7 @@ mnuPref: Preferences
   mnuPolytask: Polytask
 mnuView: View
   mnuViewFindings: Findings
+  mnuViewFind: Find and where used
   mnuViewRun: Run the machine
   mnuCompareWith: Compare with...
   mnuNextFinding: Next finding
@@ -75,11 +81,19 @@ mnuColumnHead: ColumnHead
   div1
   mnuCurrentState: Set current state
   mnuBacktrack: Backtrack
+  (a line)
+  mnuStateUses: Where used
+  mnuRenameState: Rename
+  mnuMoveState: Move
 mnuEventLabel: EventLabel
   mnuInsertEvent: Insert Event
   mnuDeleteEvent: Delete event
   mnuCopyEvent: Copy event
   mnuPasteEvent: Paste event
+  (a line)
+  mnuEventUses: Where used
+  mnuRenameEvent: Rename
+  mnuMoveEvent: Move
 mnuTranCell: TransitionCell
   mnuTransAct: Action ...
     mnuEditTransAct: Edit

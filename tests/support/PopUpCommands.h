@@ -9,9 +9,10 @@
 
 namespace orvane::test {
 
-// What is in these menus and does neither: it has tests of its own.
-inline constexpr auto kCommandsThatShow =
-    std::to_array({Command::SetCurrentState, Command::Backtrack, Command::EditAction});
+// What is in these menus and does neither, or asks first: it has tests of its own.
+inline constexpr auto kCommandsThatShow = std::to_array(
+    {Command::SetCurrentState, Command::Backtrack, Command::EditAction, Command::StateUses,
+     Command::RenameState, Command::MoveState, Command::EventUses, Command::RenameEvent, Command::MoveEvent});
 
 constexpr bool ChangesTheTable(const CommandEntry& entry) {
     const bool isCommand =

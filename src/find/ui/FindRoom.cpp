@@ -1,0 +1,153 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "find/ui/FindRoom.h"
+
+#include "find/Replacement.h"
+#include "find/ui/SubjectAt.h"
+#include "find/ui/dckFind.h"
+#include "find/ui/frmReplace.h"
+#include "kit/AnsiString.h"
+#include "session/Commands.h"
+#include "session/Session.h"
+
+#include <QMainWindow>
+#include <QShortcut>
+
+namespace orvane {
+
+namespace {
+
+constexpr auto kOwnCommands = std::to_array<Command>(
+    {Command::Find, Command::WhereUsed, Command::ViewFind, Command::StateUses, Command::EventUses});
+
+bool ChangesTexts(ChangeKind kind) {
+    return kind == ChangeKind::Replaced || kind == ChangeKind::Edited || kind == ChangeKind::Undone ||
+           kind == ChangeKind::Redone || kind == ChangeKind::Typed || kind == ChangeKind::Viewed;
+}
+
+} // namespace
+
+FindRoom::FindRoom(const RoomPlace& place) : session_(place.Open), window_(place.Window) {
+    for (const auto& [key, by] :
+         {std::pair{QKeySequence(Qt::Key_F3), 1}, std::pair{QKeySequence(Qt::SHIFT | Qt::Key_F3), -1}}) {
+        auto* shortcut = new QShortcut(key, &window_);
+        connect(shortcut, &QShortcut::activated, this, [this, by = by] { Step(by); });
+    }
+}
+
+std::span<const Command> FindRoom::Commands() const { return kOwnCommands; }
+
+ObserverRank FindRoom::Rank() const { return ObserverRank::Rooms; }
+
+bool FindRoom::Listens() const { return pane_ != nullptr && pane_->isVisible(); }
+
+void FindRoom::Run(Command command) {
+    switch (command) {
+    case Command::ViewFind:
+        return TogglePane();
+    case Command::WhereUsed:
+        return ShowUsesOf(SubjectAt(session_.Document(), ChosenCell(window_, session_)));
+    case Command::StateUses:
+        return ShowUsesOf(find::OfState{session_.Pressed().State});
+    case Command::EventUses:
+        return ShowUsesOf(find::OfEvent{session_.Pressed().Row});
+    default:
+        ShowPane();
+        return pane_->BeginFind({});
+    }
+}
+
+void FindRoom::TogglePane() {
+    if (pane_ != nullptr && pane_->isVisible())
+        return pane_->hide();
+    ShowPane();
+    pane_->BeginFind({});
+}
+
+void FindRoom::ShowPane() {
+    if (pane_ == nullptr)
+        MakePane();
+    if (pane_->isVisible())
+        return;
+    pane_->show();
+    LookAgain();
+}
+
+void FindRoom::MakePane() {
+    pane_ = new dckFind(session_.Document(), &window_);
+    pane_->hide();
+    window_.addDockWidget(Qt::BottomDockWidgetArea, pane_);
+    connect(pane_, &dckFind::QueryChanged, this, &FindRoom::LookForText);
+    connect(pane_, &dckFind::ReplaceWanted, this, &FindRoom::Replace);
+    connect(pane_, &dckFind::PieceChosen, this, &FindRoom::GoTo);
+    connect(pane_, &dckFind::PlaceChosen, this, &Room::PlaceChosen);
+    connect(pane_, &QDockWidget::visibilityChanged, this,
+            [this](bool shown) { session_.SetPaneShown(Command::ViewFind, shown); });
+}
+
+void FindRoom::Step(int by) {
+    if (pane_ == nullptr)
+        return Run(Command::Find);
+    ShowPane();
+    pane_->Step(by);
+}
+
+void FindRoom::Told(const Change& change) {
+    if (change.Kind == ChangeKind::Replaced)
+        subject_.reset(); // of another document
+    if (ChangesTexts(change.Kind))
+        LookAgain();
+}
+
+void FindRoom::LookAgain() {
+    LookForText();
+    if (pane_->ShowsUses())
+        LookForUses();
+}
+
+void FindRoom::LookForText() {
+    const find::SearchQuery query = pane_->Query();
+    if (query.Text.empty())
+        return pane_->ShowFault({});
+    const auto read = find::ReadPattern(query);
+    if (const auto* fault = std::get_if<find::PatternFault>(&read))
+        return pane_->ShowFault(FromAnsi(fault->Text));
+    pane_->ShowHits(Search(session_.Document(), std::get<find::Pattern>(read)));
+}
+
+void FindRoom::LookForUses() {
+    if (!subject_)
+        return pane_->ShowUses(tr("Nothing"), {});
+    pane_->ShowUses(FromAnsi(find::TitleOf(session_.Document(), *subject_)),
+                    find::UsesOf(session_.Document(), *subject_));
+}
+
+void FindRoom::ShowUsesOf(const find::Subject& subject) {
+    subject_ = subject;
+    ShowPane();
+    LookForUses();
+}
+
+// All matches are shown before any is replaced.
+void FindRoom::Replace() {
+    const auto read = find::ReadPattern(pane_->Query());
+    const auto* pattern = std::get_if<find::Pattern>(&read);
+    if (pattern == nullptr)
+        return;
+    find::ReplacementPlan plan = PlanReplacement(session_.Document(), *pattern, pane_->Replacement());
+    if (!plan.Fault.empty())
+        return pane_->ShowFault(FromAnsi(plan.Fault));
+    frmReplace preview(session_.Document(), std::move(plan), &window_);
+    if (preview.exec() != QDialog::Accepted)
+        return;
+    const std::vector<find::TextChange> chosen = preview.Chosen();
+    session_.Edit({"replace", {Touched::Extent::Everything, {}}},
+                  [&](const Editable& open) { Apply(open.Document, chosen); });
+    Q_EMIT Said(chosen.size() == 1 ? tr("1 place replaced") : tr("%1 places replaced").arg(chosen.size()));
+}
+
+void FindRoom::GoTo(const TextPiece& piece) {
+    Q_EMIT PlaceChosen(piece.Place.At);
+    Q_EMIT PieceWanted(piece);
+}
+
+} // namespace orvane

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "find/Subject.h"
+#include "kit/Room.h"
+
+#include <optional>
+
+namespace orvane {
+
+class dckFind;
+
+// Finds texts, replaces them, and tells where something is used. The pane is hidden until it is asked for and
+// costs nothing then; while it is shown its lists follow every edit.
+class FindRoom : public Room {
+    Q_OBJECT
+
+  public:
+    explicit FindRoom(const RoomPlace& place);
+
+    std::span<const Command> Commands() const override;
+    void Run(Command command) override;
+    ObserverRank Rank() const override;
+    bool Listens() const override;
+    void Told(const Change& change) override;
+
+  private:
+    void TogglePane();
+    void ShowPane();
+    void MakePane();
+    void Step(int by);
+    void LookAgain();
+    void LookForText();
+    void LookForUses();
+    void ShowUsesOf(const find::Subject& subject);
+    void Replace();
+    void GoTo(const TextPiece& piece);
+
+    Session& session_;
+    QMainWindow& window_;
+    dckFind* pane_ = nullptr;
+    std::optional<find::Subject> subject_; // whose uses are listed
+};
+
+} // namespace orvane

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "find/TextChange.h"
+
+#include <QAbstractTableModel>
+
+namespace orvane {
+
+// Changes of texts before they are made, a row each: a check mark and the place, the line before and after.
+class PlanModel : public QAbstractTableModel {
+    Q_OBJECT
+
+  public:
+    enum Column { Place, Before, After, ColumnCount };
+
+    // The document outlives the model.
+    PlanModel(const FsmDocument& document, QObject* parent);
+
+    // Of the document as it stands; the sure ones are checked. The first `fixed` are made in any case. Where
+    // the places are those that are shown already the marks stay: only what comes after is another.
+    void Show(std::vector<find::TextChange> changes, std::size_t fixed = 0);
+
+    // A mark for each change.
+    const std::vector<bool>& Chosen() const { return chosen_; }
+    std::vector<find::TextChange> ChosenChanges() const;
+    void CheckAll(bool checked);
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
+    bool setData(const QModelIndex& index, const QVariant& value, int role) override;
+    Qt::ItemFlags flags(const QModelIndex& index) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+  private:
+    bool HasSamePlaces(const std::vector<find::TextChange>& changes) const;
+
+    const FsmDocument& document_;
+    std::vector<find::TextChange> changes_;
+    std::vector<bool> chosen_;
+    std::size_t fixed_ = 0;
+};
+
+} // namespace orvane
