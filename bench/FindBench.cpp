@@ -52,7 +52,7 @@ class FindBench {
   private:
     template <typename Work>
     static void Register(const std::string& name, Work work) {
-        benchmark::RegisterBenchmark(name.c_str(), [work](benchmark::State& state) {
+        benchmark::RegisterBenchmark(name.c_str(), [work](benchmark::State& state) mutable {
             for ([[maybe_unused]] auto iteration : state)
                 work();
         });
