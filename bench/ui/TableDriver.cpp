@@ -71,7 +71,7 @@ void TableDriver::PlaySteps(int steps) {
     file.write("test many steps\n");
     for (int step = 0; step < steps; ++step)
         file.write(step % 2 == 0 ? "pulse #6\n" : "+5 pulse #7\n");
-    file.write("+1 => again\n");
+    file.write("+1 => #1 runs \"nothing of the kind\"\n");
     file.close();
     Trigger("mnuRunTests");
     if (Find<QLabel>("lblTests").text().contains(QStringLiteral("1 failed")))

@@ -16,8 +16,8 @@ namespace orvane::run {
 
 namespace {
 
-// Some 3 ms on the largest table.
-constexpr std::size_t kReplayedAtOnce = 30'000;
+// A millisecond or two on the largest table.
+constexpr std::size_t kReplayedAtOnce = 10'000;
 
 constexpr int kMostTimeoutsToChange = 1000; // a state that only enters itself anew is left alone then
 

@@ -215,7 +215,7 @@ void dckRun::ShowRun(bool anew) {
         log_->Refresh();
     }
     lstLog->scrollToBottom();
-    timRun_->Refresh();
+    timRun_->Refresh(anew);
     lblWhere->setText(WhereText());
     lblNotice->setText(NoticeText());
     lblNotice->setVisible(!lblNotice->text().isEmpty());

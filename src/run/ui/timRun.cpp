@@ -14,23 +14,51 @@ namespace orvane {
 
 namespace {
 
-constexpr double kZoomStep = 1.25;     // for each notch of the wheel
-constexpr double kShortestShown = 10;  // units
-constexpr int kLanePadding = 8;        // pixels
-constexpr int kScaleEndCharacters = 5; // at the right end, so that the last time has room
-constexpr double kNotch = 120;         // what a wheel tells for one notch
+constexpr double kZoomStep = 1.25;       // for each notch of the wheel
+constexpr double kShortestShown = 10;    // units
+constexpr int kLanePadding = 8;          // pixels
+constexpr int kScaleEndCharacters = 5;   // at the right end, so that the last time has room
+constexpr std::size_t kLongRun = 20'000; // steps and what they bring
+constexpr int kLanesLater = 100;         // milliseconds
+constexpr double kNotch = 120;           // what a wheel tells for one notch
 
 } // namespace
 
 timRun::timRun(const FsmDocument& document, const run::LiveRun& run, QWidget* parent)
-    : QWidget(parent), document_(document), run_(run) {
+    : QWidget(parent), document_(document), run_(run), tmrLanes(this) {
+    tmrLanes.setObjectName(QStringLiteral("tmrLanes"));
+    tmrLanes.setSingleShot(true);
+    tmrLanes.setInterval(kLanesLater);
+    connect(&tmrLanes, &QTimer::timeout, this, [this] {
+        if (!run_.IsReplaying())
+            RefreshLanes();
+    });
     setObjectName(QStringLiteral("timRun"));
     setAccessibleName(tr("Timeline"));
     setToolTip(tr("Press: go to that moment. Wheel: zoom."));
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
 
-void timRun::Refresh() {
+// The lanes are made of the whole run, which takes tens of milliseconds of one of a million steps: of a long
+// one they follow a little later, and not at all while it is being played again.
+void timRun::Refresh(bool anew) {
+    const bool isReplaying = run_.IsReplaying();
+    if (!isReplaying && !IsLong())
+        return RefreshLanes();
+    if (isReplaying || anew)
+        timeline_ = {}; // lanes of another table would be wrong
+    if (!isReplaying && !tmrLanes.isActive())
+        tmrLanes.start();
+    KeepMomentInSight();
+    update();
+}
+
+bool timRun::IsLong() const {
+    return run_.Past() != nullptr && run_.Past()->Steps().size() + run_.Past()->WholeLog().size() > kLongRun;
+}
+
+void timRun::RefreshLanes() {
+    tmrLanes.stop();
     const int lanes = Lanes();
     MakeLanes();
     if (lanes != Lanes())

@@ -4,6 +4,7 @@
 #include "run/LiveRun.h"
 #include "run/Timeline.h"
 
+#include <QTimer>
 #include <QWidget>
 
 namespace orvane {
@@ -17,8 +18,8 @@ class timRun : public QWidget {
     // Both outlive the widget.
     timRun(const FsmDocument& document, const run::LiveRun& run, QWidget* parent);
 
-    // The run is at another moment.
-    void Refresh();
+    // The run is at another moment; anew when it is another run, or on another table.
+    void Refresh(bool anew);
 
     // Where a time stands, in pixels from the left; it may lie outside when only a part is shown.
     Q_INVOKABLE int XOf(qint64 time) const;
@@ -37,6 +38,8 @@ class timRun : public QWidget {
     void resizeEvent(QResizeEvent* event) override;
 
   private:
+    bool IsLong() const;
+    void RefreshLanes();
     void MakeLanes();
     void KeepMomentInSight();
     run::Units TimeAt(double x) const;
@@ -46,6 +49,7 @@ class timRun : public QWidget {
 
     const FsmDocument& document_;
     const run::LiveRun& run_;
+    QTimer tmrLanes; // of a long run
     run::Timeline timeline_;
     double first_ = 0;  // the time at the left end
     double length_ = 0; // how much time is shown; 0 for the whole run

@@ -337,5 +337,24 @@ TEST_F(RunRoomTest, WhatIsDoneMeanwhileEndsTheSearchForAWay) {
     EXPECT_EQ(Where(), "1:Idle at 1");
 }
 
+// The table shows nothing of the run until all of it was played: the beginning is not the present.
+TEST_F(RunRoomTest, ALongRunIsPlayedAgainBehindAnEdit) {
+    std::string text = "test long\n";
+    for (int i = 0; i < 15'000; ++i)
+        text += "pulse Start\npulse Stop\n";
+    WriteFile(QStringLiteral("machine.ztest"), text + "pulse Start => Idle\n");
+    StartOn(TimedPump());
+    Trigger("mnuRunTests");
+    ASSERT_EQ(Where(), "1:Idle at 0");
+    TypeTarget(7, 2, QStringLiteral("2"));
+    EXPECT_TRUE(Where().starts_with("Played again on the edited table: ")) << Where();
+    EXPECT_EQ(Marks(6, 1), 0);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Where() == "2:Run at 0"; })) << Where();
+    EXPECT_NE(Marks(7, 2), 0);
+    Trigger("mnuUndo");
+    PressButton("cmdStep"); // behind all of it
+    EXPECT_EQ(Where(), "1:Idle at 1");
+}
+
 } // namespace
 } // namespace orvane
