@@ -52,7 +52,7 @@ FsmDocument Full() {
         document.State(state).Name = "State " + std::to_string(state.Number());
         for (const RowNumber row : CellRows()) {
             document.State(state).Targets[row] = (state.Number() * 31 + row.Number() * 7) % 100 + 1;
-            document.State(state).Actions[row] = ";one\r\n;two";
+            document.State(state).Actions[row] = "one\r\ntwo";
         }
     }
     for (const RowNumber row : EventRows())
