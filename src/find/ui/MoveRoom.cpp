@@ -6,6 +6,7 @@
 #include "find/ui/SubjectAt.h"
 #include "find/ui/frmMove.h"
 #include "kit/AnsiString.h"
+#include "kit/UserMessageBox.h"
 #include "session/Commands.h"
 #include "session/Session.h"
 
@@ -61,7 +62,7 @@ void MoveRoom::Ask(Cell what) {
         Make(dialog.Plan(), dialog.ChosenLabels(), find::StepName(dialog.Wish()));
 }
 
-// One place on, without a question unless there is something to know.
+// One place on.
 void MoveRoom::MoveBy(int rows, int columns) {
     const Cell cell = ChosenCell(window_, session_);
     const Cell to{cell.Row + rows, cell.State + columns};
@@ -79,15 +80,25 @@ void MoveRoom::MoveBy(int rows, int columns) {
     else
         order = EventOrder::Moving(cell.Row, to.Row);
     const find::MovePlan plan = find::PlanMove(session_.Document(), order);
+    if (!IsAccepted(plan))
+        return;
     std::vector<bool> sure;
     for (const find::TextUse& label : plan.Labels)
         sure.push_back(label.IsSure);
-    QStringList notes;
-    for (const std::string& note : plan.Notes)
-        notes += FromAnsi(note);
     Make(plan, sure, ofState ? "move state" : "move event");
     Q_EMIT Room::PlaceChosen(find::NewPlace(order, cell));
-    Q_EMIT Said(notes.join(QStringLiteral(". ")));
+}
+
+// A key moves at once, unless there is something to know.
+bool MoveRoom::IsAccepted(const find::MovePlan& plan) {
+    QStringList lines;
+    for (const std::string& note : plan.Notes)
+        lines += FromAnsi(note) + QLatin1Char('.');
+    if (lines.isEmpty())
+        return true;
+    lines += QString();
+    lines += tr("Move it?");
+    return AskYesNo(&window_, lines.join(QStringLiteral("\r\n")));
 }
 
 std::size_t MoveRoom::PresentImage() const { return std::hash<std::string>()(session_.History().Current()); }

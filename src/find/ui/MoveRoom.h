@@ -35,6 +35,7 @@ class MoveRoom : public Room {
     void Ask(Cell what);
     void AddKey(const QKeySequence& key, int rows, int columns);
     void MoveBy(int rows, int columns);
+    bool IsAccepted(const find::MovePlan& plan);
     void Make(const find::MovePlan& plan, const std::vector<bool>& labels, std::string_view step);
     void FollowStep(std::size_t before, std::size_t Made::*came, std::size_t Made::*went);
     void FollowOrder(const find::TableOrder& order);

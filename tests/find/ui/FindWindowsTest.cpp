@@ -224,6 +224,18 @@ TEST_F(FindWindows, TheWidthOfAColumnGoesBackWithTheMove) {
     EXPECT_EQ(Document().State(3).ColWidth, kDefaultColumnWidth);
 }
 
+TEST_F(FindWindows, AKeyAsksBeforeTheMachineStartsElsewhere) {
+    for (const auto& [answer, second] : {std::pair{QMessageBox::No, "2:Run"}, {QMessageBox::Yes, "2:Idle"}}) {
+        StartOn(Pump());
+        Choose(0, 2);
+        Grid()->setFocus();
+        Answers.Press(answer);
+        QTest::keyClick(Grid(), Qt::Key_Left, Qt::ControlModifier | Qt::ShiftModifier);
+        EXPECT_EQ(Cell(0, 2), second);
+        EXPECT_THAT(Answers.Seen().back().Text, HasSubstr("State 1 is the start"));
+    }
+}
+
 TEST_F(FindWindows, AnEventMovesByKeyAndAtTheEndItIsTold) {
     StartOn(Pump());
     Choose(6, 0);
