@@ -27,7 +27,9 @@ struct UnionPlace {
     int Row = 0;
     int Column = 0;
 
-    auto operator<=>(const UnionPlace&) const = default;
+    bool operator<(const UnionPlace& other) const {
+        return Row != other.Row ? Row < other.Row : Column < other.Column;
+    }
 };
 
 // One table for two versions: every row and every column that either of them has, in the order of the new

@@ -265,7 +265,7 @@ void frmCompare::ShowChange() {
     if (row < 0 || versions_ == nullptr)
         return;
     lastRow_ = row;
-    const std::size_t change(row);
+    const auto change = std::size_t(row);
     sides_->ShowSides(review::SidesOf(*versions_, change));
     ShowIdentity(versions_->List().Changes[change]);
     const review::UnionPlace place = versions_->Table().PlaceOf(versions_->List().Changes[change]);
