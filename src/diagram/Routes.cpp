@@ -36,9 +36,9 @@ class Pen {
         across_ = across;
     }
 
-    // Back in a half circle that reaches `depth` beyond.
-    void TurnTo(int across, int depth) {
-        const int beyond = along_ + depth * 4 / 3;
+    // Back in a half circle, within the room that there is for it.
+    void TurnTo(int across) {
+        const int beyond = along_ + kTurnRoom / 2 * 4 / 3;
         path_.Pieces.push_back({true, At(beyond, across_), At(beyond, across), At(along_, across)});
         across_ = across;
     }
@@ -147,7 +147,7 @@ class Drawer {
         Pen pen(isTopDown_, AlongOf(layered_.Items[out.Left]).End(), LeftEnd(out));
         pen.StraightTo(states.End());
         pen.CurveTo(labels.Begin, RightEnd(out));
-        pen.TurnTo(RightEnd(back), kTurnRoom / 2);
+        pen.TurnTo(RightEnd(back));
         pen.CurveTo(states.End(), LeftEnd(back));
         pen.StraightTo(AlongOf(layered_.Items[back.Left]).End());
         return pen.Take(false);
@@ -202,9 +202,9 @@ class Drawer {
         int First = std::numeric_limits<int>::max();
         int Last = std::numeric_limits<int>::min();
 
-        void Take(int from, int to) {
-            First = std::min(First, from);
-            Last = std::max(Last, to);
+        void Take(int first, int last) {
+            First = std::min(First, first);
+            Last = std::max(Last, last);
         }
     };
 
