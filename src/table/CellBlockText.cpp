@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "table/CellBlockText.h"
 
-#include "core/BoundsError.h"
+#include "core/NameMatch.h"
 #include "table/CellText.h"
-#include "table/NameMatch.h"
 #include "text/AnsiText.h"
-#include "text/NumberText.h"
 
 #include <algorithm>
 
@@ -41,13 +39,6 @@ std::vector<std::string_view> LinesOf(std::string_view text) {
     return lines;
 }
 
-std::optional<StateNumber> NumberedState(std::string_view text) {
-    const std::string_view digits = text.substr(0, text.find(':'));
-    if (digits.empty() || digits.find_first_not_of("0123456789") != std::string_view::npos)
-        return std::nullopt;
-    return NumberIn(TargetNumbers(), ParseNumber(digits));
-}
-
 // None for what is no state.
 std::optional<BlockCell> CellOfText(const FsmDocument& document, std::string_view text) {
     std::string_view label = Trim(text);
@@ -57,9 +48,7 @@ std::optional<BlockCell> CellOfText(const FsmDocument& document, std::string_vie
         return BlockCell{kNoState, std::nullopt};
     if (label.back() == '*' && !StateCalled(document, label))
         label.remove_suffix(1);
-    std::optional<StateNumber> state = NumberedState(label);
-    if (!state)
-        state = StateCalled(document, label);
+    const std::optional<StateNumber> state = TargetMeant(document, label);
     if (!state)
         return std::nullopt;
     return *state == kNoState ? BlockCell{kNoState, std::string()} : BlockCell{*state, std::nullopt};

@@ -39,6 +39,10 @@ void MoveCopiedEvent(TableClipboard& clipboard, const StateOrder& order) {
 void MoveClipboard(TableClipboard& clipboard, const StateOrder& order) {
     RenumberTargets(clipboard.ClipState, order);
     clipboard.ClipTarget = order.NewOf(clipboard.ClipTarget);
+    for (BlockCell& cell : clipboard.ClipBlock.Cells) {
+        if (cell.Target)
+            cell.Target = order.NewOf(*cell.Target);
+    }
     MoveCopiedEvent(clipboard, order);
 }
 

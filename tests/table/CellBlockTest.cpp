@@ -4,6 +4,7 @@
 #include "table/CellBlockText.h"
 #include "table/StructuralEdits.h"
 #include "table/TableClipboard.h"
+#include "table/TableOrder.h"
 
 #include <gmock/gmock.h>
 
@@ -129,6 +130,13 @@ TEST_F(CellBlockTest, ACopiedBlockFollowsColumnsThatAreInserted) {
     InsertState(Document, Clipboard, 1);
     EXPECT_EQ(Clipboard.ClipBlock.Cells[0].Target, StateNumber(3));
     EXPECT_EQ(Clipboard.ClipBlock.Cells[3].Target, StateNumber(4));
+}
+
+TEST_F(CellBlockTest, ACopiedBlockFollowsColumnsThatChangePlaces) {
+    CopyCells(Document, Clipboard, Between({6, 1}, {7, 2}));
+    Rearrange(Document, Clipboard, StateOrder::Swapping(2, 50));
+    EXPECT_EQ(Clipboard.ClipBlock.Cells[0].Target, StateNumber(50));
+    EXPECT_EQ(Clipboard.ClipBlock.Cells[1].Target, StateNumber(kNoState));
 }
 
 TEST_F(CellBlockTest, ACopiedBlockIsForgottenWithAStateThatItLeadsTo) {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "table/NameMatch.h"
+#include "core/NameMatch.h"
 
 #include <gmock/gmock.h>
 
@@ -47,6 +47,16 @@ TEST_F(NameMatchTest, AStateIsCalledByItsWholeNameAlone) {
     EXPECT_EQ(StateCalled(Document, ""), std::nullopt);
     Document.State(4).Name = "OPEN";
     EXPECT_EQ(StateCalled(Document, "Open"), std::nullopt); // which of the two?
+}
+
+TEST_F(NameMatchTest, ATargetIsMeantByNumberLabelOrName) {
+    EXPECT_EQ(TargetMeant(Document, " "), StateNumber(kNoState));
+    EXPECT_EQ(TargetMeant(Document, "0"), StateNumber(kNoState));
+    EXPECT_EQ(TargetMeant(Document, "100"), StateNumber(100));
+    EXPECT_EQ(TargetMeant(Document, "12:Open"), StateNumber(12));
+    EXPECT_EQ(TargetMeant(Document, "opening"), StateNumber(3));
+    EXPECT_EQ(TargetMeant(Document, "101"), std::nullopt);
+    EXPECT_EQ(TargetMeant(Document, "openin"), std::nullopt);
 }
 
 TEST_F(NameMatchTest, APlaceIsAStateOrAnEvent) {
