@@ -150,6 +150,30 @@ void AddJournal(MedianTable& table, TableDriver& driver, const FsmDocument&) {
     table.Add("typed transition", "the same without journal", 1.1, type(true), type(false));
 }
 
+// A key to the table and the pane, both painted, beside the same with the pane hidden.
+void AddCellPane(MedianTable& table, TableDriver& driver, const FsmDocument&) {
+    const auto target = std::make_shared<int>(1);
+    const auto type = [&driver, target](bool withPane) -> Timed {
+        return [&driver, target, withPane] {
+            driver.ShowPane("mnuViewCell", withPane);
+            *target = *target % kStateCount + 1;
+            driver.BeginTarget(22, 50, QString::number(*target));
+            return TimeOfOperation([&] { driver.CommitTarget(); });
+        };
+    };
+    const auto step = [&driver](bool withPane) -> Timed {
+        return [&driver, withPane] {
+            driver.ShowPane("mnuViewCell", withPane);
+            const double time = TimeOfOperation([&] { driver.StepRight(); });
+            driver.StepLeft();
+            return time;
+        };
+    };
+    table.Add("typed transition with the cell pane", "the same without the pane", 1.5, type(true),
+              type(false));
+    table.Add("another cell with the cell pane", "a transition typed without", 1.5, step(true), type(false));
+}
+
 struct StructuralEdit {
     const char* Name;
     const char* Item;
@@ -237,6 +261,7 @@ int main(int argc, char** argv) {
     MeasureWindow(DocumentAtTheLimit(), AddFindings);
     MeasureWindow(RunnableAtTheLimit(), AddRunning);
     MeasureWindow(DocumentAtTheLimit(), AddJournal);
+    MeasureWindow(DocumentAtTheLimit(), AddCellPane);
     MeasureWindow(DocumentAtTheLimit(), AddOpening, false);
     MeasureWindow(SampleDocument(kStateCount - 1, kLastRow - kFirstEventRow), AddStructure);
     MeasureStart(std::filesystem::path(argv[0]).parent_path());

@@ -81,6 +81,21 @@ void TableDriver::PlaySteps(int steps) {
 
 void TableDriver::RepaintTable() { Find<QTableView>("MSFlexGrid1").viewport()->repaint(); }
 
+void TableDriver::ShowPane(const char* item, bool shown) {
+    if (Item(item)->isChecked() != shown)
+        Trigger(item);
+}
+
+void TableDriver::StepRight() {
+    SendKey(Find<QTableView>("MSFlexGrid1"), Qt::Key_Right, {});
+    QApplication::processEvents();
+}
+
+void TableDriver::StepLeft() {
+    SendKey(Find<QTableView>("MSFlexGrid1"), Qt::Key_Left, {});
+    QApplication::processEvents();
+}
+
 void TableDriver::PressForMenu(int row, int column) {
     Press(row, column, Qt::RightButton);
     QWidget* popup = QApplication::activePopupWidget();

@@ -26,6 +26,11 @@ class TableDriver {
     // Opens the in-place editor of the cell and types a target, without Enter.
     void BeginTarget(int row, int column, const QString& target);
     void CommitTarget();
+    // Shows a pane, or hides it, by its item.
+    void ShowPane(const char* item, bool shown);
+    // Chooses the next cell by an arrow, there and back.
+    void StepRight();
+    void StepLeft();
     // Opens the pop-up menu of the cell and closes it, so that its items act on this cell.
     void PressForMenu(int row, int column);
     // Opens the general code editor, runs `use` in it, and closes it with OK.

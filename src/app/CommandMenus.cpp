@@ -8,6 +8,7 @@
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QShortcut>
 
 namespace orvane {
 
@@ -44,6 +45,21 @@ CommandMenus::CommandMenus(QMainWindow& window) : QObject(&window), window_(wind
             break;
         }
     }
+    AddMenuKeys();
+}
+
+// Alt and the first letter of its caption opens a menu, F10 the first one, though no letter is marked.
+void CommandMenus::AddMenuKeys() {
+    const auto open = [this](const QKeySequence& keys, QAction* menu) {
+        auto* shortcut = new QShortcut(keys, &window_);
+        connect(shortcut, &QShortcut::activated, this,
+                [this, menu] { window_.menuBar()->setActiveAction(menu); });
+    };
+    for (const CommandEntry& entry : kCommands) {
+        if (entry.Kind == EntryKind::BarMenu)
+            open(QKeySequence(Qt::ALT | Qt::Key(entry.Caption.front())), Item(entry.Id));
+    }
+    open(Qt::Key_F10, Item(Command::FileMenu));
 }
 
 QMenu* CommandMenus::AddMenu(QMenu* parent, const CommandEntry& entry) {
@@ -60,6 +76,8 @@ void CommandMenus::AddItem(QMenu* menu, const CommandEntry& entry) {
     item->setObjectName(Text(entry.Name));
     item->setCheckable(entry.Kind == EntryKind::Toggle);
     item->setShortcut(QKeySequence::fromString(Text(entry.Keys), QKeySequence::PortableText));
+    if (entry.Where == HeardIn::TheTable)
+        item->setShortcutContext(Qt::WidgetShortcut);
     connect(item, &QAction::triggered, this, [this, id = entry.Id] { Q_EMIT Chosen(id); });
     Item(entry.Id) = item;
 }

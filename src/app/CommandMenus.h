@@ -33,6 +33,7 @@ class CommandMenus : public QObject {
     void Chosen(orvane::Command command);
 
   private:
+    void AddMenuKeys();
     QMenu* AddMenu(QMenu* parent, const CommandEntry& entry);
     void AddItem(QMenu* menu, const CommandEntry& entry);
     QAction*& Item(Command command) { return items_[IndexOf(command)]; }

@@ -16,6 +16,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMainWindow>
+#include <QRegularExpression>
 
 #include <algorithm>
 #include <utility>
@@ -24,8 +25,8 @@ namespace orvane {
 
 namespace {
 
-constexpr auto kOwnCommands =
-    std::to_array<Command>({Command::FileNew, Command::FileOpen, Command::FileSave, Command::FileSaveAs});
+constexpr auto kOwnCommands = std::to_array<Command>(
+    {Command::FileNew, Command::FileOpen, Command::FileSave, Command::FileSaveAs, Command::FileQuit});
 
 constexpr std::size_t kMostBoxes = 5;  // messages about one file that get a box of their own
 constexpr std::size_t kMostLines = 20; // of those that share the last box
@@ -37,7 +38,9 @@ bool IsSettingsFile(const QString& path) {
 }
 
 // Each as a caption and the patterns behind it, which the dialogs hide: the captions name them already.
-QString FileFilter() { return QStringLiteral("All Files (*.*) (*);;Config file (*.zfsm) (*.zfsm)"); }
+QString ConfigFilter() { return QStringLiteral("Config file (*.zfsm) (*.zfsm)"); }
+
+QString FileFilter() { return QStringLiteral("All Files (*.*) (*);;") + ConfigFilter(); }
 
 // As the system writes paths, because the program's comments and the builder script name the document by it.
 QString FullPath(const QString& path) { return QDir::toNativeSeparators(QFileInfo(path).absoluteFilePath()); }
@@ -70,6 +73,9 @@ void DocumentLifecycle::Run(Command command) {
         return Open();
     case Command::FileSave:
         Save();
+        return;
+    case Command::FileQuit:
+        window_->close();
         return;
     default:
         SaveAs();
@@ -128,7 +134,8 @@ bool DocumentLifecycle::SaveAs() {
     dialog.setOption(QFileDialog::HideNameFilterDetails);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(QStringLiteral("zfsm"));
-    dialog.selectFile(QFileInfo(FileName()).fileName());
+    dialog.selectNameFilter(ConfigFilter());
+    dialog.selectFile(NameToOffer());
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return false;
     return WriteTo(dialog.selectedFiles().constFirst());
@@ -179,6 +186,7 @@ bool DocumentLifecycle::Write(const QString& fullPath) {
     }
     session_.MarkSaved(fullPath.toStdString(), StampOf(saved.Stamp, saved.Digest));
     RememberFile(fullPath);
+    Q_EMIT Said(tr("Saved: %1").arg(fullPath));
     if (!saved.Notes.isEmpty())
         Tell(window_, QStringLiteral("The document is saved as\r\n%1\r\n%2.")
                           .arg(fullPath, saved.Notes.join(QStringLiteral(".\r\n"))));
@@ -270,6 +278,15 @@ void DocumentLifecycle::TellBreakOff(const QString& path, const ReaderMessage& m
 }
 
 QString DocumentLifecycle::FileName() const { return QString::fromStdString(session_.Path()); }
+
+// The file's own name, or one made of the machine's; letters that a file name may not have are none of it.
+QString DocumentLifecycle::NameToOffer() const {
+    if (!FileName().isEmpty())
+        return QFileInfo(FileName()).fileName();
+    QString name = FromAnsi(session_.Document().General.FsmName).trimmed();
+    name.remove(QRegularExpression(QStringLiteral("[\\\\/:*?\"<>|\\x00-\\x1f]")));
+    return name.isEmpty() ? QString() : name + QStringLiteral(".zfsm");
+}
 
 QString DocumentLifecycle::StartFolder() const { return QFileInfo(FileName()).path(); }
 

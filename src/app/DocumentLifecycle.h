@@ -57,6 +57,7 @@ class DocumentLifecycle : public Room {
     bool WriteTo(const QString& path);
     bool Write(const QString& fullPath);
     QString FileName() const;
+    QString NameToOffer() const;
     QString StartFolder() const;
 
     Session& session_;

@@ -3,6 +3,7 @@
 
 #include "builder/ui/BuilderRoom.h"
 #include "codegen/ui/GeneratorRoom.h"
+#include "editors/ui/CellRoom.h"
 #include "editors/ui/EditorsRoom.h"
 #include "find/ui/FindRoom.h"
 #include "find/ui/MoveRoom.h"
@@ -26,6 +27,7 @@ std::vector<std::unique_ptr<Room>> MakeRooms(const RoomPlace& place) {
     rooms.push_back(std::make_unique<BuilderRoom>(place));
     rooms.push_back(std::make_unique<BacktrackRoom>(place));
     rooms.push_back(std::make_unique<EditorsRoom>(place));
+    rooms.push_back(std::make_unique<CellRoom>(place));
     rooms.push_back(std::make_unique<RecoveryRoom>(place));
     rooms.push_back(std::make_unique<FindingsRoom>(place));
     rooms.push_back(std::make_unique<RunRoom>(place));

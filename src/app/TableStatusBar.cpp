@@ -65,6 +65,14 @@ void TableStatusBar::ShowHowToBegin(bool show) {
     ShowMessages();
 }
 
+void TableStatusBar::ShowProgram(const QString& fileName) {
+    const QString written = fileName.isEmpty() ? QString() : tr("Program written: %1").arg(fileName);
+    if (written == written_)
+        return;
+    written_ = written;
+    ShowMessages();
+}
+
 void TableStatusBar::Say(const QString& text) {
     said_ = text;
     ShowMessages();
@@ -75,6 +83,8 @@ void TableStatusBar::ShowMessages() {
     QStringList messages;
     if (!said_.isEmpty())
         messages += said_;
+    if (!written_.isEmpty())
+        messages += written_;
     if (saysHowToBegin_)
         messages += tr("To begin, click the white corner and name the machine; then a column's head for a "
                        "state, a pink cell for an event.");

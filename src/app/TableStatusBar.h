@@ -24,6 +24,8 @@ class TableStatusBar : public QStatusBar {
     void ShowProblem(const QString& problem);
     // Whether to say how to begin a machine.
     void ShowHowToBegin(bool show);
+    // The program that was just written, by its file's name; empty when it was not.
+    void ShowProgram(const QString& fileName);
     // What the last command has done; empty takes it away.
     void Say(const QString& text);
 
@@ -43,6 +45,7 @@ class TableStatusBar : public QStatusBar {
     QLabel* Panel3;
     QLabel* lblFindings;
     QString said_;
+    QString written_;
     QString problem_;
     bool saysHowToBegin_ = false;
 };

@@ -7,6 +7,7 @@
 #include "app/Rooms.h"
 #include "app/TableStatusBar.h"
 #include "app/WindowTitle.h"
+#include "app/WrittenProgram.h"
 #include "kit/AnsiString.h"
 #include "kit/OpenInDesktop.h"
 #include "kit/Trace.h"
@@ -48,6 +49,7 @@ frmTable::frmTable(QWidget* parent)
     MakeRooms();
     ConnectRecentFiles();
     status_->ShowFindings(FromAnsi(FindingCounts({})));
+    writtenProgram_ = std::make_unique<WrittenProgram>(session_, *status_);
     lifecycle_->NewGrid();
 }
 
@@ -69,8 +71,11 @@ void frmTable::MakeRooms() {
 }
 
 void frmTable::ConnectRecentFiles() {
-    auto* recent = new RecentFiles(menus_->Menu(Command::HelpMenu), menus_->Menu(Command::RecentMenu), this);
-    connect(recent, &RecentFiles::OpenWanted, this, &frmTable::OpenDocument);
+    for (const auto& [parent, menu] : {std::pair(Command::FileMenu, Command::FileRecentMenu),
+                                       std::pair(Command::HelpMenu, Command::RecentMenu)}) {
+        auto* recent = new RecentFiles(menus_->Menu(parent), menus_->Menu(menu), this);
+        connect(recent, &RecentFiles::OpenWanted, this, &frmTable::OpenDocument);
+    }
 }
 
 void frmTable::OpenDocument(const QString& path) {
@@ -158,7 +163,8 @@ void frmTable::Told(const Change& change) {
     status_->ShowShift(session_.ShiftHeld());
     if (change.Kind == ChangeKind::Judged)
         status_->ShowFindings(FromAnsi(FindingCounts(session_.Findings())));
-    if (change.Kind == ChangeKind::Ran || change.Kind == ChangeKind::Judged)
+    if (change.Kind == ChangeKind::Moved || change.Kind == ChangeKind::Ran ||
+        change.Kind == ChangeKind::Judged)
         menus_->ShowState(session_);
     if (change.Kind == ChangeKind::Moved || change.Kind == ChangeKind::Ran ||
         change.Kind == ChangeKind::Judged)

@@ -15,6 +15,7 @@ namespace orvane {
 class CommandMenus;
 class DocumentLifecycle;
 class TableStatusBar;
+class WrittenProgram;
 
 // The main window: the menus, the status bar, and the rooms, of which it knows nothing but that they are
 // rooms. What is open belongs to its session.
@@ -71,6 +72,7 @@ class frmTable : public QMainWindow, private SessionObserver {
     Vocabulary words_;
     CommandMenus* menus_;
     TableStatusBar* status_;
+    std::unique_ptr<WrittenProgram> writtenProgram_;
     DocumentLifecycle* lifecycle_ = nullptr;
     std::vector<std::unique_ptr<RoomEar>> ears_;
     std::vector<std::unique_ptr<Room>> rooms_; // they go before the session

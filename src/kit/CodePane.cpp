@@ -169,6 +169,8 @@ void CodePane::keyPressEvent(QKeyEvent* event) {
         event->setAccepted(event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter);
         return;
     }
+    if (IsForMenu(*event))
+        return event->ignore();
     const bool plainControl = event->modifiers() == Qt::ControlModifier;
     if (handlers_.FindKey && plainControl && event->key() == Qt::Key_H) {
         FindAndReplace();

@@ -71,6 +71,8 @@ std::string DocumentLineEdit::Text() const { return FieldText(text()); }
 
 // A character that is left out must not take the place of a selection.
 void DocumentLineEdit::keyPressEvent(QKeyEvent* event) {
+    if (IsForMenu(*event))
+        return event->ignore();
     const QString leftOut = CharactersOutsideDocuments(event->text());
     if (!leftOut.isEmpty()) {
         Q_EMIT CharactersLeftOut(leftOut);

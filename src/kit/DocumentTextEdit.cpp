@@ -52,6 +52,8 @@ void DocumentTextEdit::focusInEvent(QFocusEvent* event) {
 }
 
 void DocumentTextEdit::keyPressEvent(QKeyEvent* event) {
+    if (IsForMenu(*event))
+        return event->ignore();
     const QString kept = KeepDocumentCharacters(event->text());
     if (kept == event->text())
         QPlainTextEdit::keyPressEvent(event);

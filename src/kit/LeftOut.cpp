@@ -3,6 +3,8 @@
 
 #include "kit/AnsiString.h"
 
+#include <QKeyEvent>
+
 namespace orvane {
 
 namespace {
@@ -17,6 +19,11 @@ QString CharactersOutsideDocuments(const QString& text) {
         if (ToAnsi(QString(character)).LeftOut)
             outside += character;
     return outside;
+}
+
+bool IsForMenu(const QKeyEvent& key) {
+    constexpr Qt::KeyboardModifiers kMeant = Qt::AltModifier | Qt::ControlModifier | Qt::MetaModifier;
+    return (key.modifiers() & kMeant) == Qt::AltModifier && !key.text().isEmpty();
 }
 
 QString LeftOutMessage(const QString& characters) {

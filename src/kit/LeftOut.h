@@ -6,10 +6,15 @@
 
 #include <string>
 
+class QKeyEvent;
+
 namespace orvane {
 
 // The characters of the text outside Windows-1252, and the delimiter, in their order.
 QString CharactersOutsideDocuments(const QString& text);
+
+// A letter that was pressed with Alt is meant for a menu: it is no text.
+bool IsForMenu(const QKeyEvent& key);
 
 // What the window says about them.
 QString LeftOutMessage(const QString& characters);

@@ -64,6 +64,17 @@ void frmMyToolTip::Display(const QString& text, bool wrap, const QPoint& globalP
 
 void frmMyToolTip::UnDisplay() { Handle('U'); }
 
+void frmMyToolTip::Follow(const QString& text, bool wrap) {
+    if (timing_.Current() == TooltipTiming::State::Hidden || text == text_)
+        return;
+    if (text.isEmpty())
+        return UnDisplay();
+    text_ = text;
+    wrap_ = wrap;
+    if (timing_.Current() == TooltipTiming::State::Shown)
+        Show();
+}
+
 void frmMyToolTip::Handle(char event) {
     switch (timing_.Handle(event)) {
     case TooltipTiming::Effect::Show:

@@ -23,6 +23,8 @@ class frmMyToolTip : public QFrame {
     // it is code, line by line. No text calls off what was asked for.
     void Display(const QString& text, bool wrap, const QPoint& globalPlace);
     void UnDisplay();
+    // What is shown, or will be, has this text now; no text calls it off. Nothing comes up by this.
+    void Follow(const QString& text, bool wrap);
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

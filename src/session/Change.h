@@ -21,7 +21,7 @@ enum class ChangeKind {
     Saved,         // the file has the document now; its name may be another one
     ProgramWanted, // nothing changed, the program is asked for
     Left,          // the document is left with the program
-    Moved,         // the pressed cell, the current state, Shift: where the user is, not what he draws
+    Moved,         // the current cell, the current state, Shift, a pane: where the user is, not what he draws
     Ran,           // the machine that runs looks another way, or runs no more
     Judged,        // what there is to be told of the design is something else, or is listed or not
 };

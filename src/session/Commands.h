@@ -16,14 +16,22 @@ enum class Command : unsigned char {
     FileOpen,
     FileSave,
     FileSaveAs,
+    FileRecentMenu,
     RecoverWork,
+    FileQuit,
     EditMenu,
     Undo,
     Redo,
+    CutCell,
+    CopyCell,
+    PasteCell,
+    ClearCell,
+    ChooseTarget,
     Find,
     WhereUsed,
     Rename,
     Move,
+    GoTo,
     CodeMenu,
     GeneralCode,
     Generate,
@@ -36,12 +44,17 @@ enum class Command : unsigned char {
     ShowTimeTarget,
     Polytask,
     ViewMenu,
+    ViewCell,
     ViewFind,
     ViewRun,
     ViewFindings,
     NextFinding,
     PreviousFinding,
     CompareWith,
+    ZoomIn,
+    ZoomOut,
+    ZoomReset,
+    FitColumns,
     RunMenu,
     PowerOn,
     StepTime,
@@ -115,6 +128,9 @@ enum class Need {
 // What happens to a target that is being typed in a cell when the command comes.
 enum class Typing { Stays, IsTaken, IsDropped };
 
+// Where the keys of a command are heard. What Delete or Ctrl+C means in the table, it means nowhere else.
+enum class HeardIn { TheWindow, TheTable };
+
 struct CommandEntry {
     Command Id;
     EntryKind Kind;
@@ -124,6 +140,7 @@ struct CommandEntry {
     Need Needs = Need::Nothing;
     Typing Typed = Typing::Stays;
     std::string_view Step = {}; // what the status bar tells when it is undone, of commands that edit
+    HeardIn Where = HeardIn::TheWindow;
 };
 
 // In menu order.
@@ -135,21 +152,34 @@ inline constexpr auto kCommands = std::to_array<CommandEntry>({
     {Command::FileSaveAs, EntryKind::Item, "mnuFSaveAs", "Save &As", "Ctrl+Shift+S", Need::Nothing,
      Typing::IsTaken},
     {Command::Divider, EntryKind::Divider, "", ""},
+    {Command::FileRecentMenu, EntryKind::SubMenu, "mnuFRecent", "Recent"},
     {Command::RecoverWork, EntryKind::Item, "mnuFRecover", "Recover earlier work"},
+    {Command::FileQuit, EntryKind::Item, "mnuFQuit", "Quit", "Ctrl+Q", Need::Nothing, Typing::IsTaken},
     {Command::EditMenu, EntryKind::BarMenu, "mnuEdit", "Edit"},
     {Command::Undo, EntryKind::Item, "mnuUndo", "Undo", "Ctrl+Z", Need::OlderStep, Typing::IsDropped},
     {Command::Redo, EntryKind::Item, "mnuRedo", "Redo", "Ctrl+Y", Need::NewerStep, Typing::IsDropped},
     {Command::Divider, EntryKind::Divider, "", ""},
+    {Command::CutCell, EntryKind::Item, "mnuCutCell", "Cut", "Ctrl+X", Need::Nothing, Typing::IsTaken,
+     "cut cells", HeardIn::TheTable},
+    {Command::CopyCell, EntryKind::Item, "mnuCopyCell", "Copy", "Ctrl+C", Need::Nothing, Typing::IsTaken, "",
+     HeardIn::TheTable},
+    {Command::PasteCell, EntryKind::Item, "mnuPasteCell", "Paste", "Ctrl+V", Need::Nothing, Typing::IsTaken,
+     "paste cells", HeardIn::TheTable},
+    {Command::ClearCell, EntryKind::Item, "mnuClearCell", "Clear", "Del", Need::Nothing, Typing::IsTaken,
+     "clear cells", HeardIn::TheTable},
+    {Command::ChooseTarget, EntryKind::Item, "mnuChooseTarget", "Choose target", "Ctrl+Space", Need::Nothing,
+     Typing::IsTaken, "transition", HeardIn::TheTable},
     {Command::Find, EntryKind::Item, "mnuFind", "Find", "Ctrl+Shift+F"},
     {Command::WhereUsed, EntryKind::Item, "mnuWhereUsed", "Where used", "Shift+F12", Need::Nothing,
      Typing::IsTaken},
     {Command::Rename, EntryKind::Item, "mnuRename", "Rename", "Ctrl+R", Need::Nothing, Typing::IsTaken,
      "rename"},
     {Command::Move, EntryKind::Item, "mnuMove", "Move", "", Need::Nothing, Typing::IsTaken, "move"},
+    {Command::GoTo, EntryKind::Item, "mnuGoTo", "Go to", "Ctrl+G", Need::Nothing, Typing::IsTaken},
     {Command::CodeMenu, EntryKind::BarMenu, "mnuCode", "Code"},
     {Command::GeneralCode, EntryKind::Item, "mnuGeneralCode", "Edit general code", "", Need::Nothing,
      Typing::Stays, "general code"},
-    {Command::Generate, EntryKind::Item, "mnuCodeGenerate", "Generate", "", Need::Nothing, Typing::IsTaken},
+    {Command::Generate, EntryKind::Item, "mnuCodeGenerate", "Generate", "F5", Need::Nothing, Typing::IsTaken},
     {Command::Divider, EntryKind::Divider, "div3", ""},
     {Command::Builder, EntryKind::Item, "mnuBuilder", "Builder script"},
     {Command::BuildAndTest, EntryKind::Item, "mnuBuildAndTest", "Build and Test", "", Need::Nothing,
@@ -163,6 +193,7 @@ inline constexpr auto kCommands = std::to_array<CommandEntry>({
     {Command::Divider, EntryKind::Divider, "div4", ""},
     {Command::Polytask, EntryKind::Toggle, "mnuPolytask", "Polytask"},
     {Command::ViewMenu, EntryKind::BarMenu, "mnuView", "View"},
+    {Command::ViewCell, EntryKind::Toggle, "mnuViewCell", "Cell", "F4"},
     {Command::ViewFindings, EntryKind::Toggle, "mnuViewFindings", "Findings"},
     {Command::ViewFind, EntryKind::Toggle, "mnuViewFind", "Find and where used"},
     {Command::ViewRun, EntryKind::Toggle, "mnuViewRun", "Run the machine"},
@@ -172,6 +203,11 @@ inline constexpr auto kCommands = std::to_array<CommandEntry>({
      Typing::IsTaken},
     {Command::PreviousFinding, EntryKind::Item, "mnuPreviousFinding", "Previous finding", "Shift+F8",
      Need::Finding, Typing::IsTaken},
+    {Command::Divider, EntryKind::Divider, "", ""},
+    {Command::ZoomIn, EntryKind::Item, "mnuZoomIn", "Zoom in", "Ctrl++"},
+    {Command::ZoomOut, EntryKind::Item, "mnuZoomOut", "Zoom out", "Ctrl+-"},
+    {Command::ZoomReset, EntryKind::Item, "mnuZoomReset", "Normal size", "Ctrl+0"},
+    {Command::FitColumns, EntryKind::Item, "mnuFitColumns", "Fit columns"},
     {Command::RunMenu, EntryKind::BarMenu, "mnuRun", "Run"},
     {Command::PowerOn, EntryKind::Item, "mnuPowerOn", "Power on", "", Need::Nothing, Typing::IsTaken},
     {Command::StepTime, EntryKind::Item, "mnuStep", "Step", "", Need::Nothing, Typing::IsTaken},

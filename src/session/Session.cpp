@@ -113,6 +113,12 @@ std::vector<std::string> Session::ShowStep(ChangeKind kind, const std::string* i
     return faults;
 }
 
+void Session::SetCurrentCell(Cell cell) {
+    if (std::exchange(currentCell_, cell) == cell)
+        return;
+    Tell({.Kind = ChangeKind::Moved, .Where = {}});
+}
+
 void Session::SetCurrentState(StateNumber state) {
     currentState_ = state;
     Tell({.Kind = ChangeKind::Moved, .Where = {}});

@@ -128,6 +128,9 @@ class Session {
     // reached (0 is none), whether Shift is held in the table.
     Cell Pressed() const { return pressed_; }
     void Press(Cell cell) { pressed_ = cell; }
+    // The cell with the frame, which the keys work on; a press of the mouse chooses it too.
+    Cell CurrentCell() const { return currentCell_; }
+    void SetCurrentCell(Cell cell);
     StateNumber CurrentState() const { return currentState_; }
     void SetCurrentState(StateNumber state);
     bool ShiftHeld() const { return shiftHeld_; }
@@ -190,6 +193,7 @@ class Session {
     TableClipboard clipboard_;
     PasteItems pasteable_;
     Cell pressed_;
+    Cell currentCell_;
     StateNumber currentState_;
     bool shiftHeld_ = false;
     std::optional<RunPicture> run_;

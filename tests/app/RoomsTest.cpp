@@ -16,10 +16,11 @@ class MadeUpRoom : public Room {
 
     ObserverRank Rank() const override { return ObserverRank::Rooms; }
     bool Listens() const override { return IsShown; }
-    // What an open editor holds is told with every letter, and is no change of the document; neither is what
-    // there is to be told of it.
+    // What an open editor holds is told with every letter, where the user is with every step, and what there
+    // is to be told of the document by itself: none of it is a change.
     void Told(const Change& change) override {
-        if (change.Kind != ChangeKind::Drafted && change.Kind != ChangeKind::Judged)
+        if (change.Kind != ChangeKind::Drafted && change.Kind != ChangeKind::Judged &&
+            change.Kind != ChangeKind::Moved)
             Heard.push_back(change.Kind);
     }
     void EditPlace(Cell place) override { Asked = place; }

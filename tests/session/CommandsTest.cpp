@@ -29,15 +29,23 @@ TEST(Commands, TheMenusAreTheGivenOnesWithHelpBehindThem) {
   mnuFSave: Save
   mnuFSaveAs: Save &As
   (a line)
+  mnuFRecent: Recent
   mnuFRecover: Recover earlier work
+  mnuFQuit: Quit
 mnuEdit: Edit
   mnuUndo: Undo
   mnuRedo: Redo
   (a line)
+  mnuCutCell: Cut
+  mnuCopyCell: Copy
+  mnuPasteCell: Paste
+  mnuClearCell: Clear
+  mnuChooseTarget: Choose target
   mnuFind: Find
   mnuWhereUsed: Where used
   mnuRename: Rename
   mnuMove: Move
+  mnuGoTo: Go to
 mnuCode: Code
   mnuGeneralCode: Edit general code
   mnuCodeGenerate: Generate
@@ -53,12 +61,18 @@ mnuPref: Preferences
   div4
   mnuPolytask: Polytask
 mnuView: View
+  mnuViewCell: Cell
   mnuViewFindings: Findings
   mnuViewFind: Find and where used
   mnuViewRun: Run the machine
   mnuCompareWith: Compare with...
   mnuNextFinding: Next finding
   mnuPreviousFinding: Previous finding
+  (a line)
+  mnuZoomIn: Zoom in
+  mnuZoomOut: Zoom out
+  mnuZoomReset: Normal size
+  mnuFitColumns: Fit columns
 mnuRun: Run
   mnuPowerOn: Power on
   mnuStep: Step

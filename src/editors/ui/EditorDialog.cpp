@@ -19,8 +19,28 @@ namespace orvane {
 
 EditorDialog::EditorDialog(const QString& name, int helpPage, QWidget* parent) : TabStops(parent) {
     setObjectName(name);
+    lblEdited = BuildPrompt("lblEdited", {});
+    lblEdited->setWordWrap(false);
+    lblEdited->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed); // a long name is cut off
+    QFont bold = lblEdited->font();
+    bold.setBold(true);
+    lblEdited->setFont(bold);
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     AddHelpKey(*this, helpPage);
+}
+
+void EditorDialog::SetEdited(const QString& what) {
+    lblEdited->setText(what);
+    lblEdited->setToolTip(Qt::mightBeRichText(what) ? what.toHtmlEscaped() : what);
+}
+
+// Left to itself Qt puts it over the window anew each time, beside where the frame was.
+void EditorDialog::setVisible(bool visible) {
+    if (!visible && isVisible())
+        place_ = saveGeometry();
+    else if (visible && !place_.isEmpty())
+        restoreGeometry(place_);
+    TabStops::setVisible(visible);
 }
 
 void EditorDialog::reject() {
@@ -64,6 +84,7 @@ void EditorDialog::LayOut(const std::function<void(QVBoxLayout&)>& fill, EditorS
         look.pixelMetric(QStyle::PM_LayoutLeftMargin), look.pixelMetric(QStyle::PM_LayoutTopMargin),
         look.pixelMetric(QStyle::PM_LayoutRightMargin), look.pixelMetric(QStyle::PM_LayoutBottomMargin));
     content->setSpacing(look.pixelMetric(QStyle::PM_LayoutVerticalSpacing));
+    content->addWidget(lblEdited);
     fill(*content);
     outer->addLayout(content, 1);
     if (statusBar != nullptr)

@@ -26,7 +26,12 @@ class EditorDialog : public TabStops<QDialog> {
     Q_OBJECT
 
   public:
+    // Tells inside the dialog what it edits.
+    void SetEdited(const QString& what);
+
     void reject() override;
+    // It opens again where it was closed.
+    void setVisible(bool visible) override;
 
   Q_SIGNALS:
     // Something was edited that the generated program may show.
@@ -65,6 +70,8 @@ class EditorDialog : public TabStops<QDialog> {
   private:
     std::function<void()> WhenChanged(const std::function<void()>& changed);
 
+    QLabel* lblEdited = nullptr;
+    QByteArray place_; // where it was closed
     bool filling_ = false;
 };
 

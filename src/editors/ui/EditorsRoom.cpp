@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editors/ui/EditorsRoom.h"
 
+#include "editors/PlaceFields.h"
 #include "editors/ui/TextField.h"
 #include "editors/ui/frmEventEdit.h"
 #include "editors/ui/frmGeneralCodeEdit.h"
 #include "editors/ui/frmStateEdit.h"
 #include "editors/ui/frmTransitionAction.h"
+#include "kit/AnsiString.h"
 #include "session/CommandState.h"
 #include "session/Session.h"
 
@@ -98,7 +100,8 @@ Dialog& EditorsRoom::Made(Dialog*& dialog) {
     return *dialog;
 }
 
-void EditorsRoom::BeginDraft(Cell place) {
+void EditorsRoom::BeginDraft(Cell place, EditorDialog& dialog) {
+    dialog.SetEdited(FromAnsi(PlaceInWords(session_.Document(), place)));
     edited_ = place;
     hasDraft_ = false;
 }
@@ -107,7 +110,7 @@ void EditorsRoom::EditState(Cell place) {
     frmStateEdit& dialog = Made(frmStateEdit_);
     dialog.SetExitTabVisible(exitTab_);
     dialog.SetTimeoutTabVisible(timeoutTab_);
-    BeginDraft(place);
+    BeginDraft(place, dialog);
     StateRecord record = session_.Document().State(place.State);
     dialog.Execute(place.Row, record);
     hasDraft_ = false;
@@ -117,7 +120,7 @@ void EditorsRoom::EditState(Cell place) {
 
 void EditorsRoom::EditEvent(RowNumber row) {
     frmEventEdit& dialog = Made(frmEventEdit_);
-    BeginDraft({row, kNoState});
+    BeginDraft({row, kNoState}, dialog);
     EventRecord record = session_.Document().Event(row);
     dialog.Execute(record);
     hasDraft_ = false;
@@ -134,7 +137,7 @@ void EditorsRoom::EditGeneralCode() {
         disconnect(&dialog, &EditorDialog::Edited, this, nullptr);
         connect(&dialog, &EditorDialog::Edited, this, &EditorsRoom::WriteGeneralCodeThrough);
     }
-    BeginDraft({});
+    BeginDraft({}, dialog);
     dialog.ShowGeneralCode(session_.Document().General);
     dialog.Execute(session_.Document().View.Polytask);
     hasDraft_ = false;
@@ -150,7 +153,7 @@ void EditorsRoom::WriteGeneralCodeThrough() {
 
 void EditorsRoom::EditTransitionAction(Cell place) {
     frmTransitionAction& dialog = Made(frmTransitionAction_);
-    BeginDraft(place);
+    BeginDraft(place, dialog);
     dialog.SetCode(session_.Document().State(place.State).Actions[place.Row]);
     dialog.Execute();
     hasDraft_ = false;

@@ -41,7 +41,7 @@ class EditorsRoom final : public Room, public DraftSource {
     // The dialog, made with the words of the language when it is not there yet.
     template <typename Dialog>
     Dialog& Made(Dialog*& dialog);
-    void BeginDraft(Cell place);
+    void BeginDraft(Cell place, EditorDialog& dialog);
 
     Session& session_;
     const Vocabulary& words_;

@@ -67,6 +67,16 @@ bool CellEditor::event(QEvent* event) {
     return QLineEdit::event(event);
 }
 
+void CellEditor::showEvent(QShowEvent* event) {
+    QLineEdit::showEvent(event);
+    Q_EMIT OpenChanged(true);
+}
+
+void CellEditor::hideEvent(QHideEvent* event) {
+    QLineEdit::hideEvent(event);
+    Q_EMIT OpenChanged(false);
+}
+
 // A frame of its own, because it lies over the lines of the table.
 void CellEditor::paintEvent(QPaintEvent* event) {
     QLineEdit::paintEvent(event);
@@ -85,7 +95,7 @@ void CellEditor::keyPressEvent(QKeyEvent* event) {
         return;
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        Q_EMIT CommitWanted();
+        Q_EMIT EnterPressed();
         return;
     default:
         break;

@@ -20,6 +20,8 @@ class CellEditor : public QLineEdit {
 
     // Opens over a cell that can be seen.
     void Begin(Cell cell, const QString& text);
+    // As if typed.
+    void Type(const QString& digits) { insert(digits); }
     // Hides and clears the box; what was typed is forgotten.
     void Abandon();
 
@@ -28,12 +30,17 @@ class CellEditor : public QLineEdit {
     Cell EditedCell() const { return cell_; }
 
   Q_SIGNALS:
+    // What the box holds is to be stored: it was emptied by Delete, or ended by Enter.
     void CommitWanted();
+    void EnterPressed();
+    void OpenChanged(bool open);
 
   protected:
     bool event(QEvent* event) override;
     // Tab is another key that does nothing.
     bool focusNextPrevChild(bool) override { return false; }
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;

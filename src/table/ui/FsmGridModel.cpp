@@ -2,7 +2,9 @@
 #include "table/ui/FsmGridModel.h"
 
 #include "kit/AnsiString.h"
+#include "table/CellChoice.h"
 #include "table/CellColour.h"
+#include "table/CellName.h"
 #include "table/CellText.h"
 #include "table/ui/CellIndex.h"
 #include "text/Ordinal.h"
@@ -45,6 +47,10 @@ QVariant FsmGridModel::data(const QModelIndex& index, int role) const {
         return Background(CellOf(index));
     case Qt::ForegroundRole: // Every background is light, also on a dark desktop.
         return QColor(Qt::black);
+    case Qt::AccessibleTextRole:
+        return FromAnsi(CellName(document_, CellOf(index)));
+    case kHasActionRole:
+        return HasAction(CellOf(index));
     case kRunMarkRole:
         return run_ ? MarkFlags(CellOf(index)) : QVariant();
     case kRunNoteRole:
@@ -57,6 +63,18 @@ QVariant FsmGridModel::data(const QModelIndex& index, int role) const {
     default:
         return {};
     }
+}
+
+// The view has no headers; a screen reader that asks for one gets the head that is a cell.
+QVariant FsmGridModel::headerData(int section, Qt::Orientation orientation, int role) const {
+    if (role != Qt::DisplayRole && role != Qt::AccessibleTextRole)
+        return {};
+    const bool isColumn = orientation == Qt::Horizontal;
+    return data(isColumn ? index(kHeadRow, section) : index(section, 0), Qt::AccessibleTextRole);
+}
+
+bool FsmGridModel::HasAction(Cell cell) const {
+    return HasTransition(cell) && !document_.State(cell.State).Actions[cell.Row].empty();
 }
 
 void FsmGridModel::SetMeasurer(std::unique_ptr<TextMeasurer> measure) {

@@ -25,6 +25,8 @@ inline constexpr int kRunNoteRole = Qt::UserRole + 1;
 // What there is to be told of the cell: how bad the worst of it is, 0 for nothing, and the texts.
 inline constexpr int kFindingRole = Qt::UserRole + 2;
 inline constexpr int kFindingTextRole = Qt::UserRole + 3;
+// Whether the cell has an action: such a one is marked, because a narrow column has no room for its star.
+inline constexpr int kHasActionRole = Qt::UserRole + 4;
 inline constexpr int kTakeable = 1;
 inline constexpr int kNextTaken = 2;
 inline constexpr int kLastTaken = 4;
@@ -42,6 +44,7 @@ class FsmGridModel : public QAbstractTableModel {
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
     void SetMeasurer(std::unique_ptr<TextMeasurer> measure);
 
@@ -65,6 +68,7 @@ class FsmGridModel : public QAbstractTableModel {
     void ShowRun(const std::optional<RunPicture>& run);
 
   private:
+    bool HasAction(Cell cell) const;
     RunMark Mark(Cell cell) const;
     QVariant MarkFlags(Cell cell) const;
     QString FindingTexts(Cell cell) const;

@@ -13,6 +13,7 @@
 #include <QScrollBar>
 #include <QTextDocument>
 #include <QToolTip>
+#include <QWheelEvent>
 
 #include <algorithm>
 
@@ -50,7 +51,7 @@ FsmGridView::FsmGridView(QWidget* parent) : QTableView(parent), borderDrag_(*thi
     setVerticalScrollMode(ScrollPerPixel);
     setEditTriggers(NoEditTriggers);
     setSelectionMode(SingleSelection);
-    setTabKeyNavigation(false);
+    setTabKeyNavigation(true);
     setContextMenuPolicy(Qt::PreventContextMenu);
     setMouseTracking(true);
     viewport()->setMouseTracking(true);
@@ -125,6 +126,10 @@ void FsmGridView::scrollTo(const QModelIndex& index, ScrollHint) {
     if (index.row() > 0)
         BringIntoSight(*verticalScrollBar(), cell.top(), cell.top() + cell.height(), frozen.height(),
                        viewport()->height());
+}
+
+bool FsmGridView::IsChosen(const QModelIndex& cell) const {
+    return cell != currentIndex() && selectionModel()->isSelected(cell);
 }
 
 void FsmGridView::ShowChangesNow() { QCoreApplication::sendPostedEvents(window(), QEvent::UpdateRequest); }
@@ -214,8 +219,11 @@ void FsmGridView::mouseDoubleClickEvent(QMouseEvent* event) {
     const bool isSecondHalf = event->modifiers() == Qt::NoModifier && cell.isValid() &&
                               cell == lastPressed_ && sinceLastPress_.isValid() &&
                               sinceLastPress_.elapsed() < QApplication::doubleClickInterval();
+    const std::optional<StateNumber> border = borderDrag_.ColumnAt(event->position().toPoint());
     event->accept();
-    if (!isSecondHalf)
+    if (border && event->button() == Qt::LeftButton && event->modifiers() == Qt::NoModifier)
+        Q_EMIT FitWanted(*border);
+    else if (!isSecondHalf)
         mousePressEvent(event);
     lastPressed_ = {};
 }
@@ -243,6 +251,14 @@ void FsmGridView::mouseMoveEvent(QMouseEvent* event) {
         Q_EMIT PointerLeft();
 }
 
+void FsmGridView::wheelEvent(QWheelEvent* event) {
+    if (event->modifiers() != Qt::ControlModifier)
+        return QTableView::wheelEvent(event);
+    event->accept();
+    if (const int turned = event->angleDelta().y(); turned != 0)
+        Q_EMIT ZoomWanted(turned > 0 ? 1 : -1);
+}
+
 void FsmGridView::mouseReleaseEvent(QMouseEvent* event) {
     event->accept();
     DragBorder(*event);
@@ -258,6 +274,10 @@ bool FsmGridView::DragBorder(const QMouseEvent& event) {
 }
 
 void FsmGridView::keyPressEvent(QKeyEvent* event) {
+    event->ignore();
+    Q_EMIT KeyPressed(event);
+    if (event->isAccepted())
+        return;
     switch (event->key()) {
     case Qt::Key_Shift:
         Q_EMIT ShiftChanged(true);
@@ -267,16 +287,16 @@ void FsmGridView::keyPressEvent(QKeyEvent* event) {
         event->accept();
         Q_EMIT EnterPressed();
         return;
-    case Qt::Key_F2:
-        PressCurrentCell(Qt::LeftButton, event->modifiers());
+    case Qt::Key_F6: // Tab goes to the next cell
+        QWidget::focusNextPrevChild(event->modifiers() != Qt::ShiftModifier);
         return;
     case Qt::Key_Menu:
-        PressCurrentCell(Qt::RightButton, Qt::NoModifier);
+        PressCurrentCell();
         return;
     case Qt::Key_F10:
         if (event->modifiers() != Qt::ShiftModifier)
             break;
-        PressCurrentCell(Qt::RightButton, Qt::NoModifier);
+        PressCurrentCell();
         return;
     default:
         break;
@@ -284,14 +304,14 @@ void FsmGridView::keyPressEvent(QKeyEvent* event) {
     QTableView::keyPressEvent(event);
 }
 
-void FsmGridView::PressCurrentCell(Qt::MouseButton button, Qt::KeyboardModifiers modifiers) {
+void FsmGridView::PressCurrentCell() {
     const QModelIndex cell = currentIndex();
     if (!cell.isValid())
         return;
     scrollTo(cell);
     const QPoint middle = VisibleRect(cell).center();
     Q_EMIT CellPressed(
-        {CellOf(cell), ButtonOf(button), ModifiersOf(modifiers), viewport()->mapToGlobal(middle)});
+        {CellOf(cell), PressButton::Right, PressModifiers::None, viewport()->mapToGlobal(middle)});
 }
 
 void FsmGridView::keyReleaseEvent(QKeyEvent* event) {

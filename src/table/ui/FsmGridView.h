@@ -55,6 +55,9 @@ class FsmGridView : public QTableView {
     // A letter typed in the table looks for nothing.
     void keyboardSearch(const QString&) override {}
 
+    // One of several cells that are chosen; the current one is not among them.
+    bool IsChosen(const QModelIndex& cell) const;
+
     // Paints what has changed without waiting for the event loop.
     void ShowChangesNow();
 
@@ -69,8 +72,12 @@ class FsmGridView : public QTableView {
     void PointerMoved(orvane::Cell cell);
     void PointerLeft(); // it is outside all cells
     void ColumnWidthDragged();
+    void FitWanted(orvane::StateNumber column); // by a double click on its border
     void ShiftChanged(bool held);
+    void ZoomWanted(int steps); // by Ctrl and the wheel
     void EnterPressed();
+    // Before the view itself looks at the key; whoever has used it accepts it.
+    void KeyPressed(QKeyEvent* key);
     // Cells may be somewhere else now.
     void CellsMoved();
 
@@ -83,6 +90,7 @@ class FsmGridView : public QTableView {
     void mousePressEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
@@ -90,8 +98,8 @@ class FsmGridView : public QTableView {
     void focusOutEvent(QFocusEvent* event) override;
 
   private:
-    // What a mouse button does on the cell under the pointer, done on the current cell.
-    void PressCurrentCell(Qt::MouseButton button, Qt::KeyboardModifiers modifiers);
+    // What the right button does on the cell under the pointer, done on the current cell.
+    void PressCurrentCell();
     bool ShowFinding(const QHelpEvent& event);
     bool DragBorder(const QMouseEvent& event);
     void PressCell(const QMouseEvent& event);

@@ -16,23 +16,31 @@ namespace {
 
 constexpr Pixels kRowPadding = 6; // above and below the text together
 
-// As the table shows a width or height of the document, which may be any number.
-Pixels ShownLength(Twips length) { return PixelsFromTwips(std::clamp(length, Twips(0), kWidestColumn)); }
-
 } // namespace
 
 GridGeometry::GridGeometry(const FsmDocument& document, QTableView& view)
     : document_(document),
       view_(view),
       standardHeight_(TwipsFromPixels(QFontMetrics(view.font()).height() + kRowPadding)) {
-    view_.verticalHeader()->setDefaultSectionSize(ShownLength(standardHeight_).Count());
-    view_.horizontalHeader()->setMaximumSectionSize(ShownLength(kWidestColumn).Count());
+    SetZoom(zoom_);
     connect(view_.horizontalHeader(), &QHeaderView::sectionResized, this,
             [this](int column, int, int pixels) { ColumnResized(column, pixels); });
 }
 
+// A width or height of the document may be any number.
+Pixels GridGeometry::Shown(Twips length) const {
+    const Pixels pixels = PixelsFromTwips(std::clamp(length, Twips(0), kWidestColumn));
+    return (pixels.Count() * zoom_ + 50) / 100;
+}
+
+void GridGeometry::SetZoom(int percent) {
+    zoom_ = percent;
+    view_.verticalHeader()->setDefaultSectionSize(Shown(standardHeight_).Count());
+    view_.horizontalHeader()->setMaximumSectionSize(Shown(kWidestColumn).Count());
+}
+
 void GridGeometry::ApplyColumnWidth(StateNumber column) {
-    const Pixels width = ShownLength(DocumentWidth(column));
+    const Pixels width = Shown(DocumentWidth(column));
     laidOut_[IndexIn(TableColumns(), column)] = width;
     dragged_.erase(column);
     if (view_.columnWidth(column.Number()) != width)
@@ -49,7 +57,7 @@ void GridGeometry::ApplyRowHeights() {
     for (const auto& [row, twips] :
          {std::pair{kExitActionRow, heights.ExitAction}, std::pair{kTimingModeRow, heights.TimingMode},
           std::pair{kTimeoutRow, heights.TimeTarget}, std::pair{kElseRow, heights.Else}}) {
-        const Pixels height = ShownLength(twips);
+        const Pixels height = Shown(twips);
         view_.setRowHidden(row, height == 0);
         if (height != 0)
             view_.setRowHeight(row, height.Count());
@@ -70,7 +78,7 @@ std::vector<DraggedWidth> GridGeometry::TakeDraggedWidths() {
         return widths;
     for (const auto& [column, width] : std::exchange(dragged_, {})) {
         laidOut_[IndexIn(TableColumns(), column)] = width;
-        widths.push_back({column, TwipsFromPixels(width)});
+        widths.push_back({column, TwipsFromPixels(width).Count() * 100 / zoom_});
     }
     return widths;
 }

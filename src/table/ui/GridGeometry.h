@@ -30,6 +30,9 @@ class GridGeometry : public QObject {
     // The height of an ordinary row.
     Twips StandardHeight() const { return standardHeight_; }
 
+    // How large the table is shown, in percent of what the document says. Lays nothing out anew.
+    void SetZoom(int percent);
+
     // Bring the view into line with the document.
     void ApplyColumnWidth(StateNumber column);
     void ApplyColumnWidths();
@@ -44,7 +47,10 @@ class GridGeometry : public QObject {
 
     const FsmDocument& document_;
     QTableView& view_;
+    Pixels Shown(Twips length) const;
+
     Twips standardHeight_;
+    int zoom_ = 100;
     std::array<Pixels, kTableColumns> laidOut_;
     std::map<StateNumber, Pixels> dragged_; // columns that are no longer laid out so
 };

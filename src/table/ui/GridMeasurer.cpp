@@ -16,7 +16,7 @@ namespace {
 // what finding it costs.
 class CachedWidths final : public TextMeasurer {
   public:
-    explicit CachedWidths(const QFont& font) : metrics_(font) {}
+    CachedWidths(const QFont& font, int zoom) : metrics_(font), zoom_(zoom) {}
 
     Twips operator()(std::string_view text) const override {
         if (text.size() > kLongestKept)
@@ -34,10 +34,12 @@ class CachedWidths final : public TextMeasurer {
     static constexpr std::size_t kMostKept = 20000;  // texts; a full table has 5555, each cut a few times
 
     Twips Measure(std::string_view text) const {
-        return TwipsFromPixels(metrics_.horizontalAdvance(CellLine(text)));
+        const Twips shown = TwipsFromPixels(metrics_.horizontalAdvance(CellLine(text)));
+        return (shown.Count() * 100 + zoom_ - 1) / zoom_; // never less than it takes
     }
 
     QFontMetrics metrics_;
+    int zoom_;
     mutable std::unordered_map<std::string, Twips> widths_;
 };
 
@@ -51,6 +53,8 @@ QString CellLine(QString text) {
         .replace(QLatin1Char('\r'), QLatin1Char(' '));
 }
 
-std::unique_ptr<TextMeasurer> GridMeasurer(const QFont& font) { return std::make_unique<CachedWidths>(font); }
+std::unique_ptr<TextMeasurer> GridMeasurer(const QFont& font, int zoom) {
+    return std::make_unique<CachedWidths>(font, zoom);
+}
 
 } // namespace orvane

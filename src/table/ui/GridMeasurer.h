@@ -16,6 +16,6 @@ QString CellLine(std::string_view text);
 QString CellLine(QString text);
 
 // Measures cell lines in this font.
-std::unique_ptr<TextMeasurer> GridMeasurer(const QFont& font);
+std::unique_ptr<TextMeasurer> GridMeasurer(const QFont& font, int zoom = 100);
 
 } // namespace orvane

@@ -13,6 +13,8 @@ namespace {
 
 constexpr QRgb kLineColour = qRgb(176, 176, 176);
 constexpr QRgb kCursorColour = qRgb(0, 0, 0);
+constexpr QRgb kActionColour = qRgb(160, 60, 0);
+constexpr int kActionMark = 7; // pixels at its sides
 
 // Of a running machine. Each mark has a form of its own, so that none is told by its colour alone.
 constexpr QRgb kTakeableColour = qRgb(0, 64, 160);
@@ -29,6 +31,13 @@ constexpr QRgb kWarningColour = qRgb(200, 110, 0);
 constexpr QRgb kAdviceColour = qRgb(0, 64, 160);
 constexpr int kErrorMark = 9; // pixels of the window
 constexpr int kOtherMark = 7;
+
+// Half way to a blue that the colours of the table do not come near.
+QColor Chosen(const QColor& background) {
+    constexpr QRgb kChosen = qRgb(120, 170, 240);
+    return QColor((background.red() + qRed(kChosen)) / 2, (background.green() + qGreen(kChosen)) / 2,
+                  (background.blue() + qBlue(kChosen)) / 2);
+}
 
 } // namespace
 
@@ -109,7 +118,9 @@ void GridPainter::PaintLines(const QList<Stretch>& rows, const QList<Stretch>& c
 }
 
 void GridPainter::PaintCell(const QModelIndex& cell, const QRect& area) {
-    const QColor background = cell.data(Qt::BackgroundRole).value<QColor>();
+    QColor background = cell.data(Qt::BackgroundRole).value<QColor>();
+    if (view_.IsChosen(cell))
+        background = Chosen(background);
     const int marks = cell.data(kRunMarkRole).toInt();
     painter_.fillRect(area, background);
     const QString text = CellLine(cell.data().toString().left(area.width())); // no character takes no pixel
@@ -120,14 +131,33 @@ void GridPainter::PaintCell(const QModelIndex& cell, const QRect& area) {
         else
             pictures_.Draw(painter_, area, text, background.rgb());
     }
+    if (cell.data(kHasActionRole).toBool())
+        PaintActionMark(area);
     if (marks != 0)
         PaintRunMarks(cell, area, marks);
     if (const int badness = cell.data(kFindingRole).toInt(); badness != 0)
         PaintFinding(area, badness);
-    if (cell == view_.currentIndex()) {
-        painter_.setPen(QPen(QColor(kCursorColour), 1, view_.hasFocus() ? Qt::SolidLine : Qt::DotLine));
-        painter_.drawRect(QRectF(area).adjusted(0.5, 0.5, -1.5, -1.5)); // the pen stays inside at every scale
-    }
+    if (cell == view_.currentIndex())
+        PaintFrame(view_.VisibleRect(cell)); // whole, also where a part has scrolled beneath the heads
+}
+
+void GridPainter::PaintFrame(const QRect& area) {
+    painter_.setPen(QPen(QColor(kCursorColour), 1, view_.hasFocus() ? Qt::SolidLine : Qt::DotLine));
+    painter_.drawRect(QRectF(area).adjusted(0.5, 0.5, -1.5, -1.5)); // the pen stays inside at every scale
+}
+
+// A triangle in the upper right corner, clear of the lines between the cells.
+void GridPainter::PaintActionMark(const QRect& area) {
+    const int side = std::min({kActionMark, area.width() - 2, area.height() - 2});
+    if (side <= 0)
+        return;
+    const QPointF corner(area.x() + area.width() - 1, area.y() + 1);
+    painter_.save();
+    painter_.setRenderHint(QPainter::Antialiasing);
+    painter_.setPen(Qt::NoPen);
+    painter_.setBrush(QColor(kActionColour));
+    painter_.drawPolygon(QPolygonF({corner, corner - QPointF(side, 0), corner + QPointF(0, side)}));
+    painter_.restore();
 }
 
 // What can be taken is outlined, dashed; what would be taken is filled and its outline is whole; what was

@@ -36,6 +36,8 @@ class GridPainter {
     QList<Stretch> ColumnsIn(const QRect& area, int first) const;
     void PaintLines(const QList<Stretch>& rows, const QList<Stretch>& columns);
     void PaintCell(const QModelIndex& cell, const QRect& area);
+    void PaintActionMark(const QRect& area);
+    void PaintFrame(const QRect& area);
     void PaintRunMarks(const QModelIndex& cell, const QRect& area, int marks);
     void PaintFinding(const QRect& area, int badness);
     void PaintNote(const QRect& area, const QString& note);

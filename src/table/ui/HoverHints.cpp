@@ -69,13 +69,26 @@ void HoverHints::PointerAt(Cell cell) {
 
 void HoverHints::ShowCellHint(Cell cell) {
     Q_EMIT HintGone();
-    if (const std::optional<Hint> hint = HoverHint(document_, cell, shiftHeld_))
+    if (const std::optional<Hint> hint = HoverHint(document_, cell, shiftHeld_); hint && !isQuiet_)
         Q_EMIT HintWanted(FromAnsi(hint->Text), hint->Wrap);
     if (cell.State == kNoState || cell.Row < kFirstCellRow)
         return;
     ShowRowHeaderHighlight(cell.Row);
     if (shiftHeld_)
         ShowNextState(cell);
+}
+
+void HoverHints::FollowChange() {
+    if (!pointer_ || isQuiet_)
+        return;
+    const std::optional<Hint> hint = HoverHint(document_, *pointer_, shiftHeld_);
+    Q_EMIT HintChanged(hint ? FromAnsi(hint->Text) : QString(), hint && hint->Wrap);
+}
+
+void HoverHints::SetQuiet(bool quiet) {
+    isQuiet_ = quiet;
+    if (quiet)
+        Q_EMIT HintGone();
 }
 
 void HoverHints::ClearHoverEffects() {

@@ -26,6 +26,10 @@ class HoverHints : public QObject {
     void SetShiftHeld(bool held) { shiftHeld_ = held; }
 
     void ClearHoverEffects();
+    // The document has changed: what is shown of the cell under the pointer is what it is now.
+    void FollowChange();
+    // None are shown while something lies open over the table: they would lie over that.
+    void SetQuiet(bool quiet);
 
     // Points out the cell, yellow, and the head of the state it leads to. Nothing without a transition.
     void ShowNextState(Cell cell);
@@ -36,6 +40,7 @@ class HoverHints : public QObject {
     void CellEntered();
     void HintWanted(const QString& text, bool wrap);
     void HintGone();
+    void HintChanged(const QString& text, bool wrap); // empty when there is none any more
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -52,6 +57,7 @@ class HoverHints : public QObject {
     QLineEdit* txtRowheader_;
     QWidget* picNextStateMarker_;
     bool shiftHeld_ = false;
+    bool isQuiet_ = false;
     StateNumber markedState_ = kNoState; // at whose head the marker is
     std::optional<Cell> pointer_;        // the cell it was in last
 };

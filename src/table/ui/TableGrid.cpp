@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "table/ui/TableGrid.h"
 
+#include "kit/Settings.h"
 #include "session/Session.h"
+#include "table/FittingWidth.h"
 #include "table/ui/CellEditor.h"
 #include "table/ui/CellIndex.h"
 #include "table/ui/FsmGridModel.h"
@@ -12,11 +14,20 @@
 #include <QEvent>
 #include <QVBoxLayout>
 
+#include <algorithm>
+#include <array>
+
 namespace orvane {
 
 namespace {
 
 constexpr int kGridLeft = 1; // pixels; 20 twips
+
+constexpr auto kZooms =
+    std::to_array({50, 60, 70, 80, 90, 100, 110, 125, 150, 175, 200, 250, 300}); // percent
+constexpr std::ptrdiff_t kNormalZoom = 5;                                        // its place among them
+
+QString ZoomKey() { return QStringLiteral("TableZoom"); }
 
 void SetColumnWidth(FsmDocument& document, const DraggedWidth& dragged) {
     if (dragged.Column == kNoState)
@@ -31,6 +42,7 @@ TableGrid::TableGrid(Session& session, QWidget* parent)
     : QWidget(parent),
       session_(session),
       MSFlexGrid1(new FsmGridView(this)),
+      measure_(GridMeasurer(MSFlexGrid1->font())),
       model_(new FsmGridModel(session.Document(), GridMeasurer(MSFlexGrid1->font()), this)) {
     MSFlexGrid1->setModel(model_);
     MSFlexGrid1->setCurrentIndex(IndexOf(*model_, {kEntryActionRow, StateNumbers().First()}));
@@ -41,7 +53,13 @@ TableGrid::TableGrid(Session& session, QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(kGridLeft, 0, 0, 0);
     layout->addWidget(MSFlexGrid1);
+    setFocusProxy(MSFlexGrid1);
+    if (const int zoom = Settings().value(ZoomKey(), zoom_).toInt();
+        zoom != zoom_ && std::find(kZooms.begin(), kZooms.end(), zoom) != kZooms.end())
+        SetZoom(zoom);
     connect(MSFlexGrid1, &FsmGridView::ColumnWidthDragged, this, &TableGrid::TestForColumWidthChange);
+    connect(MSFlexGrid1, &FsmGridView::FitWanted, this, &TableGrid::FitColumn);
+    connect(MSFlexGrid1, &FsmGridView::ZoomWanted, this, &TableGrid::Zoom);
     connect(hints_, &HoverHints::CellEntered, this, &TableGrid::TestForColumWidthChange);
 }
 
@@ -88,10 +106,59 @@ void TableGrid::TestForColumWidthChange() {
     }
 }
 
+void TableGrid::FitColumn(StateNumber column) {
+    txtCellEdit->Abandon();
+    const Touched drawn = column == kNoState ? Touched{Touched::Extent::RowHeads, {}}
+                                             : Touched{Touched::Extent::Column, column};
+    session_.Edit({"column width", drawn, EditKind::View}, [&](Editable open) {
+        SetColumnWidth(open.Document, {column, FittingWidth(open.Document, column, *measure_)});
+    });
+}
+
+void TableGrid::FitColumns() {
+    txtCellEdit->Abandon();
+    session_.Edit({"column widths", {Touched::Extent::AllColumns, {}}, EditKind::View}, [&](Editable open) {
+        for (const StateNumber column : TableColumns())
+            SetColumnWidth(open.Document, {column, FittingWidth(open.Document, column, *measure_)});
+    });
+}
+
+void TableGrid::Zoom(int steps) {
+    const auto now = std::find(kZooms.begin(), kZooms.end(), zoom_);
+    const std::ptrdiff_t at = now == kZooms.end() ? kNormalZoom : now - kZooms.begin();
+    const std::ptrdiff_t last = std::ssize(kZooms) - 1;
+    const std::ptrdiff_t next = steps == 0 ? kNormalZoom : std::clamp<std::ptrdiff_t>(at + steps, 0, last);
+    if (kZooms[std::size_t(next)] == zoom_)
+        return;
+    SetZoom(kZooms[std::size_t(next)]);
+    Settings().setValue(ZoomKey(), zoom_);
+}
+
+// What is being typed stays where its cell is.
+void TableGrid::SetZoom(int percent) {
+    zoom_ = percent;
+    QFont larger = font();
+    if (larger.pointSizeF() > 0)
+        larger.setPointSizeF(larger.pointSizeF() * percent / 100);
+    else
+        larger.setPixelSize(std::max(larger.pixelSize() * percent / 100, 1));
+    geometry_->SetZoom(percent);
+    MSFlexGrid1->setFont(larger);
+    Measure();
+    Draw({Touched::Extent::Everything, {}});
+}
+
+void TableGrid::Measure() {
+    measure_ = GridMeasurer(MSFlexGrid1->font(), zoom_);
+    model_->SetMeasurer(GridMeasurer(MSFlexGrid1->font(), zoom_));
+}
+
 // The standard height stays as it was when the window was made.
 void TableGrid::changeEvent(QEvent* event) {
-    if (event->type() == QEvent::FontChange)
-        model_->SetMeasurer(GridMeasurer(MSFlexGrid1->font()));
+    if (event->type() == QEvent::FontChange && zoom_ == 100)
+        Measure();
+    else if (event->type() == QEvent::FontChange)
+        SetZoom(zoom_);
     QWidget::changeEvent(event);
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "session/Change.h"
+#include "table/TextFitting.h"
 #include "table/ui/GridGeometry.h"
 
 #include <QWidget>
@@ -36,6 +37,11 @@ class TableGrid : public QWidget {
     void ApplyRowVisibility();
     // Takes over column widths that the user has dragged.
     void TestForColumWidthChange();
+    // Gives columns the width that shows their texts whole; all of them in one edit.
+    void FitColumn(StateNumber column);
+    void FitColumns();
+    // Shows the table larger or smaller: 1 and -1 are the next sizes, 0 is the normal one. It is remembered.
+    void Zoom(int steps);
 
   protected:
     void changeEvent(QEvent* event) override;
@@ -44,11 +50,15 @@ class TableGrid : public QWidget {
     void PopulateStateColumn(StateNumber column);
     void PopulateAllStateColumns();
     void PopulateRowHeaders();
+    void SetZoom(int percent);
+    void Measure();
 
     Session& session_;
     FsmGridView* MSFlexGrid1;
+    std::unique_ptr<TextMeasurer> measure_;
     FsmGridModel* model_;
     std::unique_ptr<GridGeometry> geometry_;
+    int zoom_ = 100; // percent
     CellEditor* txtCellEdit;
     HoverHints* hints_;
 };

@@ -2,6 +2,8 @@
 #pragma once
 
 #include "kit/Room.h"
+#include "table/PressTable.h"
+#include "table/ui/CellCommands.h"
 #include "table/ui/CellTyping.h"
 #include "table/ui/TableCommands.h"
 
@@ -10,6 +12,9 @@
 namespace orvane {
 
 class TableGrid;
+class TableKeys;
+class frmChooseTarget;
+class frmGoTo;
 class frmMyToolTip;
 struct GridPress;
 
@@ -34,16 +39,30 @@ class TableRoom : public Room {
     void ConnectGrid();
     void ShowAnotherDocument();
     void ShowWhereTheUserIs();
+    void ConnectKeys();
+    void AddOwnKeys();
+    void EditByKey(Cell cell, PressModifiers modifiers);
+    void FireEventOf(RowNumber row);
+    void TypeInto(Cell cell, const QString& text);
+    void ChooseTargetOf(Cell cell, const QString& text);
+    bool TakesTransition(Cell cell);
+    void GoTo();
+    void RunOnPressedCell(Command command);
     void PressGrid(const GridPress& press);
     void PopUp(Command menu, const GridPress& press);
     void StepMachine(RowNumber row);
-    void Step(std::vector<std::string> faults);
+    void Step(std::vector<std::string> (Session::*step)());
+    void Tell(const QString& text);
 
     Session& session_;
     QMainWindow& window_;
     std::unique_ptr<TableGrid> grid_; // goes before what it shows
     CellTyping typing_;
+    TableKeys* keys_;
+    frmChooseTarget* frmChooseTarget_;
+    frmGoTo* frmGoTo_ = nullptr; // made when it is first wanted
     TableCommands commands_;
+    CellCommands cells_;
     frmMyToolTip* frmMyToolTip_;
 };
 
