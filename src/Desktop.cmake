@@ -32,6 +32,9 @@ target_link_libraries(orvane_desktop
   PUBLIC orvane_engine Qt6::Widgets Qt6::Network QScintilla::QScintilla
   PRIVATE $<BUILD_INTERFACE:orvane_warnings>)
 
+orvane_precompile_headers(orvane_desktop <algorithm> <optional> <string> <vector>
+  <QApplication> <QHeaderView> <QLabel> <QLineEdit> <QMainWindow> <QPainter> <QPushButton> <QTableView> <QTimer> <QVBoxLayout>)
+
 add_executable(orvane ${CMAKE_CURRENT_LIST_DIR}/app/main.cpp)
 target_link_libraries(orvane PRIVATE orvane_desktop orvane_warnings)
 set_target_properties(orvane PROPERTIES WIN32_EXECUTABLE ON)
