@@ -50,13 +50,13 @@ frmGoTo::frmGoTo(const FsmDocument& document, QWidget* parent)
 }
 
 std::optional<Cell> frmGoTo::Ask() {
+    txtGoTo->clear();
     Look();
     return exec() == Accepted ? place_ : std::nullopt;
 }
 
 void frmGoTo::showEvent(QShowEvent* event) {
     QDialog::showEvent(event);
-    txtGoTo->selectAll();
     txtGoTo->setFocus();
 }
 

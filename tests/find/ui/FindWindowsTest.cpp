@@ -136,8 +136,8 @@ TEST_F(FindWindows, ReplacesWhatIsCheckedAsOneStep) {
     EXPECT_EQ(Document().State(2).EntryCode, "\tSiren ;Run");
     EXPECT_EQ(Document().State(1).Actions[6], "\tHorn");
     Trigger("mnuUndo");
-    EXPECT_EQ(Pack(Document()), before);
     EXPECT_THAT(Panel("Panel3"), testing::StartsWith("Undone: replace"));
+    EXPECT_EQ(Pack(Document()), before);
     EXPECT_FALSE(Item("mnuUndo")->isEnabled());
 }
 
@@ -177,8 +177,8 @@ TEST_F(FindWindows, RenamesAStateWithItsLabels) {
     EXPECT_EQ(Document().State(1).EntryCode, "\tHorn\r\n\tGoTo\tPMP_Filling_Set2");
     EXPECT_EQ(Document().State(2).EntryCode, "\tHorn ;Run"); // not checked
     Trigger("mnuUndo");
-    EXPECT_EQ(Pack(Document()), before);
     EXPECT_THAT(Panel("Panel3"), testing::StartsWith("Undone: rename"));
+    EXPECT_EQ(Pack(Document()), before);
 }
 
 TEST_F(FindWindows, MovesAStateWithEverythingAndBackAgainByUndo) {
@@ -202,8 +202,8 @@ TEST_F(FindWindows, MovesAStateWithEverythingAndBackAgainByUndo) {
     EXPECT_EQ(Document().State(1).EntryCode, "\tHorn\r\n\tGoTo\tPMP_Run_Set5");
     EXPECT_EQ(Grid()->model()->index(0, 5).data(Qt::BackgroundRole).value<QColor>(), QColor(255, 0, 0));
     Trigger("mnuUndo");
-    EXPECT_EQ(Pack(Document()), before);
     EXPECT_THAT(Panel("Panel3"), testing::StartsWith("Undone: move state"));
+    EXPECT_EQ(Pack(Document()), before);
     EXPECT_EQ(Grid()->model()->index(0, 2).data(Qt::BackgroundRole).value<QColor>(), QColor(255, 0, 0));
     Trigger("mnuRedo");
     EXPECT_EQ(Grid()->model()->index(0, 5).data(Qt::BackgroundRole).value<QColor>(), QColor(255, 0, 0));
@@ -245,8 +245,8 @@ TEST_F(FindWindows, AnEventMovesByKeyAndAtTheEndItIsTold) {
     EXPECT_EQ(Document().State(1).Targets[7], 2);
     QTest::keyClick(Grid(), Qt::Key_Up, Qt::ControlModifier | Qt::ShiftModifier);
     QTest::keyClick(Grid(), Qt::Key_Up, Qt::ControlModifier | Qt::ShiftModifier);
-    EXPECT_EQ(Document().Event(6).Name, "Start");
     EXPECT_THAT(Panel("Panel3"), testing::StartsWith("There is no place further on for an event"));
+    EXPECT_EQ(Document().Event(6).Name, "Start");
 }
 
 } // namespace
