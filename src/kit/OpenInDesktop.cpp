@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 #include <QDesktopServices>
 #include <QDir>
+#include <QKeyEvent>
 #include <QShortcut>
 #include <QToolTip>
 #include <QWidget>
@@ -39,6 +40,17 @@ void AddHelpKey(QWidget& window, int page) {
         if (!OpenHelpPage(page))
             TellThatNothingOpened(window, page);
     });
+}
+
+bool TakesHelpKey(QEvent& event, int page) {
+    const bool isKey = event.type() == QEvent::ShortcutOverride || event.type() == QEvent::KeyPress;
+    const auto* key = isKey ? dynamic_cast<QKeyEvent*>(&event) : nullptr;
+    if (key == nullptr || key->key() != Qt::Key_F1 || key->modifiers() != Qt::NoModifier)
+        return false;
+    event.accept(); // taken before it becomes the main window's shortcut
+    if (event.type() == QEvent::KeyPress)
+        OpenHelpPage(page);
+    return true;
 }
 
 } // namespace orvane

@@ -4,6 +4,7 @@
 
 #include <QUrl>
 
+class QEvent;
 class QWidget;
 
 namespace orvane {
@@ -20,5 +21,9 @@ bool OpenHelpPage(int page);
 // F1 with no other key opens the page while this window is the active one, whatever has the focus in it.
 // When nothing opens, a note on the window says which page it would have been.
 void AddHelpKey(QWidget& window, int page);
+
+// The same for a pane of the main window, whose own F1 is a shortcut that comes before a pane's: to be asked
+// for every event of the pane. True when the event was that key and needs nothing more.
+bool TakesHelpKey(QEvent& event, int page);
 
 } // namespace orvane

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "findings/FindingList.h"
 
-#include "support/SmallTable.h"
+#include "support/AdviceTexts.h"
 
 #include <gmock/gmock.h>
 
@@ -9,20 +9,13 @@ namespace orvane::findings {
 namespace {
 
 using test::SmallTable;
+using test::SoundTable;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
 
-SmallTable Sound() {
-    SmallTable table;
-    table.Name(1, "Idle").Cell(1, 6, 2).Name(2, "Run").Cell(2, 7, 1);
-    for (const int row : {6, 7, 8, 9})
-        table.Document().Event(row).Code = ";test " + std::to_string(row);
-    return table;
-}
-
 TEST(FindingList, HasErrorsFirstAndAdviceLastAndElseTheOrderOfTheReport) {
-    SmallTable table = Sound();
+    SmallTable table = SoundTable();
     table.Name(5, "Run");
     const DesignFinding note{FindingLevel::Note, {}, "n"};
     const DesignFinding warning{FindingLevel::Warning, {}, "w"};
@@ -36,7 +29,7 @@ TEST(FindingList, HasErrorsFirstAndAdviceLastAndElseTheOrderOfTheReport) {
 }
 
 TEST(FindingList, WhatIsExploredDoesNotStandInTheListAlready) {
-    SmallTable table = Sound();
+    SmallTable table = SoundTable();
     table.Name(5, "Run").Name(3, "Trap").Cell(2, 8, 3);
     const Explored explored = Explore(table.Document(), {});
     EXPECT_TRUE(explored.Complete);
@@ -48,11 +41,11 @@ TEST(FindingList, WhatIsExploredDoesNotStandInTheListAlready) {
 TEST(FindingList, ExploringThatWasStoppedIsNotComplete) {
     std::stop_source stop;
     stop.request_stop();
-    EXPECT_FALSE(Explore(Sound().Document(), stop.get_token()).Complete);
+    EXPECT_FALSE(Explore(SoundTable().Document(), stop.get_token()).Complete);
 }
 
 TEST(FindingList, PlacesAreToldByNames) {
-    SmallTable table = Sound();
+    SmallTable table = SoundTable();
     const FsmDocument& document = table.Document();
     EXPECT_EQ(PlaceText(document, {}), "The machine");
     EXPECT_EQ(PlaceText(document, {kNoRow, 2}), "State 2:Run");

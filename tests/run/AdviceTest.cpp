@@ -2,6 +2,7 @@
 #include "run/Advice.h"
 
 #include "run/PumpTable.h"
+#include "support/AdviceTexts.h"
 
 #include <gmock/gmock.h>
 
@@ -11,32 +12,18 @@ namespace orvane::run {
 namespace {
 
 using test::SmallTable;
+using test::SoundTable;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-// "KIND state row: message"
 std::vector<std::string> Told(const FsmDocument& document) {
-    std::vector<std::string> told;
-    for (const Advice& advice : AdviceOn(document).List)
-        told.push_back(std::string(AdviceKindName(advice.Kind)) + " " +
-                       std::to_string(advice.Place.State.Number()) + " " +
-                       std::to_string(advice.Place.Row.Number()) + ": " + advice.Message);
-    return told;
+    return test::AdviceTexts(AdviceOn(document).List);
 }
 
-// 1:Idle and 2:Run lead to each other, with events of different tests.
-SmallTable Sound() {
-    SmallTable table;
-    table.Name(1, "Idle").Cell(1, 6, 2).Name(2, "Run").Cell(2, 7, 1);
-    for (const int row : {6, 7, 8, 9})
-        table.Document().Event(row).Code = ";test " + std::to_string(row);
-    return table;
-}
-
-TEST(Advice, IsSilentWhereThereIsNothingToSay) { EXPECT_THAT(Told(Sound().Document()), IsEmpty()); }
+TEST(Advice, IsSilentWhereThereIsNothingToSay) { EXPECT_THAT(Told(SoundTable().Document()), IsEmpty()); }
 
 TEST(Advice, TellsAStartThatIsNotStateOne) {
-    SmallTable table = Sound();
+    SmallTable table = SoundTable();
     table.Name(3, "Wait").Cell(3, 6, 2).Cell(2, 7, 3);
     EXPECT_THAT(Told(table.Document()),
                 ElementsAre("start-not-1 2 0: The machine starts in 2:Run, the first state that a transition "
@@ -44,7 +31,7 @@ TEST(Advice, TellsAStartThatIsNotStateOne) {
 }
 
 TEST(Advice, TellsATimeoutThatCanNeverBeDue) {
-    SmallTable table = Sound();
+    SmallTable table = SoundTable();
     table.Timing(2, kStartConstant, "5").Cell(2, 4, 1).Cell(2, 5, 1);
     EXPECT_THAT(Told(table.Document()),
                 ElementsAre("dead-timeout 2 4: The timeout of 2:Run can never be due: the state is always "
@@ -54,7 +41,7 @@ TEST(Advice, TellsATimeoutThatCanNeverBeDue) {
 }
 
 TEST(Advice, TellsATimerThatMayNeverHaveBeenStarted) {
-    SmallTable table = Sound();
+    SmallTable table = SoundTable();
     table.Timing(2, kContinueConstant, "5", "A").Cell(2, 4, 1);
     EXPECT_THAT(Told(table.Document()),
                 ElementsAre("timer-never-started 2 3: The timeout of 2:Run looks at the timer A, which may "
@@ -64,20 +51,20 @@ TEST(Advice, TellsATimerThatMayNeverHaveBeenStarted) {
 }
 
 TEST(Advice, TellsRingsAndHoldsThatNeverYield) {
-    SmallTable table = Sound();
+    SmallTable table = SoundTable();
     table.Polytask().Cell(2, 5, 1).Cell(2, 8, 2);
     EXPECT_THAT(Told(table.Document()),
                 ElementsAre("never-yields 2 8: 2:Run is held by the event in row 8 (E8) and lets no time "
                             "pass, because its ELSE leads to another state: no other machine runs as long as "
                             "the event is there"));
-    SmallTable ring = Sound();
+    SmallTable ring = SoundTable();
     ring.Polytask().Cell(1, 8, 3).Name(3, "A").Cell(3, 5, 4).Name(4, "B").Cell(4, 5, 3).Cell(4, 9, 1);
     EXPECT_THAT(Told(ring.Document()),
                 ElementsAre(testing::HasSubstr("3:A, 4:B lead to each other and let no time pass")));
 }
 
 TEST(Advice, TellsStatesWithoutAWayBackAndTraps) {
-    SmallTable table = Sound();
+    SmallTable table = SoundTable();
     table.Cell(1, 8, 3).Name(3, "Done").Cell(3, 9, 4).Name(4, "End");
     EXPECT_THAT(Told(table.Document()),
                 ElementsAre("no-way-back 3 0: From 3:Done no way leads back to the start, 1:Idle",
@@ -88,7 +75,7 @@ TEST(Advice, TellsStatesWithoutAWayBackAndTraps) {
 
 // A way that only a timeout makes, which cannot be due, is none.
 TEST(Advice, AWayThatIsNeverTakenIsNone) {
-    SmallTable table = Sound();
+    SmallTable table = SoundTable();
     table.Cell(1, 8, 3).Name(3, "Done").Timing(3, kStartConstant, "5").Cell(3, 4, 1).Cell(3, 5, 3);
     EXPECT_THAT(Told(table.Document()),
                 ElementsAre(testing::StartsWith("dead-timeout 3"), testing::StartsWith("no-way-back 3"),
@@ -96,7 +83,7 @@ TEST(Advice, AWayThatIsNeverTakenIsNone) {
 }
 
 TEST(Advice, TellsEventsWithTheSameTest) {
-    SmallTable table = Sound();
+    SmallTable table = SoundTable();
     table.Document().Event(7).Code = " ;test  6";
     EXPECT_THAT(
         Told(table.Document()),
@@ -107,7 +94,7 @@ TEST(Advice, TellsEventsWithTheSameTest) {
 }
 
 TEST(Advice, TellsLabelsThatStandTwiceAndThenNothingOfTheRun) {
-    SmallTable table = Sound();
+    SmallTable table = SoundTable();
     table.Name(3, "Timer").Cell(1, 8, 3).Timing(2, kStartConstant, "5", "3").Cell(2, 4, 1);
     EXPECT_THAT(Told(table.Document()),
                 ElementsAre("label-twice 0 0: The label P_Timer_3 stands twice in the program; change one of "
@@ -115,7 +102,7 @@ TEST(Advice, TellsLabelsThatStandTwiceAndThenNothingOfTheRun) {
 }
 
 TEST(Advice, OfADesignWithErrorsTellsWhatNeedsNoRun) {
-    SmallTable table = Sound();
+    SmallTable table = SoundTable();
     table.Timing(2, kStartConstant, "").Cell(2, 4, 3).Name(3, "End");
     EXPECT_THAT(Told(table.Document()), IsEmpty());
     EXPECT_THAT(Told(FsmDocument()), IsEmpty());

@@ -2,6 +2,7 @@
 #include "run/DesignAdvice.h"
 
 #include "run/PumpTable.h"
+#include "support/AdviceTexts.h"
 
 #include <gmock/gmock.h>
 
@@ -9,31 +10,20 @@ namespace orvane::run {
 namespace {
 
 using test::SmallTable;
+using test::SoundTable;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-// "KIND state row: message"
 std::vector<std::string> Told(const FsmDocument& document) {
-    std::vector<std::string> told;
-    for (const Advice& advice : AdviceOnDesign(document))
-        told.push_back(std::string(AdviceKindName(advice.Kind)) + " " +
-                       std::to_string(advice.Place.State.Number()) + " " +
-                       std::to_string(advice.Place.Row.Number()) + ": " + advice.Message);
-    return told;
+    return test::AdviceTexts(AdviceOnDesign(document));
 }
 
-SmallTable Sound() {
-    SmallTable table;
-    table.Name(1, "Idle").Cell(1, 6, 2).Name(2, "Run").Cell(2, 7, 1);
-    for (const int row : {6, 7, 8, 9})
-        table.Document().Event(row).Code = ";test " + std::to_string(row);
-    return table;
+TEST(DesignAdvice, IsSilentWhereThereIsNothingToSay) {
+    EXPECT_THAT(Told(SoundTable().Document()), IsEmpty());
 }
-
-TEST(DesignAdvice, IsSilentWhereThereIsNothingToSay) { EXPECT_THAT(Told(Sound().Document()), IsEmpty()); }
 
 TEST(DesignAdvice, TellsStatesAndEventsOfOneName) {
-    SmallTable table = Sound();
+    SmallTable table = SoundTable();
     table.Name(5, " Run ");
     table.Document().Event(9).Name = "E6";
     EXPECT_THAT(Told(table.Document()),
@@ -42,7 +32,7 @@ TEST(DesignAdvice, TellsStatesAndEventsOfOneName) {
 }
 
 TEST(DesignAdvice, TellsTimerIdsThatDifferOnlyInBlanks) {
-    SmallTable table = Sound();
+    SmallTable table = SoundTable();
     table.Timing(1, kStartConstant, "5", "A B")
         .Cell(1, 4, 2)
         .Timing(2, kStartConstant, "5", "AB")
@@ -56,7 +46,7 @@ TEST(DesignAdvice, TellsTimerIdsThatDifferOnlyInBlanks) {
 
 // Without multitasking others run meanwhile, but where the machine is depends on the controller.
 TEST(DesignAdvice, TellsARingOfElse) {
-    SmallTable table = Sound();
+    SmallTable table = SoundTable();
     table.Name(3, "Look").Cell(1, 5, 2).Cell(2, 5, 3).Cell(3, 5, 2);
     EXPECT_THAT(
         Told(table.Document()),
@@ -68,7 +58,7 @@ TEST(DesignAdvice, TellsARingOfElse) {
 }
 
 TEST(DesignAdvice, WithMultitaskingARingOfElseNeverYieldsAndIsToldOnce) {
-    SmallTable table = Sound();
+    SmallTable table = SoundTable();
     table.Polytask().Name(3, "Look").Cell(2, 5, 3).Cell(3, 5, 2);
     const std::string told =
         "never-yields 2 5: The states 2:Run, 3:Look lead to each other and let no time pass: "

@@ -11,7 +11,6 @@
 
 #include <QCheckBox>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QShortcut>
@@ -209,16 +208,6 @@ void dckFind::ChooseUse(int row) {
         Q_EMIT PlaceChosen(use.At);
 }
 
-// F1 belongs to the main window; here it is taken before it becomes that window's shortcut.
-bool dckFind::event(QEvent* event) {
-    const bool isKey = event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyPress;
-    const auto* key = isKey ? dynamic_cast<QKeyEvent*>(event) : nullptr;
-    if (key == nullptr || key->key() != Qt::Key_F1 || key->modifiers() != Qt::NoModifier)
-        return QDockWidget::event(event);
-    event->accept();
-    if (event->type() == QEvent::KeyPress)
-        OpenHelpPage(kHelpPage);
-    return true;
-}
+bool dckFind::event(QEvent* event) { return TakesHelpKey(*event, kHelpPage) || QDockWidget::event(event); }
 
 } // namespace orvane

@@ -17,7 +17,6 @@
 #include <QCheckBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollArea>
@@ -190,17 +189,7 @@ void dckRun::AddKey(const QKeySequence& key, RunWish wish) {
     connect(shortcut, &QShortcut::activated, this, [this, wish] { Q_EMIT Wanted(wish); });
 }
 
-// F1 belongs to the main window; here it is taken before it becomes that window's shortcut.
-bool dckRun::event(QEvent* event) {
-    const bool isKey = event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyPress;
-    const auto* key = isKey ? dynamic_cast<QKeyEvent*>(event) : nullptr;
-    if (key == nullptr || key->key() != Qt::Key_F1 || key->modifiers() != Qt::NoModifier)
-        return QDockWidget::event(event);
-    event->accept();
-    if (event->type() == QEvent::KeyPress)
-        OpenHelpPage(kHelpPage);
-    return true;
-}
+bool dckRun::event(QEvent* event) { return TakesHelpKey(*event, kHelpPage) || QDockWidget::event(event); }
 
 void dckRun::ShowRun(bool anew) {
     const RowNumber chosen =
