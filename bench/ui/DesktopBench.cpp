@@ -103,10 +103,18 @@ void AddRunning(MedianTable& table, TableDriver& driver, const FsmDocument& docu
     };
     table.Add("typed transition, a run of 200,000 steps open", "pack + generate", 12, type,
               PackingAndGenerating(document));
-    table.Add(
-        "step of that run, with the table as its picture", "repaint", 4,
-        [&driver] { return TimeOfOperation([&] { driver.Trigger("mnuStep"); }); },
-        [&driver] { return TimeOf([&] { driver.RepaintTable(); }); });
+    // Of two steps the second counts: the first one after an edit plays the whole run again.
+    const Timed step = [&driver] {
+        driver.Trigger("mnuStep");
+        return TimeOfOperation([&] { driver.Trigger("mnuStep"); });
+    };
+    const Timed repaint = [&driver] { return TimeOf([&] { driver.RepaintTable(); }); };
+    table.Add("step of that run, with the table as its picture", "repaint", 4, step, repaint);
+    const Timed stepAtOnce = [&driver, type] {
+        type();
+        return TimeOfOperation([&] { driver.Trigger("mnuStep"); });
+    };
+    table.Add("step right after an edit of that run", "repaint", 60, stepAtOnce, repaint);
 }
 
 void AddFindings(MedianTable& table, TableDriver& driver, const FsmDocument& document) {

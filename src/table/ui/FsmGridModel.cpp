@@ -56,10 +56,10 @@ QVariant FsmGridModel::data(const QModelIndex& index, int role) const {
     case kRunNoteRole:
         return run_ ? FromAnsi(Mark(CellOf(index)).Note) : QVariant();
     case kFindingRole:
-        return findingOf_.empty() ? 0 : int(findingOf_[IndexOfCell(CellOf(index))]);
+        return int(findingOf_[IndexOfCell(CellOf(index))]);
     case kFindingTextRole:
     case Qt::AccessibleDescriptionRole:
-        return findingOf_.empty() ? QString() : FindingTexts(CellOf(index));
+        return FindingTexts(CellOf(index));
     default:
         return {};
     }
@@ -119,17 +119,22 @@ void FsmGridModel::RunChanged(const RunPicture& before, const RunPicture& after)
         RowHeadsChanged();
 }
 
+// An edit judges the whole design anew and changes little of what was said: only that is drawn again.
 void FsmGridModel::ShowFindings(const std::vector<DesignFinding>& findings) {
     findings_ = findings;
-    std::vector<unsigned char> before = std::exchange(findingOf_, {});
-    if (!findings_.empty())
-        findingOf_.resize(std::size_t{kTableColumns} * kTableRows);
+    const auto before = std::exchange(findingOf_, {});
     for (const DesignFinding& finding : findings_) {
         unsigned char& mark = findingOf_[IndexOfCell(finding.Place)];
         mark = std::max(mark, Badness(finding.Level));
     }
-    if (findingOf_ != before)
-        AllChanged();
+    for (int row = kHeadRow; row <= kLastRow; ++row) {
+        for (int column = 0; column <= kStateCount; ++column) {
+            const QModelIndex cell = index(row, column);
+            const std::size_t place = IndexOfCell(CellOf(cell));
+            if (findingOf_[place] != before[place])
+                Q_EMIT dataChanged(cell, cell, {kFindingRole});
+        }
+    }
 }
 
 QString FsmGridModel::FindingTexts(Cell cell) const {

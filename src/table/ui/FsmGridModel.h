@@ -4,12 +4,14 @@
 #include "core/Cell.h"
 #include "core/DesignFinding.h"
 #include "core/FsmDocument.h"
+#include "core/TableGeometry.h"
 #include "session/RunPicture.h"
 #include "table/TextFitting.h"
 
 #include <QAbstractTableModel>
 #include <QColor>
 
+#include <array>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -82,7 +84,8 @@ class FsmGridModel : public QAbstractTableModel {
     std::optional<Cell> highlighted_;
     std::optional<RunPicture> run_;
     std::vector<DesignFinding> findings_;
-    std::vector<unsigned char> findingOf_; // by cell, as kFindingRole gives it; empty while there are none
+    std::array<unsigned char, std::size_t{kTableColumns} * kTableRows>
+        findingOf_{}; // as kFindingRole gives it
 };
 
 } // namespace orvane

@@ -3,6 +3,7 @@
 
 #include <QList>
 #include <QPainter>
+#include <QPixmap>
 #include <QRect>
 
 namespace orvane {
@@ -45,6 +46,7 @@ class GridPainter {
     FsmGridView& view_;
     CellPictures& pictures_;
     QPainter painter_;
+    QPixmap actionMark_; // of the cell before
 };
 
 } // namespace orvane

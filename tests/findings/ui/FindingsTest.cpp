@@ -101,6 +101,25 @@ TEST_F(FindingsTest, EveryEditBringsListCountAndMarksUpToDate) {
     EXPECT_EQ(Counts(), "1 error");
 }
 
+TEST_F(FindingsTest, OnlyTheCellsWhoseMarkIsAnotherAreDrawnAgain) {
+    StartOn(PumpWithoutThirdTest());
+    std::vector<Cell> drawn;
+    const auto collect = [&drawn](const QModelIndex& first, const QModelIndex& last,
+                                  const QList<int>& roles) {
+        if (!roles.contains(kFindingRole))
+            return;
+        EXPECT_EQ(first, last);
+        drawn.push_back({first.row(), first.column()});
+    };
+    QObject::connect(Grid()->model(), &QAbstractItemModel::dataChanged, Grid(), collect);
+    TypeTarget(8, 1, QStringLiteral("2"));
+    EXPECT_THAT(drawn, ElementsAre(Cell{8, 1}));
+    TypeTarget(8, 1, QStringLiteral("1")); // the same finding
+    Trigger("mnuUndo");
+    Trigger("mnuUndo");
+    EXPECT_THAT(drawn, ElementsAre(Cell{8, 1}, Cell{8, 1}));
+}
+
 TEST_F(FindingsTest, HiddenItIsUpToDateWhenItIsShownAgain) {
     StartOn(PumpWithoutThirdTest());
     Trigger("mnuViewFindings");
