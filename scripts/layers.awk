@@ -13,7 +13,7 @@ BEGIN {
     uses["findings"] = "core text codegen run"
     uses["session"] = "core table files text"
     uses["recovery"] = uses["outside"] = "core text"
-    uses["kit"] = "core text files"
+    uses["kit"] = "core text files diagram"
     room = "session core text files kit"
     engines = "core text files table codegen editors builder welcome find run findings diagram review export outside"
     uses["cli"] = engines

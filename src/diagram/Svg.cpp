@@ -3,6 +3,7 @@
 
 #include "diagram/Extents.h"
 #include "diagram/LetterWidths.h"
+#include "diagram/Shapes.h"
 #include "text/NumberText.h"
 #include "text/XmlText.h"
 
@@ -36,16 +37,8 @@ std::string PathData(const Path& line) {
     return data;
 }
 
-// A triangle whose point is where the line ends.
-std::string ArrowHead(const Path& line) {
-    constexpr int length = 8;
-    constexpr int half = 3;
-    const Point end = line.Pieces.back().End;
-    const Point from = line.Pieces.size() > 1 ? line.Pieces[line.Pieces.size() - 2].End : line.Begin;
-    const int x = from.X == end.X ? 0 : from.X < end.X ? -length : length;
-    const int y = from.Y == end.Y ? 0 : from.Y < end.Y ? -length : length;
-    const Point one = x != 0 ? Point{end.X + x, end.Y - half} : Point{end.X - half, end.Y + y};
-    const Point other = x != 0 ? Point{end.X + x, end.Y + half} : Point{end.X + half, end.Y + y};
+std::string ArrowHeadPath(const Path& line) {
+    const auto [end, one, other] = ArrowHead(line);
     return "<path class=\"head\" d=\"M" + At(end) + "L" + At(one) + "L" + At(other) + "Z\"/>\n";
 }
 
@@ -89,7 +82,7 @@ class SvgWriter {
     }
 
     void WriteLine(const Path& line) {
-        svg_ += "<path class=\"line\" d=\"" + PathData(line) + "\"/>\n" + ArrowHead(line);
+        svg_ += "<path class=\"line\" d=\"" + PathData(line) + "\"/>\n" + ArrowHeadPath(line);
     }
 
     void WriteStart(const PlacedStart& start) {
@@ -105,8 +98,7 @@ class SvgWriter {
         WriteTitle(state.Name);
         svg_ += "<rect class=\"box\" x=\"" + Number(box.X) + "\" y=\"" + Number(box.Y) + "\" width=\"" +
                 Number(box.Width) + "\" height=\"" + Number(box.Height) + "\" rx=\"5\"/>\n";
-        const Extent text = BoxExtent(state, sizes_);
-        Point at{box.X + kBoxMargin, box.Y + (box.Height - text.Height) / 2 + kBoxMargin};
+        Point at = TextCorner(state, box, sizes_);
         if (state.HasError) {
             WriteErrorSign(at);
             at.X += kSign;
