@@ -24,6 +24,12 @@ void PrepareRunList(QTableView& list, const char* name) {
     list.setMinimumHeight(list.fontMetrics().height() * 4);
 }
 
+void SetColumnWidths(QTableView& list, std::initializer_list<int> letters) {
+    int column = 0;
+    for (const int width : letters)
+        list.setColumnWidth(column++, list.fontMetrics().averageCharWidth() * width);
+}
+
 void InputsView::mousePressEvent(QMouseEvent* event) {
     const QModelIndex index = indexAt(event->position().toPoint());
     setFocus(Qt::MouseFocusReason);

@@ -89,9 +89,9 @@ void dckRun::MakeLists(QVBoxLayout& layout) {
     PrepareRunList(*lstInputs, "lstInputs");
     PrepareRunList(*lstTimers, "lstTimers");
     PrepareRunList(*lstLog, "lstLog");
-    for (QTableView* list : std::initializer_list<QTableView*>{lstInputs, lstTimers, lstLog})
-        list->horizontalHeader()->setDefaultSectionSize(list->fontMetrics().averageCharWidth() * 10);
-    lstInputs->setColumnWidth(0, lstInputs->fontMetrics().averageCharWidth() * 24);
+    SetColumnWidths(*lstInputs, {24, 10});
+    SetColumnWidths(*lstTimers, {16, 17, 7, 7}); // "never started" is read whole
+    SetColumnWidths(*lstLog, {10});
     lstInputs->setAccessibleName(tr("Inputs"));
     lstTimers->setAccessibleName(tr("Timers"));
     lstLog->setAccessibleName(tr("What happened"));

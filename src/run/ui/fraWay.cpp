@@ -34,6 +34,8 @@ fraWay::fraWay(const FsmDocument& document, QWidget* parent)
     row->addWidget(cmdGoToState);
     connect(cmdGoToState, &QPushButton::clicked, this, &fraWay::Go);
     connect(cboState->lineEdit(), &QLineEdit::returnPressed, this, &fraWay::Go);
+    // Of a name longer than the field its number and beginning are seen.
+    connect(cboState, &QComboBox::currentIndexChanged, this, [this] { cboState->lineEdit()->home(false); });
     ShowSearch(false);
 }
 

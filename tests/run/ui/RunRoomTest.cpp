@@ -321,6 +321,29 @@ TEST_F(RunRoomTest, TheShortestWayToAStateIsPlayedAsStepsOfTheRun) {
         << Notice();
 }
 
+TEST_F(RunRoomTest, WhatATimerSaysIsReadWhole) {
+    FsmDocument document = PumpDocument();
+    document.State(2).TimingMode = 1;
+    document.State(2).TimeConst = "100";
+    document.State(2).Targets[kTimeoutRow] = 1;
+    StartRunning(document);
+    Trigger("mnuPowerOn");
+    const QTableView& list = List("lstTimers");
+    const QModelIndex runsFor = list.model()->index(0, 1);
+    EXPECT_EQ(runsFor.data().toString(), QStringLiteral("never started"));
+    EXPECT_GE(list.columnWidth(1), list.sizeHintForIndex(runsFor).width());
+}
+
+TEST_F(RunRoomTest, OfALongNameTheNumberAndTheBeginningAreSeen) {
+    FsmDocument document = PumpDocument();
+    document.State(2).Name = std::string(60, 'R');
+    StartRunning(document);
+    QComboBox& state = Named<QComboBox>(Window(), "cboState");
+    state.setCurrentIndex(1);
+    EXPECT_TRUE(state.currentText().startsWith(QStringLiteral("2:RRR")));
+    EXPECT_EQ(state.lineEdit()->cursorPosition(), 0);
+}
+
 TEST_F(RunRoomTest, WhatIsDoneMeanwhileEndsTheSearchForAWay) {
     StartRunning(TimedPump());
     PressButton("cmdPowerOn");
