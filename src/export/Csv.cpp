@@ -5,6 +5,7 @@
 #include "export/CsvWords.h"
 #include "export/Exports.h"
 #include "export/Names.h"
+#include "export/Titles.h"
 #include "text/NumberText.h"
 
 namespace orvane::exports {
@@ -92,22 +93,25 @@ std::string CsvGridOf(const FsmDocument& document, Formulas formulas) {
 // States and events without a transition have lines of their own, so that none is lost.
 std::string CsvLongOf(const FsmDocument& document) {
     std::string text = std::string(kUtf8Mark) + std::string(csv::kLongHead) + "\r\n";
-    const auto name = [&](StateNumber state) {
-        return CsvCell(NumberText(state.Number()) + ":" + document.State(state).Name);
-    };
+    const Titles cells(
+        [&](StateNumber state) {
+            return CsvCell(NumberText(state.Number()) + ":" + document.State(state).Name);
+        },
+        [&](RowNumber row) { return CsvCell(LongRow(document, row)); });
     for (const RowNumber row : UsedRows(document)) {
         if (row >= kFirstEventRow)
-            text += "," + CsvCell(LongRow(document, row)) + ",,\r\n";
+            text += "," + cells.Of(row) + ",,\r\n";
     }
     for (const StateNumber state : UsedStates(document)) {
         const StateRecord& record = document.State(state);
-        text += name(state) + ",,,\r\n";
+        text += cells.Of(state) + ",,,\r\n";
         for (const RowNumber row : CellRows()) {
             const StateNumber target = record.Targets[row];
             if (target == kNoState && record.Actions[row].empty())
                 continue;
-            text += name(state) + "," + CsvCell(LongRow(document, row)) + "," +
-                    (target == kNoState ? "" : name(target)) + "," + CsvCell(record.Actions[row]) + "\r\n";
+            ((text += cells.Of(state)) += ',') += cells.Of(row);
+            (text += ',') += target == kNoState ? std::string() : cells.Of(target);
+            ((text += ',') += CsvCell(record.Actions[row])) += "\r\n";
         }
     }
     return text;

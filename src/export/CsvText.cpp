@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "export/CsvText.h"
 
-#include "export/Names.h"
+#include "text/EscapedUtf8.h"
 
 #include <algorithm>
 #include <utility>
@@ -19,6 +19,11 @@ char Separator(std::string_view text) {
     }
     return best;
 }
+
+constexpr ByteSet kEscaped = EscapedBytes([](unsigned char byte) { return byte == '"' || byte == '\r'; });
+constexpr ByteSet kParting = BytesThat([](unsigned char byte) {
+    return byte == '"' || byte == ',' || byte == ';' || byte == '\t' || byte == '\n' || byte == '\r';
+});
 
 class CsvScanner {
   public:
@@ -90,14 +95,17 @@ class CsvScanner {
 } // namespace
 
 std::string CsvCell(std::string_view ansi) {
-    const std::string text = Utf8Lines(ansi);
     const bool isPlain =
-        text.find_first_of("\",;\t\n") == std::string::npos && !text.starts_with(' ') && !text.ends_with(' ');
+        RunBefore(kParting, ansi) == ansi.size() && !ansi.starts_with(' ') && !ansi.ends_with(' ');
     if (isPlain)
-        return text;
+        return ToUtf8(ansi);
     std::string quoted = "\"";
-    for (const char character : text)
-        quoted.append(character == '"' ? 2 : 1, character);
+    AppendEscaped(quoted, ansi, kEscaped, [](std::string& out, std::string_view rest) {
+        if (rest.front() == '"')
+            out += "\"\"";
+        else if (!rest.starts_with("\r\n"))
+            out += '\n';
+    });
     return quoted + "\"";
 }
 

@@ -2,6 +2,7 @@
 #include "core/Cell.h"
 #include "export/Exports.h"
 #include "export/Names.h"
+#include "export/Titles.h"
 #include "text/NumberText.h"
 #include "text/XmlText.h"
 
@@ -24,8 +25,10 @@ std::string CellId(StateNumber state, RowNumber row) {
     return "cell-" + NumberText(state.Number()) + "-" + NumberText(row.Number());
 }
 
-std::string Link(const std::string& id, std::string_view text) {
-    return "<a href=\"#" + id + "\">" + XmlText(text) + "</a>";
+// The text is markup.
+std::string Link(const std::string& id, const std::string& text) {
+    std::string link = "<a href=\"#";
+    return (((link += id) += "\">") += text) += "</a>";
 }
 
 std::string Code(const std::string& title, std::string_view ansi) {
@@ -37,7 +40,11 @@ std::string Code(const std::string& title, std::string_view ansi) {
 class HtmlWriter {
   public:
     explicit HtmlWriter(const FsmDocument& document)
-        : document_(document), states_(UsedStates(document)), rows_(UsedRows(document)) {}
+        : document_(document),
+          states_(UsedStates(document)),
+          rows_(UsedRows(document)),
+          titles_([&](StateNumber state) { return XmlText(StateText(document, state)); },
+                  [&](RowNumber row) { return XmlText(RowText(document, row)); }) {}
 
     std::string Write() {
         const std::string name = document_.General.FsmName.empty() ? "Machine" : document_.General.FsmName;
@@ -62,10 +69,10 @@ class HtmlWriter {
     void WriteTable() {
         html_ += "<table>\n<thead><tr><th></th>";
         for (const StateNumber state : states_)
-            html_ += "<th>" + Link(StateId(state), StateText(document_, state)) + "</th>";
+            html_ += "<th>" + Link(StateId(state), titles_.Of(state)) + "</th>";
         html_ += "</tr></thead>\n<tbody>\n";
         for (const RowNumber row : rows_) {
-            html_ += "<tr><th>" + Link(RowId(row), RowText(document_, row)) + "</th>";
+            html_ += "<tr><th>" + Link(RowId(row), titles_.Of(row)) + "</th>";
             for (const StateNumber state : states_)
                 WriteCell(state, row);
             html_ += "</tr>\n";
@@ -77,7 +84,7 @@ class HtmlWriter {
     void WriteCell(StateNumber state, RowNumber row) {
         const StateRecord& record = document_.State(state);
         const StateNumber target = record.Targets[row];
-        const std::string text = target == kNoState ? "" : StateText(document_, target);
+        const std::string text = target == kNoState ? "" : titles_.Of(target);
         html_ += "<td>";
         if (!record.Actions[row].empty())
             html_ += Link(CellId(state, row), text + "*");
@@ -88,7 +95,7 @@ class HtmlWriter {
 
     void WriteState(StateNumber state) {
         const StateRecord& record = document_.State(state);
-        html_ += "<h3 id=\"" + StateId(state) + "\">" + XmlText(StateText(document_, state)) + "</h3>\n";
+        html_ += "<h3 id=\"" + StateId(state) + "\">" + titles_.Of(state) + "</h3>\n";
         if (!record.Tooltip.empty())
             html_ += "<p>" + XmlText(record.Tooltip) + "</p>\n";
         html_ += Code("Entry action", record.EntryCode);
@@ -102,16 +109,15 @@ class HtmlWriter {
         if (target == kNoState && record.Actions[cell.Row].empty())
             return;
         html_ += "<p id=\"" + CellId(cell.State, cell.Row) + "\">" +
-                 XmlText(cell.Row == kTimeoutRow ? TimeoutText(record) : RowText(document_, cell.Row));
-        html_ += target == kNoState
-                     ? "</p>\n"
-                     : ": to " + Link(StateId(target), StateText(document_, target)) + "</p>\n";
+                 (cell.Row == kTimeoutRow ? XmlText(TimeoutText(record)) : titles_.Of(cell.Row));
+        html_ +=
+            target == kNoState ? "</p>\n" : ": to " + Link(StateId(target), titles_.Of(target)) + "</p>\n";
         if (!record.Actions[cell.Row].empty())
             html_ += "<pre>" + XmlText(record.Actions[cell.Row]) + "</pre>\n";
     }
 
     void WriteEvent(RowNumber row) {
-        html_ += "<h3 id=\"" + RowId(row) + "\">" + XmlText(RowText(document_, row)) + "</h3>\n";
+        html_ += "<h3 id=\"" + RowId(row) + "\">" + titles_.Of(row) + "</h3>\n";
         if (!document_.Event(row).Tooltip.empty())
             html_ += "<p>" + XmlText(document_.Event(row).Tooltip) + "</p>\n";
         html_ += Code("Test", document_.Event(row).Code);
@@ -120,6 +126,7 @@ class HtmlWriter {
     const FsmDocument& document_;
     const std::vector<StateNumber> states_;
     const std::vector<RowNumber> rows_;
+    const Titles titles_; // as markup
     std::string html_;
 };
 

@@ -3,8 +3,7 @@
 #include "export/Exports.h"
 #include "export/FieldKey.h"
 #include "export/Names.h"
-#include "text/AnsiText.h"
-#include "text/ByteOf.h"
+#include "text/EscapedUtf8.h"
 #include "text/NumberText.h"
 
 #include <type_traits>
@@ -13,24 +12,28 @@ namespace orvane::exports {
 
 namespace {
 
-std::string Quoted(std::string_view ansi) {
+constexpr ByteSet kEscaped = EscapedBytes(
+    [](unsigned char byte) { return byte < 0x20 || byte == 0x7F || byte == '"' || byte == '\\'; });
+
+void AppendEscape(std::string& json, char character) {
     constexpr std::string_view digits = "0123456789abcdef";
+    const auto code = ByteOf(character);
+    if (character == '\n')
+        json += "\\n";
+    else if (character == '\r')
+        json += "\\r";
+    else if (character == '\t')
+        json += "\\t";
+    else if (character == '"' || character == '\\')
+        (json += '\\') += character;
+    else
+        ((json += "\\u00") += digits[code >> 4]) += digits[code & 0xF];
+}
+
+std::string Quoted(std::string_view ansi) {
     std::string json = "\"";
-    for (const char character : ToUtf8(ansi)) {
-        const auto code = ByteOf(character);
-        if (character == '\n')
-            json += "\\n";
-        else if (character == '\r')
-            json += "\\r";
-        else if (character == '\t')
-            json += "\\t";
-        else if (code < 0x20 || code == 0x7F)
-            ((json += "\\u00") += digits[code >> 4]) += digits[code & 0xF];
-        else if (character == '"' || character == '\\')
-            (json += '\\') += character;
-        else
-            json += character;
-    }
+    AppendEscaped(json, ansi, kEscaped,
+                  [](std::string& out, std::string_view rest) { AppendEscape(out, rest.front()); });
     return json + "\"";
 }
 

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "export/Exports.h"
 #include "export/Names.h"
-#include "text/AnsiText.h"
+#include "export/Titles.h"
+#include "text/EscapedUtf8.h"
 
 namespace orvane::exports {
 
@@ -9,21 +10,26 @@ namespace {
 
 constexpr std::size_t kMostColumns = 12;
 
+constexpr ByteSet kMarks = EscapedBytes([](unsigned char byte) {
+    return std::string_view("<>&\\`*_{}[]()#+-.!|~").find(static_cast<char>(byte)) != std::string_view::npos;
+});
+
+void AppendMark(std::string& plain, char mark) {
+    if (mark == '<')
+        plain += "&lt;";
+    else if (mark == '>')
+        plain += "&gt;";
+    else if (mark == '&')
+        plain += "&amp;";
+    else
+        (plain += '\\') += mark;
+}
+
 // On one line; every sign that could mean something is taken for itself.
 std::string Plain(std::string_view ansi) {
     std::string plain;
-    for (const char character : ToUtf8(OneLine(ansi))) {
-        if (character == '<')
-            plain += "&lt;";
-        else if (character == '>')
-            plain += "&gt;";
-        else if (character == '&')
-            plain += "&amp;";
-        else if (std::string_view("\\`*_{}[]()#+-.!|~").find(character) != std::string_view::npos)
-            (plain += '\\') += character;
-        else
-            plain += character;
-    }
+    AppendEscaped(plain, OneLine(ansi), kMarks,
+                  [](std::string& out, std::string_view rest) { AppendMark(out, rest.front()); });
     return plain;
 }
 
@@ -41,7 +47,11 @@ std::string Code(const std::string& title, std::string_view ansi) {
 class MarkdownWriter {
   public:
     explicit MarkdownWriter(const FsmDocument& document)
-        : document_(document), states_(UsedStates(document)), rows_(UsedRows(document)) {}
+        : document_(document),
+          states_(UsedStates(document)),
+          rows_(UsedRows(document)),
+          titles_([&](StateNumber state) { return Plain(StateText(document, state)); },
+                  [&](RowNumber row) { return Plain(RowText(document, row)); }) {}
 
     std::string Write() {
         const std::string name = Plain(document_.General.FsmName);
@@ -55,8 +65,8 @@ class MarkdownWriter {
         text_ += "## Events\n\n";
         for (const RowNumber row : rows_) {
             if (row >= kFirstEventRow)
-                text_ += "### " + Plain(RowText(document_, row)) + "\n\n" +
-                         Comment(document_.Event(row).Tooltip) + Code("Test", document_.Event(row).Code);
+                text_ += "### " + titles_.Of(row) + "\n\n" + Comment(document_.Event(row).Tooltip) +
+                         Code("Test", document_.Event(row).Code);
         }
         text_.resize(text_.size() - 1); // one line end is enough
         return std::move(text_);
@@ -71,12 +81,12 @@ class MarkdownWriter {
         std::string head = "|";
         std::string line = "|---|";
         for (const StateNumber state : states_) {
-            head += " | " + Plain(StateText(document_, state));
+            head += " | " + titles_.Of(state);
             line += "---|";
         }
         text_ += head + " |\n" + line + "\n";
         for (const RowNumber row : rows_) {
-            text_ += "| " + Plain(RowText(document_, row));
+            text_ += "| " + titles_.Of(row);
             for (const StateNumber state : states_)
                 text_ += " | " + CellText(state, row);
             text_ += " |\n";
@@ -87,32 +97,33 @@ class MarkdownWriter {
     std::string CellText(StateNumber state, RowNumber row) const {
         const StateRecord& record = document_.State(state);
         const StateNumber target = record.Targets[row];
-        const std::string text = target == kNoState ? "" : Plain(StateText(document_, target));
+        const std::string text = target == kNoState ? "" : titles_.Of(target);
         return record.Actions[row].empty() ? text : text + "\\*";
     }
 
     void WriteState(StateNumber state) {
         const StateRecord& record = document_.State(state);
-        text_ += "### " + Plain(StateText(document_, state)) + "\n\n" + Comment(record.Tooltip) +
+        text_ += "### " + titles_.Of(state) + "\n\n" + Comment(record.Tooltip) +
                  Code("Entry action", record.EntryCode);
         bool hasWays = false;
         for (const RowNumber row : rows_) {
             const StateNumber target = record.Targets[row];
             if (target == kNoState)
                 continue;
-            const std::string name = row == kTimeoutRow ? TimeoutText(record) : RowText(document_, row);
-            text_ += "- " + Plain(name) + ": to " + Plain(StateText(document_, target)) + "\n";
+            const std::string name = row == kTimeoutRow ? Plain(TimeoutText(record)) : titles_.Of(row);
+            text_ += "- " + name + ": to " + titles_.Of(target) + "\n";
             hasWays = true;
         }
         text_ += hasWays ? "\n" : "";
         for (const RowNumber row : rows_)
-            text_ += Code("Action on " + Plain(RowText(document_, row)), record.Actions[row]);
+            text_ += Code("Action on " + titles_.Of(row), record.Actions[row]);
         text_ += Code("Exit action", record.ExitCode);
     }
 
     const FsmDocument& document_;
     const std::vector<StateNumber> states_;
     const std::vector<RowNumber> rows_;
+    const Titles titles_;
     std::string text_;
 };
 

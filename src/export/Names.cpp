@@ -3,15 +3,21 @@
 
 #include "codegen/DesignChecks.h"
 #include "core/TimingMode.h"
-#include "text/AnsiText.h"
 #include "text/Ascii.h"
-#include "text/ByteOf.h"
+#include "text/EscapedUtf8.h"
 #include "text/NumberText.h"
 
 #include <algorithm>
 #include <array>
 
 namespace orvane::exports {
+
+namespace {
+
+constexpr ByteSet kControls = BytesThat([](unsigned char byte) { return byte < 0x20 || byte == 0x7F; });
+constexpr ByteSet kReturns = EscapedBytes([](unsigned char byte) { return byte == '\r'; });
+
+} // namespace
 
 std::vector<StateNumber> UsedStates(const FsmDocument& document) {
     std::array<bool, kStateCount + 1> isUsed{};
@@ -65,26 +71,19 @@ std::string TimeoutText(const StateRecord& state) {
 
 std::string OneLine(std::string_view text) {
     std::string line;
-    for (const char character : text) {
-        const bool isControl = ByteOf(character) < 0x20 || ByteOf(character) == 0x7F;
-        if (!isControl)
-            line += character;
-        else if (!line.empty() && line.back() != ' ')
-            line += ' ';
-    }
+    AppendReplaced(line, text, kControls, [](std::string& out, std::string_view) {
+        if (!out.empty() && out.back() != ' ')
+            out += ' ';
+    });
     return std::string(Trim(line));
 }
 
 std::string Utf8Lines(std::string_view ansi) {
-    std::string text = ToUtf8(ansi);
     std::string lines;
-    lines.reserve(text.size());
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        if (text[i] != '\r')
-            lines += text[i];
-        else if (i + 1 == text.size() || text[i + 1] != '\n')
-            lines += '\n';
-    }
+    AppendEscaped(lines, ansi, kReturns, [](std::string& out, std::string_view rest) {
+        if (!rest.starts_with("\r\n"))
+            out += '\n';
+    });
     return lines;
 }
 

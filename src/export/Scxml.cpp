@@ -4,7 +4,8 @@
 #include "export/Exports.h"
 #include "export/Names.h"
 #include "export/ScxmlWords.h"
-#include "text/ByteOf.h"
+#include "export/Titles.h"
+#include "text/EscapedUtf8.h"
 #include "text/NumberText.h"
 #include "text/XmlText.h"
 
@@ -22,25 +23,36 @@ std::string CommentText(std::string_view ansi) {
     return text.ends_with('-') ? text + " " : text;
 }
 
-// A text as an expression.
+constexpr bool IsMarkup(unsigned char byte) {
+    return byte == '&' || byte == '<' || byte == '>' || byte == '"';
+}
+
+constexpr ByteSet kEscaped = EscapedBytes(
+    [](unsigned char byte) { return byte < 0x20 || byte == '\'' || byte == '\\' || IsMarkup(byte); });
+
+void AppendEscape(std::string& literal, std::string_view rest) {
+    const char character = rest.front();
+    if (IsMarkup(ByteOf(character)))
+        literal += XmlText(rest.substr(0, 1));
+    else if (character == '\n')
+        literal += "\\n";
+    else if (character == '\r')
+        literal += "\\r";
+    else if (character == '\t')
+        literal += "\\t";
+    else if (character == '\'')
+        literal += "\\&#39;";
+    else if (character == '\\')
+        literal += "\\\\";
+    else // which no XML may hold
+        literal += std::string("\\x") + (ByteOf(character) < 0x10 ? "0" : "") + HexText(ByteOf(character));
+}
+
+// A text as an expression in an attribute.
 std::string Literal(std::string_view ansi) {
-    std::string literal = "'";
-    for (const char character : ansi) {
-        if (character == '\n')
-            literal += "\\n";
-        else if (character == '\r')
-            literal += "\\r";
-        else if (character == '\t')
-            literal += "\\t";
-        else if (character == '\'' || character == '\\')
-            (literal += '\\') += character;
-        else if (ByteOf(character) < 0x20) // which no XML may hold
-            literal +=
-                std::string("\\x") + (ByteOf(character) < 0x10 ? "0" : "") + HexText(ByteOf(character));
-        else
-            literal += character;
-    }
-    return XmlText(literal + "'");
+    std::string literal = "&#39;";
+    AppendEscaped(literal, ansi, kEscaped, AppendEscape);
+    return literal + "&#39;";
 }
 
 std::string Log(const std::string& indent, std::string_view label, std::string_view code) {
@@ -49,7 +61,11 @@ std::string Log(const std::string& indent, std::string_view label, std::string_v
 
 class ScxmlWriter {
   public:
-    explicit ScxmlWriter(const FsmDocument& document) : document_(document), states_(UsedStates(document)) {}
+    explicit ScxmlWriter(const FsmDocument& document)
+        : document_(document),
+          states_(UsedStates(document)),
+          ids_([&](StateNumber state) { return Identifier('s', state.Number(), document.State(state).Name); },
+               [&](RowNumber row) { return Identifier('e', row.Number(), document.Event(row).Name); }) {}
 
     std::string Write() {
         text_ = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
@@ -65,9 +81,7 @@ class ScxmlWriter {
     }
 
   private:
-    std::string StateId(StateNumber state) const {
-        return Identifier('s', state.Number(), document_.State(state).Name);
-    }
+    const std::string& StateId(StateNumber state) const { return ids_.Of(state); }
     static std::string TimeoutEvent(StateNumber state) {
         return std::string(scxml::kTimeoutEvent) + "s" + NumberText(state.Number());
     }
@@ -125,7 +139,8 @@ class ScxmlWriter {
             return;
         if (cell.Row == kTimeoutRow && !HasDelay(record))
             WriteLoss(record);
-        text_ += "    <transition" + EventOf(cell) + " target=\"" + StateId(target) + "\"";
+        ((text_ += "    <transition") += EventOf(cell)) += " target=\"";
+        (text_ += StateId(target)) += '"';
         const std::string& action = record.Actions[cell.Row];
         text_ +=
             action.empty() ? "/>\n" : ">\n" + Log("      ", scxml::kAction, action) + "    </transition>\n";
@@ -134,9 +149,7 @@ class ScxmlWriter {
     std::string EventOf(Cell cell) const {
         if (cell.Row == kElseRow)
             return "";
-        const std::string event = cell.Row == kTimeoutRow
-                                      ? TimeoutEvent(cell.State)
-                                      : Identifier('e', cell.Row.Number(), document_.Event(cell.Row).Name);
+        const std::string event = cell.Row == kTimeoutRow ? TimeoutEvent(cell.State) : ids_.Of(cell.Row);
         return " event=\"" + event + "\"";
     }
 
@@ -157,6 +170,7 @@ class ScxmlWriter {
 
     const FsmDocument& document_;
     const std::vector<StateNumber> states_;
+    const Titles ids_;
     std::string text_;
 };
 

@@ -6,6 +6,8 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
+#include <cstring>
 
 namespace orvane {
 
@@ -19,6 +21,20 @@ constexpr std::array<char16_t, 32> kSpecials = {
     0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+
+// How many ASCII bytes stand at the front, looked for by words: most texts hold nothing else.
+std::size_t AsciiRun(std::string_view text) {
+    constexpr std::uint64_t highBits = 0x8080808080808080;
+    std::size_t length = 0;
+    for (std::uint64_t word = 0; length + sizeof(word) <= text.size(); length += sizeof(word)) {
+        std::memcpy(&word, text.data() + length, sizeof(word));
+        if ((word & highBits) != 0)
+            break;
+    }
+    while (length < text.size() && ByteOf(text[length]) < 0x80)
+        ++length;
+    return length;
+}
 
 } // namespace
 
@@ -38,9 +54,14 @@ std::optional<char> ToAnsi(char32_t character) {
 std::string ToUtf8(std::string_view ansi) {
     std::string utf8;
     utf8.reserve(ansi.size());
-    for (const char byte : ansi)
-        AppendUtf8(utf8, ToUnicode(byte));
-    return utf8;
+    while (true) {
+        const std::size_t run = AsciiRun(ansi);
+        utf8.append(ansi.substr(0, run));
+        if (run == ansi.size())
+            return utf8;
+        AppendUtf8(utf8, ToUnicode(ansi[run]));
+        ansi.remove_prefix(run + 1);
+    }
 }
 
 std::string FromUtf8(std::string_view utf8, char substitute) {

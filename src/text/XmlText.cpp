@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "text/XmlText.h"
 
-#include "text/AnsiText.h"
-#include "text/ByteOf.h"
+#include "text/EscapedUtf8.h"
 
 namespace orvane {
 
@@ -10,49 +9,49 @@ namespace {
 
 constexpr std::string_view kReplacement = "\xEF\xBF\xBD";
 
-void Append(std::string& xml, char character) {
+constexpr bool IsSpecial(unsigned char byte) {
+    const bool isMarkup = std::string_view("&<>\"'").find(static_cast<char>(byte)) != std::string_view::npos;
+    return isMarkup || (byte < 0x20 && byte != '\n' && byte != '\t');
+}
+
+std::string_view EntityOf(char character) {
     switch (character) {
     case '&':
-        xml += "&amp;";
-        break;
+        return "&amp;";
     case '<':
-        xml += "&lt;";
-        break;
+        return "&lt;";
     case '>':
-        xml += "&gt;";
-        break;
+        return "&gt;";
     case '"':
-        xml += "&quot;";
-        break;
+        return "&quot;";
     case '\'':
-        xml += "&#39;";
-        break;
-    case '\n':
-    case '\t':
-        xml += character;
-        break;
+        return "&#39;";
+    case '\r':
+        return "\n";
     default:
-        if (ByteOf(character) < 0x20)
-            xml += kReplacement;
-        else
-            xml += character;
+        return kReplacement;
     }
+}
+
+void AppendEntity(std::string& xml, std::string_view rest) {
+    if (!rest.starts_with("\r\n"))
+        xml += EntityOf(rest.front());
 }
 
 } // namespace
 
 std::string XmlTextOfUtf8(std::string_view utf8) {
+    static constexpr ByteSet special = BytesThat(IsSpecial);
     std::string xml;
-    xml.reserve(utf8.size());
-    for (std::size_t i = 0; i < utf8.size(); ++i) {
-        const bool isLineEnd = utf8[i] == '\r';
-        if (isLineEnd && i + 1 < utf8.size() && utf8[i + 1] == '\n')
-            continue;
-        Append(xml, isLineEnd ? '\n' : utf8[i]);
-    }
+    AppendReplaced(xml, utf8, special, AppendEntity);
     return xml;
 }
 
-std::string XmlText(std::string_view ansi) { return XmlTextOfUtf8(ToUtf8(ansi)); }
+std::string XmlText(std::string_view ansi) {
+    static constexpr ByteSet special = EscapedBytes(IsSpecial);
+    std::string xml;
+    AppendEscaped(xml, ansi, special, AppendEntity);
+    return xml;
+}
 
 } // namespace orvane
