@@ -9,13 +9,15 @@ BEGIN {
     uses["table"] = uses["codegen"] = uses["editors"] = uses["builder"] = uses["welcome"] = "core text"
     uses["review"] = "core text"
     uses["find"] = "core text table codegen"
-    uses["run"] = uses["diagram"] = uses["export"] = "core text codegen"
+    uses["run"] = uses["diagram"] = "core text codegen"
+    uses["export"] = "core text codegen diagram"
+    uses["print"] = "core text codegen export"
     uses["findings"] = "core text codegen run"
     uses["session"] = "core table files text"
     uses["recovery"] = uses["outside"] = "core text"
     uses["kit"] = "core text files diagram"
     room = "session core text files kit"
-    engines = "core text files table codegen editors builder welcome find run findings diagram review export outside"
+    engines = "core text files table codegen editors builder welcome find run findings diagram review export print outside"
     uses["cli"] = engines
     uses["app"] = engines " session kit"
 }

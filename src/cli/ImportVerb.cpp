@@ -4,7 +4,7 @@
 #include "cli/DocumentPath.h"
 #include "cli/MessageText.h"
 #include "core/DocumentWriter.h"
-#include "export/Imports.h"
+#include "export/Forms.h"
 #include "text/Ascii.h"
 
 namespace orvane::cli {
@@ -18,27 +18,21 @@ std::string FormatOf(const Arguments& arguments) {
     return extension.empty() ? "" : extension.substr(1);
 }
 
-exports::ImportResult Read(const std::string& format, const std::string& bytes) {
-    if (format == "json")
-        return exports::ReadJson(bytes);
-    return format == "csv" ? exports::ReadCsv(bytes) : exports::ReadScxml(bytes);
-}
-
 } // namespace
 
 Outcome RunImport(const Arguments& arguments, const TestFiles& files) {
     const std::string& name = arguments.Documents.front();
-    const std::string format = FormatOf(arguments);
+    const std::optional<exports::ImportForm> form = exports::ImportFormOf(FormatOf(arguments));
     if (!arguments.Output)
         return WrongUsage("import needs -o and the document to write");
-    if (format != "json" && format != "csv" && format != "scxml")
+    if (!form)
         return WrongUsage("The form of " + ShownName(name) +
                           " is not known; say --format=json, csv or scxml");
     Outcome outcome;
     const std::optional<std::string> bytes = files.BytesOf(name, outcome);
     if (!bytes)
         return outcome;
-    const exports::ImportResult read = Read(format, *bytes);
+    const exports::ImportResult read = exports::Read(*form, *bytes);
     for (const ReaderMessage& message : read.Messages)
         outcome.Errors += MessageLine(name, message);
     if (!read.Document)
