@@ -24,7 +24,18 @@ _orvanec() {
     [ "$before" = = ] && before=${COMP_WORDS[COMP_CWORD - 2]}
 
     case $verb:$before in
-        check:--format | find:--format) COMPREPLY=($(compgen -W 'text json' -- "$typed")) && return ;;
+        generate:--format | check:--format)
+            COMPREPLY=($(compgen -W 'text gcc json sarif' -- "$typed"))
+            return
+            ;;
+        find:--format) COMPREPLY=($(compgen -W 'text json' -- "$typed")) && return ;;
+        generate:--output-dir)
+            local IFS=$'\n'
+            compopt -o filenames 2>/dev/null
+            COMPREPLY=($(compgen -d -- "$typed"))
+            return
+            ;;
+        generate:-j | generate:--jobs | check:-j | check:--jobs | format:-j | format:--jobs) return ;;
         diff:--format) COMPREPLY=($(compgen -W 'text json html' -- "$typed")) && return ;;
         diff:--same | diff:--different | merge:--path) return ;;
         diagram:--format) COMPREPLY=($(compgen -W 'svg dot' -- "$typed")) && return ;;
@@ -40,7 +51,7 @@ _orvanec() {
             return
             ;;
         test:--filter | test:-j | test:--jobs | explore:--from | explore:--to | tour:--limit | diagram:--focus) return ;;
-        generate:-o | generate:--output | format:-o | format:--output | test:--junit | test:--markdown | \
+        generate:-o | generate:--output | generate:--depfile | format:-o | format:--output | test:--junit | test:--markdown | \
             simulate:--csv | simulate:--vcd | tour:-o | tour:--output | diagram:-o | diagram:--output | export:-o | export:--output | import:-o | import:--output | merge:-o | merge:--output)
             local IFS=$'\n'
             compopt -o filenames 2>/dev/null
@@ -51,8 +62,13 @@ _orvanec() {
     case $verb:$typed in
         :-*) COMPREPLY=($(compgen -W '--help --version' -- "$typed")) ;;
         :*) COMPREPLY=($(compgen -W 'generate check format find test simulate explore tour diagram export import diff show merge conflicts git' -- "$typed")) ;;
-        check:-*) COMPREPLY=($(compgen -W '--advice --format --help' -- "$typed")) ;;
-        generate:-* | format:-*) COMPREPLY=($(compgen -W '--output --help' -- "$typed")) ;;
+        check:-*)
+            COMPREPLY=($(compgen -W '--advice --format --help --jobs --quiet --werror' -- "$typed")) ;;
+        generate:-*)
+            COMPREPLY=($(compgen -W '--advice --depfile --format --help --if-changed --jobs --output
+                --output-dir --quiet --werror' -- "$typed"))
+            ;;
+        format:-*) COMPREPLY=($(compgen -W '--check --help --jobs --output' -- "$typed")) ;;
         find:-*) COMPREPLY=($(compgen -W '--format --help --ignore-case --regex --word' -- "$typed")) ;;
         test:-*)
             COMPREPLY=($(compgen -W '--coverage --filter --help --jobs --json --junit --list --markdown

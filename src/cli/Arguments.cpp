@@ -2,18 +2,21 @@
 #include "cli/Arguments.h"
 
 #include "cli/BracketArgument.h"
+#include "cli/BuildOptions.h"
 #include "cli/ExportOptions.h"
 #include "cli/FindOptions.h"
 #include "cli/MachineOptions.h"
-#include "cli/MessageText.h"
 #include "cli/ReviewOptions.h"
 #include "cli/TestOptions.h"
+#include "cli/UsageHints.h"
+#include "cli/UsageRules.h"
 #include "core/ProgramVersion.h"
 
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 #include <utility>
 
 namespace orvane::cli {
@@ -83,11 +86,11 @@ constexpr std::array<std::pair<const char*, Verb>, 16> kVerbs{{{"generate", Verb
                                                                {"conflicts", Verb::Conflicts},
                                                                {"git", Verb::Git}}};
 
-std::string VerbList() {
-    std::string list;
+std::vector<std::string> VerbNames() {
+    std::vector<std::string> names;
     for (const auto& [name, verb] : kVerbs)
-        list += (list.empty() ? "" : verb == kVerbs.back().second ? " and " : ", ") + std::string(name);
-    return list;
+        names.emplace_back(name);
+    return names;
 }
 
 constexpr const char* kDiagramNotes =
@@ -123,7 +126,7 @@ class CommandLine {
   public:
     CommandLine() {
         app_.name("orvanec");
-        app_.set_version_flag("--version", "orvanec " + ProgramVersion());
+        app_.set_version_flag("--version", "orvanec " + VersionNumber());
         app_.footer(kProgramNotes);
         app_.require_subcommand(1);
         app_.get_formatter()->label("SUBCOMMAND", "VERB");
@@ -138,30 +141,31 @@ class CommandLine {
         AddReview();
     }
 
-    Arguments Parse(int count, const char* const* values);
+    Arguments Parse(const std::vector<std::string>& words);
     Outcome Answer(const CLI::ParseError& error);
-    std::string WhatIsMissing() const;
 
   private:
     Verb Asked() const;
+    std::string WhatIsMissing() const;
+    std::string WhatIsLeftOver() const;
+
     void AddGenerate() {
         CLI::App& verb = AddVerb("generate", "Write the controller program of each document", kGenerateNotes);
         AddDocuments(verb);
         AddOutput(verb, "Write to FILE instead of beside the document; - is standard output");
+        build_.AddGenerate(verb);
     }
     void AddCheck() {
         CLI::App& verb =
             AddVerb("check", "Report what is wrong with each design; write no program", kCheckNotes);
-        AddDocuments(verb);
-        verb.add_option("--format", format_, "How to report: text (default) or json")
-            ->check(CLI::IsMember({"text", "json"}))
-            ->type_name("FORMAT");
-        verb.add_flag("--advice", advice_, "Tell what explore finds, too; it is no error");
+        verb.add_option("DOC", documents_, "The documents; - is standard input")->type_name("");
+        build_.AddCheck(verb);
     }
     void AddFormat() {
-        CLI::App& verb = AddVerb("format", "Write a document as the editor would save it", kFormatNotes);
-        verb.add_option("DOC", document_, "The document")->required()->type_name("");
+        CLI::App& verb = AddVerb("format", "Write documents as the editor would save them", kFormatNotes);
+        AddDocuments(verb);
         AddOutput(verb, "Write to FILE instead of over the document; - is standard output");
+        build_.AddFormat(verb);
     }
 
     void AddTest() {
@@ -206,7 +210,7 @@ class CommandLine {
         return *verb;
     }
     void AddDocuments(CLI::App& verb) {
-        verb.add_option("DOC", documents_, "The documents")->required()->type_name("");
+        verb.add_option("DOC", documents_, "The documents; - is standard input")->required()->type_name("");
     }
     void AddOutput(CLI::App& verb, const char* purpose) {
         verb.add_option("-o,--output", output_, purpose)->type_name("FILE");
@@ -214,10 +218,8 @@ class CommandLine {
 
     CLI::App app_{"Checks Orvane documents and writes their controller programs, without a window."};
     std::vector<std::string> documents_;
-    std::string document_;
     std::optional<std::string> output_;
-    std::string format_ = "text";
-    bool advice_ = false;
+    BuildOptions build_;
     FindOptions find_;
     TestOptions tests_;
     MachineOptions machines_;
@@ -234,18 +236,16 @@ Verb CommandLine::Asked() const {
     return Verb::Check; // never: a verb is required
 }
 
-Arguments CommandLine::Parse(int count, const char* const* values) {
-    if (count > 1)
-        firstWord_ = values[1];
+Arguments CommandLine::Parse(const std::vector<std::string>& words) {
+    if (!words.empty())
+        firstWord_ = words.front();
     std::vector<std::string> reversed; // as the parser takes them
-    for (int i = count - 1; i > 0; --i)
-        reversed.push_back(HideBracket(values[i]));
+    std::transform(words.rbegin(), words.rend(), std::back_inserter(reversed), HideBracket);
     app_.parse(std::move(reversed));
 
     Arguments arguments;
     arguments.What = Asked();
-    arguments.Documents = arguments.What == Verb::Format     ? std::vector{std::move(document_)}
-                          : arguments.What == Verb::Find     ? find_.TakeDocuments()
+    arguments.Documents = arguments.What == Verb::Find       ? find_.TakeDocuments()
                           : LooksIntoOne(arguments.What)     ? std::vector{machines_.TakeDocument()}
                           : GivesAnotherForm(arguments.What) ? std::vector{export_.TakeDocument()}
                           : ComparesVersions(arguments.What) ? review_.TakeDocuments()
@@ -259,33 +259,48 @@ Arguments CommandLine::Parse(int count, const char* const* values) {
     arguments.Touring = machines_.TakeTour();
     arguments.Drawing = export_.TakeDiagram();
     arguments.Exporting = export_.TakeExport();
-    arguments.Advice = advice_;
+    arguments.Building = build_.Take();
     if (arguments.What == Verb::Test && arguments.Documents.empty())
         arguments.Documents = {"."};
     std::for_each(arguments.Documents.begin(), arguments.Documents.end(), ShowBracket);
     arguments.Output = std::move(output_);
     if (arguments.Output)
         ShowBracket(*arguments.Output);
-    arguments.Format = format_ == "json" ? ReportFormat::Json : ReportFormat::Text;
     return arguments;
 }
 
 Outcome CommandLine::Answer(const CLI::ParseError& error) {
-    if (error.get_name() == "RequiredError")
+    const std::string name = error.get_name();
+    if (name == "RequiredError")
         return WrongUsage(WhatIsMissing());
+    if (error.get_exit_code() == static_cast<int>(CLI::ExitCodes::ExtrasError))
+        return WrongUsage(WhatIsLeftOver());
     if (error.get_exit_code() != static_cast<int>(CLI::ExitCodes::Success))
         return WrongUsage(error.what());
     Outcome asked;
-    asked.Output = error.get_name() == "CallForVersion" ? std::string(error.what()) + "\n" : app_.help();
+    asked.Output = name == "CallForVersion" ? std::string(error.what()) + "\n" : app_.help();
     return asked;
 }
 
 std::string CommandLine::WhatIsMissing() const {
-    if (!app_.get_subcommands().empty())
-        return "No document is given";
-    return (firstWord_.empty() ? std::string("No verb is given")
-                               : "There is no verb " + ShownName(firstWord_)) +
-           "; the verbs are " + VerbList();
+    return app_.get_subcommands().empty() ? NoSuchVerb(firstWord_, VerbNames()) : "No document is given";
+}
+
+std::string CommandLine::WhatIsLeftOver() const {
+    const std::vector<CLI::App*> verbs = app_.get_subcommands();
+    if (verbs.empty() || firstWord_.starts_with('-'))
+        return NoSuchVerb(firstWord_, VerbNames());
+    std::vector<std::string> options;
+    for (const CLI::Option* option : verbs.front()->get_options()) {
+        for (const std::string& name : option->get_lnames())
+            options.push_back("--" + name);
+    }
+    std::vector<std::string> left = app_.remaining(true);
+    const auto isOption = [](const std::string& word) { return word.starts_with('-'); };
+    const auto word = std::find_if(left.begin(), left.end(), isOption);
+    std::string shown = word != left.end() ? *word : left.empty() ? "" : left.front();
+    ShowBracket(shown);
+    return LeftOver(verbs.front()->get_name(), shown, options);
 }
 
 } // namespace
@@ -297,15 +312,12 @@ Outcome WrongUsage(const std::string& what) {
     return wrong;
 }
 
-std::variant<Arguments, Outcome> ParseArguments(int count, const char* const* values) {
+std::variant<Arguments, Outcome> ParseArguments(const std::vector<std::string>& words) {
     CommandLine commandLine;
     try {
-        Arguments arguments = commandLine.Parse(count, values);
-        if (arguments.Output && arguments.Documents.size() > 1)
-            return WrongUsage("-o takes the program of one document, not of " +
-                              std::to_string(arguments.Documents.size()));
-        if (arguments.Output && arguments.Output->empty())
-            return WrongUsage("-o needs the name of a file");
+        Arguments arguments = commandLine.Parse(words);
+        if (const std::optional<std::string> fault = WrongTogether(arguments))
+            return WrongUsage(*fault);
         return arguments;
     } catch (const CLI::ParseError& error) {
         return commandLine.Answer(error);

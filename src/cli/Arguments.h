@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "cli/BuildArguments.h"
 #include "cli/ExportArguments.h"
 #include "cli/FindArguments.h"
 #include "cli/Outcome.h"
@@ -50,16 +51,15 @@ constexpr bool ComparesVersions(Verb verb) {
            verb == Verb::Git;
 }
 
-enum class ReportFormat { Text, Json };
-
 inline constexpr const char* kStandardOutput = "-";
+inline constexpr const char* kStandardInput = "-"; // of the verbs of a build
 
 struct Arguments {
     Verb What = Verb::Check;
-    std::vector<std::string> Documents; // at least one, as they were given; of Test files and folders, too
-    std::optional<std::string> Output;  // a path or kStandardOutput; only with one document
-    ReportFormat Format = ReportFormat::Text;
-    bool Advice = false; // Check tells what explore finds, too
+    // At least one but for a project, as they were given; of Test files and folders, too.
+    std::vector<std::string> Documents;
+    std::optional<std::string> Output; // a path or kStandardOutput; only with one document
+    BuildArguments Building;
     FindArguments Finding;
     TestArguments Testing;
     SimulateArguments Simulating;
@@ -70,9 +70,9 @@ struct Arguments {
     ReviewArguments Reviewing;
 };
 
-// What the command line asks for. When there is nothing to do, or no way to do it, the outcome of that: the
-// help or version text, or what is wrong with the usage.
-std::variant<Arguments, Outcome> ParseArguments(int count, const char* const* values);
+// What the words behind the program's name ask for. When there is nothing to do, or no way to do it, the
+// outcome of that: the help or version text, or what is wrong with the usage.
+std::variant<Arguments, Outcome> ParseArguments(const std::vector<std::string>& words);
 
 Outcome WrongUsage(const std::string& what);
 

@@ -58,8 +58,6 @@ std::string HitLine(const Found& found, const find::Hit& hit) {
            ShownName(ShownLine(found, hit)) + "\n";
 }
 
-std::string NumberOrNull(int number) { return number == 0 ? "null" : NumberText(number); }
-
 std::string HitObject(const Found& found, const find::Hit& hit) {
     const std::string& text = TextAt(found.Document, hit.Place);
     const Cell at = hit.Place.At;

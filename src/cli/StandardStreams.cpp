@@ -58,22 +58,27 @@ void PrepareStandardStreams() {
 #endif
 }
 
-std::optional<std::string> ReadStandardInput(Outcome& outcome) {
-    std::string bytes;
+InputBytes ReadStandardInput() {
+    InputBytes input;
     std::array<char, 1 << 16> piece;
     errno = 0;
     while (const std::size_t length = std::fread(piece.data(), 1, piece.size(), stdin)) {
-        bytes.append(piece.data(), length);
-        if (bytes.size() > kLargestDocument) {
-            outcome.Errors += FailureLine("standard input", "is " + std::string(kTooLargeForADocument));
-            outcome.Raise(kFileError);
-            return std::nullopt;
-        }
+        input.Bytes.append(piece.data(), length);
+        if (input.Bytes.size() > kLargestDocument)
+            return {{}, make_error_code(std::errc::file_too_large)};
     }
-    if (std::ferror(stdin) == 0)
-        return bytes;
-    outcome.Errors +=
-        FailureLine("standard input", "cannot be read", ReasonText({errno, std::generic_category()}));
+    if (std::ferror(stdin) != 0)
+        return {{}, {errno, std::generic_category()}};
+    return input;
+}
+
+std::optional<std::string> ReadStandardInput(Outcome& outcome) {
+    InputBytes input = ReadStandardInput();
+    if (!input.Failure)
+        return std::move(input.Bytes);
+    const bool tooLarge = input.Failure == std::errc::file_too_large;
+    outcome.Errors += tooLarge ? FailureLine("standard input", "is " + std::string(kTooLargeForADocument))
+                               : FailureLine("standard input", "cannot be read", ReasonText(input.Failure));
     outcome.Raise(kFileError);
     return std::nullopt;
 }

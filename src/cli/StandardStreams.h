@@ -5,6 +5,7 @@
 
 #include <optional>
 #include <string>
+#include <system_error>
 
 namespace orvane::cli {
 
@@ -12,8 +13,15 @@ namespace orvane::cli {
 // stays unusable: no file that is opened later can take its place and receive what is written to it.
 void PrepareStandardStreams();
 
-// All bytes of standard input, or none when it cannot be read or holds more than a document may: then the
-// outcome says why.
+// All bytes of standard input; none after a failure, which is file_too_large when it holds more than a
+// document may.
+struct InputBytes {
+    std::string Bytes;
+    std::error_code Failure;
+};
+InputBytes ReadStandardInput();
+
+// The same; after a failure the outcome says why.
 std::optional<std::string> ReadStandardInput(Outcome& outcome);
 
 // Writes what the outcome has and returns its status, or kFileError when a stream did not take it all.

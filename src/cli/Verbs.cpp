@@ -1,21 +1,28 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/Verbs.h"
 
+#include "cli/DependencyRules.h"
+#include "cli/DocumentBytes.h"
 #include "cli/DocumentPath.h"
-#include "cli/JsonReport.h"
+#include "cli/DocumentReport.h"
 #include "cli/MessageText.h"
+#include "cli/ProgramTargets.h"
+#include "cli/WhyNotWritten.h"
 #include "codegen/CodeGenerator.h"
+#include "codegen/ProgramBanner.h"
 #include "core/DocumentReader.h"
 #include "core/DocumentWriter.h"
 #include "core/ForeignBytes.h"
+#include "core/TextStarts.h"
 #include "files/FileReader.h"
 #include "files/FileWriter.h"
 #include "files/Leftovers.h"
 #include "run/Advice.h"
-#include "text/AnsiText.h"
 
+#include <algorithm>
 #include <exception>
-#include <map>
+#include <utility>
+#include <vector>
 
 namespace orvane::cli {
 
@@ -25,158 +32,210 @@ namespace {
 
 class DocumentRun {
   public:
-    DocumentRun(const Run& run, std::size_t index)
-        : run_(run), arguments_(run.Asked), index_(index), name_(arguments_.Documents[index]) {}
+    DocumentRun(const Run& run, std::size_t index, Share& share)
+        : run_(run),
+          arguments_(run.Asked),
+          asked_(run.Asked.Building),
+          share_(share),
+          index_(index),
+          name_(arguments_.Documents[index]) {}
 
     Outcome Do();
 
   private:
     // Reads the document into read_. Tells what there is to tell; false when there is no document at all.
     bool Read();
-    void Generate();
-    void Check(const Report& report);
+    // Looks over the design, and writes the program where that is asked for.
+    void Judge(bool isDocument);
+    void Generate(GeneratedProgram program);
     void Format();
+    void Compare(std::string_view formatted);
 
-    void WriteBytes(const fs::path& target, std::string bytes, Outlives must);
+    // What was found goes where the verb says, in the format that was asked for.
+    void TellReport(const Report& report);
+
+    // False when the file could not be written, which was told then.
+    bool WriteBytes(const fs::path& target, std::string bytes, Outlives must);
+    bool IsUpToDate(const fs::path& target, std::string_view program) const;
     bool IsFirstOfItsFolder() const;
+    bool Is(Verb verb) const { return arguments_.What == verb; }
     bool ToStandardOutput() const { return arguments_.Output == kStandardOutput; }
     bool WritesOver(const fs::path& target) const {
         std::error_code none;
         return !ToStandardOutput() && fs::equivalent(target, PathOf(name_), none);
     }
-    std::string HeadedReport(const Report& report) const {
-        const std::string head = arguments_.Documents.size() > 1 ? ShownName(name_) + ":\n" : "";
-        return head + StreamText(ReportText(report));
+    // A program reads the report: there is nothing beside it.
+    bool IsForPrograms() const {
+        return asked_.Format == ReportFormat::Json || asked_.Format == ReportFormat::Sarif;
     }
-    void Fail(std::string_view what, std::string_view reason = {}) {
-        outcome_.Errors += FailureLine(name_, what, reason);
+    void Fail(const std::string& what) {
+        outcome_.Errors += FailureLine(name_, what);
+        failures_.push_back(ShownName(what));
         outcome_.Raise(kFileError);
     }
-    bool AsJson() const { return arguments_.Format == ReportFormat::Json; }
 
     const Run& run_;
     const Arguments& arguments_;
+    const BuildArguments& asked_;
+    Share& share_;
     const std::size_t index_;
     const std::string& name_;
-    std::optional<ReadResult> read_; // there from Read() on; an empty document when none could be read
+    DocumentBytes bytes_;
+    ReadResult read_; // an empty document when none could be read
+    std::vector<run::Advice> advice_;
+    std::vector<std::string> failures_; // beyond those that the reader tells
     Outcome outcome_;
 };
 
 Outcome DocumentRun::Do() {
     const bool isDocument = Read();
-    if (arguments_.What == Verb::Check && isDocument)
-        Check(GenerateProgram(read_->Document, {}).Findings);
-    else if (arguments_.What == Verb::Check && AsJson())
-        Check({}); // so that there is a line for each document
-    else if (arguments_.What == Verb::Generate && isDocument)
-        Generate();
-    else if (arguments_.What == Verb::Format && isDocument)
+    if (!Is(Verb::Format))
+        Judge(isDocument);
+    else if (isDocument)
         Format();
     return std::move(outcome_);
 }
 
 bool DocumentRun::Read() {
-    const FileContent file = ReadStream(run_.Files, PathOf(name_), kLargestDocument);
-    if (file.Failure) {
-        const bool tooLarge = file.Failure->Reason == std::errc::file_too_large;
-        const std::string what = tooLarge ? "is " + std::string(kTooLargeForADocument) : "cannot be read";
-        const std::string reason = tooLarge ? "" : ReasonText(*file.Failure);
-        Fail(what, reason);
-        read_.emplace().BrokeOff = true;
-        read_->Messages.push_back({"The file " + what + (tooLarge ? "" : " (" + reason + ")"), 0});
+    if (!bytes_.Read(run_.Files, name_)) {
+        outcome_.Errors += FailureLine(name_, bytes_.WhyNot());
+        outcome_.Raise(kFileError);
+        read_.BrokeOff = true;
+        read_.Messages.push_back({"The file " + bytes_.WhyNot(), 0});
         return false;
     }
-    read_ = ReadDocument(file.Bytes());
-    const std::vector<ReaderMessage> foreign = ForeignMessages(file.Bytes());
-    read_->Messages.insert(read_->Messages.begin(), foreign.begin(), foreign.end());
-    for (const ReaderMessage& message : read_->Messages)
+    read_ = ReadDocument(bytes_.Bytes());
+    const std::vector<ReaderMessage> foreign = ForeignMessages(bytes_.Bytes());
+    read_.Messages.insert(read_.Messages.begin(), foreign.begin(), foreign.end());
+    for (const ReaderMessage& message : read_.Messages)
         outcome_.Errors += MessageLine(name_, message);
-    if (read_->BrokeOff)
+    if (read_.BrokeOff)
         outcome_.Raise(kFileError);
-    return !read_->Refused;
+    return !read_.Refused;
 }
 
-void DocumentRun::Generate() {
-    const fs::path document = FullPath(name_);
-    GeneratedProgram program = GenerateProgram(read_->Document, {PathInProgram(document), run_.BannerDate});
-    outcome_.Errors += HeadedReport(program.Findings);
-    if (program.Findings.HasErrors())
-        outcome_.Raise(kDesignError);
-    if (program.Findings.HasErrors() || read_->BrokeOff)
-        return;
-    const fs::path target = arguments_.Output ? PathOf(*arguments_.Output) : ProgramPath(document);
-    if (WritesOver(target))
-        return Fail("the program would take the place of the document; name another file with -o");
-    // Not waiting for the disk: the program can be made again.
-    WriteBytes(target, ProgramFileBytes(std::move(program)), Outlives::Process);
-}
-
-void DocumentRun::Check(const Report& report) {
-    if (report.HasErrors())
-        outcome_.Raise(kDesignError);
-    std::optional<run::AdviceResult> advice;
-    if (arguments_.Advice)
-        advice = run::AdviceOn(read_->Document);
-    if (AsJson()) {
-        outcome_.Output = JsonLine(
-            {name_, read_->Document, report, read_->Messages, !read_->BrokeOff, advice ? &*advice : nullptr});
+void DocumentRun::Judge(bool isDocument) {
+    if (!isDocument) {
+        if (IsForPrograms())
+            TellReport({}); // so that it stands for each document
         return;
     }
-    outcome_.Output = HeadedReport(report);
-    for (const run::Advice& each : advice ? advice->List : std::vector<run::Advice>())
-        outcome_.Output += "Advice: " + ShownName(ToUtf8(each.Message)) + " [" +
-                           std::string(AdviceKindName(each.Kind)) + "]\n";
+    const std::string path = Is(Verb::Check)           ? ""
+                             : name_ == kStandardInput ? name_
+                                                       : PathInProgram(FullPath(name_));
+    GeneratedProgram program = GenerateProgram(read_.Document, {path, run_.BannerDate});
+    program.Findings.WarningsAreErrors = asked_.WarningsAreErrors;
+    if (asked_.Advice)
+        advice_ = run::AdviceOn(read_.Document).List;
+    if (program.Findings.HasErrors())
+        outcome_.Raise(kDesignError);
+    if (Is(Verb::Generate))
+        Generate(std::move(program));
+    else
+        TellReport(program.Findings);
+}
+
+void DocumentRun::Generate(GeneratedProgram program) {
+    const Report report = program.Findings;
+    if (!IsForPrograms()) // else it also tells what becomes of the file
+        TellReport(report);
+    if (!report.HasErrors() && !read_.BrokeOff) {
+        const fs::path target = ProgramTarget(arguments_, name_);
+        // Not waiting for the disk: the program can be made again.
+        if (WritesOver(target))
+            Fail("the program would take the place of the document; name another file with -o");
+        else if (WriteBytes(target, ProgramFileBytes(std::move(program)), Outlives::Process) &&
+                 asked_.DependencyFile)
+            share_.DependencyRule = DependencyRule(NameOfTarget(arguments_, name_), name_);
+    }
+    if (IsForPrograms())
+        TellReport(report);
+}
+
+void DocumentRun::TellReport(const Report& report) {
+    TextStarts starts;
+    if (asked_.Format != ReportFormat::Text && !(report.Findings.empty() && advice_.empty()))
+        ReadDocument(bytes_.Bytes(),
+                     &starts); // only now, because keeping the lines takes longer than reading
+    const CheckedDocument checked = {
+        name_,     read_.Document, report,          read_.Messages,
+        failures_, starts,         !read_.BrokeOff, asked_.Advice ? &advice_ : nullptr};
+    if (asked_.Format == ReportFormat::Sarif)
+        share_.Log = SarifOf(checked);
+    const std::string text =
+        DocumentReport(checked, {asked_.Format, arguments_.Documents.size() > 1, asked_.Quiet});
+    if (Is(Verb::Check))
+        outcome_.Output += text;
+    else if (IsForPrograms())
+        outcome_.Errors = text; // which has all that stood there
+    else
+        outcome_.Errors += text;
 }
 
 void DocumentRun::Format() {
+    std::string formatted = WriteDocument(read_.Document);
+    if (asked_.OnlyCompare)
+        return Compare(formatted);
     const fs::path target = PathOf(arguments_.Output.value_or(name_));
-    if (read_->BrokeOff && WritesOver(target))
+    if (read_.BrokeOff && WritesOver(target))
         return Fail("is not written over, because it was not read to its end");
-    WriteBytes(target, WriteDocument(read_->Document), Outlives::Machine);
+    if (!arguments_.Output && formatted == bytes_.Bytes())
+        return; // a file that is as it should be keeps its date
+    WriteBytes(target, std::move(formatted), Outlives::Machine);
 }
 
-void DocumentRun::WriteBytes(const fs::path& target, std::string bytes, Outlives must) {
+void DocumentRun::Compare(std::string_view formatted) {
+    const std::string_view bytes = bytes_.Bytes();
+    if (read_.BrokeOff || bytes == formatted)
+        return;
+    const auto [differs, other] =
+        std::mismatch(bytes.begin(), bytes.end(), formatted.begin(), formatted.end());
+    const auto line = 1 + std::count(bytes.begin(), differs, '\n');
+    outcome_.Output += MessageLine(name_, {"Not as the editor would save it; \"orvanec format\" writes it so",
+                                           static_cast<std::size_t>(line)});
+    outcome_.Raise(kDifferent);
+}
+
+bool DocumentRun::WriteBytes(const fs::path& target, std::string bytes, Outlives must) {
     if (ToStandardOutput()) {
         outcome_.Output = std::move(bytes);
-        return;
+        return true;
     }
+    if (asked_.IfChanged && IsUpToDate(target, bytes))
+        return true;
     const SpecialFiles special = arguments_.Output ? SpecialFiles::WrittenInto : SpecialFiles::Refused;
     const WrittenFile written =
         WriteFile(run_.Files, target, {bytes}, {must, special, kSavingPatience, &run_.Unfinished});
     const std::string shown = ShownName(Utf8(target));
-    if (written.Failure)
-        return Fail(shown + " cannot be written", ReasonText(*written.Failure));
+    if (written.Failure) {
+        Fail(shown + " cannot be written (" + WhyNotWritten(*written.Failure, target) + ")");
+        return false;
+    }
     for (const FileNote note : written.Notes)
         outcome_.Errors += FailureLine(name_, shown + " is written. " + Sentence(note));
     if (IsFirstOfItsFolder())
         RemoveLeftovers(run_.Files, target, written.Stamp);
+    return true;
+}
+
+bool DocumentRun::IsUpToDate(const fs::path& target, std::string_view program) const {
+    const FileContent old = ReadFile(run_.Files, target, 2 * program.size());
+    return old && HasProgramBanner(old.Bytes()) && WithoutBanner(old.Bytes()) == WithoutBanner(program);
 }
 
 // A folder of many documents need not be read for each of them.
 bool DocumentRun::IsFirstOfItsFolder() const {
+    if (asked_.OutputFolder)
+        return index_ == 0;
     const auto folder = [&](std::size_t index) { return PathOf(arguments_.Documents[index]).parent_path(); };
     return index_ == 0 || folder(index_) != folder(index_ - 1);
 }
 
 } // namespace
 
-std::optional<Outcome> ProgramClash(const Arguments& arguments) {
-    if (arguments.What != Verb::Generate || arguments.Documents.size() < 2)
-        return std::nullopt;
-    std::map<fs::path, const std::string*, FileNameOrder> firstOf; // by the path of the program
-    for (const std::string& name : arguments.Documents) {
-        const fs::path program = ProgramPath(FullPath(name));
-        const auto [first, isNew] = firstOf.emplace(program, &name);
-        if (!isNew && FullPath(*first->second) != FullPath(name))
-            return WrongUsage(ShownName(*first->second) + " and " + ShownName(name) +
-                              " would have the same program, " + ShownName(Utf8(program)));
-    }
-    return std::nullopt;
-}
-
-Outcome RunVerb(const Run& run, std::size_t index) noexcept {
+Outcome RunVerb(const Run& run, std::size_t index, Share& share) noexcept {
     try {
-        return DocumentRun(run, index).Do();
+        return DocumentRun(run, index, share).Do();
     } catch (const std::exception& error) {
         return {{}, FailureLine(run.Asked.Documents[index], error.what()), kFileError};
     }

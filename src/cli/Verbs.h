@@ -1,20 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What the program does with one document.
+// What the program does with one document when it builds.
 #pragma once
 
 #include "cli/Arguments.h"
 #include "cli/Outcome.h"
+#include "cli/SarifLog.h"
 
 #include "files/UnfinishedFiles.h"
 
 #include <cstddef>
-#include <optional>
 #include <string>
 
 namespace orvane::cli {
-
-// Two documents whose programs would be the same file, as wrong usage. The same document named twice is none.
-std::optional<Outcome> ProgramClash(const Arguments& arguments);
 
 // What all documents of a run share.
 struct Run {
@@ -24,8 +21,14 @@ struct Run {
     UnfinishedFiles& Unfinished;
 };
 
+// What a document adds to the files of the run as a whole.
+struct Share {
+    SarifPart Log;
+    std::string DependencyRule; // empty when there is no program
+};
+
 // Does what the verb says with the document of that index. Never throws; safe to call for several documents
 // at a time.
-Outcome RunVerb(const Run& run, std::size_t index) noexcept;
+Outcome RunVerb(const Run& run, std::size_t index, Share& share) noexcept;
 
 } // namespace orvane::cli

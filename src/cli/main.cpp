@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // orvanec: checks documents and writes their programs without a window.
+#include "cli/ArgumentFiles.h"
 #include "cli/Arguments.h"
+#include "cli/DocumentVerbs.h"
 #include "cli/EndingSignals.h"
 #include "cli/ExportVerbs.h"
 #include "cli/FindVerb.h"
 #include "cli/MachineVerbs.h"
 #include "cli/MessageText.h"
-#include "cli/OrderedWork.h"
+#include "cli/ProgramTargets.h"
 #include "cli/ReviewVerbs.h"
 #include "cli/StandardStreams.h"
 #include "cli/TestVerb.h"
@@ -37,13 +39,12 @@ BannerMoment DateOfPrograms(const Arguments& arguments) {
     return BannerDate(std::time(nullptr), std::getenv("SOURCE_DATE_EPOCH"));
 }
 
-int Do(const Arguments& arguments) {
-    if (const std::optional<Outcome> clash = ProgramClash(arguments))
+int Do(const Arguments& arguments, NativeFiles& files) {
+    if (const std::optional<Outcome> clash = ProgramClash(arguments, files))
         return Deliver(*clash);
     const BannerMoment date = DateOfPrograms(arguments);
     if (!date.Fault.empty())
         return Deliver(WrongUsage(ShownName(date.Fault)));
-    NativeFiles files;
     const auto unfinished = std::make_shared<UnfinishedFiles>(files);
     if (arguments.What != Verb::Check && arguments.What != Verb::Find)
         RemoveWhenTold(unfinished);
@@ -55,22 +56,21 @@ int Do(const Arguments& arguments) {
         return Deliver(RunMachineVerb(arguments, TestFiles(files, *unfinished)));
     if (GivesAnotherForm(arguments.What))
         return Deliver(RunExportVerb(arguments, TestFiles(files, *unfinished)));
-    const Run run{arguments, date.Date, files, *unfinished};
     if (ComparesVersions(arguments.What))
-        return Deliver(RunReviewVerb(run));
-    int status = kSuccess;
-    WorkInOrder(
-        arguments.Documents.size(), [&](std::size_t index) { return RunVerb(run, index); },
-        [&](const Outcome& outcome) { status = std::max(status, Deliver(outcome)); });
-    return status;
+        return Deliver(RunReviewVerb({arguments, date.Date, files, *unfinished}));
+    return RunOnDocuments(arguments, files, *unfinished, date.Date);
 }
 
 int Main(int count, const char* const* values) {
     PrepareStandardStreams();
     OutliveFileSizeLimit();
-    const std::variant<Arguments, Outcome> parsed = ParseArguments(count, values);
+    NativeFiles files;
+    const auto words = WithArgumentFiles(count, values, files);
+    if (const auto* unread = std::get_if<Outcome>(&words))
+        return Deliver(*unread);
+    const auto parsed = ParseArguments(std::get<std::vector<std::string>>(words));
     const auto* arguments = std::get_if<Arguments>(&parsed);
-    return arguments ? Do(*arguments) : Deliver(std::get<Outcome>(parsed));
+    return arguments ? Do(*arguments, files) : Deliver(std::get<Outcome>(parsed));
 }
 
 #ifdef _WIN32

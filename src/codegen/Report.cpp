@@ -44,7 +44,7 @@ void VisitReport(const Report& report, Take take) {
     if (!report.EndedEarly)
         take("Errors and warnings", Cell());
     for (const Finding& finding : report.Findings)
-        take(std::string(Prefix(finding.Level())) + finding.Message, finding.Place);
+        take(std::string(Prefix(report.LevelOf(finding))) + finding.Message, finding.Place);
     if (report.EndedEarly)
         return;
     if (report.Count(Severity::Note) != 0)
@@ -58,7 +58,7 @@ void VisitReport(const Report& report, Take take) {
 } // namespace
 
 std::size_t Report::Count(Severity severity) const {
-    const auto matches = [severity](const Finding& finding) { return finding.Level() == severity; };
+    const auto matches = [&](const Finding& finding) { return LevelOf(finding) == severity; };
     return std::count_if(Findings.begin(), Findings.end(), matches);
 }
 

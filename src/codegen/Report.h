@@ -24,8 +24,13 @@ struct Finding {
 // What a run found, in the order in which it was found.
 struct Report {
     std::vector<Finding> Findings;
-    bool EndedEarly = false; // the run stopped at its first finding: no heading and no summary
+    bool EndedEarly = false;        // the run stopped at its first finding: no heading and no summary
+    bool WarningsAreErrors = false; // whoever asked for the run takes them so
 
+    Severity LevelOf(const Finding& finding) const {
+        const bool raised = WarningsAreErrors && finding.Level() == Severity::Warning;
+        return raised ? Severity::Error : finding.Level();
+    }
     std::size_t Count(Severity severity) const;
     bool HasErrors() const { return Count(Severity::Error) != 0; }
 };

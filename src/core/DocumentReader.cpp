@@ -86,7 +86,10 @@ class Reader {
     }
     void ReadValue(const FieldInFile& file, bool& mark);
     void ReadValue(const FieldInFile&, std::int16_t& number) { number = NextNumber<std::int16_t>(); }
-    void ReadValue(const FieldInFile&, std::int32_t& number) { number = NextNumber<std::int32_t>(); }
+    void ReadValue(const FieldInFile& file, std::int32_t& number) {
+        TellStart(record_, file.Tag);
+        number = NextNumber<std::int32_t>();
+    }
     void ReadValue(const FieldInFile&, Twips& length) { length = NextNumber<std::int32_t>(); }
 
     // The number at the front of the text; outside the range reading breaks off.
@@ -195,6 +198,7 @@ void Reader::ReadEvent() {
     const RowNumber row = HeadNumber(CellRows());
     EventRecord& event = result_.Document.Event(row);
     record_ = {row, kNoState};
+    TellStart(record_, tag::kEvent);
     block_ = " in event row " + NumberText(row.Number());
     ReadBlock(tag::kEventEnd, [&](std::string_view tag) { ReadField(kEventFields, event, tag); });
 }
@@ -203,6 +207,7 @@ void Reader::ReadState() {
     const StateNumber number = HeadNumber(StateNumbers());
     StateRecord& state = result_.Document.State(number);
     record_ = {kNoRow, number};
+    TellStart(record_, tag::kState);
     block_ = " in state " + NumberText(number.Number());
     ReadBlock(tag::kStateEnd, [&](std::string_view tag) {
         if (tag == tag::kTransitions)
@@ -220,11 +225,11 @@ void Reader::ReadTransitions(StateRecord& state) {
         }
         const IndexedValue value = SplitIndex(scanner_.NextValue());
         const RowNumber row = NumberOf(value.Index, CellRows());
+        TellStart({row, record_.State}, tag == tag::kTarget ? tag::kTarget : tag::kAction);
         if (tag == tag::kTarget) {
             state.Targets[row] = NumberOf(value.Rest, TargetNumbers());
             return;
         }
-        TellStart({row, record_.State}, tag::kAction);
         SetText(state.Actions[row], value.Rest);
     });
 }

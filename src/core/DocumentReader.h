@@ -38,7 +38,7 @@ class TextStarts;
 // Reads in one pass; the cost grows with the number of bytes only. Takes CR LF, LF and CR as line ends. Never
 // fails: an unknown tag is told and skipped, a number out of bounds ends the reading. A file that is too
 // large, or that holds text but not one field, is refused: an empty document that broke off. Where starts are
-// asked for, they tell where each text stands.
+// asked for, they tell where each field and each block stands.
 ReadResult ReadDocument(std::string_view bytes, TextStarts* starts = nullptr);
 
 } // namespace orvane

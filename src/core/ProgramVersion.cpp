@@ -13,4 +13,8 @@ std::string ProgramVersion() {
     return "V" + NumberText(kVersionMajor) + "." + NumberText(kVersionMinor) + "." + revision;
 }
 
+std::string VersionNumber() {
+    return NumberText(kVersionMajor) + "." + NumberText(kVersionMinor) + "." + NumberText(kVersionRevision);
+}
+
 } // namespace orvane

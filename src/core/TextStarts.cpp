@@ -6,7 +6,11 @@ namespace orvane {
 std::size_t TextStarts::LineOf(const TextPlace& place) const {
     const bool ofState = std::holds_alternative<StateText>(place.Field);
     const RowNumber row = ofState ? RowNumber(kHeadRow) : place.At.Row;
-    const auto line = lines_.find({place.At.State, row, KindOf(place).Tag});
+    return LineOf({row, place.At.State}, KindOf(place).Tag);
+}
+
+std::size_t TextStarts::LineOf(Cell record, std::string_view tag) const {
+    const auto line = lines_.find({record.State, record.Row, tag});
     return line == lines_.end() ? 0 : line->second;
 }
 

@@ -96,7 +96,7 @@ TEST_F(Check, JsonOfACleanDocumentHasNoFindings) {
     const RunResult run = Run("check --format=json pump.zfsm");
     EXPECT_EQ(run.Status, 0);
     EXPECT_EQ(run.Errors, "");
-    EXPECT_EQ(run.Output, "{\"path\":\"pump.zfsm\",\"complete\":true,"
+    EXPECT_EQ(run.Output, "{\"version\":1,\"path\":\"pump.zfsm\",\"complete\":true,"
                           "\"counts\":{\"notes\":0,\"warnings\":0,\"errors\":0},"
                           "\"findings\":[],\"messages\":[]}\n");
 }
@@ -105,17 +105,18 @@ TEST_F(Check, JsonNamesStateAndRowOfEachFinding) {
     WriteFile("bad.zfsm", DocumentWithErrors());
     const RunResult run = Run("check --format json bad.zfsm");
     EXPECT_EQ(run.Status, 1);
-    EXPECT_EQ(run.Output, "{\"path\":\"bad.zfsm\",\"complete\":true,"
-                          "\"counts\":{\"notes\":0,\"warnings\":1,\"errors\":2},\"findings\":["
-                          "{\"severity\":\"error\",\"kind\":\"missing-event-code\",\"state\":1,\"stateName\":"
-                          "\"K\xC3\xBChl\",\"row\":6,"
-                          "\"message\":\"Missing event test code in row 6\"},"
-                          "{\"severity\":\"error\",\"kind\":\"missing-time-constant\",\"state\":1,"
-                          "\"stateName\":\"K\xC3\xBChl\",\"row\":4,"
-                          "\"message\":\"State 1:K\xC3\xBChl needs a time constant\"},"
-                          "{\"severity\":\"warning\",\"kind\":\"dead-end\",\"state\":1,\"stateName\":"
-                          "\"K\xC3\xBChl\",\"row\":null,"
-                          "\"message\":\"State 1:K\xC3\xBChl is a dead end\"}],\"messages\":[]}\n");
+    EXPECT_EQ(run.Output,
+              "{\"version\":1,\"path\":\"bad.zfsm\",\"complete\":true,"
+              "\"counts\":{\"notes\":0,\"warnings\":1,\"errors\":2},\"findings\":["
+              "{\"severity\":\"error\",\"kind\":\"missing-event-code\",\"line\":7,\"state\":1,\"stateName\":"
+              "\"K\xC3\xBChl\",\"row\":6,"
+              "\"message\":\"Missing event test code in row 6\"},"
+              "{\"severity\":\"error\",\"kind\":\"missing-time-constant\",\"line\":4,\"state\":1,"
+              "\"stateName\":\"K\xC3\xBChl\",\"row\":4,"
+              "\"message\":\"State 1:K\xC3\xBChl needs a time constant\"},"
+              "{\"severity\":\"warning\",\"kind\":\"dead-end\",\"line\":2,\"state\":1,\"stateName\":"
+              "\"K\xC3\xBChl\",\"row\":null,"
+              "\"message\":\"State 1:K\xC3\xBChl is a dead end\"}],\"messages\":[]}\n");
 }
 
 TEST_F(Check, JsonIsOneLineForEachDocumentAlsoOfThoseThatCannotBeRead) {
@@ -124,18 +125,21 @@ TEST_F(Check, JsonIsOneLineForEachDocumentAlsoOfThoseThatCannotBeRead) {
     const RunResult run = Run("check --format=json a.zfsm b.zfsm c.zfsm");
     EXPECT_EQ(run.Status, 3);
     EXPECT_EQ(run.Output,
-              "{\"path\":\"a.zfsm\",\"complete\":true,\"counts\":{\"notes\":0,\"warnings\":0,\"errors\":1},"
-              "\"findings\":[{\"severity\":\"error\",\"kind\":\"missing-prefix\",\"state\":null,"
+              "{\"version\":1,\"path\":\"a.zfsm\",\"complete\":true,\"counts\":{\"notes\":0,\"warnings\":0,"
+              "\"errors\":1},"
+              "\"findings\":[{\"severity\":\"error\",\"kind\":\"missing-prefix\",\"line\":1,\"state\":null,"
               "\"stateName\":null,\"row\":null,\"message\":"
               "\"You must supply a distinguishing label prefix in the \\\"Name\\\"\\n"
               "box of the General Code editor. This should be unique within your\\n"
               "project as a whole. Typically this would be a 3-letter mnemonic for\\n"
               "the overall function of this FSM, for example \\\"PMP\\\" for a pump\\ncontrol FSM\"}],"
               "\"messages\":[]}\n"
-              "{\"path\":\"b.zfsm\",\"complete\":false,\"counts\":{\"notes\":0,\"warnings\":0,\"errors\":0},"
+              "{\"version\":1,\"path\":\"b.zfsm\",\"complete\":false,\"counts\":{\"notes\":0,\"warnings\":0,"
+              "\"errors\":0},"
               "\"findings\":[],\"messages\":[{\"line\":null,\"message\":"
               "\"The file is not a document: it holds no field\"}]}\n"
-              "{\"path\":\"c.zfsm\",\"complete\":false,\"counts\":{\"notes\":0,\"warnings\":0,\"errors\":0},"
+              "{\"version\":1,\"path\":\"c.zfsm\",\"complete\":false,\"counts\":{\"notes\":0,\"warnings\":0,"
+              "\"errors\":0},"
               "\"findings\":[],\"messages\":[{\"line\":null,\"message\":"
               "\"The file cannot be read (No such file or directory)\"}]}\n");
     EXPECT_EQ(run.Errors, "b.zfsm: The file is not a document: it holds no field\n"
@@ -149,7 +153,8 @@ TEST_F(Check, ControlCharactersOfADocumentAreEscapedInItsMessages) {
 
 TEST_F(Check, JsonEscapesEachControlCharacter) {
     const RunResult run = Run("check --format=json \"$(printf 'a\\177\\033\\037\\tb')\"");
-    EXPECT_TRUE(run.Output.starts_with("{\"path\":\"a\\u007f\\u001b\\u001f\\tb\",")) << run.Output;
+    EXPECT_TRUE(run.Output.starts_with("{\"version\":1,\"path\":\"a\\u007f\\u001b\\u001f\\tb\","))
+        << run.Output;
 }
 
 TEST_F(Check, JsonStaysValidWhateverDocumentAndPathHold) {

@@ -63,7 +63,8 @@ TEST_F(Explore, TellsAFindingALine) {
     EXPECT_EQ(
         Run("explore --json ends.zfsm").Output,
         "{\"version\":1,\"complete\":true,\"findings\":["
-        "{\"kind\":\"no-way-back\",\"state\":3,\"row\":null,\"text\":\"From 3:End no way leads back to "
+        "{\"kind\":\"no-way-back\",\"state\":3,\"row\":null,\"text\":\"From 3:End no way leads "
+        "back to "
         "the start, 1:Idle\"},"
         "{\"kind\":\"trap\",\"state\":3,\"row\":null,\"text\":\"Nothing leads out of 3:End: the machine "
         "stays there until power is off\"}]}\n");
@@ -122,7 +123,7 @@ TEST_F(Explore, CheckTellsItAsAdviceThatIsNoError) {
                              "Advice: Nothing leads out of 3:End: the machine stays there until power is off "
                              "[trap]\n");
     const std::string json = Run("check --advice --format json ends.zfsm").Output;
-    EXPECT_THAT(json, HasSubstr(",\"advice\":[{\"kind\":\"no-way-back\",\"state\":3,"));
+    EXPECT_THAT(json, HasSubstr(",\"advice\":[{\"kind\":\"no-way-back\",\"line\":31,\"state\":3,"));
     EXPECT_THAT(Run("check --format json ends.zfsm").Output, testing::Not(HasSubstr("advice")));
 }
 

@@ -98,7 +98,7 @@ TEST_F(Files, APipeIsReadToItsEnd) {
 }
 
 TEST_F(Files, AMissingFolderIsTold) {
-    ExpectUnwritten("nowhere/pump.zls", "No such file or directory");
+    ExpectUnwritten("nowhere/pump.zls", "there is no folder nowhere: No such file or directory");
     EXPECT_EQ(Listing(), "pump.zfsm ");
 }
 
@@ -116,7 +116,7 @@ TEST_F(Files, AReadOnlyFolderStaysAsItIs) {
     if (!user)
         GTEST_SKIP() << "root writes everywhere";
     fs::permissions(Path("kept"), fs::perms::owner_read | fs::perms::owner_exec);
-    ExpectUnwritten("kept/pump.zls", "Permission denied", *user);
+    ExpectUnwritten("kept/pump.zls", "no file can be made in the folder kept: Permission denied", *user);
     EXPECT_EQ(Listing("kept"), "");
 }
 

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/Orvanec.h"
 
+#include <algorithm>
+#include <chrono>
+
 namespace orvane {
 namespace {
 
@@ -47,13 +50,51 @@ TEST_F(Format, StandardOutputGetsTheBytesOfTheFile) {
     EXPECT_EQ(ReadFile("pump.zfsm"), UntidyPump());
 }
 
-TEST_F(Format, ADocumentThatIsNamedAsStandardOutputIsIsAFileLikeAnyOther) {
+TEST_F(Format, AFileThatIsNamedAsStandardInputIsHasAFolderInFront) {
     WriteFile("-", UntidyPump());
-    const RunResult run = Run("format -");
-    EXPECT_EQ(run.Status, 0);
-    EXPECT_EQ(run.Output, "");
+    EXPECT_EQ(Run("format ./-").Status, 0);
     EXPECT_EQ(ReadFile("-"), PumpDocument());
-    EXPECT_EQ(Run("format - -o -").Output, PumpDocument());
+}
+
+TEST_F(Format, StandardInputIsFormattedToAnOutput) {
+    WriteFile("pump.zfsm", UntidyPump());
+    EXPECT_EQ(Run("format - -o -", "cat pump.zfsm |").Output, PumpDocument());
+    EXPECT_EQ(Run("format - -o tidy.zfsm", "cat pump.zfsm |").Status, 0);
+    EXPECT_EQ(ReadFile("tidy.zfsm"), PumpDocument());
+}
+
+TEST_F(Format, SeveralDocumentsAreWrittenAndThoseThatAreTidyKeepTheirDate) {
+    WriteFile("untidy.zfsm", UntidyPump());
+    WriteFile("tidy.zfsm", PumpDocument());
+    const auto old = std::filesystem::last_write_time(Path("tidy.zfsm")) - std::chrono::hours(1);
+    std::filesystem::last_write_time(Path("tidy.zfsm"), old);
+    EXPECT_EQ(Run("format untidy.zfsm tidy.zfsm").Status, 0);
+    EXPECT_EQ(ReadFile("untidy.zfsm"), PumpDocument());
+    EXPECT_EQ(std::filesystem::last_write_time(Path("tidy.zfsm")), old);
+}
+
+TEST_F(Format, ACheckNamesTheDocumentAndTheLineAndWritesNothing) {
+    std::string untidy = PumpDocument();
+    untidy.insert(untidy.find("\xA4<NAME>Idle"), " ");
+    const auto line = 1 + std::count(untidy.begin(), untidy.begin() + untidy.find("\xA4<NAME>Idle"), '\n');
+    WriteFile("untidy.zfsm", untidy);
+    WriteFile("tidy.zfsm", PumpDocument());
+    const RunResult run = Run("format --check tidy.zfsm untidy.zfsm");
+    EXPECT_EQ(run.Status, 1);
+    EXPECT_EQ(run.Output, "untidy.zfsm:" + std::to_string(line) +
+                              ": Not as the editor would save it; \"orvanec format\" writes it so\n");
+    EXPECT_EQ(run.Errors, "");
+    EXPECT_EQ(ReadFile("untidy.zfsm"), untidy);
+    const RunResult tidy = Run("format --check tidy.zfsm");
+    EXPECT_EQ(tidy.Status, 0);
+    EXPECT_EQ(tidy.Output, "");
+}
+
+TEST_F(Format, ACheckTellsADocumentThatLacksItsEnd) {
+    const std::string cut = PumpDocument().substr(0, PumpDocument().size() - 2);
+    WriteFile("cut.zfsm", cut);
+    EXPECT_EQ(Run("format --check cut.zfsm").Status, 1);
+    EXPECT_EQ(ReadFile("cut.zfsm"), cut);
 }
 
 TEST_F(Format, ADesignErrorIsNoReasonNotToWrite) {

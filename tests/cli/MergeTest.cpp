@@ -98,8 +98,9 @@ TEST_F(Merge, WhatAMergeLeftOpenIsAWarningOfTheCheck) {
     EXPECT_EQ(run.Status, 0);
     EXPECT_THAT(run.Output, testing::HasSubstr(
                                 "Warning: State 2:Run has a conflict of a merge that nobody has resolved\n"));
-    EXPECT_THAT(Run("check --format=json merged.zfsm").Output,
-                testing::HasSubstr("{\"severity\":\"warning\",\"kind\":\"merge-conflict\",\"state\":2,"));
+    EXPECT_THAT(
+        Run("check --format=json merged.zfsm").Output,
+        testing::HasSubstr("{\"severity\":\"warning\",\"kind\":\"merge-conflict\",\"line\":38,\"state\":2,"));
 }
 
 TEST_F(Merge, ACleanMergeTakesTheListOfAnEarlierOneAway) {

@@ -21,10 +21,10 @@ class Usage : public Orvanec {
     }
 };
 
-TEST_F(Usage, TheVersionHasItsRevisionInThreeDigits) {
+TEST_F(Usage, TheVersionIsThatOfThePackage) {
     const RunResult run = Run("--version");
     EXPECT_EQ(run.Status, 0);
-    EXPECT_EQ(run.Output, "orvanec V1.0.001\n");
+    EXPECT_EQ(run.Output, "orvanec " ORVANE_VERSION "\n");
     EXPECT_EQ(run.Errors, "");
 }
 
@@ -61,17 +61,38 @@ TEST_F(Usage, WrongUsageIsSaidOnStandardError) {
                               "show, merge, conflicts and git";
     ExpectWrong("", "No verb is given; " + verbs);
     ExpectWrong("frobnicate a", "There is no verb frobnicate; " + verbs);
+    ExpectWrong("genrate a", "There is no verb genrate; did you mean \"generate\"?; " + verbs);
+    ExpectWrong("-x", "-x is an option, not a verb, and a verb comes first; " + verbs);
+    ExpectWrong("-o out generate a", "-o is an option, not a verb, and a verb comes first; " + verbs);
     ExpectWrong("generate", "No document is given");
     ExpectWrong("check", "No document is given");
     ExpectWrong("format", "No document is given");
     ExpectWrong("generate -o out a b", "-o takes the program of one document, not of 2");
     ExpectWrong("generate -o '' a", "-o needs the name of a file");
-    ExpectWrong("format a b", "The following argument was not expected: b");
-    ExpectWrong("check -o out a", "The following argument was not expected: -o");
-    ExpectWrong("check --format=xml a", "--format: xml not in {text,json}");
-    ExpectWrong("check a --format", "--format: 1 required FORMAT:{text,json} missing");
+    ExpectWrong("diagram a b", "b is one argument more than diagram takes");
+    ExpectWrong("show -o out a", "show has no option -o; its options are --help and --textconv");
+    ExpectWrong("check --fromat=gcc a", "check has no option --fromat=gcc; did you mean \"--format\"?");
+    ExpectWrong("conflicts a --frob", "conflicts has no option --frob; its options are --help");
+    ExpectWrong("check --format=xml a", "--format: xml not in {text,gcc,json,sarif}");
+    ExpectWrong("check a --format", "--format: 1 required FORMAT:{text,gcc,json,sarif} missing");
     ExpectWrong("generate a -o", "--output: 1 required FILE missing");
-    ExpectWrong("generate --frob a", "The following argument was not expected: --frob");
+}
+
+TEST_F(Usage, WhatDoesNotGoTogetherIsSaid) {
+    const std::string input =
+        "- is standard input, and what is made of it needs a name: -o FILE, or -o - for "
+        "standard output. A file of that name is ./-";
+    ExpectWrong("generate -", input);
+    ExpectWrong("format -", input);
+    ExpectWrong("check - -", "- is standard input, which can be read only once");
+    ExpectWrong("generate -o out --output-dir dir a",
+                "-o names the one program, --output-dir a folder for all: give one of them");
+    ExpectWrong("generate --output-dir '' a", "--output-dir needs the name of a folder");
+    ExpectWrong("generate --depfile '' a", "--depfile needs the name of a file");
+    ExpectWrong("generate --depfile d -o - a",
+                "--depfile says which file is made of which document; with -o - no file is made");
+    ExpectWrong("format --check -o out a", "--check writes nothing, so that there is nothing for -o to name");
+    ExpectWrong("check -j 0 a", "--jobs: Value 0 not in range 1 to 1000");
 }
 
 TEST_F(Usage, ANameMayLookLikeAVerbAnOptionOrAList) {

@@ -2,6 +2,7 @@
 #include "core/TextStarts.h"
 
 #include "core/DocumentReader.h"
+#include "core/DocumentTags.h"
 #include "core/DocumentWriter.h"
 #include "support/EveryFieldDocument.h"
 #include "text/AnsiText.h"
@@ -32,6 +33,32 @@ TEST(TextStarts, EveryTextBeginsInTheLineThatIsTold) {
         ++texts;
     });
     EXPECT_GT(texts, 20);
+}
+
+TEST(TextStarts, BlocksTransitionsAndTimingModesHaveLinesToo) {
+    const std::string file = WriteDocument(test::EveryFieldDocument());
+    TextStarts starts;
+    const ReadResult read = ReadDocument(file, &starts);
+    const auto expect = [&](Cell record, std::string_view tag, const std::string& number) {
+        const std::string line = LineOf(file, starts.LineOf(record, tag));
+        EXPECT_NE(line.find("<" + std::string(tag) + ">" + number), std::string::npos) << line;
+    };
+    for (const StateNumber state : StateNumbers()) {
+        const StateRecord& record = read.Document.State(state);
+        if (record.Name.empty())
+            continue;
+        expect({kNoRow, state}, tag::kState, std::to_string(state.Number()) + ":");
+        if (record.TimingMode != 0)
+            expect({kNoRow, state}, tag::kTimingMode, std::to_string(record.TimingMode));
+        for (const RowNumber row : CellRows()) {
+            if (record.Targets[row] != kNoState)
+                expect({row, state}, tag::kTarget, std::to_string(row.Number()) + ":");
+        }
+    }
+    for (const RowNumber row : EventRows()) {
+        if (!read.Document.Event(row).Name.empty())
+            expect({row, kNoState}, tag::kEvent, std::to_string(row.Number()) + ":");
+    }
 }
 
 TEST(TextStarts, OfAFieldThatStandsTwiceTheLastOneCounts) {

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "cli/Outcome.h"
+#include "files/FileReader.h"
+
+#include <string>
+#include <string_view>
+#include <system_error>
+
+namespace orvane::cli {
+
+// The bytes of a document as they stand in its file, or came from standard input. They stay where they are
+// for as long as this does.
+class DocumentBytes {
+  public:
+    // False when there are none; WhyNot() has the reason then.
+    bool Read(FileSystem& files, const std::string& name);
+
+    std::string_view Bytes() const { return isInput_ ? std::string_view(input_) : file_.Bytes(); }
+    // "cannot be read (No such file or directory)".
+    const std::string& WhyNot() const { return whyNot_; }
+
+  private:
+    bool Fail(std::error_code failure, const std::string& reason);
+
+    bool isInput_ = false;
+    std::string input_;
+    FileContent file_;
+    std::string whyNot_;
+};
+
+} // namespace orvane::cli

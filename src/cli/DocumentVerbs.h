@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "cli/Arguments.h"
+#include "files/UnfinishedFiles.h"
+
+namespace orvane::cli {
+
+// Does what generate, check or format is asked to do with all documents, prints what there is to tell, and
+// returns the exit status.
+int RunOnDocuments(const Arguments& arguments, FileSystem& files, UnfinishedFiles& unfinished,
+                   const std::string& bannerDate);
+
+} // namespace orvane::cli

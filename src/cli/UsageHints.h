@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What to say to a command line that was not understood.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace orvane::cli {
+
+// The first word is none of the verbs. Empty when there is no word at all.
+std::string NoSuchVerb(const std::string& word, const std::vector<std::string>& verbs);
+
+// What was left over when the verb had taken all that it knows. The options are as they are typed.
+std::string LeftOver(const std::string& verb, const std::string& word,
+                     const std::vector<std::string>& options);
+
+} // namespace orvane::cli
