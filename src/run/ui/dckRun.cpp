@@ -195,7 +195,8 @@ void dckRun::ShowRun(bool anew) {
     const RowNumber chosen =
         lstInputs->currentIndex().isValid() ? inputs_->EventAt(lstInputs->currentIndex()) : RowNumber();
     inputs_->Refresh();
-    lstInputs->setCurrentIndex(inputs_->PlaceOf(chosen));
+    const QModelIndex still = inputs_->PlaceOf(chosen);
+    lstInputs->setCurrentIndex(still.isValid() ? still : inputs_->index(0, 0)); // the first has an effect
     timers_->Refresh();
     if (anew) {
         way_->Refresh();

@@ -321,6 +321,14 @@ TEST_F(RunRoomTest, TheShortestWayToAStateIsPlayedAsStepsOfTheRun) {
         << Notice();
 }
 
+TEST_F(RunRoomTest, UntilOneIsChosenTheKeysPressTheFirstInput) {
+    StartRunning(TimedPump());
+    PressKey(Qt::Key_Home);
+    EXPECT_EQ(Where(), "1:Idle at 0");
+    PressKey(Qt::Key_P);
+    EXPECT_EQ(Where(), "2:Run at 0");
+}
+
 TEST_F(RunRoomTest, WhatATimerSaysIsReadWhole) {
     FsmDocument document = PumpDocument();
     document.State(2).TimingMode = 1;
