@@ -36,6 +36,12 @@ _orvanec() {
             return
             ;;
         generate:-j | generate:--jobs | check:-j | check:--jobs | format:-j | format:--jobs) return ;;
+        check:--project)
+            local IFS=$'\n'
+            compopt -o filenames 2>/dev/null
+            COMPREPLY=($(compgen -f -X '!*.[bB]1[dD]' -- "$typed") $(compgen -d -- "$typed"))
+            return
+            ;;
         diff:--format) COMPREPLY=($(compgen -W 'text json html' -- "$typed")) && return ;;
         diff:--same | diff:--different | merge:--path) return ;;
         diagram:--format) COMPREPLY=($(compgen -W 'svg dot' -- "$typed")) && return ;;
@@ -63,7 +69,7 @@ _orvanec() {
         :-*) COMPREPLY=($(compgen -W '--help --version' -- "$typed")) ;;
         :*) COMPREPLY=($(compgen -W 'generate check format find test simulate explore tour diagram export import diff show merge conflicts git' -- "$typed")) ;;
         check:-*)
-            COMPREPLY=($(compgen -W '--advice --format --help --jobs --quiet --werror' -- "$typed")) ;;
+            COMPREPLY=($(compgen -W '--advice --format --help --jobs --project --quiet --werror' -- "$typed")) ;;
         generate:-*)
             COMPREPLY=($(compgen -W '--advice --depfile --format --help --if-changed --jobs --output
                 --output-dir --quiet --werror' -- "$typed"))

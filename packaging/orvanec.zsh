@@ -47,7 +47,7 @@ _orvanec() {
                 '(-j --jobs)'{-j,--jobs}'[work on N documents at a time]:number'
             ;;
         check)
-            _arguments '--help' $report \
+            _arguments '--help' $report '--project[look over the machines of a builder script]:script:_files -g "*.(#i)b1d"' \
                 '(-j --jobs)'{-j,--jobs}'[work on N documents at a time]:number'
             ;;
         format)

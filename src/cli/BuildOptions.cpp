@@ -23,6 +23,9 @@ void BuildOptions::AddGenerate(CLI::App& verb) {
 
 void BuildOptions::AddCheck(CLI::App& verb) {
     AddReport(verb);
+    verb.add_option("--project", arguments_.Project,
+                    "Look over the machines that the builder script FILE lists, and what they have in common")
+        ->type_name("FILE");
     AddJobs(verb);
 }
 

@@ -51,7 +51,7 @@ Outcome WriteDependencies(const Run& run, const std::vector<Share>& shares) {
 } // namespace
 
 int RunOnDocuments(const Arguments& arguments, FileSystem& files, UnfinishedFiles& unfinished,
-                   const std::string& bannerDate) {
+                   const std::string& bannerDate, const LastWord& lastWord) {
     const Run run{arguments, bannerDate, files, unfinished};
     std::vector<Share> shares(arguments.Documents.size()); // each its own, so that nobody waits
     int status = kSuccess;
@@ -60,6 +60,8 @@ int RunOnDocuments(const Arguments& arguments, FileSystem& files, UnfinishedFile
         shares.size(), [&](std::size_t index) { return RunVerb(run, index, shares[index]); }, deliver,
         arguments.Building.Jobs);
     deliver(WriteDependencies(run, shares));
+    deliver({lastWord.Output, {}, kSuccess});
+    shares.push_back({lastWord.Log, {}});
     deliver(LogOf(arguments, shares));
     return status;
 }

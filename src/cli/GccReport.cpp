@@ -8,15 +8,10 @@
 
 namespace orvane::cli {
 
-namespace {
-
-std::string Line(const CheckedDocument& checked, std::size_t line, std::string_view severity,
-                 std::string_view message, std::string_view kind) {
-    return ShownName(checked.Path) + ":" + NumberText(line) + ": " + std::string(severity) + ": " +
-           OneLine(message) + " [" + std::string(kind) + "]\n";
+std::string GccLine(std::string_view path, const Remark& remark) {
+    return ShownName(path) + ":" + NumberText(remark.Line) + ": " + std::string(remark.Severity) + ": " +
+           OneLine(remark.Message) + " [" + std::string(remark.Kind) + "]\n";
 }
-
-} // namespace
 
 std::string OneLine(std::string_view ansi) {
     std::string line;
@@ -27,16 +22,22 @@ std::string OneLine(std::string_view ansi) {
     return ShownName(ToUtf8(line));
 }
 
+Remark RemarkOf(const Finding& finding, const CheckedDocument& checked) {
+    return {LineOf(finding, checked.Document, checked.Starts),
+            SeverityName(checked.Findings.LevelOf(finding)), finding.Message, KindName(finding.Kind)};
+}
+
+Remark RemarkOf(const run::Advice& advice, const CheckedDocument& checked) {
+    return {LineOf(advice, checked.Starts), "note", advice.Message, AdviceKindName(advice.Kind)};
+}
+
 std::string GccReport(const CheckedDocument& checked) {
     std::string report;
     for (const Finding& finding : checked.Findings.Findings)
-        report +=
-            Line(checked, LineOf(finding, checked.Document, checked.Starts),
-                 SeverityName(checked.Findings.LevelOf(finding)), finding.Message, KindName(finding.Kind));
+        report += GccLine(checked.Path, RemarkOf(finding, checked));
     if (checked.Advice != nullptr) {
         for (const run::Advice& advice : *checked.Advice)
-            report += Line(checked, LineOf(advice, checked.Starts), "note", advice.Message,
-                           AdviceKindName(advice.Kind));
+            report += GccLine(checked.Path, RemarkOf(advice, checked));
     }
     return report;
 }

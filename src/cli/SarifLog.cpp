@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/SarifLog.h"
 
-#include "cli/FindingLine.h"
-#include "cli/GccReport.h"
 #include "cli/JsonReport.h"
 #include "cli/MessageText.h"
 #include "cli/SarifRules.h"
@@ -26,13 +24,6 @@ std::string Locations(std::string_view path, std::size_t line) {
            "}" + region + "}}]";
 }
 
-std::string Result(const CheckedDocument& checked, std::size_t line, std::string_view level,
-                   std::string_view message, std::string_view kind) {
-    return "{\"ruleId\":" + JsonString(kind) + ",\"ruleIndex\":" + NumberText(SarifRuleIndex(kind)) +
-           ",\"level\":" + JsonString(level) + ",\"message\":{\"text\":" + JsonString(OneLine(message)) +
-           "}," + Locations(checked.Path, line) + "}";
-}
-
 std::string Notification(const CheckedDocument& checked, std::size_t line, bool isError,
                          const std::string& shown) {
     return std::string("{\"level\":\"") + (isError ? "error" : "warning") +
@@ -44,13 +35,10 @@ void Add(std::string& list, const std::string& object) { list += (list.empty() ?
 std::string Results(const CheckedDocument& checked) {
     std::string results;
     for (const Finding& finding : checked.Findings.Findings)
-        Add(results,
-            Result(checked, LineOf(finding, checked.Document, checked.Starts),
-                   SeverityName(checked.Findings.LevelOf(finding)), finding.Message, KindName(finding.Kind)));
+        Add(results, SarifResult(checked.Path, RemarkOf(finding, checked)));
     if (checked.Advice != nullptr) {
         for (const run::Advice& advice : *checked.Advice)
-            Add(results, Result(checked, LineOf(advice, checked.Starts), "note", advice.Message,
-                                AdviceKindName(advice.Kind)));
+            Add(results, SarifResult(checked.Path, RemarkOf(advice, checked)));
     }
     return results;
 }
@@ -85,6 +73,14 @@ void AppendToUri(std::string& uri, char byte) {
 }
 
 } // namespace
+
+std::string SarifResult(std::string_view path, const Remark& remark) {
+    return "{\"ruleId\":" + JsonString(remark.Kind) +
+           ",\"ruleIndex\":" + NumberText(SarifRuleIndex(remark.Kind)) +
+           ",\"level\":" + JsonString(remark.Severity) +
+           ",\"message\":{\"text\":" + JsonString(OneLine(remark.Message)) + "}," +
+           Locations(path, remark.Line) + "}";
+}
 
 std::string UriOf(std::string_view name) {
     std::string path(name);

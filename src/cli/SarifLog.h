@@ -3,6 +3,7 @@
 #pragma once
 
 #include "cli/CheckedDocument.h"
+#include "cli/GccReport.h"
 
 #include <cstddef>
 #include <string>
@@ -16,6 +17,8 @@ struct SarifPart {
     std::string Notifications; // what the reader says, and files that could not be read or written
     bool Failed = false;       // a document was not read to its end, or a program not written
 };
+
+std::string SarifResult(std::string_view path, const Remark& remark);
 
 SarifPart SarifOf(const CheckedDocument& checked);
 

@@ -39,7 +39,14 @@ constexpr auto kRules = std::to_array<Rule>(
      {"label-twice", "note", "A label stands twice in the program."},
      {"same-name", "note", "Two states, or two events, have the same name."},
      {"timer-blanks", "note", "Two timer ids differ only in blanks."},
-     {"oscillates", "note", "States lead to each other by ELSE, so that the machine never rests."}});
+     {"oscillates", "note", "States lead to each other by ELSE, so that the machine never rests."},
+     {"file-missing", "note", "The builder script lists a file that is not there."},
+     {"program-older", "note", "The program is older than its document."},
+     {"program-differs", "note", "The program is not what its document gives."},
+     {"prefix-twice", "note", "Two machines of a project have the same prefix."},
+     {"label-in-two", "note", "A label stands in two programs of a project."},
+     {"launch-segments", "note", "A project has only one launch segment, and its tasks need one."},
+     {"nv-directories", "note", "A project has only one non-volatile directory, and its data needs one."}});
 
 } // namespace
 

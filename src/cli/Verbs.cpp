@@ -162,8 +162,8 @@ void DocumentRun::TellReport(const Report& report) {
         failures_, starts,         !read_.BrokeOff, asked_.Advice ? &advice_ : nullptr};
     if (asked_.Format == ReportFormat::Sarif)
         share_.Log = SarifOf(checked);
-    const std::string text =
-        DocumentReport(checked, {asked_.Format, arguments_.Documents.size() > 1, asked_.Quiet});
+    const std::string text = DocumentReport(
+        checked, {asked_.Format, arguments_.Documents.size() > 1 || asked_.Project, asked_.Quiet});
     if (Is(Verb::Check))
         outcome_.Output += text;
     else if (IsForPrograms())

@@ -9,6 +9,7 @@
 #include "cli/MachineVerbs.h"
 #include "cli/MessageText.h"
 #include "cli/ProgramTargets.h"
+#include "cli/ProjectVerb.h"
 #include "cli/ReviewVerbs.h"
 #include "cli/StandardStreams.h"
 #include "cli/TestVerb.h"
@@ -58,6 +59,8 @@ int Do(const Arguments& arguments, NativeFiles& files) {
         return Deliver(RunExportVerb(arguments, TestFiles(files, *unfinished)));
     if (ComparesVersions(arguments.What))
         return Deliver(RunReviewVerb({arguments, date.Date, files, *unfinished}));
+    if (arguments.Building.Project)
+        return RunOnProject(arguments, files, *unfinished);
     return RunOnDocuments(arguments, files, *unfinished, date.Date);
 }
 

@@ -92,6 +92,8 @@ TEST_F(Usage, WhatDoesNotGoTogetherIsSaid) {
     ExpectWrong("generate --depfile d -o - a",
                 "--depfile says which file is made of which document; with -o - no file is made");
     ExpectWrong("format --check -o out a", "--check writes nothing, so that there is nothing for -o to name");
+    ExpectWrong("check --project p.b1d a",
+                "--project looks over the documents of a builder script; name none beside it");
     ExpectWrong("check -j 0 a", "--jobs: Value 0 not in range 1 to 1000");
 }
 
