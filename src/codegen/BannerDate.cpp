@@ -3,6 +3,7 @@
 
 #include <array>
 #include <charconv>
+#include <chrono>
 #include <optional>
 #include <string_view>
 
@@ -17,6 +18,22 @@ std::string Shown(const std::tm* parts) {
     const std::size_t length =
         parts ? std::strftime(text.data(), text.size(), "%d/%m/%Y %H:%M:%S", parts) : 0;
     return {text.data(), length};
+}
+
+// std::gmtime ends with the year 3000 on some systems.
+std::tm Utc(std::time_t moment) {
+    const std::chrono::sys_seconds time{std::chrono::seconds{moment}};
+    const auto midnight = std::chrono::floor<std::chrono::days>(time);
+    const std::chrono::year_month_day date{midnight};
+    const std::chrono::hh_mm_ss clock{time - midnight};
+    std::tm parts{};
+    parts.tm_year = int(date.year()) - 1900;
+    parts.tm_mon = int(unsigned(date.month())) - 1;
+    parts.tm_mday = int(unsigned(date.day()));
+    parts.tm_hour = int(clock.hours().count());
+    parts.tm_min = int(clock.minutes().count());
+    parts.tm_sec = int(clock.seconds().count());
+    return parts;
 }
 
 std::optional<std::time_t> Moment(std::string_view epoch) {
@@ -41,7 +58,8 @@ BannerMoment BannerDate(std::time_t now, const char* sourceDateEpoch) {
     const std::optional<std::time_t> moment = Moment(sourceDateEpoch);
     if (!moment)
         return {{}, Fault(sourceDateEpoch)};
-    return {Shown(std::gmtime(&*moment)), {}};
+    const std::tm utc = Utc(*moment);
+    return {Shown(&utc), {}};
 }
 
 } // namespace orvane

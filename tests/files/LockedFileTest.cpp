@@ -14,6 +14,9 @@
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
+#else
+#include <string>
+#include <windows.h>
 #endif
 
 namespace orvane {
@@ -135,6 +138,40 @@ TEST_F(LockedFileTest, IsFreeWhenItsProcessWasKilled) {
     EXPECT_FALSE(Files.Close(Open(Existence::Old)));
     close(ready[0]);
     close(ready[1]);
+}
+
+#else
+
+constexpr const char* kFileToHold = "ORVANE_TEST_FILE_TO_HOLD";
+
+// The other process of the test below, which ends it; by itself it does nothing.
+TEST_F(LockedFileTest, DISABLED_HoldsAFileUntilItIsEnded) {
+    const char* path = std::getenv(kFileToHold);
+    if (path == nullptr || Files.OpenLocked(path, Existence::New).Failure)
+        return;
+    Sleep(INFINITE);
+}
+
+TEST_F(LockedFileTest, IsFreeWhenItsProcessWasEnded) {
+    std::array<char, 1024> program{};
+    GetModuleFileNameA(nullptr, program.data(), program.size());
+    std::string command = '"' + std::string(program.data()) +
+                          "\" --gtest_also_run_disabled_tests --gtest_filter=*HoldsAFileUntilItIsEnded";
+    SetEnvironmentVariableA(kFileToHold, Path.string().c_str());
+    STARTUPINFOA start{};
+    start.cb = sizeof start;
+    PROCESS_INFORMATION other{};
+    ASSERT_TRUE(CreateProcessA(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start,
+                               &other));
+    constexpr DWORD kPatience = 60'000; // milliseconds
+    for (DWORD waited = 0; waited < kPatience && !fs::exists(Path); waited += 20)
+        Sleep(20);
+    EXPECT_EQ(WhyNot(Existence::Old), std::errc::device_or_resource_busy);
+    EXPECT_TRUE(TerminateProcess(other.hProcess, 1));
+    EXPECT_EQ(WaitForSingleObject(other.hProcess, kPatience), WAIT_OBJECT_0);
+    EXPECT_FALSE(Files.Close(Open(Existence::Old)));
+    CloseHandle(other.hThread);
+    CloseHandle(other.hProcess);
 }
 
 #endif
