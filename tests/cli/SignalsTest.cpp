@@ -13,6 +13,9 @@
 namespace orvane {
 namespace {
 
+// Seconds after which the program is ended in any case, also when this test was ended before it.
+constexpr unsigned kLongestLife = 300;
+
 class Signals : public Orvanec, public testing::WithParamInterface<int> {
   protected:
     // So large that writing it takes a while.
@@ -26,6 +29,7 @@ class Signals : public Orvanec, public testing::WithParamInterface<int> {
         const pid_t child = fork();
         if (child != 0)
             return child;
+        alarm(kLongestLife);
         if (chdir(folder.c_str()) == 0 && std::freopen("/dev/null", "w", stderr) != nullptr)
             execl(ORVANEC, "orvanec", verb, "large.zfsm", "-o", "out", nullptr);
         _exit(127);
@@ -37,6 +41,7 @@ class Signals : public Orvanec, public testing::WithParamInterface<int> {
             return -1;
         const pid_t child = fork();
         if (child == 0) {
+            alarm(kLongestLife);
             if (dup2(ends[1], STDOUT_FILENO) >= 0 && chdir(Path("").c_str()) == 0)
                 execl(ORVANEC, "orvanec", "test", "-j", "1", "--junit", "out.xml", "done.ztest",
                       "endless.ztest", nullptr);
