@@ -29,7 +29,7 @@ set_property(SOURCE ${CMAKE_CURRENT_LIST_DIR}/kit/WebAddresses.cpp PROPERTY COMP
   ORVANE_DOWNLOAD_URL="${ORVANE_DOWNLOAD_URL}" ORVANE_HOME_URL="${ORVANE_HOME_URL}"
   ORVANE_HELP_URL="${ORVANE_HELP_URL}" ORVANE_HELP_FOLDER="${help_folder}")
 target_link_libraries(orvane_desktop
-  PUBLIC orvane_engine Qt6::Widgets Qt6::Network QScintilla::QScintilla
+  PUBLIC orvane_engine Qt6::Widgets Qt6::Network Qt6::PrintSupport QScintilla::QScintilla
   PRIVATE $<BUILD_INTERFACE:orvane_warnings>)
 
 orvane_precompile_headers(orvane_desktop <algorithm> <optional> <string> <vector>

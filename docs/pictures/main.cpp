@@ -12,6 +12,7 @@
 #include <QDir>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QSpinBox>
 #include <QTabWidget>
 #include <QTableView>
 #include <QTest>
@@ -31,6 +32,8 @@ constexpr QSize kSideSize(640, 480);
 constexpr QSize kPaneSize(1200, 780);
 constexpr QSize kFindingsSize(860, 560);
 constexpr QSize kComparisonSize(860, 600);
+constexpr QSize kPrintSize(860, 640);
+constexpr QSize kExportSize(860, 420);
 
 class Photographer {
   public:
@@ -58,6 +61,7 @@ class Photographer {
     void RunPane();
     void FindingsPane();
     void Comparison();
+    void PrintAndExport();
 
     QDir examples_;
     QDir pictures_;
@@ -208,6 +212,22 @@ void Photographer::Comparison() {
     SideWindow("mnuCompareWith", "frmCompare", "compare", kComparisonSize);
 }
 
+void Photographer::PrintAndExport() {
+    Open("garage.zfsm");
+    OnDialog([this] { Trigger("mnuFPrint"); },
+             [this](QWidget& dialog) {
+                 dialog.resize(kPrintSize);
+                 dialog.findChild<QLineEdit*>(QStringLiteral("txtRevision"))->setText(QStringLiteral("C"));
+                 dialog.findChild<QSpinBox*>(QStringLiteral("spnPage"))->setValue(3);
+                 Grab(dialog, "print");
+             });
+    OnDialog([this] { Trigger("mnuFExport"); },
+             [this](QWidget& dialog) {
+                 dialog.resize(kExportSize);
+                 Grab(dialog, "export");
+             });
+}
+
 bool Photographer::TakeAll() {
     Table();
     TypedTarget();
@@ -221,6 +241,7 @@ bool Photographer::TakeAll() {
     SideWindow("mnuCodeGenerate", "frmGenerator", "report");
     RunPane();
     FindingsPane();
+    PrintAndExport();
     Open("pump.zfsm");
     SideWindow("mnuBuilder", "frmBuilder", "builder");
     Comparison(); // leaves something unsaved behind, which the next start would offer

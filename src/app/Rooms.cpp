@@ -5,11 +5,13 @@
 #include "codegen/ui/GeneratorRoom.h"
 #include "editors/ui/CellRoom.h"
 #include "editors/ui/EditorsRoom.h"
+#include "export/ui/ExportRoom.h"
 #include "find/ui/FindRoom.h"
 #include "find/ui/MoveRoom.h"
 #include "find/ui/RenameRoom.h"
 #include "findings/ui/FindingsRoom.h"
 #include "outside/ui/OutsideRoom.h"
+#include "print/ui/PrintRoom.h"
 #include "recovery/ui/RecoveryRoom.h"
 #include "review/ui/ReviewRoom.h"
 #include "run/ui/RunRoom.h"
@@ -35,6 +37,8 @@ std::vector<std::unique_ptr<Room>> MakeRooms(const RoomPlace& place) {
     rooms.push_back(std::make_unique<FindRoom>(place));
     rooms.push_back(std::make_unique<RenameRoom>(place));
     rooms.push_back(std::make_unique<MoveRoom>(place));
+    rooms.push_back(std::make_unique<ExportRoom>(place));
+    rooms.push_back(std::make_unique<PrintRoom>(place));
     rooms.push_back(std::make_unique<WelcomeRoom>(place));
     return rooms;
 }

@@ -31,6 +31,9 @@ TEST(Commands, TheMenusAreTheGivenOnesWithHelpBehindThem) {
   (a line)
   mnuFRecent: Recent
   mnuFRecover: Recover earlier work
+  mnuFExport: Export...
+  mnuFImport: Import...
+  mnuFPrint: Print...
   mnuFQuit: Quit
 mnuEdit: Edit
   mnuUndo: Undo
