@@ -124,22 +124,7 @@ constexpr const char* kGitNotes =
 
 class CommandLine {
   public:
-    CommandLine() {
-        app_.name("orvanec");
-        app_.set_version_flag("--version", "orvanec " + VersionNumber());
-        app_.footer(kProgramNotes);
-        app_.require_subcommand(1);
-        app_.get_formatter()->label("SUBCOMMAND", "VERB");
-        app_.allow_windows_style_options(false);
-        AddGenerate();
-        AddCheck();
-        AddFormat();
-        find_.AddTo(AddVerb("find", "Print where a text stands in documents", kFindNotes));
-        AddTest();
-        AddMachineVerbs();
-        AddExport();
-        AddReview();
-    }
+    explicit CommandLine(const std::vector<std::string>& words);
 
     Arguments Parse(const std::vector<std::string>& words);
     Outcome Answer(const CLI::ParseError& error);
@@ -149,6 +134,7 @@ class CommandLine {
     std::string WhatIsMissing() const;
     std::string WhatIsLeftOver() const;
 
+    void Add(Verb verb);
     void AddGenerate() {
         CLI::App& verb = AddVerb("generate", "Write the controller program of each document", kGenerateNotes);
         AddDocuments(verb);
@@ -167,41 +153,32 @@ class CommandLine {
         AddOutput(verb, "Write to FILE instead of over the document; - is standard output");
         build_.AddFormat(verb);
     }
-
     void AddTest() {
         CLI::App& verb = AddVerb("test", "Run the tests of machines", kTestNotes);
         verb.add_option("FILE", documents_, "Files of tests, documents, or folders")->type_name("");
         tests_.AddTo(verb);
     }
-
-    void AddMachineVerbs() {
-        machines_.AddSimulate(AddVerb("simulate", "Print what a machine does, step by step", kSimulateNotes));
-        CLI::App& tour = AddVerb("tour", "Write tests that take every transition", kTourNotes);
-        machines_.AddTour(tour);
-        AddOutput(tour, "Write to FILE instead of standard output");
-        machines_.AddExplore(
-            AddVerb("explore", "Tell what holds in all behaviours of a machine", kExploreNotes));
+    void AddTour() {
+        CLI::App& verb = AddVerb("tour", "Write tests that take every transition", kTourNotes);
+        machines_.AddTour(verb);
+        AddOutput(verb, "Write to FILE instead of standard output");
+    }
+    void AddDiagram() {
+        CLI::App& verb = AddVerb("diagram", "Draw a machine", kDiagramNotes);
+        export_.AddDiagram(verb);
+        AddOutput(verb, "Write to FILE instead of standard output");
     }
     void AddExport() {
-        CLI::App& diagram = AddVerb("diagram", "Draw a machine", kDiagramNotes);
-        export_.AddDiagram(diagram);
-        AddOutput(diagram, "Write to FILE instead of standard output");
-        CLI::App& exporting = AddVerb("export", "Write a document in another form", kExportNotes);
-        export_.AddExport(exporting);
-        AddOutput(exporting, "Write to FILE instead of standard output");
-        CLI::App& importing = AddVerb("import", "Make a document of a file in another form", kImportNotes);
-        export_.AddImport(importing);
-        AddOutput(importing, "The document to write; - is standard output");
+        CLI::App& verb = AddVerb("export", "Write a document in another form", kExportNotes);
+        export_.AddExport(verb);
+        AddOutput(verb, "Write to FILE instead of standard output");
     }
-    void AddReview() {
-        review_.AddDiff(AddVerb("diff", "Tell what leads from one document to another", kDiffNotes));
-        review_.AddShow(
-            AddVerb("show", "Write a document as text with names in place of numbers", kShowNotes));
-        review_.AddMerge(AddVerb("merge", "Put two versions that came from one together", kMergeNotes));
-        review_.AddConflicts(
-            AddVerb("conflicts", "Tell the conflicts that stand in documents", kConflictsNotes));
-        review_.AddGit(AddVerb("git", "Make git compare and merge documents by orvanec", kGitNotes));
+    void AddImport() {
+        CLI::App& verb = AddVerb("import", "Make a document of a file in another form", kImportNotes);
+        export_.AddImport(verb);
+        AddOutput(verb, "The document to write; - is standard output");
     }
+    void AddReview(Verb verb);
 
     CLI::App& AddVerb(const char* name, const char* purpose, const char* notes) {
         CLI::App* verb = app_.add_subcommand(name, purpose);
@@ -228,17 +205,77 @@ class CommandLine {
     std::string firstWord_;
 };
 
-Verb CommandLine::Asked() const {
-    for (const auto& [name, verb] : kVerbs) {
-        if (app_.got_subcommand(name))
-            return verb;
+// A verb that is asked for is the only one that is made: to make them all takes longer than many a document.
+CommandLine::CommandLine(const std::vector<std::string>& words)
+    : firstWord_(words.empty() ? "" : words.front()) {
+    app_.name("orvanec");
+    app_.set_version_flag("--version", "orvanec " + VersionNumber());
+    app_.footer(kProgramNotes);
+    app_.require_subcommand(1);
+    app_.get_formatter()->label("SUBCOMMAND", "VERB");
+    app_.allow_windows_style_options(false);
+    const auto isAsked = [&](const auto& each) { return firstWord_ == each.first; };
+    const bool any = std::none_of(kVerbs.begin(), kVerbs.end(), isAsked);
+    for (const auto& each : kVerbs) {
+        if (any || isAsked(each))
+            Add(each.second);
     }
-    return Verb::Check; // never: a verb is required
+}
+
+void CommandLine::Add(Verb verb) {
+    switch (verb) {
+    case Verb::Generate:
+        return AddGenerate();
+    case Verb::Check:
+        return AddCheck();
+    case Verb::Format:
+        return AddFormat();
+    case Verb::Find:
+        return find_.AddTo(AddVerb("find", "Print where a text stands in documents", kFindNotes));
+    case Verb::Test:
+        return AddTest();
+    case Verb::Simulate:
+        return machines_.AddSimulate(
+            AddVerb("simulate", "Print what a machine does, step by step", kSimulateNotes));
+    case Verb::Explore:
+        return machines_.AddExplore(
+            AddVerb("explore", "Tell what holds in all behaviours of a machine", kExploreNotes));
+    case Verb::Tour:
+        return AddTour();
+    case Verb::Diagram:
+        return AddDiagram();
+    case Verb::Export:
+        return AddExport();
+    case Verb::Import:
+        return AddImport();
+    default:
+        return AddReview(verb);
+    }
+}
+
+void CommandLine::AddReview(Verb verb) {
+    if (verb == Verb::Diff)
+        review_.AddDiff(AddVerb("diff", "Tell what leads from one document to another", kDiffNotes));
+    else if (verb == Verb::Show)
+        review_.AddShow(
+            AddVerb("show", "Write a document as text with names in place of numbers", kShowNotes));
+    else if (verb == Verb::Merge)
+        review_.AddMerge(AddVerb("merge", "Put two versions that came from one together", kMergeNotes));
+    else if (verb == Verb::Conflicts)
+        review_.AddConflicts(
+            AddVerb("conflicts", "Tell the conflicts that stand in documents", kConflictsNotes));
+    else
+        review_.AddGit(AddVerb("git", "Make git compare and merge documents by orvanec", kGitNotes));
+}
+
+Verb CommandLine::Asked() const {
+    const std::string asked = app_.get_subcommands().front()->get_name(); // one is required
+    const auto* const verb =
+        std::find_if(kVerbs.begin(), kVerbs.end(), [&](const auto& each) { return asked == each.first; });
+    return verb->second;
 }
 
 Arguments CommandLine::Parse(const std::vector<std::string>& words) {
-    if (!words.empty())
-        firstWord_ = words.front();
     std::vector<std::string> reversed; // as the parser takes them
     std::transform(words.rbegin(), words.rend(), std::back_inserter(reversed), HideBracket);
     app_.parse(std::move(reversed));
@@ -313,7 +350,7 @@ Outcome WrongUsage(const std::string& what) {
 }
 
 std::variant<Arguments, Outcome> ParseArguments(const std::vector<std::string>& words) {
-    CommandLine commandLine;
+    CommandLine commandLine(words);
     try {
         Arguments arguments = commandLine.Parse(words);
         if (const std::optional<std::string> fault = WrongTogether(arguments))

@@ -36,7 +36,12 @@ std::string TimerLabel(const FsmDocument& document, std::string_view timerId) {
 std::string LaunchLabel(const FsmDocument& document) { return document.General.FsmName + "_Launch"; }
 
 std::string ActionSkipLabel(const FsmDocument& document, StateNumber state, unsigned counter) {
-    return document.General.FsmName + "_" + NumberText(state.Number()) + "_" + HexText(counter);
+    std::string label = document.General.FsmName; // one text that grows: a full table has thousands of these
+    label += '_';
+    label += NumberText(state.Number());
+    label += '_';
+    label += HexText(counter);
+    return label;
 }
 
 std::string InstanceSuffix(const FsmDocument& document) {

@@ -219,14 +219,15 @@ void Reader::ReadState() {
 
 void Reader::ReadTransitions(StateRecord& state) {
     ReadBlock(tag::kTransitionsEnd, [&](std::string_view tag) {
-        if (tag != tag::kTarget && tag != tag::kAction) {
+        const bool isTarget = tag == tag::kTarget;
+        if (!isTarget && tag != tag::kAction) {
             TellUnknown("Unkown tag " + ShownTag(tag) + " in Transitions section");
             return;
         }
         const IndexedValue value = SplitIndex(scanner_.NextValue());
         const RowNumber row = NumberOf(value.Index, CellRows());
-        TellStart({row, record_.State}, tag == tag::kTarget ? tag::kTarget : tag::kAction);
-        if (tag == tag::kTarget) {
+        TellStart({row, record_.State}, isTarget ? tag::kTarget : tag::kAction);
+        if (isTarget) {
             state.Targets[row] = NumberOf(value.Rest, TargetNumbers());
             return;
         }

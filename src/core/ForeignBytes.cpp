@@ -15,6 +15,14 @@ constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 constexpr std::string_view kFirstTag = "\xC2\xA4<"; // the delimiter in UTF-8
 constexpr auto kMarkers = std::to_array<std::string_view>({"<<<<<<< ", ">>>>>>> "});
 
+// Most lines are told from a marker by their first byte; there are tens of thousands of them.
+bool IsMarked(std::string_view line) {
+    const auto begins = [&](std::string_view marker) {
+        return line.front() == marker.front() && line.starts_with(marker);
+    };
+    return std::any_of(kMarkers.begin(), kMarkers.end(), begins);
+}
+
 bool Continues(char byte) { return (byte & '\xC0') == '\x80'; }
 
 // How many bytes the character has that begins with this one; 0 when none does.
@@ -54,10 +62,8 @@ std::optional<Utf8Document> ReadAsUtf8(std::string_view bytes) {
 std::vector<std::size_t> ConflictMarkers(std::string_view bytes) {
     std::vector<std::size_t> lines;
     for (std::size_t number = 1; !bytes.empty(); ++number) {
-        for (const std::string_view marker : kMarkers) {
-            if (bytes.starts_with(marker))
-                lines.push_back(number);
-        }
+        if (IsMarked(bytes))
+            lines.push_back(number);
         const std::size_t end = bytes.find('\n');
         bytes.remove_prefix(end == std::string_view::npos ? bytes.size() : end + 1);
     }

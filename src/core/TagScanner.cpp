@@ -15,9 +15,10 @@ namespace {
 bool HasOnlyCrLf(std::string_view bytes) {
     if (bytes.empty())
         return true;
-    unsigned alone = bytes.front() == '\n' || bytes.back() == '\r';
+    unsigned char alone = bytes.front() == '\n' || bytes.back() == '\r';
+    const char* const data = bytes.data();
     for (std::size_t i = 1; i < bytes.size(); ++i)
-        alone |= (bytes[i - 1] == '\r') ^ (bytes[i] == '\n');
+        alone |= (data[i - 1] == '\r') != (data[i] == '\n');
     return alone == 0;
 }
 
