@@ -4,7 +4,6 @@
 
 #include <QStringList>
 
-class QRect;
 class QWidget;
 
 namespace orvane {
@@ -16,7 +15,5 @@ void RememberFile(const QString& path);
 // Size and place of the window. What does not fit the screens of today is moved onto one.
 void RememberPlace(const QWidget& window);
 void RestorePlace(QWidget& window);
-// Makes the window no larger than the screen and moves it there, however it was remembered.
-void FitOnScreen(QWidget& window, const QRect& screen);
 
 } // namespace orvane

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/Application.h"
 #include "app/Ending.h"
+#include "app/OnScreen.h"
 #include "app/Remembered.h"
 #include "app/frmTable.h"
 #include "files/NativeFiles.h"
@@ -13,6 +14,7 @@ int main(int argc, char* argv[]) {
     QApplication::setApplicationName(QStringLiteral("Orvane"));
     QApplication::setWindowIcon(orvane::WindowIcon());
     QGuiApplication::setDesktopFileName(QStringLiteral("org.orvane.Orvane"));
+    const orvane::OnScreen onScreen;
     orvane::frmTable window;
     const orvane::Ending ending(window);
     orvane::RestorePlace(window);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What every desktop program is expected to do.
+#include "app/OnScreen.h"
 #include "app/Remembered.h"
 #include "kit/CodePane.h"
 #include "kit/DocumentLineEdit.h"
@@ -148,6 +149,22 @@ TEST_F(MannersTest, TheTableIsZoomedAndTheDocumentStaysWhatItIs) {
     EXPECT_EQ(Grid()->rowHeight(6), height);
     Wheel(-120);
     EXPECT_LT(Grid()->columnWidth(2), width);
+}
+
+TEST_F(MannersTest, AWindowThatIsMadeLargerThanTheScreenComesUpWithin) {
+    const OnScreen onScreen;
+    const QSize screen = QGuiApplication::primaryScreen()->availableSize();
+    for (const Qt::WindowType type : {Qt::Window, Qt::Dialog}) {
+        QWidget window(nullptr, type);
+        window.resize(screen + QSize(100, 100));
+        window.show();
+        EXPECT_LE(window.width(), screen.width());
+        EXPECT_LT(window.height(), screen.height()); // its title bar is seen too
+    }
+    QWidget popUp(nullptr, Qt::Popup);
+    popUp.resize(screen + QSize(100, 100));
+    popUp.show();
+    EXPECT_GT(popUp.width(), screen.width());
 }
 
 TEST_F(MannersTest, TheSizeIsRemembered) {

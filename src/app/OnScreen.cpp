@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/OnScreen.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QScreen>
+#include <QWidget>
+
+#include <algorithm>
+
+namespace orvane {
+
+namespace {
+
+constexpr int kTitleBar = 32; // pixels
+
+// What surrounds the window is known only when it is shown; a title bar must find room above.
+QRect RoomOn(const QRect& screen) { return screen.adjusted(0, kTitleBar, 0, 0); }
+
+} // namespace
+
+void FitOnScreen(QWidget& window, const QRect& screen) {
+    const QRect room = RoomOn(screen);
+    const QSize size = window.size().boundedTo(room.size());
+    if (size != window.size())
+        window.resize(size);
+    const QPoint corner(std::clamp(window.x(), room.left(), room.right() + 1 - size.width()),
+                        std::clamp(window.y(), screen.top(), room.bottom() + 1 - size.height()));
+    if (corner != window.pos())
+        window.move(corner);
+}
+
+OnScreen::OnScreen() { qApp->installEventFilter(this); }
+
+// Before a window is seen. Its place is left to Qt and the desktop, which centre a dialog over its window.
+bool OnScreen::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::Show || event->spontaneous() || !watched->isWidgetType())
+        return false;
+    auto& widget = dynamic_cast<QWidget&>(*watched);
+    if (widget.windowType() != Qt::Window && widget.windowType() != Qt::Dialog)
+        return false;
+    const QSize size = widget.size().boundedTo(RoomOn(widget.screen()->availableGeometry()).size());
+    if (size != widget.size())
+        widget.resize(size);
+    return false;
+}
+
+} // namespace orvane
