@@ -2,7 +2,7 @@
 #include "print/Booklet.h"
 
 #include "codegen/CodeGenerator.h"
-#include "codegen/ProgramBanner.h"
+#include "codegen/PathInProgram.h"
 #include "export/Names.h"
 #include "print/Cover.h"
 #include "print/DiagramSheets.h"
@@ -44,7 +44,7 @@ std::vector<Sheet> BookletOf(const FsmDocument& document, const CoverFacts& fact
     if (parts.Cover)
         contents = WriteCover(flow, machine, facts);
     if (parts.Diagram)
-        WriteDiagram(flow, parts.Picture);
+        WriteDiagram(flow, parts.Drawn);
     if (parts.Table)
         WriteTable(flow, document);
     if (parts.Listing)
@@ -58,11 +58,12 @@ std::vector<Sheet> BookletOf(const FsmDocument& document, const CoverFacts& fact
     return sheets;
 }
 
-std::string ProgramDigestOf(const FsmDocument& document, const std::string& ansiPath) {
-    GeneratedProgram program = GenerateProgram(document, {ansiPath, {}});
+std::string ProgramDigestOf(const FsmDocument& document, const std::string& path) {
+    GeneratedProgram program = GenerateProgram(document, {PathInProgram(path), {}});
     if (program.Findings.HasErrors())
         return "none: the design has errors";
-    const std::string hex = HexText(Crc32(WithoutBanner(ProgramFileBytes(std::move(program)))));
+    const std::string bytes = ProgramFileBytes(std::move(program));
+    const std::string hex = HexText(Crc32(std::string_view(bytes).substr(bytes.find('\n') + 1)));
     return std::string(8 - hex.size(), '0') + hex + " (without the first line, which has the date)";
 }
 

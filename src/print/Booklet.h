@@ -29,7 +29,7 @@ struct Parts {
     bool Table = true;
     bool Listing = true;
     bool Report = true;
-    Paper Picture = {}; // how large the diagram is where nothing makes it smaller; none without a size
+    Picture Drawn = {};
 };
 
 // All pages. Nothing is cut off: what does not fit its place in the table stands in the listing, and a
@@ -39,7 +39,7 @@ std::vector<Sheet> BookletOf(const FsmDocument& document, const CoverFacts& fact
                              const Paper& paper, const Letters& letters);
 
 // The CRC-32 of the program that the document makes, without its first line, which has the date: the same
-// each time. In words when there is no program.
-std::string ProgramDigestOf(const FsmDocument& document, const std::string& ansiPath);
+// each time. In words when there is no program. The path is that of the document, in UTF-8.
+std::string ProgramDigestOf(const FsmDocument& document, const std::string& path);
 
 } // namespace orvane::print

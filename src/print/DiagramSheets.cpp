@@ -26,13 +26,21 @@ double FittingScale(const Paper& size, int width, int height) {
 }
 
 void ShowPart(PageFlow& flow, const Box& part, double scale) {
-    flow.Current().Picture =
+    flow.Current().Shown =
         PicturePart{part, Box{0, flow.At(), int(part.Width * scale), int(part.Height * scale)}};
 }
 
-void WriteParts(PageFlow& flow, const Paper& size, PagePlan plan, const Box& part) {
-    const int across = int(part.Width * (1 - kOverlap));
-    const int down = int(part.Height * (1 - kOverlap));
+// So long are parts that cover the whole evenly.
+int EvenPart(int whole, std::size_t parts) {
+    return int(std::ceil(whole / (1 + (double(parts) - 1) * (1 - kOverlap))));
+}
+
+void WriteParts(PageFlow& flow, const Paper& size, PagePlan plan) {
+    const Box part{0, 0, EvenPart(size.Width, plan.Columns), EvenPart(size.Height, plan.Rows)};
+    const double scale = FittingScale({part.Width, part.Height}, flow.Width(),
+                                      flow.Bottom() - flow.Top() - PlanHeight(plan, flow.Measure()));
+    const int across = int(std::ceil(part.Width * (1 - kOverlap)));
+    const int down = int(std::ceil(part.Height * (1 - kOverlap)));
     for (plan.Row = 0; plan.Row < plan.Rows; ++plan.Row) {
         for (plan.Column = 0; plan.Column < plan.Columns; ++plan.Column) {
             flow.BeginPage();
@@ -41,17 +49,22 @@ void WriteParts(PageFlow& flow, const Paper& size, PagePlan plan, const Box& par
             const int y = int(plan.Row) * down;
             ShowPart(flow,
                      {x, y, std::min(part.Width, size.Width - x), std::min(part.Height, size.Height - y)},
-                     kReadable);
+                     scale);
         }
     }
 }
 
 } // namespace
 
-void WriteDiagram(PageFlow& flow, const Paper& size) {
+void WriteDiagram(PageFlow& flow, const Picture& picture) {
+    const Paper& size = picture.Size;
     flow.BeginChapter("Diagram");
     if (size.Width == 0 || size.Height == 0)
         return flow.Write(0, Face::Body, "There is nothing to draw yet.");
+    if (!picture.IsWhole)
+        flow.Write(0, Face::Body,
+                   "The machine has more lines than one picture can show: this is what is around its first "
+                   "state. All transitions stand in the table.");
     const double scale = FittingScale(size, flow.Width(), flow.Room());
     ShowPart(flow, {0, 0, size.Width, size.Height}, scale);
     PagePlan plan;
@@ -61,7 +74,7 @@ void WriteDiagram(PageFlow& flow, const Paper& size) {
     part.Height -= int(PlanHeight(plan, flow.Measure()) / kReadable);
     plan.Rows = std::size_t(PartsFor(size.Height, part.Height));
     if (scale < kReadable && plan.Rows * plan.Columns <= kMostParts)
-        WriteParts(flow, size, plan, part);
+        WriteParts(flow, size, plan);
 }
 
 } // namespace orvane::print

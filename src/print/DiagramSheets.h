@@ -6,7 +6,7 @@
 namespace orvane::print {
 
 // The whole picture on one page; where that makes its texts too small to be read on paper, larger parts of it
-// follow, each with a plan that shows where it is. `size` is that of the picture at its full size.
-void WriteDiagram(PageFlow& flow, const Paper& size);
+// follow, each with a plan that shows where it is.
+void WriteDiagram(PageFlow& flow, const Picture& picture);
 
 } // namespace orvane::print

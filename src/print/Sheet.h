@@ -41,6 +41,18 @@ struct Ground {
     Shade How = Shade::Light;
 };
 
+// What can be printed on.
+struct Paper {
+    int Width = 0;
+    int Height = 0;
+};
+
+// What there is of the machine as a picture.
+struct Picture {
+    Paper Size;          // where nothing makes it smaller; none when there is nothing to draw
+    bool IsWhole = true; // else it shows only what is around the first state
+};
+
 // A part of the machine's picture, in twips of its full size, and the box that it fills.
 struct PicturePart {
     Box Part;
@@ -51,13 +63,7 @@ struct Sheet {
     std::vector<Ground> Grounds;
     std::vector<Line> Lines;
     std::vector<Text> Texts;
-    std::optional<PicturePart> Picture;
-};
-
-// What can be printed on.
-struct Paper {
-    int Width = 0;
-    int Height = 0;
+    std::optional<PicturePart> Shown; // of the machine's picture
 };
 
 } // namespace orvane::print

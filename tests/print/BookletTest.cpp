@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "print/Booklet.h"
 
+#include "codegen/CodeGenerator.h"
 #include "print/Cover.h"
 #include "print/Listing.h"
 #include "print/TableTiles.h"
 #include "text/AnsiText.h"
+#include "text/Crc32.h"
+#include "text/NumberText.h"
 #include "text/Utf8.h"
 
 #include <gmock/gmock.h>
@@ -86,6 +89,37 @@ TEST(Fitted, EndsInDotsWhenItIsNotAllAndNeverWithinALetter) {
     EXPECT_THAT(Fitted("abcdefgh", 300, 2, Face::Body, kLetters), ElementsAre("abc", "de\xE2\x80\xA6"));
     EXPECT_THAT(Fitted("\xC3\xA9\xC3\xA9\xC3\xA9\xC3\xA9", 300, 1, Face::Body, kLetters),
                 ElementsAre("\xC3\xA9\xC3\xA9\xE2\x80\xA6"));
+}
+
+// Letters of more than one byte are twice as wide as all others.
+class UnevenLetters : public SquareLetters {
+  public:
+    int Width(char32_t letter, Face) const override { return letter < 0x80 ? 50 : 100; }
+};
+
+TEST(Fitted, CutsWholeLettersWhateverTheirWidths) {
+    const UnevenLetters letters;
+    EXPECT_THAT(Fitted("a\xC3\xA9\xE2\x82\xAC"
+                       "bcdef",
+                       300, 1, Face::Body, letters),
+                ElementsAre("a\xC3\xA9\xE2\x80\xA6"));
+    for (int width = 150; width < 500; width += 10) {
+        const std::string fitted = Fitted("\xE2\x82\xAC\xE2\x82\xAC\xE2\x82\xAC\xE2\x82\xAC\xE2\x82\xAC",
+                                          width, 1, Face::Body, letters)
+                                       .front();
+        EXPECT_EQ(SoundLength(fitted), fitted.size()) << width;
+        EXPECT_LE(WidthOf(fitted, Face::Body, letters), width);
+    }
+}
+
+TEST(Booklet, ALongTextGoesOnOnTheNextPage) {
+    FsmDocument document;
+    document.State(1).Name = "Idle";
+    for (int line = 0; line < 500; ++line)
+        document.State(1).Tooltip += "line" + std::to_string(line) + "\r\n";
+    const std::vector<Sheet> sheets = Printed(document, kListingAlone);
+    ExpectAllOnThePaper(sheets);
+    EXPECT_EQ(TextsOf(sheets).count("line499"), 1u);
 }
 
 TEST(Booklet, EveryCellStandsOnOnePageOfTheTable) {
@@ -201,26 +235,35 @@ TEST(Booklet, TheCoverNamesWhatWasPrintedAndWhereEachPartBegins) {
 
 TEST(Diagram, IsShownWholeAndNoLargerThanItIs) {
     Parts parts{false, true, false, false, false};
-    parts.Picture = {4'000, 3'000};
+    parts.Drawn.Size = {4'000, 3'000};
     std::vector<Sheet> sheets = Printed(FullTable(2, 2), parts);
     ASSERT_EQ(sheets.size(), 1u);
-    EXPECT_EQ(sheets.front().Picture->Where.Width, 4'000);
-    parts.Picture = {12'000, 3'000};
+    EXPECT_EQ(sheets.front().Shown->Where.Width, 4'000);
+    parts.Drawn.Size = {12'000, 3'000};
     sheets = Printed(FullTable(2, 2), parts);
     ASSERT_EQ(sheets.size(), 1u);
-    EXPECT_EQ(sheets.front().Picture->Where.Width, kPaper.Width);
-    EXPECT_EQ(sheets.front().Picture->Where.Height, 2'500);
+    EXPECT_EQ(sheets.front().Shown->Where.Width, kPaper.Width);
+    EXPECT_EQ(sheets.front().Shown->Where.Height, 2'500);
+}
+
+TEST(Diagram, ThatIsNotTheWholeMachineSaysSo) {
+    Parts parts{false, true, false, false, false};
+    parts.Drawn = {{4'000, 3'000}, false};
+    const std::map<std::string, int> texts = TextsOf(Printed(FullTable(2, 2), parts));
+    EXPECT_TRUE(std::any_of(texts.begin(), texts.end(), [](const auto& text) {
+        return text.first.find("more lines than one picture") != std::string::npos;
+    }));
 }
 
 TEST(Diagram, ThatIsTooSmallToBeReadFollowsInPartsThatCoverIt) {
     Parts parts{false, true, false, false, false};
-    parts.Picture = {40'000, 50'000};
+    parts.Drawn.Size = {40'000, 50'000};
     const std::vector<Sheet> sheets = Printed(FullTable(2, 2), parts);
     ASSERT_GT(sheets.size(), 4u);
     int right = 0;
     int bottom = 0;
     for (std::size_t i = 1; i < sheets.size(); ++i) {
-        const PicturePart& shown = *sheets[i].Picture;
+        const PicturePart& shown = *sheets[i].Shown;
         if (shown.Part.X == 0) {
             EXPECT_LE(shown.Part.Y, bottom);
             right = 0;
@@ -255,7 +298,8 @@ TEST(ProgramDigest, IsTheSameEachTimeAndSaysWhenThereIsNoProgram) {
     document.State(2).Actions[4].clear();
     const std::string digest = ProgramDigestOf(document, "/a");
     EXPECT_THAT(digest, Not(HasSubstr("none")));
-    EXPECT_EQ(ProgramDigestOf(document, "/a"), digest);
+    const std::string dated = ProgramFileBytes(GenerateProgram(document, {"/a", "22/11/2026 08:00:00"}));
+    EXPECT_EQ(digest.substr(0, digest.find(' ')), HexText(Crc32(dated.substr(dated.find('\n') + 1))));
     document.State(1).EntryCode = "\ty";
     EXPECT_NE(ProgramDigestOf(document, "/a"), digest);
 }

@@ -4,7 +4,6 @@
 #include "core/DocumentWriter.h"
 #include "files/FileWriter.h"
 #include "files/NativeFiles.h"
-#include "kit/AnsiString.h"
 #include "kit/FilePath.h"
 #include "kit/UserMessageBox.h"
 #include "print/ui/frmPrint.h"
@@ -65,7 +64,7 @@ print::CoverFacts PrintRoom::Facts() const {
     facts.File = QDir::toNativeSeparators(path).toStdString();
     facts.Date = DateText().toStdString();
     facts.DocumentDigest = DocumentDigest();
-    facts.ProgramDigest = print::ProgramDigestOf(session_.Document(), ToAnsi(path, Delimiter::Kept).Text);
+    facts.ProgramDigest = print::ProgramDigestOf(session_.Document(), facts.File);
     return facts;
 }
 

@@ -20,7 +20,8 @@ QSize Printable(const QPageLayout& paper, int resolution) { return paper.paintRe
 
 print::Parts WithPicture(print::Parts parts, const MachinePicture& picture) {
     if (!picture.IsEmpty())
-        parts.Picture = {picture.Size().width() * kTwipsPerPixel, picture.Size().height() * kTwipsPerPixel};
+        parts.Drawn = {{picture.Size().width() * kTwipsPerPixel, picture.Size().height() * kTwipsPerPixel},
+                       picture.IsWhole()};
     return parts;
 }
 

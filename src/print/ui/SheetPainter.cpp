@@ -47,8 +47,8 @@ void PaintSheet(QPainter& painter, const print::Sheet& sheet, const PaperLetters
                 painter.drawText(text.X, text.Y + letters.Base(set), QString::fromStdString(text.Utf8));
         }
     }
-    if (sheet.Picture)
-        PaintPicture(painter, *sheet.Picture, picture);
+    if (sheet.Shown)
+        PaintPicture(painter, *sheet.Shown, picture);
 }
 
 } // namespace orvane
