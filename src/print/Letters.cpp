@@ -9,7 +9,6 @@ namespace orvane::print {
 
 namespace {
 
-constexpr std::string_view kDots = "\xE2\x80\xA6";
 constexpr char32_t kDotsLetter = 0x2026;
 
 struct Piece {

@@ -18,6 +18,9 @@ class Letters {
     virtual int LineHeight(Face face) const = 0;
 };
 
+// What a text ends in that is cut.
+inline constexpr std::string_view kDots = "\xE2\x80\xA6";
+
 int WidthOf(std::string_view utf8, Face face, const Letters& letters);
 
 // The text in lines of at most this width, which is more than any letter takes: broken behind blanks and "_",

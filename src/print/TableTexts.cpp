@@ -6,6 +6,8 @@
 #include "text/AnsiText.h"
 
 #include <algorithm>
+#include <array>
+#include <numeric>
 
 namespace orvane::print {
 
@@ -13,7 +15,10 @@ namespace {
 
 constexpr int kMostLines = 3; // of a cell
 constexpr int kLeastWidth = 600;
-constexpr int kMostWidth = 1900;
+// How wide a column may be at most: wide ones are read more easily, but narrow ones may save pages.
+constexpr std::array<int, 4> kMostWidths{1900, 1500, 1200, 1000};
+
+using Texts = std::vector<std::vector<std::string>>; // by row and column, heads included
 
 // As the table shows it.
 std::string TimingText(const StateRecord& state) {
@@ -40,9 +45,9 @@ std::vector<std::string> RowOf(std::string head, const FsmDocument& document,
     return row;
 }
 
-std::vector<std::vector<std::string>> TextsOf(const FsmDocument& document) {
+Texts TextsOf(const FsmDocument& document) {
     const std::vector<StateNumber> states = exports::UsedStates(document);
-    std::vector<std::vector<std::string>> rows;
+    Texts rows;
     rows.push_back({ToUtf8(exports::OneLine(document.General.FsmName))});
     for (const StateNumber state : states)
         rows.back().push_back(ToUtf8(exports::StateText(document, state)));
@@ -60,21 +65,17 @@ std::vector<std::vector<std::string>> TextsOf(const FsmDocument& document) {
 
 Face FaceOf(std::size_t row, std::size_t column) { return row == 0 || column == 0 ? Face::Bold : Face::Body; }
 
-int ColumnWidth(const std::vector<std::vector<std::string>>& texts, std::size_t column, const Paper& paper,
-                const Letters& letters) {
+int ColumnWidth(const Texts& texts, std::size_t column, int most, const Letters& letters) {
     int width = kLeastWidth;
     for (std::size_t row = 0; row < texts.size(); ++row)
         width = std::max(width, WidthOf(texts[row][column], FaceOf(row, column), letters) + 2 * kCellGap);
-    return std::min({width, kMostWidth, paper.Width / 3});
+    return std::min(width, most);
 }
 
-} // namespace
-
-PrintedTable MeasuredTable(const FsmDocument& document, const Paper& paper, const Letters& letters) {
-    const std::vector<std::vector<std::string>> texts = TextsOf(document);
+PrintedTable Measured(const Texts& texts, int mostWidth, const Letters& letters) {
     PrintedTable table;
     for (std::size_t column = 0; column < texts.front().size(); ++column)
-        table.Widths.push_back(ColumnWidth(texts, column, paper, letters));
+        table.Widths.push_back(ColumnWidth(texts, column, mostWidth, letters));
     for (std::size_t row = 0; row < texts.size(); ++row) {
         std::vector<CellLines> cells;
         std::size_t most = 1;
@@ -82,11 +83,34 @@ PrintedTable MeasuredTable(const FsmDocument& document, const Paper& paper, cons
             cells.push_back(Fitted(texts[row][column], table.Widths[column] - 2 * kCellGap, kMostLines,
                                    FaceOf(row, column), letters));
             most = std::max(most, cells.back().size());
+            table.CutTexts += cells.back().back().ends_with(kDots) ? 1 : 0;
         }
         table.Heights.push_back(int(most) * letters.LineHeight(Face::Bold) + 2 * kCellGap);
         table.Cells.push_back(std::move(cells));
     }
     return table;
+}
+
+// About how many pages stand beside each other.
+int PagesAcross(const PrintedTable& table, const Paper& paper) {
+    const int all = std::accumulate(table.Widths.begin() + 1, table.Widths.end(), 0);
+    const int room = std::max(paper.Width - table.Widths.front(), 1);
+    return (all + room - 1) / room;
+}
+
+} // namespace
+
+PrintedTable MeasuredTable(const FsmDocument& document, const Paper& paper, const Letters& letters) {
+    const Texts texts = TextsOf(document);
+    const int third = paper.Width / 3;
+    PrintedTable best = Measured(texts, std::min(kMostWidths.front(), third), letters);
+    for (const int width : kMostWidths) {
+        PrintedTable narrower = Measured(texts, std::min(width, third), letters);
+        const bool savesPages = PagesAcross(narrower, paper) < PagesAcross(best, paper);
+        if (savesPages && narrower.CutTexts == best.CutTexts)
+            best = std::move(narrower);
+    }
+    return best;
 }
 
 } // namespace orvane::print

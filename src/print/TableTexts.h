@@ -16,9 +16,11 @@ struct PrintedTable {
     std::vector<int> Widths;                   // by column, twips
     std::vector<int> Heights;                  // by row
     std::vector<std::vector<CellLines>> Cells; // by row and column
+    int CutTexts = 0;                          // that end in dots
 };
 
 // No column is wider than a third of the paper, so that beside the heads there is always room for one.
+// Columns are narrower where that saves pages and cuts no text.
 PrintedTable MeasuredTable(const FsmDocument& document, const Paper& paper, const Letters& letters);
 
 // Between a cell's border and its text.

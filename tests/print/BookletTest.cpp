@@ -147,6 +147,18 @@ TEST(Booklet, EveryCellStandsOnOnePageOfTheTable) {
     ExpectAllOnThePaper(sheets);
 }
 
+TEST(Booklet, ColumnsAreNarrowerWhereThatSavesPagesAndCutsNothing) {
+    FsmDocument document;
+    document.General.FsmName = "M";
+    for (int state = 1; state <= 8; ++state)
+        document.State(state).Name = "Opening slowly"; // wider than an eighth of the paper
+    EXPECT_EQ(Printed(document, kTableAlone).size(), 1u);
+    EXPECT_GT(TextsOf(Printed(document, kTableAlone)).count("slowly"), 0u);
+    for (int state = 1; state <= 8; ++state)
+        document.State(state).Name = "OpeningSlowlyAndWithMuchNoise";
+    EXPECT_GT(Printed(document, kTableAlone).size(), 1u);
+}
+
 TEST(Booklet, EveryPageOfTheTableHasHeadsAndSaysWhichPartItIs) {
     const std::vector<Sheet> sheets = Printed(FullTable(30, 49), kTableAlone);
     ASSERT_GT(sheets.size(), 3u);
