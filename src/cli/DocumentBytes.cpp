@@ -10,21 +10,22 @@
 
 namespace orvane::cli {
 
-bool DocumentBytes::Read(FileSystem& files, const std::string& name) {
-    isInput_ = name == kStandardInput;
+DocumentBytes::DocumentBytes(FileSystem& files, const std::string& name) : isInput_(name == kStandardInput) {
     if (isInput_) {
         InputBytes input = ReadStandardInput();
         input_ = std::move(input.Bytes);
-        return !input.Failure || Fail(input.Failure, ReasonText(input.Failure));
+        if (input.Failure)
+            Fail(input.Failure, ReasonText(input.Failure));
+        return;
     }
     file_ = ReadStream(files, PathOf(name), kLargestDocument);
-    return !file_.Failure || Fail(file_.Failure->Reason, ReasonText(*file_.Failure));
+    if (file_.Failure)
+        Fail(file_.Failure->Reason, ReasonText(*file_.Failure));
 }
 
-bool DocumentBytes::Fail(std::error_code failure, const std::string& reason) {
+void DocumentBytes::Fail(std::error_code failure, const std::string& reason) {
     const bool tooLarge = failure == std::errc::file_too_large;
     whyNot_ = tooLarge ? "is " + std::string(kTooLargeForADocument) : "cannot be read (" + reason + ")";
-    return false;
 }
 
 } // namespace orvane::cli

@@ -14,17 +14,18 @@ namespace orvane::cli {
 // for as long as this does.
 class DocumentBytes {
   public:
-    // False when there are none; WhyNot() has the reason then.
-    bool Read(FileSystem& files, const std::string& name);
+    DocumentBytes(FileSystem& files, const std::string& name);
 
+    // False when they could not be read; WhyNot() has the reason then.
+    bool Are() const { return whyNot_.empty(); }
     std::string_view Bytes() const { return isInput_ ? std::string_view(input_) : file_.Bytes(); }
     // "cannot be read (No such file or directory)".
     const std::string& WhyNot() const { return whyNot_; }
 
   private:
-    bool Fail(std::error_code failure, const std::string& reason);
+    void Fail(std::error_code failure, const std::string& reason);
 
-    bool isInput_ = false;
+    bool isInput_;
     std::string input_;
     FileContent file_;
     std::string whyNot_;

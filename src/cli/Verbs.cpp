@@ -38,13 +38,15 @@ class DocumentRun {
           asked_(run.Asked.Building),
           share_(share),
           index_(index),
-          name_(arguments_.Documents[index]) {}
+          name_(arguments_.Documents[index]),
+          bytes_(run.Files, name_),
+          read_(bytes_.Are() ? ReadDocument(bytes_.Bytes()) : ReadResult()) {}
 
     Outcome Do();
 
   private:
-    // Reads the document into read_. Tells what there is to tell; false when there is no document at all.
-    bool Read();
+    // What there is to tell of the reading; false when there is no document at all.
+    bool TellReading();
     // Looks over the design, and writes the program where that is asked for.
     void Judge(bool isDocument);
     void Generate(GeneratedProgram program);
@@ -88,7 +90,7 @@ class DocumentRun {
 };
 
 Outcome DocumentRun::Do() {
-    const bool isDocument = Read();
+    const bool isDocument = TellReading();
     if (!Is(Verb::Format))
         Judge(isDocument);
     else if (isDocument)
@@ -96,15 +98,14 @@ Outcome DocumentRun::Do() {
     return std::move(outcome_);
 }
 
-bool DocumentRun::Read() {
-    if (!bytes_.Read(run_.Files, name_)) {
+bool DocumentRun::TellReading() {
+    if (!bytes_.Are()) {
         outcome_.Errors += FailureLine(name_, bytes_.WhyNot());
         outcome_.Raise(kFileError);
         read_.BrokeOff = true;
         read_.Messages.push_back({"The file " + bytes_.WhyNot(), 0});
         return false;
     }
-    read_ = ReadDocument(bytes_.Bytes());
     const std::vector<ReaderMessage> foreign = ForeignMessages(bytes_.Bytes());
     read_.Messages.insert(read_.Messages.begin(), foreign.begin(), foreign.end());
     for (const ReaderMessage& message : read_.Messages)

@@ -51,9 +51,11 @@ std::string ShownTag(std::string_view tag) {
 
 class Reader {
   public:
-    Reader(std::string_view bytes, TextStarts* starts) : scanner_(bytes), starts_(starts) {}
+    // What is read goes where its owner has it: to move so many texts takes a good part of the reading.
+    Reader(std::string_view bytes, TextStarts* starts, ReadResult& result)
+        : scanner_(bytes), starts_(starts), result_(result) {}
 
-    ReadResult Read();
+    void Read();
 
   private:
     void ReadTopLevel();
@@ -110,7 +112,7 @@ class Reader {
 
     TagScanner scanner_;
     TextStarts* const starts_;
-    ReadResult result_;
+    ReadResult& result_;
     Cell record_;          // whose fields are read
     std::string_view tag_; // the field being read
     std::string block_;    // the block it stands in, " in state 7", empty at top level
@@ -118,7 +120,7 @@ class Reader {
     bool toldDelimiter_ = false;
 };
 
-ReadResult Reader::Read() {
+void Reader::Read() {
     std::optional<BreakOff> brokeOff;
     try {
         ReadTopLevel();
@@ -131,7 +133,6 @@ ReadResult Reader::Read() {
     result_.BrokeOff = brokeOff.has_value();
     if (brokeOff)
         Tell(brokeOff->Why + "; reading stopped there");
-    return std::move(result_);
 }
 
 void Reader::ReadTopLevel() {
@@ -277,23 +278,25 @@ void Reader::TellUnknown(std::string text) {
         Tell(std::move(text));
 }
 
-ReadResult Refused(std::string why) {
-    ReadResult refused;
-    refused.Messages.push_back({std::move(why), 0});
-    refused.Refused = true;
-    refused.BrokeOff = true;
-    return refused;
+void Refuse(ReadResult& result, std::string why) {
+    result.Messages.push_back({std::move(why), 0});
+    result.Refused = true;
+    result.BrokeOff = true;
 }
 
 } // namespace
 
 ReadResult ReadDocument(std::string_view bytes, TextStarts* starts) {
-    if (bytes.size() > kLargestDocument)
-        return Refused("The file is " + std::string(kTooLargeForADocument));
+    ReadResult result;
+    const bool tooLarge = bytes.size() > kLargestDocument;
     const bool blank = bytes.find_first_not_of(" \t\r\n") == std::string_view::npos;
-    if (!blank && bytes.find(kTagOpen) == std::string_view::npos)
-        return Refused("The file is not a document: it holds no field");
-    return Reader(bytes, starts).Read();
+    if (tooLarge)
+        Refuse(result, "The file is " + std::string(kTooLargeForADocument));
+    else if (!blank && bytes.find(kTagOpen) == std::string_view::npos)
+        Refuse(result, "The file is not a document: it holds no field");
+    else
+        Reader(bytes, starts, result).Read();
+    return result;
 }
 
 } // namespace orvane

@@ -47,6 +47,15 @@ bool IsUtf8(std::string_view bytes) {
     return true;
 }
 
+// One pass that takes many bytes at a time: hardly a document has such a pair anywhere.
+bool HasPairOf(std::string_view bytes, char mark) {
+    unsigned char has = 0;
+    const char* const data = bytes.data();
+    for (std::size_t i = 1; i < bytes.size(); ++i)
+        has |= (data[i - 1] == mark) & (data[i] == mark);
+    return has != 0;
+}
+
 } // namespace
 
 std::optional<Utf8Document> ReadAsUtf8(std::string_view bytes) {
@@ -61,6 +70,8 @@ std::optional<Utf8Document> ReadAsUtf8(std::string_view bytes) {
 
 std::vector<std::size_t> ConflictMarkers(std::string_view bytes) {
     std::vector<std::size_t> lines;
+    if (!HasPairOf(bytes, '<') && !HasPairOf(bytes, '>'))
+        return lines;
     for (std::size_t number = 1; !bytes.empty(); ++number) {
         if (IsMarked(bytes))
             lines.push_back(number);
