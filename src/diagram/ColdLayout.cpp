@@ -49,7 +49,8 @@ Layered Planned(const Scene& scene, const TextSizes& sizes, Direction direction,
 }
 
 // A rough order tells which ranks are promising; only those are worth a long search.
-Layered BestOrdered(const Scene& scene, const TextSizes& sizes, Direction direction) {
+Layered BestOrdered(const Scene& scene, const TextSizes& sizes, Direction direction,
+                    const std::stop_token& stop) {
     std::vector<std::pair<int, Layered>> rough;
     for (const WayBack way : {WayBack::ClosesCircle, WayBack::ClosesCircleLastFirst, WayBack::LeadsNearer,
                               WayBack::FewLeadBack}) {
@@ -60,7 +61,7 @@ Layered BestOrdered(const Scene& scene, const TextSizes& sizes, Direction direct
                      [](const auto& one, const auto& other) { return one.first < other.first; });
     rough.resize(rough.front().first == 0 ? 1 : 3);
     for (auto& [crossings, layered] : rough) {
-        OrderLayers(layered);
+        OrderLayers(layered, stop);
         crossings = CountCrossings(layered);
     }
     const auto best = std::min_element(rough.begin(), rough.end(), [](const auto& one, const auto& other) {
@@ -90,8 +91,9 @@ std::int64_t Scale(const Rect& picture, const Rect& window) {
 
 } // namespace
 
-Layout ColdLayout(const Scene& scene, const TextSizes& sizes, Direction direction) {
-    Layered best = BestOrdered(scene, sizes, direction);
+Layout ColdLayout(const Scene& scene, const TextSizes& sizes, Direction direction,
+                  const std::stop_token& stop) {
+    Layered best = BestOrdered(scene, sizes, direction, stop);
     AssignPorts(best);
     AssignPositions(best);
     Straighten(best);

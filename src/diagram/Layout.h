@@ -6,6 +6,7 @@
 #include "diagram/LayoutMemory.h"
 
 #include <optional>
+#include <stop_token>
 #include <vector>
 
 namespace orvane::diagram {
@@ -72,8 +73,10 @@ struct Layout {
     LayoutMemory Memory; // for the next picture of the same machine
 };
 
-// The best picture that can be found, whatever was there before. Its upper left corner is 0, 0.
-Layout ColdLayout(const Scene& scene, const TextSizes& sizes, Direction direction);
+// The best picture that can be found, whatever was there before. Its upper left corner is 0, 0. When it is
+// stopped it is there soon, and not as good.
+Layout ColdLayout(const Scene& scene, const TextSizes& sizes, Direction direction,
+                  const std::stop_token& stop = {});
 
 // That of both directions that is shown larger in a window of this shape.
 Layout FittingLayout(const Scene& scene, const TextSizes& sizes, Rect window);

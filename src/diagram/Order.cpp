@@ -11,8 +11,10 @@
 
 #include <algorithm>
 #include <array>
+#include <compare>
 #include <cstdint>
 #include <limits>
+#include <utility>
 
 namespace orvane::diagram {
 
@@ -26,9 +28,15 @@ struct End {
     int Lines;
 };
 
+// Room for counting, kept from layer to layer: to ask for it each time takes longer than to count.
+struct CountingRoom {
+    std::vector<End> Ends;
+    std::vector<int> Tree; // sums over ranges that double in length
+};
+
 // How many pairs of lines stand in the wrong order. Places are less than `limit`.
-int Inversions(const std::vector<End>& ends, int limit) {
-    std::vector<int> tree(limit + 1); // sums over ranges that double in length
+int Inversions(const std::vector<End>& ends, int limit, std::vector<int>& tree) {
+    tree.assign(limit + 1, 0);
     int inversions = 0;
     int seen = 0;
     for (const End& end : ends) {
@@ -43,8 +51,10 @@ int Inversions(const std::vector<End>& ends, int limit) {
     return inversions;
 }
 
-int CrossingsBehind(const std::vector<int>& layer, const Neighbours& neighbours, std::size_t nextSize) {
-    std::vector<End> ends;
+int CrossingsBehind(const std::vector<int>& layer, const Neighbours& neighbours, std::size_t nextSize,
+                    CountingRoom& room) {
+    std::vector<End>& ends = room.Ends;
+    ends.clear();
     for (const int item : layer) {
         const std::size_t begin = ends.size();
         for (const Neighbours::Neighbour& next : neighbours.Of(item, Side::Behind))
@@ -52,19 +62,21 @@ int CrossingsBehind(const std::vector<int>& layer, const Neighbours& neighbours,
         std::sort(ends.begin() + begin, ends.end(),
                   [](const End& one, const End& other) { return one.Place < other.Place; });
     }
-    return Inversions(ends, int(nextSize));
+    return Inversions(ends, int(nextSize), room.Tree);
 }
 
 int CountAll(const Layers& layers, const Neighbours& neighbours) {
     int crossings = 0;
+    CountingRoom room;
     for (std::size_t i = 0; i + 1 < layers.size(); ++i)
-        crossings += CrossingsBehind(layers[i], neighbours, layers[i + 1].size());
+        crossings += CrossingsBehind(layers[i], neighbours, layers[i + 1].size(), room);
     return crossings;
 }
 
 class Orderer {
   public:
-    explicit Orderer(Layered& layered) : layered_(layered), layers_(layered.Layers), neighbours_(layered) {}
+    explicit Orderer(Layered& layered, std::stop_token stop = {})
+        : layered_(layered), layers_(layered.Layers), neighbours_(layered), stop_(std::move(stop)) {}
 
     void FindBest() {
         KeepIfBetter();
@@ -100,6 +112,7 @@ class Orderer {
 
     void Place(const std::vector<int>& items) {
         constexpr int rounds = 4;
+        Unsettle();
         bool moved = true;
         for (int round = 0; round < rounds && moved; ++round) {
             moved = false;
@@ -110,11 +123,14 @@ class Orderer {
 
     void SiftAll() {
         constexpr int rounds = 6;
+        Unsettle();
         bool moved = true;
         for (int round = 0; round < rounds && moved; ++round) {
             moved = false;
             const Layers now = layers_;
             for (const std::vector<int>& layer : now) {
+                if (stop_.stop_requested())
+                    return;
                 for (const int item : layer)
                     moved = Sift(item) || moved;
             }
@@ -122,6 +138,14 @@ class Orderer {
     }
 
   private:
+    struct Sorted {
+        std::int64_t Wish; // the middle of what the item is joined to
+        int Place;         // before, which decides between equal ones
+        int Item;
+
+        auto operator<=>(const Sorted&) const = default;
+    };
+
     struct Candidate {
         int Crossings = std::numeric_limits<int>::max();
         Layers Order;
@@ -180,7 +204,7 @@ class Orderer {
             const int last = best.Crossings;
             Sweep(pass % 2 == 0 ? Side::Before : Side::Behind, byMiddle);
             KeepBetter(best);
-            idle = best.Crossings < last ? 0 : idle + 1;
+            idle = stop_.stop_requested() ? patience : best.Crossings < last ? 0 : idle + 1;
         }
         return best;
     }
@@ -193,17 +217,17 @@ class Orderer {
 
     // Items that are joined to nothing on that side keep their places.
     void SortLayer(std::vector<int>& layer, Side side, bool byMiddle) {
-        std::vector<std::pair<std::int64_t, int>> joined;
+        sorted_.clear();
         for (const int item : layer) {
             if (!neighbours_.Of(item, side).empty())
-                joined.push_back({byMiddle ? Middle(item, side) : Average(item, side), item});
+                sorted_.push_back(
+                    {byMiddle ? Middle(item, side) : Average(item, side), neighbours_.Place(item), item});
         }
-        std::stable_sort(joined.begin(), joined.end(),
-                         [](const auto& one, const auto& other) { return one.first < other.first; });
-        auto next = joined.begin();
+        std::sort(sorted_.begin(), sorted_.end());
+        auto next = sorted_.begin();
         for (int& item : layer) {
             if (!neighbours_.Of(item, side).empty())
-                item = (next++)->second;
+                item = (next++)->Item;
         }
         neighbours_.TakePlaces(layer);
     }
@@ -219,18 +243,38 @@ class Orderer {
         return sum * parts / lines;
     }
 
-    std::int64_t Middle(int item, Side side) const {
-        std::vector<int> places;
+    std::int64_t Middle(int item, Side side) {
+        places_.clear();
         for (const Neighbours::Neighbour& other : neighbours_.Of(item, side))
-            places.push_back(neighbours_.Place(other.Item));
-        std::sort(places.begin(), places.end());
-        const std::size_t half = places.size() / 2;
-        return places.size() % 2 == 1 ? 2 * places[half] : places[half - 1] + places[half];
+            places_.push_back(neighbours_.Place(other.Item));
+        std::sort(places_.begin(), places_.end());
+        const std::size_t half = places_.size() / 2;
+        return places_.size() % 2 == 1 ? 2 * places_[half] : places_[half - 1] + places_[half];
     }
 
-    // Moves the item to the place of its layer where its lines cross least; false when it stands there.
+    // Moves the item to the place of its layer where its lines cross least; false when it stands there. That
+    // is known without looking as long as nothing beside it has moved.
     bool Sift(int item) {
-        std::vector<int>& layer = layers_[layered_.Items[item].Layer];
+        const int number = layered_.Items[item].Layer;
+        if (settled_[item] == MovesAround(number))
+            return false;
+        const bool moved = MoveToBest(item, layers_[number]);
+        moves_[number] += moved ? 1 : 0;
+        settled_[item] = MovesAround(number);
+        return moved;
+    }
+
+    int MovesAround(int layer) const {
+        return moves_[layer] + (layer > 0 ? moves_[layer - 1] : 0) +
+               (layer + 1 < int(moves_.size()) ? moves_[layer + 1] : 0);
+    }
+
+    void Unsettle() {
+        moves_.assign(layers_.size(), 0);
+        settled_.assign(layered_.Items.size(), -1);
+    }
+
+    bool MoveToBest(int item, std::vector<int>& layer) {
         const int own = neighbours_.Place(item);
         int best = own;
         int least = 0;
@@ -259,6 +303,11 @@ class Orderer {
     Layered& layered_;
     Layers& layers_;
     Neighbours neighbours_;
+    const std::stop_token stop_;
+    std::vector<Sorted> sorted_; // of one layer
+    std::vector<int> places_;    // of one item's neighbours
+    std::vector<int> moves_;     // of items, by layer
+    std::vector<int> settled_;   // by item: the moves around it when it stood at its best place; -1 for none
     Candidate best_;
 };
 
@@ -266,11 +315,11 @@ class Orderer {
 
 int CountCrossings(const Layered& layered) { return CountAll(layered.Layers, Neighbours(layered)); }
 
-void OrderLayers(Layered& layered) {
+void OrderLayers(Layered& layered, const std::stop_token& stop) {
     PairedLines paired(layered);
-    Orderer(paired.Paired).FindBest();
+    Orderer(paired.Paired, stop).FindBest();
     paired.Unpair(layered);
-    Orderer whole(layered);
+    Orderer whole(layered, stop);
     constexpr std::size_t most = 500; // items, beyond which a second search takes longer than it is worth
     if (layered.Items.size() <= most)
         whole.FindBest();

@@ -3,6 +3,7 @@
 
 #include "diagram/Layered.h"
 
+#include <stop_token>
 #include <vector>
 
 namespace orvane::diagram {
@@ -11,8 +12,8 @@ namespace orvane::diagram {
 int CountCrossings(const Layered& layered);
 
 // Orders the items of all layers so that few lines cross. The result depends on nothing but the layers, and
-// not much on their first order.
-void OrderLayers(Layered& layered);
+// not much on their first order. When it is stopped, the order is what was found so far.
+void OrderLayers(Layered& layered, const std::stop_token& stop = {});
 
 // The same with a short search.
 void OrderRoughly(Layered& layered);
