@@ -55,6 +55,8 @@ struct SceneOptions {
         false; // where more than a third of the others lead to one state, a line in their boxes says so
     std::optional<StateNumber> Focus = {}; // only this state, what leads there, and where it leads
     std::optional<RowNumber> OnlyRow = {}; // only the transitions of this row
+
+    bool operator==(const SceneOptions&) const = default;
 };
 
 // Drawn are the states that have a name, a target, or something that leads to them. Throws BoundsError when a
