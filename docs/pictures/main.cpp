@@ -60,6 +60,7 @@ class Photographer {
     void Backtrack();
     void RunPane();
     void FindingsPane();
+    void DiagramPane();
     void Comparison();
     void PrintAndExport();
 
@@ -196,6 +197,14 @@ void Photographer::FindingsPane() {
     Grab(*window_, "findings");
 }
 
+void Photographer::DiagramPane() {
+    Open("garage.zfsm");
+    window_->resize(kPaneSize);
+    Trigger("mnuViewDiagram");
+    Press(7, 2, Qt::LeftButton);
+    Grab(*window_, "diagram");
+}
+
 // With what was typed since the document was opened.
 void Photographer::Comparison() {
     Open("garage.zfsm");
@@ -241,6 +250,7 @@ bool Photographer::TakeAll() {
     SideWindow("mnuCodeGenerate", "frmGenerator", "report");
     RunPane();
     FindingsPane();
+    DiagramPane();
     PrintAndExport();
     Open("pump.zfsm");
     SideWindow("mnuBuilder", "frmBuilder", "builder");

@@ -3,6 +3,7 @@
 
 #include "builder/ui/BuilderRoom.h"
 #include "codegen/ui/GeneratorRoom.h"
+#include "diagram/ui/DiagramRoom.h"
 #include "editors/ui/CellRoom.h"
 #include "editors/ui/EditorsRoom.h"
 #include "export/ui/ExportRoom.h"
@@ -32,6 +33,7 @@ std::vector<std::unique_ptr<Room>> MakeRooms(const RoomPlace& place) {
     rooms.push_back(std::make_unique<CellRoom>(place));
     rooms.push_back(std::make_unique<RecoveryRoom>(place));
     rooms.push_back(std::make_unique<FindingsRoom>(place));
+    rooms.push_back(std::make_unique<DiagramRoom>(place));
     rooms.push_back(std::make_unique<RunRoom>(place));
     rooms.push_back(std::make_unique<ReviewRoom>(place));
     rooms.push_back(std::make_unique<FindRoom>(place));

@@ -37,7 +37,8 @@ struct PictureMarks {
     std::optional<std::size_t> Taken;   // the edge that was taken last
     diagram::Hit Current;               // where the user is in the table: framed
     diagram::Hit Focus;                 // where the keys are: framed by dots
-    std::bitset<kTableColumns> Warned;  // states with a warning
+    std::bitset<kTableColumns> Faulty;  // states with an error
+    std::bitset<kTableColumns> Warned;  // and with a warning
 };
 
 struct PictureLook {

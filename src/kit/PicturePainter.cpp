@@ -116,8 +116,15 @@ class PicturePainter {
             PaintTexts(state, TextCorner(state, box, fonts_), ink);
         else
             PaintNumber(state, Area(box), ink);
-        if (look_.Marks.Warned.test(IndexIn(TableColumns(), state.Number)) && !state.HasError)
-            PaintSign(colours_.Warning, Area(box).topRight() - QPointF(8, 5));
+        PaintFindings(state, Area(box));
+    }
+
+    // An error that the box tells by itself has its sign in the text.
+    void PaintFindings(const diagram::SceneState& state, const QRectF& box) {
+        const std::size_t number = IndexIn(TableColumns(), state.Number);
+        const bool isFaulty = look_.Marks.Faulty.test(number);
+        if ((isFaulty || look_.Marks.Warned.test(number)) && !state.HasError)
+            PaintSign(isFaulty ? colours_.Error : colours_.Warning, box.topRight() - QPointF(8, 5));
     }
 
     void PaintBox(const diagram::SceneState& state, const QRectF& box) {

@@ -67,6 +67,7 @@ mnuView: View
   mnuViewCell: Cell
   mnuViewFindings: Findings
   mnuViewFind: Find and where used
+  mnuViewDiagram: Diagram
   mnuViewRun: Run the machine
   mnuCompareWith: Compare with...
   mnuNextFinding: Next finding
