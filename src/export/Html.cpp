@@ -21,9 +21,6 @@ constexpr std::string_view kStyle =
 
 std::string StateId(StateNumber state) { return "state-" + NumberText(state.Number()); }
 std::string RowId(RowNumber row) { return "row-" + NumberText(row.Number()); }
-std::string CellId(StateNumber state, RowNumber row) {
-    return "cell-" + NumberText(state.Number()) + "-" + NumberText(row.Number());
-}
 
 // The text is markup.
 std::string Link(const std::string& id, const std::string& text) {
@@ -80,17 +77,29 @@ class HtmlWriter {
         html_ += "</tbody>\n</table>\n";
     }
 
+    void AppendCellId(Cell cell) {
+        ((html_ += "cell-") += numbers_.Of(cell.State)) += '-';
+        html_ += numbers_.Of(cell.Row);
+    }
+
     // A cell with an action leads to it, one without to the state that it leads to.
     void WriteCell(StateNumber state, RowNumber row) {
         const StateRecord& record = document_.State(state);
         const StateNumber target = record.Targets[row];
-        const std::string text = target == kNoState ? "" : titles_.Of(target);
         html_ += "<td>";
-        if (!record.Actions[row].empty())
-            html_ += Link(CellId(state, row), text + "*");
-        else if (target != kNoState)
-            html_ += Link(StateId(target), text);
+        if (!record.Actions[row].empty()) {
+            html_ += "<a href=\"#";
+            AppendCellId({row, state});
+            ((html_ += "\">") += target == kNoState ? std::string() : titles_.Of(target)) += "*</a>";
+        } else if (target != kNoState) {
+            WriteLinkTo(target);
+        }
         html_ += "</td>";
+    }
+
+    void WriteLinkTo(StateNumber state) {
+        (html_ += "<a href=\"#state-") += numbers_.Of(state);
+        ((html_ += "\">") += titles_.Of(state)) += "</a>";
     }
 
     void WriteState(StateNumber state) {
@@ -108,12 +117,19 @@ class HtmlWriter {
         const StateNumber target = record.Targets[cell.Row];
         if (target == kNoState && record.Actions[cell.Row].empty())
             return;
-        html_ += "<p id=\"" + CellId(cell.State, cell.Row) + "\">" +
-                 (cell.Row == kTimeoutRow ? XmlText(TimeoutText(record)) : titles_.Of(cell.Row));
-        html_ +=
-            target == kNoState ? "</p>\n" : ": to " + Link(StateId(target), titles_.Of(target)) + "</p>\n";
-        if (!record.Actions[cell.Row].empty())
-            html_ += "<pre>" + XmlText(record.Actions[cell.Row]) + "</pre>\n";
+        html_ += "<p id=\"";
+        AppendCellId(cell);
+        (html_ += "\">") += cell.Row == kTimeoutRow ? XmlText(TimeoutText(record)) : titles_.Of(cell.Row);
+        if (target != kNoState) {
+            html_ += ": to ";
+            WriteLinkTo(target);
+        }
+        html_ += "</p>\n";
+        if (record.Actions[cell.Row].empty())
+            return;
+        html_ += "<pre>";
+        AppendXmlText(html_, record.Actions[cell.Row]);
+        html_ += "</pre>\n";
     }
 
     void WriteEvent(RowNumber row) {
@@ -127,6 +143,8 @@ class HtmlWriter {
     const std::vector<StateNumber> states_;
     const std::vector<RowNumber> rows_;
     const Titles titles_; // as markup
+    const Titles numbers_{[](StateNumber state) { return NumberText(state.Number()); },
+                          [](RowNumber row) { return NumberText(row.Number()); }};
     std::string html_;
 };
 

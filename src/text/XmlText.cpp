@@ -48,10 +48,14 @@ std::string XmlTextOfUtf8(std::string_view utf8) {
 }
 
 std::string XmlText(std::string_view ansi) {
-    static constexpr ByteSet special = EscapedBytes(IsSpecial);
     std::string xml;
-    AppendEscaped(xml, ansi, special, AppendEntity);
+    AppendXmlText(xml, ansi);
     return xml;
+}
+
+void AppendXmlText(std::string& xml, std::string_view ansi) {
+    static constexpr ByteSet special = EscapedBytes(IsSpecial);
+    AppendEscaped(xml, ansi, special, AppendEntity);
 }
 
 } // namespace orvane
