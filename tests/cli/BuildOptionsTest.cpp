@@ -140,7 +140,11 @@ TEST_F(Building, WhatIsNoProgramIsNeverKept) {
         EXPECT_EQ(Run("generate --if-changed pump.zfsm").Status, 0);
         EXPECT_EQ(ReadFile("pump.zls"), PumpProgram(PathText("pump.zfsm")));
     }
-    WriteFile("pump.zls", PumpProgram(PathText("pump.zfsm")) + " ");
+    const std::string program = PumpProgram(PathText("pump.zfsm"));
+    WriteFile("pump.zls", program.substr(program.find("\r\n"))); // all but the words of the first line
+    EXPECT_EQ(Run("generate --if-changed pump.zfsm").Status, 0);
+    EXPECT_EQ(ReadFile("pump.zls"), program);
+    WriteFile("pump.zls", program + " ");
     EXPECT_EQ(Run("generate --if-changed pump.zfsm").Status, 0);
     EXPECT_EQ(ReadFile("pump.zls"), PumpProgram(PathText("pump.zfsm")));
 }
