@@ -201,7 +201,7 @@ void Photographer::DiagramPane() {
     Open("garage.zfsm");
     window_->resize(kPaneSize);
     Trigger("mnuViewDiagram");
-    Press(7, 2, Qt::LeftButton);
+    Press(8, 3, Qt::LeftButton);
     Grab(*window_, "diagram");
 }
 

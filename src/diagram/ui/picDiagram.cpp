@@ -86,7 +86,7 @@ void picDiagram::Fit() {
     const double down = double(maximumViewportSize().height()) / std::max(all.Height, 1);
     zoom_ = std::clamp(std::min({across, down, 1.0}), kLeastZoom, kMostZoom);
     SetRanges();
-    Centre();
+    GoToBegin();
     viewport()->update();
 }
 
@@ -94,7 +94,7 @@ void picDiagram::FitReadable() {
     Fit();
     if (zoom_ < kReadableZoom)
         Magnify(kReadableZoom / zoom_, {});
-    Centre();
+    GoToBegin();
     BringIntoSight(IsShown(marks_.Current) ? marks_.Current : Hit{0, {}});
 }
 
@@ -127,9 +127,13 @@ void picDiagram::SetRanges() {
     set(*verticalScrollBar(), all.Y, all.Bottom(), viewport()->height());
 }
 
-void picDiagram::Centre() {
-    for (QScrollBar* bar : {horizontalScrollBar(), verticalScrollBar()})
-        bar->setValue((bar->minimum() + bar->maximum()) / 2);
+void picDiagram::GoToBegin() {
+    const auto go = [](QScrollBar& bar, Qt::ScrollBarPolicy policy) {
+        const bool fits = policy == Qt::ScrollBarAlwaysOff;
+        bar.setValue(fits ? (bar.minimum() + bar.maximum()) / 2 : bar.minimum());
+    };
+    go(*horizontalScrollBar(), horizontalScrollBarPolicy());
+    go(*verticalScrollBar(), verticalScrollBarPolicy());
 }
 
 QPointF picDiagram::ToPicture(const QPointF& viewport) const {

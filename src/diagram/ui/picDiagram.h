@@ -72,7 +72,7 @@ class picDiagram : public QAbstractScrollArea {
     const diagram::Rect& PlaceOf(const diagram::Hit& hit) const;
     bool IsShown(const diagram::Hit& hit) const;
     void SetRanges();
-    void Centre();
+    void GoToBegin(); // in the middle where it is smaller than the pane
     void BringIntoSight(const diagram::Hit& hit);
     bool IsOwnKey(const QKeyEvent& key) const;
     bool ZoomBy(const QKeyEvent& key);
