@@ -19,27 +19,6 @@ namespace {
 constexpr int kCells = kStateCount * (kLastRow - kFirstEventRow + 1);
 const diagram::LetterWidths kSizes;
 
-// Lines that lead a little way on or back, as in most machines, and a few that lead far.
-FsmDocument MachineOf(int states, int lines) {
-    FsmDocument document;
-    std::uint64_t random = 1;
-    const auto below = [&](int limit) {
-        random = random * 6364136223846793005u + 1442695040888963407u;
-        return int((random >> 33) % std::uint64_t(limit));
-    };
-    for (int state = 1; state <= states; ++state) {
-        document.State(state).Name = "State " + std::to_string(state);
-        document.State(state).Targets[kElseRow] = state % states + 1;
-    }
-    for (int line = states; line < lines; ++line) {
-        const int from = below(states) + 1;
-        const int to = below(10) == 0 ? below(states) + 1 : (from + below(9) + states - 4) % states + 1;
-        document.Event(6 + line % 49).Name = "Event " + std::to_string(line % 49);
-        document.State(from).Targets[6 + line % 49] = to;
-    }
-    return document;
-}
-
 void Cold(benchmark::State& state, const FsmDocument& document) {
     const diagram::Scene scene = diagram::MakeScene(document, kSizes);
     for ([[maybe_unused]] auto iteration : state)
@@ -93,7 +72,7 @@ int main(int argc, char** argv) {
     std::vector<RatioLine> lines;
     for (const auto& [states, count] :
          {std::pair(12, 24), std::pair(30, 60), std::pair(100, 150), std::pair(100, 450)}) {
-        const FsmDocument machine = MachineOf(states, count);
+        const FsmDocument machine = MachineOfLines(states, count);
         const std::string name = std::to_string(states) + "/" + std::to_string(count);
         RegisterBenchmark(("cold/" + name).c_str(),
                           [machine](benchmark::State& state) { Cold(state, machine); });

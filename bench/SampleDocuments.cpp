@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "SampleDocuments.h"
 
+#include <cstdint>
+#include <string>
+
 #include "core/TimingMode.h"
 #include "text/NumberText.h"
 
@@ -62,5 +65,29 @@ FsmDocument SampleDocument(int states, int events) {
 FsmDocument MidSizeDocument() { return SampleDocument(20, 15); }
 
 FsmDocument DocumentAtTheLimit() { return SampleDocument(kStateCount, kLastRow - kFirstEventRow + 1); }
+
+FsmDocument MachineOfLines(int states, int lines) {
+    FsmDocument document;
+    document.General.FsmName = "M";
+    std::uint64_t random = 1;
+    const auto below = [&](int limit) {
+        random = random * 6364136223846793005u + 1442695040888963407u;
+        return int((random >> 33) % std::uint64_t(limit));
+    };
+    for (const RowNumber row : EventRows()) {
+        document.Event(row).Name = "Event " + std::to_string(row.Number() - kFirstEventRow);
+        document.Event(row).Code = ";?";
+    }
+    for (int state = 1; state <= states; ++state) {
+        document.State(state).Name = "State " + std::to_string(state);
+        document.State(state).Targets[kElseRow] = state % states + 1;
+    }
+    for (int line = states; line < lines; ++line) {
+        const int from = below(states) + 1;
+        const int to = below(10) == 0 ? below(states) + 1 : (from + below(9) + states - 4) % states + 1;
+        document.State(from).Targets[kFirstEventRow + line % 49] = to;
+    }
+    return document;
+}
 
 } // namespace orvane

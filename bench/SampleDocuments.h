@@ -16,4 +16,8 @@ FsmDocument MidSizeDocument();
 // 100 states by 49 events: nothing more fits in.
 FsmDocument DocumentAtTheLimit();
 
+// Another kind: so many transitions between so many states, that lead a little way on or back, as in most
+// machines, and a few that lead far.
+FsmDocument MachineOfLines(int states, int lines);
+
 } // namespace orvane

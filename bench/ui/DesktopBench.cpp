@@ -9,12 +9,15 @@
 #include "core/DocumentWriter.h"
 #include "core/TightPacked.h"
 #include "core/TimingMode.h"
+#include "diagram/ui/picDiagram.h"
 #include "ui/MedianTable.h"
 #include "ui/TableDriver.h"
 
 #include <QAction>
 #include <QApplication>
+#include <QDeadlineTimer>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
@@ -182,6 +185,33 @@ void AddCellPane(MedianTable& table, TableDriver& driver, const FsmDocument&) {
     table.Add("another cell with the cell pane", "a transition typed without", 1.5, step(true), type(false));
 }
 
+bool ShowsWholePicture() {
+    const QWidgetList widgets = QApplication::allWidgets();
+    return std::any_of(widgets.begin(), widgets.end(), [](const QWidget* widget) {
+        const auto* picture = qobject_cast<const picDiagram*>(widget);
+        return picture != nullptr && picture->Picture().ShownPart() == diagram::Part::Whole;
+    });
+}
+
+// A transition to the table and the picture of the whole machine, laid out and painted.
+void AddDiagram(MedianTable& table, TableDriver& driver, const FsmDocument& document) {
+    driver.Trigger("mnuViewDiagram");
+    driver.Trigger("mnuPictureAll");
+    const QDeadlineTimer end(5000);
+    while (!ShowsWholePicture() && !end.hasExpired())
+        QApplication::processEvents();
+    if (!ShowsWholePicture())
+        throw std::runtime_error("the picture was not laid out");
+    const auto target = std::make_shared<int>(1);
+    const auto type = [&driver, target] {
+        *target = *target % 12 + 1;
+        driver.BeginTarget(50, 6, QString::number(*target));
+        return TimeOfOperation([&] { driver.CommitTarget(); });
+    };
+    table.Add("typed transition, " + std::to_string(diagram::MergedEdges(document)) + " lines in the diagram",
+              "pack + generate", 60, type, PackingAndGenerating(document));
+}
+
 struct StructuralEdit {
     const char* Name;
     const char* Item;
@@ -270,6 +300,9 @@ int main(int argc, char** argv) {
     MeasureWindow(RunnableAtTheLimit(), AddRunning);
     MeasureWindow(DocumentAtTheLimit(), AddJournal);
     MeasureWindow(DocumentAtTheLimit(), AddCellPane);
+    for (const auto& [states, lines] :
+         {std::pair(12, 24), std::pair(30, 60), std::pair(100, 150), std::pair(100, 450)})
+        MeasureWindow(MachineOfLines(states, lines), AddDiagram);
     MeasureWindow(DocumentAtTheLimit(), AddOpening, false);
     MeasureWindow(SampleDocument(kStateCount - 1, kLastRow - kFirstEventRow), AddStructure);
     MeasureStart(std::filesystem::path(argv[0]).parent_path());
