@@ -117,6 +117,11 @@ void CodePane::ReplaceUtf8(std::size_t start, std::size_t length, std::string_vi
     SendScintilla(SCI_REPLACETARGET, utf8.size(), utf8.data());
 }
 
+std::size_t CodePane::Caret() const {
+    const std::size_t caret = SendScintilla(SCI_GETCURRENTPOS);
+    return FromUtf8(Utf8().substr(0, caret), '?').size();
+}
+
 QString CodePane::CaretReadOut() const {
     int line = 0;
     int column = 0;
@@ -142,11 +147,12 @@ void CodePane::CompleteWord() {
         SendScintilla(SCI_AUTOCSHOW, prefix.size(), list.c_str());
 }
 
-// Ctrl+Return is the window's, not the editor's.
+// Ctrl+Return is the window's, not the editor's, and so is Esc where nothing can be edited.
 bool CodePane::event(QEvent* event) {
     if (event->type() == QEvent::ShortcutOverride) {
         const auto* key = static_cast<QKeyEvent*>(event);
-        if (key->key() == Qt::Key_Return && key->modifiers() == Qt::ControlModifier) {
+        const bool isReturn = key->key() == Qt::Key_Return && key->modifiers() == Qt::ControlModifier;
+        if (isReturn || (key->key() == Qt::Key_Escape && isReadOnly())) {
             event->ignore();
             return true;
         }

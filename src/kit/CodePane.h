@@ -47,6 +47,9 @@ class CodePane : public QsciScintilla {
     // As SetText, but leaves out what a document cannot hold.
     void setText(const QString& text) override;
 
+    // Where the caret is in Text(), in bytes.
+    std::size_t Caret() const;
+
     // "Line 12, Col 5" for the end of the selection.
     QString CaretReadOut() const;
 

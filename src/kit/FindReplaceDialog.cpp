@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "kit/FindReplaceDialog.h"
+
+#include "kit/CloseKeys.h"
 #include "kit/DocumentLineEdit.h"
 #include "kit/LeftOut.h"
 #include "kit/QScintilla.h"
@@ -40,7 +42,13 @@ FindReplaceDialog::FindReplaceDialog(QsciScintilla* editor) : QDialog(editor), e
     lblResult = new QLabel(this);
     lblResult->setObjectName(QStringLiteral("lblResult"));
     grid->addWidget(lblResult, 3, 0, 1, 2);
+    auto* lblEdited = new QLabel(editor->accessibleName(), this);
+    lblEdited->setObjectName(QStringLiteral("lblEdited"));
+    lblEdited->setTextFormat(Qt::PlainText);
+    lblEdited->setWordWrap(true);
+    grid->addWidget(lblEdited, 4, 0, 1, 3);
     grid->setColumnStretch(1, 1);
+    AddCloseKeys(*this);
 }
 
 void FindReplaceDialog::BuildFields(QGridLayout& grid) {

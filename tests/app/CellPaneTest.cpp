@@ -2,6 +2,7 @@
 // The pane with everything of the current cell, edited in place.
 #include "kit/CodePane.h"
 #include "support/ui/Controls.h"
+#include "support/ui/OpenedAddresses.h"
 #include "support/ui/TableFixture.h"
 
 #include <QApplication>
@@ -121,7 +122,7 @@ TEST_F(CellPaneTest, EveryCommandTakesWhatIsTypedFirst) {
     EXPECT_EQ(Text(0, 2), "2:Pump");
 }
 
-TEST_F(CellPaneTest, EscapeTakesAFieldBackAndThenLeaves) {
+TEST_F(CellPaneTest, EscapeTakesAFieldBackAndThenClosesThePane) {
     Open(PumpDocument());
     GoTo(6, 2);
     Type(Pane("txtCellEntry"), ";x");
@@ -129,8 +130,47 @@ TEST_F(CellPaneTest, EscapeTakesAFieldBackAndThenLeaves) {
     EXPECT_EQ(Pane("txtCellEntry").Text(), ";run entry");
     EXPECT_TRUE(Pane("txtCellEntry").hasFocus());
     QTest::keyClick(&Pane("txtCellEntry"), Qt::Key_Escape);
+    EXPECT_FALSE(Item("mnuViewCell")->isChecked());
     EXPECT_TRUE(Grid()->hasFocus());
     EXPECT_FALSE(IsEdited());
+}
+
+TEST_F(CellPaneTest, EscapeDoesTheSameInALineAndClosesFromAButton) {
+    Open(PumpDocument());
+    GoTo(6, 2);
+    Type(Line("txtCellState"), "Motor");
+    QTest::keyClick(&Line("txtCellState"), Qt::Key_Escape);
+    EXPECT_EQ(LineText("txtCellState"), "Run");
+    EXPECT_TRUE(Item("mnuViewCell")->isChecked());
+    auto& option = Named<QRadioButton>(*Find<QDockWidget>("dckCell"), "optNoTimeOut");
+    option.setFocus();
+    QTest::keyClick(&option, Qt::Key_Escape);
+    EXPECT_FALSE(Item("mnuViewCell")->isChecked());
+    EXPECT_FALSE(IsEdited());
+}
+
+TEST_F(CellPaneTest, CtrlWTakesWhatIsTypedAndClosesThePane) {
+    Open(PumpDocument());
+    GoTo(6, 2);
+    Type(Pane("txtCellEntry"), ";x");
+    QTest::keyClick(&Pane("txtCellEntry"), Qt::Key_W, Qt::ControlModifier);
+    EXPECT_FALSE(Item("mnuViewCell")->isChecked());
+    EXPECT_TRUE(Grid()->hasFocus());
+    EXPECT_EQ(SavedDocument().State(2).EntryCode.substr(0, 2), ";x");
+}
+
+TEST_F(CellPaneTest, F1OpensThePageOfThePaneFromEveryField) {
+    OpenedAddresses opened;
+    Open(PumpDocument());
+    GoTo(6, 2);
+    for (QWidget* field : std::initializer_list<QWidget*>{&Pane("txtCellEntry"), &Line("txtCellState"),
+                                                          &Named<QWidget>(Window(), "optNoTimeOut")}) {
+        field->setFocus();
+        opened.Addresses.clear();
+        QTest::keyClick(field, Qt::Key_F1);
+        ASSERT_EQ(opened.Addresses.size(), 1) << field->objectName().toStdString();
+        EXPECT_TRUE(opened.Addresses.front().toString().endsWith(QStringLiteral("4990.htm")));
+    }
 }
 
 TEST_F(CellPaneTest, ATargetIsGivenByNameAndOneThatIsNoStateIsTakenBack) {

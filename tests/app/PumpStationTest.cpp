@@ -139,7 +139,7 @@ void PumpStationTest::DrawInDialogs() {
 
 // Into the first field of the pane, a name and its code, and back.
 void PumpStationTest::NameInPane(const QString& name) {
-    Key(Qt::Key_F6);
+    Key(Qt::Key_F4);
     TypeHere(name);
     Key(Qt::Key_Tab);
     TypeHere(CodeOf(name));
@@ -151,7 +151,6 @@ void PumpStationTest::DrawInTable() {
     NameMachine();
     Window().activateWindow(); // a desktop does that when the dialog has closed
     QApplication::processEvents();
-    Key(Qt::Key_F4);
     Key(Qt::Key_Right); // from the machine to its first state
     for (const char* state : kStates) {
         NameInPane(QString::fromLatin1(state));
@@ -171,7 +170,7 @@ void PumpStationTest::DrawInTable() {
         if (!transition.Acts)
             continue;
         WalkTo(transition.Row, transition.State);
-        Key(Qt::Key_F6);
+        Key(Qt::Key_F4);
         Key(Qt::Key_Tab);
         TypeHere(QStringLiteral(";act"));
         Key(Qt::Key_Return, Qt::ControlModifier);

@@ -5,6 +5,7 @@
 #include "builder/ui/ScriptFile.h"
 #include "builder/ui/ScriptGate.h"
 #include "kit/AnsiString.h"
+#include "kit/CloseKeys.h"
 #include "kit/OpenInDesktop.h"
 #include "kit/UserMessageBox.h"
 #include "session/Session.h"
@@ -27,6 +28,7 @@ namespace orvane {
 
 namespace {
 
+constexpr int kHelpPage = 4947;
 constexpr QSize kFirstSize{720, 620};
 constexpr int kPromptLines = 10; // the explanation at the first width, and some room for a narrower window
 
@@ -41,6 +43,8 @@ frmBuilder::frmBuilder(Session& session, QWidget* parent) : TabStops(parent, Qt:
     BuildControls();
     LayOut();
     resize(kFirstSize);
+    AddHelpKey(*this, kHelpPage);
+    AddCloseKeys(*this);
     connect(cmdRun, &QPushButton::clicked, this, &frmBuilder::BuildWanted);
     connect(cmdSave, &QPushButton::clicked, this, &frmBuilder::Save);
     connect(cmdSelectFile, &QPushButton::clicked, this, &frmBuilder::SelectFile);

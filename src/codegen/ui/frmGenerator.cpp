@@ -3,6 +3,7 @@
 
 #include "codegen/ui/TextReplacement.h"
 #include "kit/AnsiString.h"
+#include "kit/CloseKeys.h"
 #include "kit/CodePane.h"
 #include "kit/OpenInDesktop.h"
 
@@ -33,6 +34,7 @@ frmGenerator::frmGenerator(QWidget* parent) : QWidget(parent, Qt::Window) {
     BuildErrorPane();
     BuildStatusBar();
     AddHelpKey(*this, kHelpPage);
+    AddCloseKeys(*this);
     runDue_.setSingleShot(true);
     connect(&runDue_, &QTimer::timeout, this, &frmGenerator::ShowRun);
     resize(kFirstSize);

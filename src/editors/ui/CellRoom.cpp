@@ -27,6 +27,11 @@ bool IsEvent(const PlaceFields& before, const PlaceFields& after) {
     return before.EventName != after.EventName || before.Test != after.Test;
 }
 
+bool ChangesTexts(ChangeKind kind) {
+    return kind == ChangeKind::Replaced || kind == ChangeKind::Edited || kind == ChangeKind::Undone ||
+           kind == ChangeKind::Redone || kind == ChangeKind::Typed;
+}
+
 // A state's name stands in every cell that leads to it, an event's in its own head.
 Touched DrawnFor(Cell place, const PlaceFields& before, const PlaceFields& after) {
     if (IsTransition(before, after))
@@ -66,7 +71,6 @@ void CellRoom::MakePane() {
     connect(pane_, &QDockWidget::visibilityChanged, this, &CellRoom::PaneShown);
     connect(pane_, &dckCell::Edited, this, [this] { session_.TellDraft(); });
     connect(pane_, &dckCell::FieldLeft, this, &CellRoom::Commit);
-    connect(pane_, &dckCell::LeaveWanted, this, [this] { Q_EMIT PlaceChosen(session_.CurrentCell()); });
     connect(pane_, &dckCell::CharactersLeftOut, this,
             [this](const QString& characters) { Q_EMIT Said(LeftOutMessage(characters)); });
 }
@@ -85,10 +89,11 @@ void CellRoom::PaneShown(bool shown) {
 void CellRoom::Prepare(const CommandEntry&) { Commit(); }
 
 void CellRoom::Told(const Change& change) {
-    if (change.Kind == ChangeKind::Drafted || change.Kind == ChangeKind::ProgramWanted)
-        return;
     const Cell current = session_.CurrentCell();
-    if (!(current == pane_->Place()) && change.Kind == ChangeKind::Moved) {
+    const bool isElsewhere = !(current == pane_->Place());
+    if (!ChangesTexts(change.Kind) && !isElsewhere)
+        return;
+    if (isElsewhere && change.Kind == ChangeKind::Moved) {
         Commit();
         TellUnfinished();
     }

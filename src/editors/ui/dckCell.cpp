@@ -3,9 +3,11 @@
 
 #include "editors/ui/TimeoutPage.h"
 #include "kit/AnsiString.h"
+#include "kit/CloseKeys.h"
 #include "kit/CodePane.h"
 #include "kit/DocumentLineEdit.h"
 #include "kit/DocumentTextEdit.h"
+#include "kit/OpenInDesktop.h"
 
 #include <QFocusEvent>
 #include <QGroupBox>
@@ -20,6 +22,7 @@ namespace orvane {
 namespace {
 
 constexpr PaneHandlers kHandlers = {.TextChanged = true, .FindKey = true};
+constexpr int kHelpPage = 4990;
 constexpr int kPaneLines = 4; // of code that are seen at least
 
 QWidget* WidgetOf(const std::variant<DocumentLineEdit*, DocumentTextEdit*, CodePane*>& control) {
@@ -136,6 +139,7 @@ void dckCell::Connect(const Field& field) {
 }
 
 void dckCell::AddKeys() {
+    AddCloseKeys(*this);
     const auto add = [this](const QKeySequence& keys, auto&& action) {
         auto* shortcut = new QShortcut(keys, this);
         shortcut->setContext(Qt::WidgetWithChildrenShortcut);
@@ -169,7 +173,8 @@ void dckCell::ShowPlace(const FsmDocument& document, Cell place) {
 }
 
 void dckCell::ShowParts(const FsmDocument& document) {
-    lblCell->setText(FromAnsi(WordsOf(document, place_)));
+    if (const QString words = FromAnsi(WordsOf(document, place_)); words != lblCell->text())
+        lblCell->setText(words);
     const PlaceParts parts = PartsOf(place_);
     fraTransition->setVisible(parts.Transition);
     fraTransition->setEnabled(!parts.Event || !shown_.EventName.empty()); // it has no transitions before
@@ -233,19 +238,25 @@ bool dckCell::IsEndOfField(const QEvent& event) const {
            static_cast<const QFocusEvent&>(event).reason() != Qt::PopupFocusReason;
 }
 
+bool dckCell::event(QEvent* event) { return TakesHelpKey(*event, kHelpPage) || QDockWidget::event(event); }
+
+// Esc is taken before it becomes the pane's shortcut: it takes an edited field back first. A list of words
+// that is open over the code has it for itself.
 bool dckCell::eventFilter(QObject* watched, QEvent* event) {
     if (IsEndOfField(*event))
         Q_EMIT FieldLeft();
-    if (event->type() != QEvent::KeyPress)
+    const bool isPress = event->type() == QEvent::KeyPress;
+    if (!isPress && event->type() != QEvent::ShortcutOverride)
         return QDockWidget::eventFilter(watched, event);
     const int key = static_cast<QKeyEvent*>(event)->key();
-    auto* pane = qobject_cast<CodePane*>(watched);
+    const auto* pane = qobject_cast<CodePane*>(watched);
     if (key == Qt::Key_Escape && (pane == nullptr || !pane->isListActive())) {
-        if (!TakeBack(*watched))
-            Q_EMIT LeaveWanted();
+        event->accept();
+        if (isPress && !TakeBack(*watched))
+            CloseByKey(*this);
         return true;
     }
-    if ((key == Qt::Key_Return || key == Qt::Key_Enter) &&
+    if (isPress && (key == Qt::Key_Return || key == Qt::Key_Enter) &&
         qobject_cast<DocumentLineEdit*>(watched) != nullptr)
         Q_EMIT FieldLeft();
     return QDockWidget::eventFilter(watched, event);

@@ -47,12 +47,12 @@ class dckCell : public QDockWidget {
     void FocusFirst();
 
   Q_SIGNALS:
-    void Edited();      // by a letter
-    void FieldLeft();   // or ended: what was edited should be taken
-    void LeaveWanted(); // by Escape where nothing was edited
+    void Edited();    // by a letter
+    void FieldLeft(); // or ended: what was edited should be taken
     void CharactersLeftOut(const QString& characters);
 
   protected:
+    bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:

@@ -4,8 +4,10 @@
 #include "kit/DocumentTextEdit.h"
 #include "kit/LeftOut.h"
 #include "kit/PaneLook.h"
+#include "kit/UserMessageBox.h"
 
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -52,6 +54,13 @@ void frmTransitionAction::SetCode(std::string_view ansi) {
 std::string frmTransitionAction::Code() const { return txtCode->Text(); }
 
 void frmTransitionAction::Execute() { exec(); }
+
+// Esc is pressed by habit; whoever presses Cancel means it.
+void frmTransitionAction::keyPressEvent(QKeyEvent* event) {
+    const bool drops = event->key() == Qt::Key_Escape && Code() != textOnEntry_;
+    if (!drops || AskYesNo(this, tr("Drop what was changed in this action?")))
+        EditorDialog::keyPressEvent(event);
+}
 
 void frmTransitionAction::Activate() {
     textOnEntry_ = Code();

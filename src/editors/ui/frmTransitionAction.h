@@ -23,6 +23,7 @@ class frmTransitionAction : public EditorDialog {
     void Execute();
 
   protected:
+    void keyPressEvent(QKeyEvent* event) override;
     void Activate() override;
     void Cancel() override;
     void ShowLeftOut(const QString& characters) override;

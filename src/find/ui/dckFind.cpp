@@ -5,6 +5,7 @@
 #include "find/ui/HitsModel.h"
 #include "find/ui/UsesModel.h"
 #include "kit/AnsiString.h"
+#include "kit/CloseKeys.h"
 #include "kit/DocumentLineEdit.h"
 #include "kit/LeftOut.h"
 #include "kit/OpenInDesktop.h"
@@ -48,9 +49,7 @@ dckFind::dckFind(const FsmDocument& document, QWidget* parent)
     tabFind->addTab(MakeUsesPage(), tr("Where used"));
     setWidget(tabFind);
     ConnectLists();
-    auto* close = new QShortcut(Qt::Key_Escape, this);
-    close->setContext(Qt::WidgetWithChildrenShortcut);
-    connect(close, &QShortcut::activated, this, &QWidget::close);
+    AddCloseKeys(*this);
 }
 
 QWidget* dckFind::MakeFindPage() {

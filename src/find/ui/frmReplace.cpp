@@ -5,6 +5,7 @@
 #include "find/ui/PlanButtons.h"
 #include "find/ui/PlanModel.h"
 #include "kit/AnsiString.h"
+#include "kit/OpenInDesktop.h"
 
 #include <QLabel>
 #include <QPushButton>
@@ -15,16 +16,26 @@
 
 namespace orvane {
 
+namespace {
+
+constexpr int kHelpPage = 4985;
+
+} // namespace
+
 frmReplace::frmReplace(const FsmDocument& document, find::ReplacementPlan plan, QWidget* parent)
     : QDialog(parent), changes_(new PlanModel(document, this)) {
     setObjectName(QStringLiteral("frmReplace"));
     setWindowTitle(tr("Replace in all"));
+    AddHelpKey(*this, kHelpPage);
+    auto* lblEdited = new QLabel(tr("All texts of the machine"), this);
+    lblEdited->setObjectName(QStringLiteral("lblEdited"));
     auto* lblNotes = new QLabel(NoteOf(plan), this);
     lblNotes->setObjectName(QStringLiteral("lblNotes"));
     lblNotes->setWordWrap(true);
     lblNotes->setTextFormat(Qt::PlainText);
     lstChanges = MakeList(this, "lstChanges", tr("What would be replaced"), changes_, {32, 34});
     auto* layout = new QVBoxLayout(this);
+    layout->addWidget(lblEdited);
     layout->addWidget(lblNotes);
     layout->addWidget(lstChanges, 1);
     const PlanButtons buttons = AddPlanButtons(*this, *layout);

@@ -2,19 +2,21 @@
 #include "findings/ui/dckFindings.h"
 
 #include "findings/ui/FindingsModel.h"
+#include "kit/CloseKeys.h"
+#include "kit/OpenInDesktop.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QShortcut>
 #include <QTableView>
 
 namespace orvane {
 
 namespace {
 
+constexpr int kHelpPage = 4995;
 constexpr int kSeverityWidth = 12; // characters
 constexpr int kPlaceWidth = 32;
 
@@ -34,9 +36,7 @@ dckFindings::dckFindings(const FsmDocument& document, const std::vector<DesignFi
     MakeBottom(*column);
     setWidget(body);
     setFocusProxy(lstFindings);
-    auto* escape = new QShortcut(Qt::Key_Escape, this);
-    escape->setContext(Qt::WidgetWithChildrenShortcut);
-    connect(escape, &QShortcut::activated, this, &QWidget::close);
+    AddCloseKeys(*this);
 }
 
 void dckFindings::MakeList(QVBoxLayout& column) {
@@ -90,6 +90,10 @@ void dckFindings::Choose(int row) { lstFindings->setCurrentIndex(model_->index(r
 bool dckFindings::Explores() const { return chkExplore->isChecked(); }
 
 void dckFindings::ShowExploring(const QString& text) { lblExplore->setText(text); }
+
+bool dckFindings::event(QEvent* event) {
+    return TakesHelpKey(*event, kHelpPage) || QDockWidget::event(event);
+}
 
 bool dckFindings::eventFilter(QObject* watched, QEvent* event) {
     const auto* key = event->type() == QEvent::KeyPress ? dynamic_cast<QKeyEvent*>(event) : nullptr;

@@ -38,6 +38,7 @@ class dckFindings : public QDockWidget {
     void ExploringWanted(bool wanted);
 
   protected:
+    bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:

@@ -46,6 +46,7 @@ void OutsideRoom::MakePlaceAboveTable() {
     above_->setSpacing(0);
     if (table != nullptr)
         above_->addWidget(table, 1);
+    both->setFocusProxy(table);
     window_.setCentralWidget(both);
     if (focus != nullptr)
         focus->setFocus();

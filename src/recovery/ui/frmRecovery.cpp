@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "recovery/ui/frmRecovery.h"
 
+#include "kit/CloseKeys.h"
 #include "kit/OpenInDesktop.h"
 #include "kit/UserMessageBox.h"
 #include "recovery/ui/WorkListModel.h"
@@ -42,6 +43,7 @@ frmRecovery::frmRecovery(QWidget* parent)
     LayOut();
     resize(kFirstSize);
     AddHelpKey(*this, kHelpPage);
+    AddCloseKeys(*this);
     ShowWork({});
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "review/ui/frmCompare.h"
 
+#include "kit/CloseKeys.h"
 #include "kit/OpenInDesktop.h"
 #include "review/ui/ChangesModel.h"
 #include "review/ui/CodeSides.h"
@@ -58,6 +59,7 @@ frmCompare::frmCompare(const Vocabulary& vocabulary, QWidget* parent)
             [this] { ShowNothing(tr("The versions are compared ...")); });
     resize(kFirstSize);
     AddHelpKey(*this, kHelpPage);
+    AddCloseKeys(*this);
 }
 
 void frmCompare::BuildChoices() {
@@ -132,7 +134,6 @@ void frmCompare::BuildButtons() {
     connect(cmdNext, &QPushButton::clicked, this, next);
     connect(new QShortcut(Qt::Key_F7, this), &QShortcut::activated, this, previous);
     connect(new QShortcut(Qt::Key_F8, this), &QShortcut::activated, this, next);
-    connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QWidget::hide);
     connect(cmdTakeOver, &QPushButton::clicked, this, &frmCompare::TakeOver);
     connect(cmdClose, &QPushButton::clicked, this, &QWidget::hide);
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "run/ui/dckRun.h"
 
+#include "kit/CloseKeys.h"
 #include "kit/OpenInDesktop.h"
 #include "run/RunWords.h"
 #include "run/ui/InputsModel.h"
@@ -177,6 +178,7 @@ void dckRun::AddKeys() {
     AddKey(Qt::Key_Backspace, RunWish::StepBack);
     AddKey(QKeySequence(Qt::SHIFT | Qt::Key_Backspace), RunWish::StepForward);
     AddKey(Qt::Key_Home, RunWish::PowerOn);
+    AddCloseKeys(*this);
     auto* runs = new QShortcut(Qt::Key_R, this);
     runs->setContext(Qt::WidgetWithChildrenShortcut);
     runs->setAutoRepeat(false);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "run/ui/frmTour.h"
 
+#include "kit/OpenInDesktop.h"
 #include "run/Obstacles.h"
 #include "run/ui/TestFileAccess.h"
 #include "session/Session.h"
@@ -21,6 +22,7 @@ namespace orvane {
 
 namespace {
 
+constexpr int kHelpPage = 4975;
 constexpr int kMostSteps = 1'000'000; // more is read by nobody
 constexpr int kLookEvery = 50;        // milliseconds
 
@@ -37,6 +39,7 @@ frmTour::frmTour(const Session& session, QWidget* parent)
       barTour(new QProgressBar(this)) {
     setObjectName(QStringLiteral("frmTour"));
     setWindowTitle(tr("Tour of the machine"));
+    AddHelpKey(*this, kHelpPage);
     auto* column = new QVBoxLayout(this);
     MakeOptions(*column);
     MakeButtons(*column);

@@ -2,6 +2,7 @@
 #include "table/ui/frmBackTrack.h"
 
 #include "kit/AnsiString.h"
+#include "kit/CloseKeys.h"
 #include "kit/OpenInDesktop.h"
 
 #include <QEvent>
@@ -39,6 +40,7 @@ frmBackTrack::frmBackTrack(QWidget* parent) : QWidget(parent, Qt::Window) {
     layout->addWidget(MSFlexGrid1);
     resize(kFirstSize);
     AddHelpKey(*this, kHelpPage);
+    AddCloseKeys(*this);
 }
 
 void frmBackTrack::BuildGrid() {
