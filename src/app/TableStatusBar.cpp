@@ -83,7 +83,7 @@ void TableStatusBar::ShowMessages() {
     QStringList messages;
     if (!said_.isEmpty())
         messages += said_;
-    if (!written_.isEmpty())
+    if (!written_.isEmpty() && written_ != said_) // a room may have said so itself
         messages += written_;
     if (saysHowToBegin_)
         messages += tr("To begin, click the white corner and name the machine; then a column's head for a "

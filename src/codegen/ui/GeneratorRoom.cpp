@@ -4,6 +4,7 @@
 #include "codegen/Reachability.h"
 #include "codegen/ui/frmGenerator.h"
 #include "kit/UserMessageBox.h"
+#include "kit/WhenIdle.h"
 #include "session/Commands.h"
 #include "session/Session.h"
 #include "text/SiblingPath.h"
@@ -126,7 +127,10 @@ void GeneratorRoom::TellSession() {
 void GeneratorRoom::TakeLateFile() {
     TellSession();
     ShowRun();
-    TellTrouble();
+    if (generator_.GeneratedOk())
+        Q_EMIT Said(tr("Program written: %1")
+                        .arg(QFileInfo(QString::fromStdString(ProgramFilePath(session_.Path()))).fileName()));
+    TellTroubleOnceIdle();
 }
 
 // What was not saved leaves no program behind.
@@ -138,7 +142,25 @@ void GeneratorRoom::MakeProgramsAgree(ChangeKind kind) {
         toTell_ += trouble;
 }
 
-void GeneratorRoom::FailureBox::Told(const Change&) { room_.TellTrouble(); }
+// Who asked for the program waits for it; who draws must not have the next key taken by a box.
+void GeneratorRoom::FailureBox::Told(const Change& change) {
+    const bool isAsked = change.Kind == ChangeKind::ProgramWanted || change.Kind == ChangeKind::Replaced ||
+                         change.Kind == ChangeKind::Saved || change.Kind == ChangeKind::Left;
+    if (isAsked)
+        room_.TellTrouble();
+    else
+        room_.TellTroubleOnceIdle();
+}
+
+void GeneratorRoom::TellTroubleOnceIdle() {
+    if (toTell_.isEmpty() || isToldLater_)
+        return;
+    isToldLater_ = true;
+    OnceIdle(*this, [this] {
+        isToldLater_ = false;
+        TellTrouble();
+    });
+}
 
 void GeneratorRoom::TellTrouble() {
     for (const QString& text : std::exchange(toTell_, {}))

@@ -46,6 +46,7 @@ class GeneratorRoom : public Room {
     void TellSession();
     void TakeLateFile();
     void TellTrouble();
+    void TellTroubleOnceIdle();
     void ShowRun();
     QString FateOfProgram() const;
     frmGenerator& Window();
@@ -56,6 +57,7 @@ class GeneratorRoom : public Room {
     NativeFiles files_;
     GeneratorRun generator_;
     QStringList toTell_; // about programs that could not be written
+    bool isToldLater_ = false;
     FailureBox failureBox_{*this};
     std::unique_ptr<frmGenerator> frmGenerator_; // no window of the main window's: the table can be in front
 };

@@ -8,11 +8,11 @@
 #include "kit/Trace.h"
 #include "kit/UserMessageBox.h"
 #include "kit/WebAddresses.h"
+#include "kit/WhenIdle.h"
 #include "session/Change.h"
 #include "session/Commands.h"
 #include "welcome/UpdatePage.h"
 #include "welcome/ui/UpdateCheck.h"
-#include "welcome/ui/WhenIdle.h"
 #include "welcome/ui/frmSplash.h"
 
 #include <QEvent>
@@ -98,11 +98,7 @@ void WelcomeRoom::CheckForUpdate() {
     auto* check = new UpdateCheck(&window_);
     check->setObjectName(QStringLiteral("Inet1"));
     connect(check, &UpdateCheck::NewerVersionFound, this, [this](const std::string& latestVersion) {
-        auto* waiting = new WhenIdle(&window_);
-        connect(waiting, &WhenIdle::Idle, this, [this, waiting, latestVersion] {
-            waiting->deleteLater();
-            OfferUpdate(&window_, latestVersion);
-        });
+        OnceIdle(*this, [this, latestVersion] { OfferUpdate(&window_, latestVersion); });
     });
     check->Start(DownloadPage());
 }

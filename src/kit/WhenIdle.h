@@ -31,4 +31,15 @@ class WhenIdle : public QObject {
     QSet<int> keysDown_;
 };
 
+// Does this once the user does nothing; never when the owner is gone by then. For boxes that nobody has asked
+// for: one that answers a command comes at once.
+template <typename Act>
+void OnceIdle(QObject& owner, Act act) {
+    auto* waiting = new WhenIdle(&owner);
+    QObject::connect(waiting, &WhenIdle::Idle, &owner, [waiting, act] {
+        waiting->deleteLater();
+        act();
+    });
+}
+
 } // namespace orvane

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "welcome/ui/WhenIdle.h"
+#include "kit/WhenIdle.h"
 
 #include <QApplication>
 #include <QKeyEvent>
