@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The colours of the table and of the lists that go with it. All are light: the text on them is dark,
-// whatever the desktop's own colours are.
+// The colours of the table and of the lists that go with it. All are light, with dark text on them; a dark
+// desktop shows each by a dark one of its own that has the same hue.
 #pragma once
 
 #include "core/Cell.h"
@@ -29,5 +29,11 @@ inline constexpr Colour kNextStateColour{255, 255, 0};   // the cell whose targe
 
 // The fixed background of a cell, heads included.
 Colour CellColour(Cell cell);
+
+// What stands for a light colour on a dark desktop: no two become one.
+Colour OnDark(Colour light);
+// Whether black is read better on it than nearly white.
+bool TakesBlackText(Colour ground);
+inline constexpr Colour kLightText{235, 235, 235};
 
 } // namespace orvane

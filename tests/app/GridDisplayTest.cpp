@@ -81,15 +81,49 @@ TEST_F(GridDisplay, TheColoursStandWhereTheyBelong) {
     EXPECT_EQ(Colour(54, 0), QColor(255, 153, 204));
 }
 
-TEST_F(GridDisplay, ADarkDesktopStillGetsDarkTextOnTheLightCells) {
+TEST_F(GridDisplay, ADarkDesktopGetsADarkTableWhoseColoursKeepTheirMeaning) {
     const QPalette light = QApplication::palette();
-    QApplication::setPalette(QPalette(QColor(40, 40, 40)));
     StartOn(PumpDocument());
-    EXPECT_EQ(Grid()->model()->index(0, 1).data(Qt::ForegroundRole).value<QColor>(), QColor(Qt::black));
+    const auto text = [this](int row, int column) {
+        return Grid()->model()->index(row, column).data(Qt::ForegroundRole).value<QColor>();
+    };
+    EXPECT_EQ(text(0, 1), QColor(Qt::black));
+    QApplication::setPalette(QPalette(QColor(40, 40, 40)));
+    QApplication::processEvents();
+    const QColor entry = Colour(1, 1);
+    EXPECT_LT(entry.lightness(), 100);
+    EXPECT_EQ(entry.hslHue(), QColor(204, 255, 204).hslHue()); // green as ever
+    EXPECT_GT(text(0, 1).lightness(), 200);
     const QImage image = Grid()->viewport()->grab().toImage();
     const QRect head = CellRect(1, 1);
-    EXPECT_EQ(image.pixelColor(head.left() + 1, head.top() + 1), QColor(204, 255, 204));
+    EXPECT_EQ(image.pixelColor(head.left() + 1, head.top() + 1), entry);
     QApplication::setPalette(light);
+    QApplication::processEvents();
+    EXPECT_EQ(Colour(1, 1), QColor(204, 255, 204));
+}
+
+TEST_F(GridDisplay, ALargeFontOfTheDesktopMakesRowsAndColumnsLargerAndLeavesTheDocumentAlone) {
+    const QFont usual = QApplication::font();
+    FsmDocument document = PumpDocument();
+    document.State(1).Name = "Filling";
+    document.View.RowVisible.TimeTarget = 300;
+    StartOn(document);
+    const int width = Grid()->columnWidth(1);
+    const int heights[] = {Grid()->rowHeight(kTimeoutRow), Grid()->rowHeight(6)};
+    const std::string shown = Text(0, 1);
+    QFont large = usual;
+    large.setPointSize(16);
+    QApplication::setFont(large);
+    StartOn(document);
+    EXPECT_GT(Grid()->columnWidth(1), width * 14 / 10);
+    const int needed = QFontMetrics(large).height();
+    EXPECT_GT(Grid()->rowHeight(kTimeoutRow), std::max(needed, heights[0]));
+    EXPECT_GT(Grid()->rowHeight(6), std::max(needed, heights[1]));
+    EXPECT_EQ(Text(0, 1), shown);
+    EXPECT_EQ(SavedDocument(), document);
+    QApplication::setFont(usual);
+    QApplication::processEvents(); // a window that is open follows
+    EXPECT_EQ(Grid()->columnWidth(1), width);
 }
 
 TEST_F(GridDisplay, ALongNameShowsItsLongestFittingBeginning) {

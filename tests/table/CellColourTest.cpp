@@ -5,6 +5,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <vector>
+
 namespace orvane {
 namespace {
 
@@ -28,6 +31,21 @@ TEST(CellColour, TheRowHeadsHaveColoursOfTheirOwn) {
     EXPECT_EQ(CellColour({5, 0}), (Colour{255, 238, 204}));
     for (const RowNumber row : EventRows())
         EXPECT_EQ(CellColour({row, 0}), (Colour{255, 153, 204})) << row;
+}
+
+TEST(CellColour, OnADarkDesktopEachIsDarkAndAnother) {
+    std::vector<Colour> dark;
+    for (const Colour light :
+         {kPlainCellColour, kStateHeadColour, kTimeoutColour, kElseColour, kEventColour, CellColour({1, 0}),
+          CellColour({1, 1}), CellColour({2, 1}), kNextTakenColour, kCurrentStateColour, kNextStateColour}) {
+        const Colour colour = OnDark(light);
+        EXPECT_EQ(std::find(dark.begin(), dark.end(), colour), dark.end());
+        dark.push_back(colour);
+        EXPECT_EQ(TakesBlackText(colour), light == kNextStateColour); // a bright yellow here too
+        EXPECT_TRUE(TakesBlackText(light) || light == kCurrentStateColour);
+    }
+    EXPECT_EQ(OnDark(kPlainCellColour), (Colour{30, 30, 30}));
+    EXPECT_EQ(OnDark(kEventColour), (Colour{101, 30, 65}));
 }
 
 } // namespace

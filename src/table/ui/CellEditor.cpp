@@ -10,22 +10,11 @@
 
 namespace orvane {
 
-namespace {
-
-QPalette DarkOnLight(QPalette palette) {
-    palette.setColor(QPalette::Base, Qt::white);
-    palette.setColor(QPalette::Text, Qt::black);
-    return palette;
-}
-
-} // namespace
-
 CellEditor::CellEditor(FsmGridView& view) : QLineEdit(view.viewport()), view_(view) {
     setObjectName(QStringLiteral("txtCellEdit"));
     setToolTip(QStringLiteral("Enter only the column number of the target state."));
     setAccessibleName(QStringLiteral("Target state"));
     setFrame(false);
-    setPalette(DarkOnLight(palette()));
     setContextMenuPolicy(Qt::NoContextMenu);
     setAcceptDrops(false);
     setValidator(new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[0-9]*")), this));

@@ -20,6 +20,8 @@ constexpr std::size_t IndexOfCell(Cell cell) {
     return IndexIn(TableColumns(), cell.State) * kTableRows + IndexIn(TableRows(), cell.Row);
 }
 
+QColor ToQColor(Colour colour) { return {colour.Red, colour.Green, colour.Blue}; }
+
 // 1 for advice up to 4 for an error.
 constexpr unsigned char Badness(FindingLevel level) {
     return static_cast<unsigned char>(Ordinal(FindingLevel::Advice) + 1 - Ordinal(level));
@@ -44,9 +46,9 @@ QVariant FsmGridModel::data(const QModelIndex& index, int role) const {
     case Qt::DisplayRole:
         return FromAnsi(CellText(document_, CellOf(index), *measure_));
     case Qt::BackgroundRole:
-        return Background(CellOf(index));
-    case Qt::ForegroundRole: // Every background is light, also on a dark desktop.
-        return QColor(Qt::black);
+        return ToQColor(Background(CellOf(index)));
+    case Qt::ForegroundRole:
+        return TextColour(CellOf(index));
     case Qt::AccessibleTextRole:
         return FromAnsi(CellName(document_, CellOf(index)));
     case kHasActionRole:
@@ -80,6 +82,11 @@ bool FsmGridModel::HasAction(Cell cell) const {
 void FsmGridModel::SetMeasurer(std::unique_ptr<TextMeasurer> measure) {
     measure_ = std::move(measure);
     AllChanged();
+}
+
+void FsmGridModel::SetDark(bool dark) {
+    if (std::exchange(isDark_, dark) != dark)
+        AllChanged();
 }
 
 void FsmGridModel::ColumnChanged(StateNumber column) {
@@ -172,7 +179,7 @@ void FsmGridModel::ClearHighlight() {
         BackgroundChanged(*cell);
 }
 
-QColor FsmGridModel::Background(Cell cell) const {
+Colour FsmGridModel::Background(Cell cell) const {
     Colour colour = CellColour(cell);
     if (highlighted_ == cell)
         colour = kNextStateColour;
@@ -180,7 +187,13 @@ QColor FsmGridModel::Background(Cell cell) const {
         colour = kCurrentStateColour;
     else if (run_ && Mark(cell).Next)
         colour = kNextTakenColour;
-    return {colour.Red, colour.Green, colour.Blue};
+    return isDark_ ? OnDark(colour) : colour;
+}
+
+// Every light background has black text, the red one too.
+QColor FsmGridModel::TextColour(Cell cell) const {
+    const bool isBlack = !isDark_ || TakesBlackText(Background(cell));
+    return isBlack ? QColor(Qt::black) : ToQColor(kLightText);
 }
 
 void FsmGridModel::BackgroundChanged(Cell cell) {

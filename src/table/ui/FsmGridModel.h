@@ -6,6 +6,7 @@
 #include "core/FsmDocument.h"
 #include "core/TableGeometry.h"
 #include "session/RunPicture.h"
+#include "table/CellColour.h"
 #include "table/TextFitting.h"
 
 #include <QAbstractTableModel>
@@ -50,6 +51,9 @@ class FsmGridModel : public QAbstractTableModel {
 
     void SetMeasurer(std::unique_ptr<TextMeasurer> measure);
 
+    // Whether the colours are those of a dark desktop.
+    void SetDark(bool dark);
+
     // What the document changed, for whoever shows it. A column changes with its head.
     void ColumnChanged(StateNumber column);
     void RowHeadsChanged() { ColumnChanged(kNoState); }
@@ -75,7 +79,8 @@ class FsmGridModel : public QAbstractTableModel {
     QVariant MarkFlags(Cell cell) const;
     QString FindingTexts(Cell cell) const;
     void RunChanged(const RunPicture& before, const RunPicture& after);
-    QColor Background(Cell cell) const;
+    Colour Background(Cell cell) const;
+    QColor TextColour(Cell cell) const;
     void BackgroundChanged(Cell cell);
 
     const FsmDocument& document_;
@@ -83,6 +88,7 @@ class FsmGridModel : public QAbstractTableModel {
     StateNumber currentState_ = kNoState;
     std::optional<Cell> highlighted_;
     std::optional<RunPicture> run_;
+    bool isDark_ = false;
     std::vector<DesignFinding> findings_;
     std::array<unsigned char, std::size_t{kTableColumns} * kTableRows>
         findingOf_{}; // as kFindingRole gives it

@@ -2,6 +2,7 @@
 #include "table/ui/GridGeometry.h"
 
 #include "table/TextFitting.h"
+#include "table/ui/GridMeasurer.h"
 
 #include <QApplication>
 #include <QFontMetrics>
@@ -21,8 +22,10 @@ constexpr Pixels kRowPadding = 6; // above and below the text together
 GridGeometry::GridGeometry(const FsmDocument& document, QTableView& view)
     : document_(document),
       view_(view),
-      standardHeight_(TwipsFromPixels(QFontMetrics(view.font()).height() + kRowPadding)) {
-    SetZoom(zoom_);
+      scale_(FontPercent(view.font())),
+      standardHeight_(TwipsFromPixels(QFontMetrics(view.font()).height() + kRowPadding).Count() * 100 /
+                      scale_) {
+    SetScale(scale_);
     connect(view_.horizontalHeader(), &QHeaderView::sectionResized, this,
             [this](int column, int, int pixels) { ColumnResized(column, pixels); });
 }
@@ -30,11 +33,11 @@ GridGeometry::GridGeometry(const FsmDocument& document, QTableView& view)
 // A width or height of the document may be any number.
 Pixels GridGeometry::Shown(Twips length) const {
     const Pixels pixels = PixelsFromTwips(std::clamp(length, Twips(0), kWidestColumn));
-    return (pixels.Count() * zoom_ + 50) / 100;
+    return (pixels.Count() * scale_ + 50) / 100;
 }
 
-void GridGeometry::SetZoom(int percent) {
-    zoom_ = percent;
+void GridGeometry::SetScale(int percent) {
+    scale_ = percent;
     view_.verticalHeader()->setDefaultSectionSize(Shown(standardHeight_).Count());
     view_.horizontalHeader()->setMaximumSectionSize(Shown(kWidestColumn).Count());
 }
@@ -78,7 +81,7 @@ std::vector<DraggedWidth> GridGeometry::TakeDraggedWidths() {
         return widths;
     for (const auto& [column, width] : std::exchange(dragged_, {})) {
         laidOut_[IndexIn(TableColumns(), column)] = width;
-        widths.push_back({column, TwipsFromPixels(width).Count() * 100 / zoom_});
+        widths.push_back({column, TwipsFromPixels(width).Count() * 100 / scale_});
     }
     return widths;
 }

@@ -31,7 +31,7 @@ class GridGeometry : public QObject {
     Twips StandardHeight() const { return standardHeight_; }
 
     // How large the table is shown, in percent of what the document says. Lays nothing out anew.
-    void SetZoom(int percent);
+    void SetScale(int percent);
 
     // Bring the view into line with the document.
     void ApplyColumnWidth(StateNumber column);
@@ -49,8 +49,8 @@ class GridGeometry : public QObject {
     QTableView& view_;
     Pixels Shown(Twips length) const;
 
+    int scale_; // percent
     Twips standardHeight_;
-    int zoom_ = 100;
     std::array<Pixels, kTableColumns> laidOut_;
     std::map<StateNumber, Pixels> dragged_; // columns that are no longer laid out so
 };

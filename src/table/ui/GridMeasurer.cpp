@@ -3,8 +3,10 @@
 
 #include "kit/AnsiString.h"
 
+#include <QFontInfo>
 #include <QFontMetrics>
 
+#include <algorithm>
 #include <string>
 #include <unordered_map>
 
@@ -16,7 +18,7 @@ namespace {
 // what finding it costs.
 class CachedWidths final : public TextMeasurer {
   public:
-    CachedWidths(const QFont& font, int zoom) : metrics_(font), zoom_(zoom) {}
+    CachedWidths(const QFont& font, int scale) : metrics_(font), scale_(scale) {}
 
     Twips operator()(std::string_view text) const override {
         if (text.size() > kLongestKept)
@@ -35,11 +37,11 @@ class CachedWidths final : public TextMeasurer {
 
     Twips Measure(std::string_view text) const {
         const Twips shown = TwipsFromPixels(metrics_.horizontalAdvance(CellLine(text)));
-        return (shown.Count() * 100 + zoom_ - 1) / zoom_; // never less than it takes
+        return (shown.Count() * 100 + scale_ - 1) / scale_; // never less than it takes
     }
 
     QFontMetrics metrics_;
-    int zoom_;
+    int scale_;
     mutable std::unordered_map<std::string, Twips> widths_;
 };
 
@@ -53,8 +55,15 @@ QString CellLine(QString text) {
         .replace(QLatin1Char('\r'), QLatin1Char(' '));
 }
 
-std::unique_ptr<TextMeasurer> GridMeasurer(const QFont& font, int zoom) {
-    return std::make_unique<CachedWidths>(font, zoom);
+std::unique_ptr<TextMeasurer> GridMeasurer(const QFont& font, int scale) {
+    return std::make_unique<CachedWidths>(font, scale);
+}
+
+int FontPercent(const QFont& font) {
+    constexpr double kUsual = 9; // points
+    constexpr double kLargestUsual = 11;
+    const double size = QFontInfo(font).pointSizeF();
+    return size > kLargestUsual ? int(size * 100 / kUsual) : 100;
 }
 
 } // namespace orvane

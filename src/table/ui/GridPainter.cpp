@@ -2,6 +2,7 @@
 #include "table/ui/GridPainter.h"
 
 #include "core/TableGeometry.h"
+#include "kit/PaneLook.h"
 #include "table/ui/CellPictures.h"
 #include "table/ui/FsmGridModel.h"
 #include "table/ui/FsmGridView.h"
@@ -11,43 +12,31 @@ namespace orvane {
 
 namespace {
 
-constexpr QRgb kLineColour = qRgb(176, 176, 176);
-constexpr QRgb kCursorColour = qRgb(0, 0, 0);
-constexpr QRgb kActionColour = qRgb(160, 60, 0);
 constexpr int kActionMark = 7; // pixels at its sides
 
 // Of a running machine. Each mark has a form of its own, so that none is told by its colour alone.
-constexpr QRgb kTakeableColour = qRgb(0, 64, 160);
-constexpr QRgb kLastTakenColour = qRgb(0, 110, 50);
 constexpr int kLastTakenWidth = 3;
 constexpr int kNoteMargin = 2;
-constexpr QRgb kQuietNote = qRgb(224, 224, 224);
 constexpr QChar kTimes(0xD7); // behind a count; what was never taken is what one looks for
 
 constexpr int kErrorBadness = 4; // as kFindingRole gives it
 constexpr int kWarningBadness = 3;
-constexpr QRgb kErrorColour = qRgb(192, 0, 0);
-constexpr QRgb kWarningColour = qRgb(200, 110, 0);
-constexpr QRgb kAdviceColour = qRgb(0, 64, 160);
 constexpr int kErrorMark = 9; // pixels of the window
 constexpr int kOtherMark = 7;
 
-// Half way to a blue that the colours of the table do not come near.
-QColor Chosen(const QColor& background) {
-    constexpr QRgb kChosen = qRgb(120, 170, 240);
-    return QColor((background.red() + qRed(kChosen)) / 2, (background.green() + qGreen(kChosen)) / 2,
-                  (background.blue() + qBlue(kChosen)) / 2);
+QColor HalfWay(const QColor& from, QRgb to) {
+    return {(from.red() + qRed(to)) / 2, (from.green() + qGreen(to)) / 2, (from.blue() + qBlue(to)) / 2};
 }
 
 // A table at the limit shows hundreds of them; to copy one takes a tenth of the time of drawing it.
-QPixmap ActionMark(int side, qreal scale) {
+QPixmap ActionMark(int side, qreal scale, QRgb colour) {
     QPixmap mark(QSize(side, side) * scale);
     mark.setDevicePixelRatio(scale);
     mark.fill(Qt::transparent);
     QPainter painter(&mark);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor(kActionColour));
+    painter.setBrush(QColor(colour));
     painter.drawPolygon(QPolygonF({QPointF(side, 0), QPointF(0, 0), QPointF(side, side)}));
     return mark;
 }
@@ -61,7 +50,10 @@ QRect FindingMark(const QRect& cell, int badness) {
 }
 
 GridPainter::GridPainter(FsmGridView& view, CellPictures& pictures)
-    : view_(view), pictures_(pictures), painter_(view.viewport()) {
+    : view_(view),
+      pictures_(pictures),
+      look_(IsDark(view.palette()) ? kDarkLook : kLightLook),
+      painter_(view.viewport()) {
     painter_.setFont(view.font());
 }
 
@@ -124,16 +116,16 @@ void GridPainter::PaintLines(const QList<Stretch>& rows, const QList<Stretch>& c
     const int left = columns.first().Begin;
     for (const Stretch& column : columns)
         painter_.fillRect(QRectF{column.End() - pixel, qreal(top), pixel, qreal(rows.last().End() - top)},
-                          QColor(kLineColour));
+                          QColor(look_.Line));
     for (const Stretch& row : rows)
         painter_.fillRect(QRectF{qreal(left), row.End() - pixel, qreal(columns.last().End() - left), pixel},
-                          QColor(kLineColour));
+                          QColor(look_.Line));
 }
 
 void GridPainter::PaintCell(const QModelIndex& cell, const QRect& area) {
     QColor background = cell.data(Qt::BackgroundRole).value<QColor>();
     if (view_.IsChosen(cell))
-        background = Chosen(background);
+        background = HalfWay(background, look_.Chosen);
     const int marks = cell.data(kRunMarkRole).toInt();
     painter_.fillRect(area, background);
     const QString text = CellLine(cell.data().toString().left(area.width())); // no character takes no pixel
@@ -155,7 +147,7 @@ void GridPainter::PaintCell(const QModelIndex& cell, const QRect& area) {
 }
 
 void GridPainter::PaintFrame(const QRect& area) {
-    painter_.setPen(QPen(QColor(kCursorColour), 1, view_.hasFocus() ? Qt::SolidLine : Qt::DotLine));
+    painter_.setPen(QPen(QColor(look_.Cursor), 1, view_.hasFocus() ? Qt::SolidLine : Qt::DotLine));
     painter_.drawRect(QRectF(area).adjusted(0.5, 0.5, -1.5, -1.5)); // the pen stays inside at every scale
 }
 
@@ -165,7 +157,7 @@ void GridPainter::PaintActionMark(const QRect& area) {
     if (side <= 0)
         return;
     if (actionMark_.deviceIndependentSize().width() != side)
-        actionMark_ = ActionMark(side, painter_.device()->devicePixelRatioF());
+        actionMark_ = ActionMark(side, painter_.device()->devicePixelRatioF(), look_.Action);
     painter_.drawPixmap(area.x() + area.width() - 1 - side, area.y() + 1, actionMark_);
 }
 
@@ -177,11 +169,11 @@ void GridPainter::PaintRunMarks(const QModelIndex& cell, const QRect& area, int 
         PaintNote(area, cell.data(kRunNoteRole).toString());
     if ((marks & kTakeable) != 0) {
         painter_.setPen(
-            QPen(QColor(kTakeableColour), 1, (marks & kNextTaken) != 0 ? Qt::SolidLine : Qt::DashLine));
+            QPen(QColor(look_.Takeable), 1, (marks & kNextTaken) != 0 ? Qt::SolidLine : Qt::DashLine));
         painter_.drawRect(inside.adjusted(1, 1, -1, -1));
     }
     if ((marks & kLastTaken) != 0) {
-        QPen frame(QColor(kLastTakenColour), kLastTakenWidth);
+        QPen frame(QColor(look_.LastTaken), kLastTakenWidth);
         frame.setJoinStyle(Qt::MiterJoin);
         painter_.setPen(frame);
         painter_.drawRect(inside.adjusted(1, 1, -1, -1));
@@ -193,13 +185,13 @@ void GridPainter::PaintRunMarks(const QModelIndex& cell, const QRect& area, int 
 void GridPainter::PaintFinding(const QRect& area, int badness) {
     const QRect mark = FindingMark(area, badness);
     const bool filled = badness >= kWarningBadness;
-    const QColor colour = badness == kErrorBadness     ? QColor(kErrorColour)
-                          : badness == kWarningBadness ? QColor(kWarningColour)
-                                                       : QColor(kAdviceColour);
+    const QColor colour = badness == kErrorBadness     ? QColor(look_.Error)
+                          : badness == kWarningBadness ? QColor(look_.Warning)
+                                                       : QColor(look_.Advice);
     painter_.save();
     painter_.setRenderHint(QPainter::Antialiasing);
     painter_.setPen(QPen(colour, 1));
-    painter_.setBrush(filled ? QBrush(colour) : QBrush(Qt::white));
+    painter_.setBrush(filled ? QBrush(colour) : QBrush(QColor(look_.Hollow)));
     painter_.drawPolygon(QPolygonF{QPointF(mark.left(), mark.top()),
                                    QPointF(mark.left(), mark.top() + mark.height()),
                                    QPointF(mark.left() + mark.width(), mark.top() + mark.height())});
@@ -211,8 +203,8 @@ void GridPainter::PaintNote(const QRect& area, const QString& note) {
     QRect place = area.adjusted(0, 2, -4, -3);
     place.setLeft(std::max(area.left(), place.right() - metrics.horizontalAdvance(note) - 2 * kNoteMargin));
     const bool isUsualCount = note.endsWith(kTimes) && note != QLatin1Char('0') + QString(kTimes);
-    painter_.fillRect(place, isUsualCount ? QColor(kQuietNote) : QColor(Qt::black));
-    painter_.setPen(isUsualCount ? Qt::black : Qt::white);
+    painter_.fillRect(place, QColor(isUsualCount ? look_.QuietNote : look_.Note));
+    painter_.setPen(QColor(isUsualCount ? look_.QuietNoteText : look_.NoteText));
     painter_.drawText(place, Qt::AlignCenter | Qt::TextSingleLine, note);
 }
 

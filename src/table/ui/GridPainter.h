@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "table/ui/GridLook.h"
+
 #include <QList>
 #include <QPainter>
 #include <QPixmap>
@@ -45,6 +47,7 @@ class GridPainter {
 
     FsmGridView& view_;
     CellPictures& pictures_;
+    const GridLook& look_;
     QPainter painter_;
     QPixmap actionMark_; // of the cell before
 };

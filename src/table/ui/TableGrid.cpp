@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "table/ui/TableGrid.h"
 
+#include "kit/PaneLook.h"
 #include "kit/Settings.h"
 #include "session/Session.h"
 #include "table/FittingWidth.h"
@@ -42,9 +43,11 @@ TableGrid::TableGrid(Session& session, QWidget* parent)
     : QWidget(parent),
       session_(session),
       MSFlexGrid1(new FsmGridView(this)),
-      measure_(GridMeasurer(MSFlexGrid1->font())),
-      model_(new FsmGridModel(session.Document(), GridMeasurer(MSFlexGrid1->font()), this)) {
+      measure_(GridMeasurer(MSFlexGrid1->font(), FontPercent(font()))),
+      model_(new FsmGridModel(session.Document(), GridMeasurer(MSFlexGrid1->font(), FontPercent(font())),
+                              this)) {
     MSFlexGrid1->setModel(model_);
+    model_->SetDark(IsDark(palette()));
     MSFlexGrid1->setCurrentIndex(IndexOf(*model_, {kEntryActionRow, StateNumbers().First()}));
     geometry_ = std::make_unique<GridGeometry>(session.Document(), *MSFlexGrid1);
     session_.SetStandardHeight(geometry_->StandardHeight());
@@ -142,23 +145,26 @@ void TableGrid::SetZoom(int percent) {
         larger.setPointSizeF(larger.pointSizeF() * percent / 100);
     else
         larger.setPixelSize(std::max(larger.pixelSize() * percent / 100, 1));
-    geometry_->SetZoom(percent);
+    geometry_->SetScale(Scale());
     MSFlexGrid1->setFont(larger);
     Measure();
     Draw({Touched::Extent::Everything, {}});
 }
 
 void TableGrid::Measure() {
-    measure_ = GridMeasurer(MSFlexGrid1->font(), zoom_);
-    model_->SetMeasurer(GridMeasurer(MSFlexGrid1->font(), zoom_));
+    measure_ = GridMeasurer(MSFlexGrid1->font(), Scale());
+    model_->SetMeasurer(GridMeasurer(MSFlexGrid1->font(), Scale()));
 }
+
+// A larger font of the desktop makes rows and columns larger with the texts in them.
+int TableGrid::Scale() const { return zoom_ * FontPercent(font()) / 100; }
 
 // The standard height stays as it was when the window was made.
 void TableGrid::changeEvent(QEvent* event) {
-    if (event->type() == QEvent::FontChange && zoom_ == 100)
-        Measure();
-    else if (event->type() == QEvent::FontChange)
+    if (event->type() == QEvent::FontChange && geometry_ != nullptr)
         SetZoom(zoom_);
+    else if (event->type() == QEvent::PaletteChange)
+        model_->SetDark(IsDark(palette()));
     QWidget::changeEvent(event);
 }
 

@@ -52,6 +52,7 @@ class TableGrid : public QWidget {
     void PopulateRowHeaders();
     void SetZoom(int percent);
     void Measure();
+    int Scale() const;
 
     Session& session_;
     FsmGridView* MSFlexGrid1;
