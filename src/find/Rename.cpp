@@ -2,6 +2,7 @@
 #include "find/Rename.h"
 
 #include "codegen/LabelClashes.h"
+#include "find/LostTimers.h"
 #include "find/PlaceText.h"
 #include "find/Search.h"
 #include "find/WordBorders.h"
@@ -30,7 +31,8 @@ class Adviser {
     void TellSameTimer();
     void TellCharacters();
     void TellSameWord();
-    void TellClashes(const std::vector<TextUse>& uses);
+    void TellClashes(const FsmDocument& renamed);
+    void TellLostTimers(const FsmDocument& renamed);
     bool IsInLabels() const {
         return !std::holds_alternative<OfWord>(subject_) && !std::holds_alternative<OfEvent>(subject_);
     }
@@ -59,7 +61,10 @@ std::vector<std::string> Adviser::Notes(const std::vector<TextUse>& uses) {
     TellSameTimer();
     TellCharacters();
     TellSameWord();
-    TellClashes(uses);
+    FsmDocument renamed = document_;
+    Apply(renamed, SureChanges(uses));
+    TellClashes(renamed);
+    TellLostTimers(renamed);
     return std::move(notes_);
 }
 
@@ -116,9 +121,7 @@ void Adviser::TellSameWord() {
 }
 
 // Labels that stand twice with the new name and did not before.
-void Adviser::TellClashes(const std::vector<TextUse>& uses) {
-    FsmDocument renamed = document_;
-    Apply(renamed, SureChanges(uses));
+void Adviser::TellClashes(const FsmDocument& renamed) {
     const std::vector<std::string> before = LabelClashes(document_);
     const std::vector<std::string> after = LabelClashes(renamed);
     std::vector<std::string> clashes;
@@ -128,6 +131,16 @@ void Adviser::TellClashes(const std::vector<TextUse>& uses) {
         return;
     for (const std::string& label : clashes)
         notes_.push_back("The program would have the label " + label + " twice");
+}
+
+// An id that is the tail of one before it gets no definition (codegen/TimerList.h).
+void Adviser::TellLostTimers(const FsmDocument& renamed) {
+    const std::vector<LostTimer> after = LostTimers(renamed);
+    if (after.size() <= LostTimers(document_).size())
+        return;
+    for (const LostTimer& lost : after)
+        notes_.push_back("The program would not define the timer " + lost.Id +
+                         ", because it is the tail of " + lost.Before + ", which comes first");
 }
 
 TextChange ChangeOf(const TextUse& use) { return {use.Place, use.Start, use.Length, use.After, use.IsSure}; }

@@ -38,6 +38,22 @@ std::string NameOf(const FsmDocument& document, const Subject& subject) {
     return std::visit(Namer{document}, subject);
 }
 
+std::vector<Subject> BearersOf(const FsmDocument& document, const Subject& subject, std::string_view name) {
+    std::vector<Subject> bearers;
+    const auto add = [&](const auto& all, auto subjectOf) {
+        for (const auto number : all) {
+            const Subject one = subjectOf(number);
+            if (NameOf(document, one) == name)
+                bearers.push_back(one);
+        }
+    };
+    if (std::holds_alternative<OfState>(subject))
+        add(StateNumbers(), [](StateNumber state) { return Subject(OfState{state}); });
+    else if (std::holds_alternative<OfEvent>(subject))
+        add(EventRows(), [](RowNumber row) { return Subject(OfEvent{row}); });
+    return bearers;
+}
+
 std::string TitleOf(const FsmDocument& document, const Subject& subject) {
     return std::visit(Titler{document}, subject);
 }

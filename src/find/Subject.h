@@ -4,7 +4,9 @@
 #include "core/FsmDocument.h"
 
 #include <string>
+#include <string_view>
 #include <variant>
+#include <vector>
 
 namespace orvane::find {
 
@@ -32,6 +34,9 @@ using Subject = std::variant<OfState, OfEvent, OfTimer, OfMachine, OfWord>;
 
 // What it is called now.
 std::string NameOf(const FsmDocument& document, const Subject& subject);
+
+// The states or events that have this name, where the subject is one of them; none for other subjects.
+std::vector<Subject> BearersOf(const FsmDocument& document, const Subject& subject, std::string_view name);
 
 // What people call it: "State 3:Opening", "Event row 8: Button", "Timer T1", "Machine PMP", "Word PST_Horn".
 std::string TitleOf(const FsmDocument& document, const Subject& subject);

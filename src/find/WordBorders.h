@@ -20,6 +20,17 @@ constexpr bool IsInsideWord(std::string_view text, std::size_t at) {
     return at > 0 && at < text.size() && IsOfWord(text[at - 1]) && IsOfWord(text[at]);
 }
 
+// The word that this place in the text touches, also at its ends; empty where there is none.
+constexpr std::string_view WordAt(std::string_view text, std::size_t at) {
+    std::size_t begin = at < text.size() ? at : text.size();
+    std::size_t end = begin;
+    while (begin > 0 && IsOfWord(text[begin - 1]))
+        --begin;
+    while (end < text.size() && IsOfWord(text[end]))
+        ++end;
+    return text.substr(begin, end - begin);
+}
+
 constexpr bool IsLineEnd(char c) { return c == '\r' || c == '\n'; }
 
 } // namespace orvane::find

@@ -6,6 +6,7 @@
 #include "core/TightPacked.h"
 #include "find/PlaceText.h"
 #include "find/WhereUsed.h"
+#include "find/WordBorders.h"
 #include "support/Property.h"
 #include "support/RandomDocument.h"
 #include "support/SmallTable.h"
@@ -135,6 +136,32 @@ TEST(Rename, TellsLabelsThatWouldStandTwice) {
     document.State(1).TimerId = document.State(2).TimerId = "2";
     EXPECT_THAT(PlanRename(document, OfState{2}, "Timer").Notes,
                 ElementsAre("The program would have the label P_Timer_2 twice"));
+}
+
+TEST(Rename, TellsATimerThatWouldHaveNoDefinition) {
+    FsmDocument document = Garage();
+    document.State(2).TimingMode = 1;
+    document.State(2).TimerId = "Light";
+    EXPECT_THAT(PlanRename(document, OfTimer{"Light"}, "1").Notes,
+                ElementsAre("The program would not define the timer 1, because it is the tail of T1, which "
+                            "comes first"));
+    EXPECT_THAT(PlanRename(document, OfTimer{"T1"}, "NightLight").Notes,
+                ElementsAre("The program would not define the timer Light, because it is the tail of "
+                            "NightLight, which comes first"));
+    EXPECT_THAT(PlanRename(document, OfTimer{"Light"}, "T12").Notes, IsEmpty());
+    document.State(2).TimingMode = 3; // goes on with a timer and starts none
+    EXPECT_THAT(PlanRename(document, OfTimer{"Light"}, "1").Notes, IsEmpty());
+}
+
+TEST(Words, AWordIsWhatItsPlaceTouches) {
+    constexpr std::string_view text = "\tHorn;P_1 \xE9t";
+    static_assert(WordAt(text, 0).empty());
+    static_assert(WordAt(text, 1) == "Horn");
+    static_assert(WordAt(text, 3) == "Horn");
+    static_assert(WordAt(text, 5) == "Horn");
+    static_assert(WordAt(text, 6) == "P_1");
+    EXPECT_EQ(WordAt(text, 99), "\xE9t");
+    EXPECT_EQ(WordAt("", 0), "");
 }
 
 // A name that no random text holds.

@@ -45,7 +45,7 @@ void FindRoom::Run(Command command) {
     case Command::ViewFind:
         return TogglePane();
     case Command::WhereUsed:
-        return ShowUsesOf(SubjectAt(session_.Document(), ChosenCell(window_, session_)));
+        return ShowUsesOf(ChosenSubject(window_, session_));
     case Command::StateUses:
         return ShowUsesOf(find::OfState{session_.Pressed().State});
     case Command::EventUses:
@@ -114,15 +114,29 @@ void FindRoom::LookForText() {
     pane_->ShowHits(Search(session_.Document(), std::get<find::Pattern>(read)));
 }
 
+// States and events are numbers to the table, but the user means the one of that name: it is followed where
+// it is moved, by whatever command, undo included. A name that came with a rename is found at the old place.
+void FindRoom::FollowSubject() {
+    const FsmDocument& document = session_.Document();
+    const std::vector<find::Subject> bearers = find::BearersOf(document, *subject_, subjectName_);
+    const bool isThere = find::NameOf(document, *subject_) == subjectName_;
+    if (!isThere && bearers.size() == 1 && !subjectName_.empty())
+        subject_ = bearers.front();
+    const std::string name = find::NameOf(document, *subject_);
+    subjectName_ = find::BearersOf(document, *subject_, name).size() == 1 ? name : std::string();
+}
+
 void FindRoom::LookForUses() {
     if (!subject_)
         return pane_->ShowUses(tr("Nothing"), {});
+    FollowSubject();
     pane_->ShowUses(FromAnsi(find::TitleOf(session_.Document(), *subject_)),
                     find::UsesOf(session_.Document(), *subject_));
 }
 
 void FindRoom::ShowUsesOf(const find::Subject& subject) {
     subject_ = subject;
+    subjectName_.clear();
     ShowPane();
     LookForUses();
 }

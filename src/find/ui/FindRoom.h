@@ -5,6 +5,7 @@
 #include "kit/Room.h"
 
 #include <optional>
+#include <string>
 
 namespace orvane {
 
@@ -33,6 +34,7 @@ class FindRoom : public Room {
     void LookForText();
     void LookForUses();
     void ShowUsesOf(const find::Subject& subject);
+    void FollowSubject();
     void Replace();
     void GoTo(const TextPiece& piece);
 
@@ -40,6 +42,7 @@ class FindRoom : public Room {
     QMainWindow& window_;
     dckFind* pane_ = nullptr;
     std::optional<find::Subject> subject_; // whose uses are listed
+    std::string subjectName_;              // as it was listed last; empty when others had it too
 };
 
 } // namespace orvane

@@ -16,14 +16,16 @@ class RenameRoom : public Room {
     std::span<const Command> Commands() const override;
     void Run(Command command) override;
     ObserverRank Rank() const override;
-    bool Listens() const override { return false; }
-    void Told(const Change&) override {}
+    bool Listens() const override { return true; }
+    void Told(const Change& change) override;
 
   private:
     void Rename(const find::Subject& subject);
+    void OfferPrefix(const std::string& formerName);
 
     Session& session_;
     QMainWindow& window_;
+    std::string machineName_; // before the edit that is told
 };
 
 } // namespace orvane

@@ -2,9 +2,12 @@
 #include "find/ui/SubjectAt.h"
 
 #include "core/TimingMode.h"
+#include "find/WordBorders.h"
+#include "kit/CodePane.h"
 #include "session/Session.h"
 
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QMainWindow>
 
 namespace orvane {
@@ -14,6 +17,15 @@ Cell ChosenCell(const QMainWindow& window, const Session& session) {
     const auto* table = window.centralWidget()->findChild<QAbstractItemView*>(QStringLiteral("MSFlexGrid1"));
     const QModelIndex index = table != nullptr ? table->currentIndex() : QModelIndex();
     return index.isValid() ? Cell{index.row(), index.column()} : session.Pressed();
+}
+
+find::Subject ChosenSubject(const QMainWindow& window, const Session& session) {
+    if (const auto* pane = qobject_cast<const CodePane*>(QApplication::focusWidget())) {
+        const std::string text = pane->Text();
+        if (const std::string_view word = find::WordAt(text, pane->Caret()); !word.empty())
+            return find::OfWord{std::string(word)};
+    }
+    return SubjectAt(session.Document(), ChosenCell(window, session));
 }
 
 find::Subject SubjectAt(const FsmDocument& document, Cell cell) {

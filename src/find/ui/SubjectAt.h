@@ -17,4 +17,8 @@ Cell ChosenCell(const QMainWindow& window, const Session& session);
 // transition the state that it leads to.
 find::Subject SubjectAt(const FsmDocument& document, Cell cell);
 
+// What the user has before him: the word under the caret of the code that has the focus, else what the chosen
+// cell is about.
+find::Subject ChosenSubject(const QMainWindow& window, const Session& session);
+
 } // namespace orvane

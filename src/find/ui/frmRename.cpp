@@ -81,6 +81,11 @@ void frmRename::Preview() {
     changes_->Show(AllChanges(plan.Uses), std::size_t(fixed));
 }
 
+void frmRename::Suggest(const std::string& name) {
+    txtNew->SetText(name);
+    txtNew->selectAll();
+}
+
 std::vector<find::TextChange> frmRename::Chosen() const { return changes_->ChosenChanges(); }
 
 } // namespace orvane

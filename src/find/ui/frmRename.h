@@ -22,6 +22,9 @@ class frmRename : public QDialog {
     // The document outlives the dialog and stays as it is meanwhile.
     frmRename(const FsmDocument& document, find::Subject subject, QWidget* parent);
 
+    // Offers this name in place of the present one.
+    void Suggest(const std::string& name);
+
     // What was chosen, once the dialog was accepted.
     std::vector<find::TextChange> Chosen() const;
 

@@ -155,6 +155,96 @@ TEST_F(FindWindows, TellsWhereAStateIsUsedAndFollowsEdits) {
     EXPECT_THAT(Label("lblUsed"), HasSubstr("Event row 6: Start"));
 }
 
+TEST_F(FindWindows, TheWordUnderTheCaretInTheCellPaneIsMeant) {
+    StartOn(Pump());
+    Choose(6, 1);
+    Trigger("mnuViewCell");
+    auto& entry = Named<CodePane>(Window(), "txtCellEntry");
+    entry.setFocus();
+    QTest::keyClick(&entry, Qt::Key_Right); // behind the tab
+    Trigger("mnuWhereUsed");
+    EXPECT_EQ(Label("lblUsed"), "Word Horn is used in 3 places");
+    Trigger("mnuViewFind");
+    entry.setFocus();
+    QTest::keyClick(&entry, Qt::Key_Home, Qt::ControlModifier);
+    QTest::keyClicks(&entry, QStringLiteral("Horn ")); // still to be taken
+    QTest::keyClick(&entry, Qt::Key_Left);
+    InNextDialog(Answers, [&](QWidget& dialog) {
+        EXPECT_EQ(Named<QLabel>(dialog, "lblEdited").text(), QStringLiteral("Word Horn"));
+        Named<DocumentLineEdit>(dialog, "txtNew").setText(QStringLiteral("Bell"));
+        Press(dialog, "cmdOK");
+    });
+    QTest::keyClick(&entry, Qt::Key_R, Qt::ControlModifier);
+    EXPECT_EQ(entry.Text(), "Bell \tBell\r\n\tGoTo\tPMP_Run_Set2"); // the open field is taken along
+    EXPECT_EQ(Document().State(2).EntryCode, "\tBell ;Run");
+    Grid()->setFocus();
+    Trigger("mnuWhereUsed");
+    EXPECT_THAT(Label("lblUsed"), testing::StartsWith("State 2:Run")); // where the transition leads
+}
+
+TEST_F(FindWindows, TheListStaysWithAStateThatIsMovedAndRenamed) {
+    StartOn(Pump());
+    PopUpFixture::Choose(0, 2, "mnuStateUses");
+    const std::vector<std::string> uses = Rows("lstUses");
+    PopUpFixture::Choose(0, 2, "mnuInsertState");
+    EXPECT_EQ(Label("lblUsed").substr(0, 11), "State 3:Run");
+    Trigger("mnuUndo");
+    EXPECT_EQ(Label("lblUsed").substr(0, 11), "State 2:Run");
+    EXPECT_EQ(Rows("lstUses"), uses);
+    Window().Place().Open.Edit({"state", {Touched::Extent::AllColumns, {}}},
+                               [](Editable open) { open.Document.State(2).Name = "Motor"; });
+    EXPECT_EQ(Label("lblUsed").substr(0, 13), "State 2:Motor");
+    Window().Place().Open.Edit({"state", {Touched::Extent::AllColumns, {}}}, [](Editable open) {
+        open.Document.State(1).Name = "Motor"; // now there are two
+        open.Document.State(2).Name = "Other";
+    });
+    EXPECT_EQ(Label("lblUsed").substr(0, 13), "State 1:Motor");
+    Window().Place().Open.Edit({"state", {Touched::Extent::AllColumns, {}}},
+                               [](Editable open) { open.Document.State(2).Name = "Motor"; });
+    Window().Place().Open.Edit({"state", {Touched::Extent::AllColumns, {}}},
+                               [](Editable open) { open.Document.State(1).Name = "Idle"; });
+    EXPECT_EQ(Label("lblUsed").substr(0, 12), "State 1:Idle"); // which of two was meant is not known
+}
+
+TEST_F(FindWindows, AMachineThatGetsAnotherNameIsOfferedItsSymbols) {
+    FsmDocument document = Pump();
+    document.State(2).EntryCode = "\tPMP_Horn";
+    StartOn(document);
+    const auto rename = [this](const QString& name) {
+        InNextDialog(Answers, [name](QWidget& dialog) {
+            Named<DocumentLineEdit>(dialog, "txtName").setText(name);
+            Press(dialog, "cmdOK");
+        });
+        Trigger("mnuGeneralCode");
+    };
+    rename(QStringLiteral("MOT"));
+    Answers.Press(QMessageBox::Yes);
+    InNextDialog(Answers, [](QWidget& dialog) {
+        EXPECT_EQ(Named<DocumentLineEdit>(dialog, "txtNew").Text(), "MOT");
+        Press(dialog, "cmdOK");
+    });
+    ASSERT_TRUE(QTest::qWaitFor([this] { return Panel("Panel3").find("Renamed") != std::string::npos; }));
+    EXPECT_THAT(Answers.Seen().at(1).Text, HasSubstr("still begin with PMP_ (2 in all)"));
+    EXPECT_EQ(Document().General.FsmName, "MOT");
+    EXPECT_EQ(Document().State(2).EntryCode, "\tMOT_Horn");
+    EXPECT_EQ(Document().State(1).EntryCode, "\tHorn\r\n\tGoTo\tMOT_Run_Set2");
+    Trigger("mnuUndo");
+    EXPECT_EQ(Document().General.FsmName, "MOT");
+    EXPECT_EQ(Document().State(2).EntryCode, "\tPMP_Horn");
+}
+
+TEST_F(FindWindows, ARenamedMachineWithoutSuchSymbolsIsNotAskedAbout) {
+    FsmDocument document = Pump();
+    document.State(1).EntryCode.clear();
+    StartOn(document);
+    InNextDialog(Answers, [](QWidget& dialog) {
+        Named<DocumentLineEdit>(dialog, "txtName").setText(QStringLiteral("MOT"));
+        Press(dialog, "cmdOK");
+    });
+    Trigger("mnuGeneralCode");
+    EXPECT_FALSE(QTest::qWaitFor([this] { return Answers.Seen().size() > 1; }, 1500));
+}
+
 TEST_F(FindWindows, RenamesAStateWithItsLabels) {
     StartOn(Pump());
     const std::string before = Pack(Document());
