@@ -212,6 +212,37 @@ void AddDiagram(MedianTable& table, TableDriver& driver, const FsmDocument& docu
               "pack + generate", 60, type, PackingAndGenerating(document));
 }
 
+// What must be there before the next picture of a screen that shows 60 in a second.
+Timed Frame() {
+    return [] { return 1000.0 / 60; };
+}
+
+void AddViewing(MedianTable& table, TableDriver& driver, const FsmDocument&) {
+    const auto zoomsIn = std::make_shared<bool>(true);
+    table.Add(
+        "zoom by one step", "a frame", 1,
+        [&driver, zoomsIn] {
+            *zoomsIn = !*zoomsIn;
+            return TimeOfOperation([&] { driver.Trigger(*zoomsIn ? "mnuZoomIn" : "mnuZoomOut"); });
+        },
+        Frame());
+    const auto forward = std::make_shared<bool>(false);
+    table.Add(
+        "scroll by a screen", "a frame", 1,
+        [&driver, forward] {
+            *forward = !*forward;
+            return TimeOfOperation([&] { driver.Scroll(*forward); });
+        },
+        Frame());
+    table.Add(
+        "a letter to find, with the list shown", "a frame", 1,
+        [&driver] {
+            driver.ClearFind();
+            return TimeOfOperation([&] { driver.TypeFind('e'); });
+        },
+        Frame());
+}
+
 struct StructuralEdit {
     const char* Name;
     const char* Item;
@@ -275,6 +306,8 @@ void MeasureStart(const std::filesystem::path& programs) {
               startAt("nowhere"));
     table.Add("start", "empty window", 1.5, start({"orvane_start"}), start({"empty_start"}));
     table.Add("start", "window with one menu", 1.5, start({"orvane_start"}), start({"empty_start", "File"}));
+    table.Add("start on a document", "window with menus and a filled table", 1.1,
+              start({"orvane_start", document}), start({"empty_start", "File", "Edit", "View", "Help"}));
     table.Add("start on a document", "empty window", 1.5, start({"orvane_start", document}),
               start({"empty_start"}));
     table.Measure(kStarts);
@@ -303,6 +336,7 @@ int main(int argc, char** argv) {
     for (const auto& [states, lines] :
          {std::pair(12, 24), std::pair(30, 60), std::pair(100, 150), std::pair(100, 450)})
         MeasureWindow(MachineOfLines(states, lines), AddDiagram);
+    MeasureWindow(DocumentAtTheLimit(), AddViewing, false);
     MeasureWindow(DocumentAtTheLimit(), AddOpening, false);
     MeasureWindow(SampleDocument(kStateCount - 1, kLastRow - kFirstEventRow), AddStructure);
     MeasureStart(std::filesystem::path(argv[0]).parent_path());

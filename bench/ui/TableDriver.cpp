@@ -14,6 +14,7 @@
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTableView>
 #include <QTimer>
 
@@ -93,6 +94,25 @@ void TableDriver::StepRight() {
 
 void TableDriver::StepLeft() {
     SendKey(Find<QTableView>("MSFlexGrid1"), Qt::Key_Left, {});
+    QApplication::processEvents();
+}
+
+void TableDriver::ClearFind() {
+    ShowPane("mnuViewFind", true);
+    Find<QLineEdit>("txtFind").clear();
+    QApplication::processEvents();
+}
+
+void TableDriver::TypeFind(char letter) {
+    SendKey(Find<QLineEdit>("txtFind"), QChar::fromLatin1(letter).toUpper().unicode(),
+            QString(QChar::fromLatin1(letter)));
+    QApplication::processEvents();
+}
+
+void TableDriver::Scroll(bool forward) {
+    auto& table = Find<QTableView>("MSFlexGrid1");
+    for (QScrollBar* bar : {table.horizontalScrollBar(), table.verticalScrollBar()})
+        bar->triggerAction(forward ? QAbstractSlider::SliderPageStepAdd : QAbstractSlider::SliderPageStepSub);
     QApplication::processEvents();
 }
 

@@ -38,6 +38,12 @@ class TableDriver {
     // Types one letter into the pane, which has the focus.
     void TypeLetter(const char* pane);
 
+    // Clears the field of the find pane, and types a letter into it.
+    void ClearFind();
+    void TypeFind(char letter);
+    // Scrolls the table by a screen, right and down or back.
+    void Scroll(bool forward);
+
     // Plays a test of so many steps in the pane of the run, which stays open.
     void PlaySteps(int steps);
     void RepaintTable();
