@@ -34,6 +34,9 @@ constexpr QSize kFindingsSize(860, 560);
 constexpr QSize kComparisonSize(860, 600);
 constexpr QSize kPrintSize(860, 640);
 constexpr QSize kExportSize(860, 420);
+constexpr QSize kCellPaneSize(1100, 760);
+constexpr QSize kFindSize(1000, 640);
+constexpr QSize kPlanSize(700, 480);
 
 class Photographer {
   public:
@@ -49,6 +52,7 @@ class Photographer {
     void OnDialog(const std::function<void()>& command, const std::function<void(QWidget&)>& look);
     void Trigger(const char* item) { window_->findChild<QAction*>(QLatin1String(item))->trigger(); }
     void Press(int row, int column, Qt::MouseButton button);
+    void Choose(int row, int column);
 
     void Table();
     void TypedTarget();
@@ -61,6 +65,9 @@ class Photographer {
     void RunPane();
     void FindingsPane();
     void DiagramPane();
+    void CellPane();
+    void FindPane();
+    void Plans();
     void Comparison();
     void PrintAndExport();
 
@@ -93,6 +100,12 @@ void Photographer::Press(int row, int column, Qt::MouseButton button) {
     QMetaObject::invokeMethod(grid, "CellRect", Q_RETURN_ARG(QRect, cell), Q_ARG(int, row),
                               Q_ARG(int, column));
     QTest::mouseClick(grid->viewport(), button, Qt::NoModifier, cell.center());
+}
+
+void Photographer::Choose(int row, int column) {
+    auto* grid = window_->findChild<QTableView*>(QStringLiteral("MSFlexGrid1"));
+    grid->setCurrentIndex(grid->model()->index(row, column));
+    grid->setFocus();
 }
 
 void Photographer::OnDialog(const std::function<void()>& command, const std::function<void(QWidget&)>& look) {
@@ -203,61 +216,96 @@ void Photographer::DiagramPane() {
     Trigger("mnuViewDiagram");
     Press(8, 3, Qt::LeftButton);
     Grab(*window_, "diagram");
-}
-
-// With what was typed since the document was opened.
-void Photographer::Comparison() {
-    Open("garage.zfsm");
-    for (const int row : {7, 10}) {
-        Press(row, 2, Qt::LeftButton);
-        auto* target = window_->findChild<QLineEdit*>(QStringLiteral("txtCellEdit"));
-        QTest::keyClicks(target, QStringLiteral("4"));
-        QTest::keyClick(target, Qt::Key_Return);
+    void Photographer::CellPane() {
+        Open("garage.zfsm");
+        window_->resize(kCellPaneSize);
+        Trigger("mnuViewCell");
+        Choose(6, 3);
+        Grab(*window_, "cell");
     }
-    InDialogOf(0, 6, [](QWidget& dialog) {
-        QTest::keyClicks(dialog.findChild<QLineEdit*>(QStringLiteral("txtName")), QStringLiteral("Wait"));
-        dialog.findChild<QPushButton*>(QStringLiteral("cmdOK"))->click();
-    });
-    SideWindow("mnuCompareWith", "frmCompare", "compare", kComparisonSize);
-}
 
-void Photographer::PrintAndExport() {
-    Open("garage.zfsm");
-    OnDialog([this] { Trigger("mnuFPrint"); },
-             [this](QWidget& dialog) {
-                 dialog.resize(kPrintSize);
-                 dialog.findChild<QLineEdit*>(QStringLiteral("txtRevision"))->setText(QStringLiteral("C"));
-                 dialog.findChild<QSpinBox*>(QStringLiteral("spnPage"))->setValue(3);
-                 Grab(dialog, "print");
-             });
-    OnDialog([this] { Trigger("mnuFExport"); },
-             [this](QWidget& dialog) {
-                 dialog.resize(kExportSize);
-                 Grab(dialog, "export");
-             });
-}
+    void Photographer::FindPane() {
+        Open("garage.zfsm");
+        window_->resize(kFindSize);
+        Trigger("mnuFind");
+        QTest::keyClicks(window_->findChild<QLineEdit*>(QStringLiteral("txtFind")), QStringLiteral("motor"));
+        Grab(*window_, "find");
+    }
 
-bool Photographer::TakeAll() {
-    Table();
-    TypedTarget();
-    StateEditor();
-    EventEditor();
-    ActionEditor();
-    SideWindow("mnuCodeGenerate", "frmGenerator", "generator");
-    Backtrack();
-    GeneralCode();
-    Open("faulty.zfsm");
-    SideWindow("mnuCodeGenerate", "frmGenerator", "report");
-    RunPane();
-    FindingsPane();
-    DiagramPane();
-    PrintAndExport();
-    Open("pump.zfsm");
-    SideWindow("mnuBuilder", "frmBuilder", "builder");
-    Comparison(); // leaves something unsaved behind, which the next start would offer
-    window_.reset();
-    return allSaved_;
-}
+    void Photographer::Plans() {
+        Choose(0, 3);
+        OnDialog(
+            [this] { Trigger("mnuRename"); },
+            [this](QWidget& dialog) {
+                dialog.resize(kPlanSize);
+                dialog.findChild<QLineEdit*>(QStringLiteral("txtNew"))->setText(QStringLiteral("Rising"));
+                Grab(dialog, "rename");
+            });
+        OnDialog([this] { Trigger("mnuMove"); },
+                 [this](QWidget& dialog) {
+                     dialog.resize(kPlanSize);
+                     dialog.findChild<QLineEdit*>(QStringLiteral("txtPlace"))->setText(QStringLiteral("5"));
+                     Grab(dialog, "move");
+                 });
+    }
+
+    // With what was typed since the document was opened.
+    void Photographer::Comparison() {
+        Open("garage.zfsm");
+        for (const int row : {7, 10}) {
+            Press(row, 2, Qt::LeftButton);
+            auto* target = window_->findChild<QLineEdit*>(QStringLiteral("txtCellEdit"));
+            QTest::keyClicks(target, QStringLiteral("4"));
+            QTest::keyClick(target, Qt::Key_Return);
+        }
+        InDialogOf(0, 6, [](QWidget& dialog) {
+            QTest::keyClicks(dialog.findChild<QLineEdit*>(QStringLiteral("txtName")), QStringLiteral("Wait"));
+            dialog.findChild<QPushButton*>(QStringLiteral("cmdOK"))->click();
+        });
+        SideWindow("mnuCompareWith", "frmCompare", "compare", kComparisonSize);
+    }
+
+    void Photographer::PrintAndExport() {
+        Open("garage.zfsm");
+        OnDialog(
+            [this] { Trigger("mnuFPrint"); },
+            [this](QWidget& dialog) {
+                dialog.resize(kPrintSize);
+                dialog.findChild<QLineEdit*>(QStringLiteral("txtRevision"))->setText(QStringLiteral("C"));
+                dialog.findChild<QSpinBox*>(QStringLiteral("spnPage"))->setValue(3);
+                Grab(dialog, "print");
+            });
+        OnDialog([this] { Trigger("mnuFExport"); },
+                 [this](QWidget& dialog) {
+                     dialog.resize(kExportSize);
+                     Grab(dialog, "export");
+                 });
+    }
+
+    bool Photographer::TakeAll() {
+        Table();
+        TypedTarget();
+        StateEditor();
+        EventEditor();
+        ActionEditor();
+        SideWindow("mnuCodeGenerate", "frmGenerator", "generator");
+        Backtrack();
+        GeneralCode();
+        Open("faulty.zfsm");
+        SideWindow("mnuCodeGenerate", "frmGenerator", "report");
+        RunPane();
+        FindingsPane();
+        DiagramPane();
+        PrintAndExport();
+        CellPane();
+        FindPane();
+        Plans();
+        Open("pump.zfsm");
+        SideWindow("mnuBuilder", "frmBuilder", "builder");
+        Comparison(); // leaves something unsaved behind, which the next start would offer
+        window_.reset();
+        return allSaved_;
+    }
 
 } // namespace
 
