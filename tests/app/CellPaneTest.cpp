@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The pane with everything of the current cell, edited in place.
+#include "core/TimingMode.h"
 #include "kit/CodePane.h"
 #include "support/ui/Controls.h"
 #include "support/ui/OpenedAddresses.h"
@@ -133,6 +134,35 @@ TEST_F(CellPaneTest, EscapeTakesAFieldBackAndThenClosesThePane) {
     EXPECT_FALSE(Item("mnuViewCell")->isChecked());
     EXPECT_TRUE(Grid()->hasFocus());
     EXPECT_FALSE(IsEdited());
+}
+
+// Whatever has a text is as large as that takes, and what the window has no room for is scrolled to.
+TEST_F(CellPaneTest, NothingOfATimeoutIsSqueezedInALowWindow) {
+    FsmDocument document = PumpDocument();
+    document.State(2).TimingMode = kStartConstant;
+    document.State(2).TimeConst = "50";
+    Open(document);
+    for (const int height : {700, 450}) {
+        Window().resize(1000, height);
+        GoTo(7, 2);
+        QApplication::processEvents();
+        const auto& pane = *Find<QDockWidget>("dckCell");
+        for (const char* name :
+             {"optNoTimeOut", "optStartTiming", "optContinueTiming", "txtTimerID", "cmdTimeHelp",
+              "optTimeCONST", "txtTimeCONST", "txtCellTarget", "txtCellState"}) {
+            const auto& control = Named<QWidget>(pane, name);
+            EXPECT_GE(control.height(), control.minimumSizeHint().height()) << name << " at " << height;
+            EXPECT_GE(control.width(), control.minimumSizeHint().width()) << name << " at " << height;
+        }
+        for (const char* name : {"lblTimeConstNote", "lblTimeLimPrompt", "lblCell"}) {
+            const auto& text = Named<QLabel>(pane, name);
+            EXPECT_GE(text.height(), text.heightForWidth(text.width())) << name << " at " << height;
+        }
+        for (const char* name : {"txtCellAction", "txtCellTest", "txtCellEntry", "txtCellExit"}) {
+            const auto& code = Named<QWidget>(pane, name);
+            EXPECT_GE(code.height(), 3 * code.fontMetrics().lineSpacing()) << name << " at " << height;
+        }
+    }
 }
 
 TEST_F(CellPaneTest, EscapeDoesTheSameInALineAndClosesFromAButton) {

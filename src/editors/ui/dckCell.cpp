@@ -25,6 +25,17 @@ constexpr PaneHandlers kHandlers = {.TextChanged = true, .FindKey = true};
 constexpr int kHelpPage = 4990;
 constexpr int kPaneLines = 4; // of code that are seen at least
 
+// Asks for no more room than it must have, so that all parts are to be seen at once where there is room, and
+// takes what is left. That it must have it, a layout with texts that turn has to be told by the hint: to a
+// size that is ignored it gives nothing.
+class ShortPane : public CodePane {
+  public:
+    explicit ShortPane(QWidget* parent) : CodePane(kHandlers, parent) {
+        setMinimumHeight(kPaneLines * fontMetrics().lineSpacing());
+    }
+    QSize sizeHint() const override { return {CodePane::sizeHint().width(), minimumHeight()}; }
+};
+
 QWidget* WidgetOf(const std::variant<DocumentLineEdit*, DocumentTextEdit*, CodePane*>& control) {
     return std::visit([](auto* editor) -> QWidget* { return editor; }, control);
 }
@@ -106,12 +117,10 @@ void dckCell::AddLine(QVBoxLayout& group, const char* name, const QString& capti
 
 void dckCell::AddPane(QVBoxLayout& group, const char* name, const QString& caption, const Vocabulary& words,
                       std::string PlaceFields::*member) {
-    auto* pane = new CodePane(kHandlers, this);
+    auto* pane = new ShortPane(this);
     pane->setObjectName(QString::fromLatin1(name));
     pane->setAccessibleName(caption);
     pane->SetVocabulary(words);
-    pane->setMinimumHeight(kPaneLines * pane->fontMetrics().lineSpacing());
-    pane->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored); // all parts are to be seen at once
     auto* prompt = new QLabel(caption, this);
     prompt->setBuddy(pane);
     group.addWidget(prompt);
