@@ -9,6 +9,7 @@
 #include "table/ui/GridPainter.h"
 
 #include <QCheckBox>
+#include <QHeaderView>
 #include <QHelpEvent>
 #include <QLabel>
 #include <QToolTip>
@@ -99,6 +100,18 @@ TEST_F(FindingsTest, EveryEditBringsListCountAndMarksUpToDate) {
     EXPECT_EQ(Mark(8, 1), 0);
     Trigger("mnuRedo");
     EXPECT_EQ(Counts(), "1 error");
+}
+
+// A list that has not been told of another number of rows shows none of the new ones, whatever its model says.
+TEST_F(FindingsTest, TheListShowsARowForEachAsSoonAsThereIsOne) {
+    StartOn(PumpWithoutThirdTest());
+    Trigger("mnuViewFindings");
+    EXPECT_EQ(List().verticalHeader()->count(), 0);
+    TypeTarget(8, 1, QStringLiteral("2"));
+    EXPECT_EQ(List().verticalHeader()->count(), 1);
+    EXPECT_FALSE(List().visualRect(List().model()->index(0, 2)).isEmpty());
+    Trigger("mnuUndo");
+    EXPECT_EQ(List().verticalHeader()->count(), 0);
 }
 
 TEST_F(FindingsTest, OnlyTheCellsWhoseMarkIsAnotherAreDrawnAgain) {
