@@ -35,7 +35,7 @@ CodePane::CodePane(PaneHandlers handlers, QWidget* parent)
     SetUpEditing();
     setLexer(lexer_);
     ApplyLook();
-    connect(this, &QsciScintilla::linesChanged, this, &CodePane::ApplyMargin);
+    connect(this, &QsciScintilla::linesChanged, this, &CodePane::FollowLines);
     connect(this, &QsciScintillaBase::SCN_ZOOM, this, &CodePane::ApplyMargin);
     connect(this, &QsciScintillaBase::SCN_UPDATEUI, this, &CodePane::FollowChange);
     connect(
@@ -81,9 +81,18 @@ void CodePane::ApplyLook() {
 }
 
 void CodePane::ApplyMargin() {
+    const QString widest = QStringLiteral("0%1").arg(qMax(lines(), 10));
+    marginDigits_ = widest.size();
     setMarginType(kNumberMargin, NumberMargin);
-    setMarginWidth(kNumberMargin, QStringLiteral("0%1").arg(qMax(lines(), 10)));
+    setMarginWidth(kNumberMargin, widest);
     setMarginWidth(1, 0); // no markers
+}
+
+// A text that takes the place of another one changes the number of its lines twice, and hardly ever the
+// digits that this takes: to measure them costs as much as to set the text.
+void CodePane::FollowLines() {
+    if (QString::number(qMax(lines(), 10)).size() + 1 != marginDigits_)
+        ApplyMargin();
 }
 
 void CodePane::SetText(std::string_view ansi) {

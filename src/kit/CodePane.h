@@ -78,6 +78,7 @@ class CodePane : public QsciScintilla {
     void SetUpEditing();
     void ApplyLook();
     void ApplyMargin();
+    void FollowLines();
     void OnModified(int position, int type, const char* text, int length);
     QString KeepDocumentCharacters(const QString& text) const;
     void TellChange();
@@ -86,6 +87,7 @@ class CodePane : public QsciScintilla {
     PaneHandlers handlers_;
     ZorlanLexer* lexer_;
     FindReplaceDialog* find_ = nullptr; // made when it is first asked for
+    qsizetype marginDigits_ = 0;
     bool settingText_ = false;
     bool readOutDue_ = false;
     bool overtype_ = false; // as last told
