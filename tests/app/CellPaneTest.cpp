@@ -165,6 +165,19 @@ TEST_F(CellPaneTest, NothingOfATimeoutIsSqueezedInALowWindow) {
     }
 }
 
+TEST_F(CellPaneTest, TheFieldThatIsGoneToComesIntoSight) {
+    Open(PumpDocument());
+    Window().resize(1000, 450);
+    GoTo(7, 2);
+    QApplication::processEvents();
+    for (QWidget* field : std::initializer_list<QWidget*>{&Pane("txtCellExit"), &Line("txtCellTarget"),
+                                                          &Named<QWidget>(Window(), "cmdTimeHelp")}) {
+        field->setFocus();
+        QApplication::processEvents();
+        EXPECT_EQ(field->visibleRegion().boundingRect(), field->rect()) << field->objectName().toStdString();
+    }
+}
+
 TEST_F(CellPaneTest, EscapeDoesTheSameInALineAndClosesFromAButton) {
     Open(PumpDocument());
     GoTo(6, 2);

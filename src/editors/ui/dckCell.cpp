@@ -9,6 +9,7 @@
 #include "kit/DocumentTextEdit.h"
 #include "kit/OpenInDesktop.h"
 
+#include <QApplication>
 #include <QFocusEvent>
 #include <QGroupBox>
 #include <QKeyEvent>
@@ -64,6 +65,11 @@ dckCell::dckCell(const Vocabulary& words, QWidget* parent)
     scroller->setMinimumWidth(content->minimumSizeHint().width());
     scroller->setFocusPolicy(Qt::NoFocus);
     setWidget(scroller);
+    // By whatever key or press it comes there.
+    connect(qApp, &QApplication::focusChanged, scroller, [scroller, content](QWidget*, QWidget* now) {
+        if (now != nullptr && content->isAncestorOf(now))
+            scroller->ensureWidgetVisible(now);
+    });
     AddKeys();
 }
 
