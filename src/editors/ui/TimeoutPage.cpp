@@ -43,14 +43,16 @@ void LeadKeysTo(const QRadioButton& chosen) {
 
 } // namespace
 
-TimeoutPage::TimeoutPage(QWidget* parent) : QWidget(parent) {
+TimeoutPage::TimeoutPage(QWidget* parent, Qt::Orientation direction) : QWidget(parent) {
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(
         AddNote("lblTimeLimPrompt", QStringLiteral("Determine if and how the state will time out"), this));
-    auto* frames = new QHBoxLayout;
+    auto* frames =
+        new QBoxLayout(direction == Qt::Horizontal ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
     frames->addWidget(BuildStartTiming());
     fraTimeLimit = BuildTimeLimit();
-    KeepPlaceWhenHidden(fraTimeLimit);
+    if (direction == Qt::Horizontal)
+        KeepPlaceWhenHidden(fraTimeLimit);
     frames->addWidget(fraTimeLimit, 1);
     layout->addLayout(frames, 1);
     BuildTimingHelp();

@@ -22,7 +22,8 @@ class TimeoutPage : public QWidget {
     Q_OBJECT
 
   public:
-    explicit TimeoutPage(QWidget* parent);
+    // Its two frames stand side by side, or one below the other where width is what lacks.
+    explicit TimeoutPage(QWidget* parent, Qt::Orientation frames = Qt::Horizontal);
 
     // Switches options on; a group without an option stays as it was.
     void SetOptions(const TimingOptions& options);

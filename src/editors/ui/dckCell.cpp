@@ -97,7 +97,7 @@ QGroupBox* dckCell::BuildState(const Vocabulary& words) {
     auto* column = new QVBoxLayout(part);
     AddLine(*column, "txtCellState", tr("Name of the state"), &PlaceFields::StateName);
     AddPane(*column, "txtCellEntry", tr("Entry action"), words, &PlaceFields::EntryCode);
-    timeout_ = new TimeoutPage(part);
+    timeout_ = new TimeoutPage(part, Qt::Vertical);
     column->addWidget(timeout_);
     for (const Field& field : {Field{&PlaceFields::TimerId, &timeout_->TimerId()},
                                Field{&PlaceFields::TimeConst, &timeout_->TimeConst()},
