@@ -102,7 +102,8 @@ TEST_F(FindingsTest, EveryEditBringsListCountAndMarksUpToDate) {
     EXPECT_EQ(Counts(), "1 error");
 }
 
-// A list that has not been told of another number of rows shows none of the new ones, whatever its model says.
+// A list that has not been told of another number of rows shows none of the new ones, whatever its model
+// says.
 TEST_F(FindingsTest, TheListShowsARowForEachAsSoonAsThereIsOne) {
     StartOn(PumpWithoutThirdTest());
     Trigger("mnuViewFindings");
