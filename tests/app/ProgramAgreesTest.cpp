@@ -188,7 +188,7 @@ TEST_F(ProgramAgrees, AFileOfSomebodyElseThatCannotBeKeptIsNotReplaced) {
     Answers.Press(QMessageBox::Ok);
     ChangeDesign();
     EXPECT_EQ(Program(), kForeign);
-    ASSERT_EQ(Answers.Seen().size(), 1u);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return Answers.Seen().size() == 1; })); // in a pause
     EXPECT_TRUE(Answers.Seen()[0].Text.ends_with("What is there was not made by Orvane, and no copy of it "
                                                  "could be kept (Not a directory). Move it away "
                                                  "or save the document under another name."))
