@@ -32,11 +32,11 @@ constexpr QSize kSideSize(640, 480);
 constexpr QSize kPaneSize(1200, 780);
 constexpr QSize kFindingsSize(860, 560);
 constexpr QSize kComparisonSize(860, 600);
-constexpr QSize kPrintSize(860, 640);
-constexpr QSize kExportSize(860, 420);
 constexpr QSize kCellPaneSize(1100, 760);
 constexpr QSize kFindSize(1000, 640);
 constexpr QSize kPlanSize(700, 480);
+constexpr QSize kPrintSize(860, 640);
+constexpr QSize kExportSize(860, 420);
 
 class Photographer {
   public:
@@ -64,10 +64,10 @@ class Photographer {
     void Backtrack();
     void RunPane();
     void FindingsPane();
-    void DiagramPane();
     void CellPane();
     void FindPane();
     void Plans();
+    void DiagramPane();
     void Comparison();
     void PrintAndExport();
 
@@ -216,153 +216,111 @@ void Photographer::DiagramPane() {
     Trigger("mnuViewDiagram");
     Press(8, 3, Qt::LeftButton);
     Grab(*window_, "diagram");
-    void Photographer::CellPane() {
-        Open("garage.zfsm");
-        window_->resize(kCellPaneSize);
-        Trigger("mnuViewCell");
-        Choose(6, 3);
-        Grab(*window_, "cell");
-        window_->resize(kCellPaneSize);
-        Trigger("mnuViewCell");
-        Choose(6, 3);
-        Grab(*window_, "cell");
+}
+
+void Photographer::CellPane() {
+    Open("garage.zfsm");
+    window_->resize(kCellPaneSize);
+    Trigger("mnuViewCell");
+    Choose(6, 3);
+    Grab(*window_, "cell");
+}
+
+void Photographer::FindPane() {
+    Open("garage.zfsm");
+    window_->resize(kFindSize);
+    Trigger("mnuFind");
+    QTest::keyClicks(window_->findChild<QLineEdit*>(QStringLiteral("txtFind")), QStringLiteral("motor"));
+    Grab(*window_, "find");
+}
+
+void Photographer::Plans() {
+    Choose(0, 0); // the machine
+    OnDialog([this] { Trigger("mnuRename"); },
+             [this](QWidget& dialog) {
+                 dialog.resize(kPlanSize);
+                 dialog.findChild<QLineEdit*>(QStringLiteral("txtNew"))->setText(QStringLiteral("DOOR"));
+                 Grab(dialog, "rename");
+             });
+    Choose(0, 3);
+    OnDialog([this] { Trigger("mnuMove"); },
+             [this](QWidget& dialog) {
+                 dialog.resize(kPlanSize);
+                 dialog.findChild<QLineEdit*>(QStringLiteral("txtPlace"))->setText(QStringLiteral("5"));
+                 Grab(dialog, "move");
+             });
+}
+
+// With what was typed since the document was opened.
+void Photographer::Comparison() {
+    Open("garage.zfsm");
+    for (const int row : {7, 10}) {
+        Press(row, 2, Qt::LeftButton);
+        auto* target = window_->findChild<QLineEdit*>(QStringLiteral("txtCellEdit"));
+        QTest::keyClicks(target, QStringLiteral("4"));
+        QTest::keyClick(target, Qt::Key_Return);
     }
+    InDialogOf(0, 6, [](QWidget& dialog) {
+        QTest::keyClicks(dialog.findChild<QLineEdit*>(QStringLiteral("txtName")), QStringLiteral("Wait"));
+        dialog.findChild<QPushButton*>(QStringLiteral("cmdOK"))->click();
+    });
+    SideWindow("mnuCompareWith", "frmCompare", "compare", kComparisonSize);
+}
 
-    void Photographer::FindPane() {
-        Open("garage.zfsm");
-        window_->resize(kFindSize);
-        Trigger("mnuFind");
-        QTest::keyClicks(window_->findChild<QLineEdit*>(QStringLiteral("txtFind")), QStringLiteral("motor"));
-        Grab(*window_, "find");
+void Photographer::PrintAndExport() {
+    Open("garage.zfsm");
+    OnDialog([this] { Trigger("mnuFPrint"); },
+             [this](QWidget& dialog) {
+                 dialog.resize(kPrintSize);
+                 dialog.findChild<QLineEdit*>(QStringLiteral("txtRevision"))->setText(QStringLiteral("C"));
+                 dialog.findChild<QSpinBox*>(QStringLiteral("spnPage"))->setValue(3);
+                 Grab(dialog, "print");
+             });
+    OnDialog([this] { Trigger("mnuFExport"); },
+             [this](QWidget& dialog) {
+                 dialog.resize(kExportSize);
+                 Grab(dialog, "export");
+             });
+}
+
+bool Photographer::TakeAll() {
+    Table();
+    TypedTarget();
+    StateEditor();
+    EventEditor();
+    ActionEditor();
+    SideWindow("mnuCodeGenerate", "frmGenerator", "generator");
+    Backtrack();
+    GeneralCode();
+    Open("faulty.zfsm");
+    SideWindow("mnuCodeGenerate", "frmGenerator", "report");
+    RunPane();
+    FindingsPane();
+    CellPane();
+    FindPane();
+    Plans();
+    DiagramPane();
+    PrintAndExport();
+    Open("pump.zfsm");
+    SideWindow("mnuBuilder", "frmBuilder", "builder");
+    Comparison(); // leaves something unsaved behind, which the next start would offer
+    window_.reset();
+    return allSaved_;
+}
+
+} // namespace
+
+int main(int argc, char* argv[]) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QTemporaryDir state; // nothing of it is anybody's work to recover
+    qputenv("XDG_STATE_HOME", state.path().toLocal8Bit());
+    const QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Orvane"));
+    QApplication::setWindowIcon(orvane::Logo());
+    if (argc != 3) {
+        std::fprintf(stderr, "usage: orvane_pictures EXAMPLES FOLDER\n");
+        return 2;
     }
-
-    void Photographer::Plans() {
-        Choose(0, 0); // the machine
-        OnDialog([this] { Trigger("mnuRename"); },
-                 [this](QWidget& dialog) {
-                     dialog.resize(kPlanSize);
-                     dialog.findChild<QLineEdit*>(QStringLiteral("txtNew"))->setText(QStringLiteral("DOOR"));
-                     Grab(dialog, "rename");
-                 });
-        Choose(0, 3);
-        OnDialog([this] { Trigger("mnuMove"); },
-                 [this](QWidget& dialog) {
-                     dialog.resize(kPlanSize);
-                     dialog.findChild<QLineEdit*>(QStringLiteral("txtPlace"))->setText(QStringLiteral("5"));
-                     Grab(dialog, "move");
-                 });
-    }
-
-    // With what was typed since the document was opened.
-    void Photographer::Comparison() {
-        Open("garage.zfsm");
-        for (const int row : {7, 10}) {
-            Press(row, 2, Qt::LeftButton);
-            auto* target = window_->findChild<QLineEdit*>(QStringLiteral("txtCellEdit"));
-            QTest::keyClicks(target, QStringLiteral("4"));
-            QTest::keyClick(target, Qt::Key_Return);
-        }
-
-        void Photographer::FindPane() {
-            Open("garage.zfsm");
-            window_->resize(kFindSize);
-            Trigger("mnuFind");
-            QTest::keyClicks(window_->findChild<QLineEdit*>(QStringLiteral("txtFind")),
-                             QStringLiteral("motor"));
-            Grab(*window_, "find");
-        }
-
-        void Photographer::Plans() {
-            Choose(0, 3);
-            OnDialog(
-                [this] { Trigger("mnuRename"); },
-                [this](QWidget& dialog) {
-                    dialog.resize(kPlanSize);
-                    dialog.findChild<QLineEdit*>(QStringLiteral("txtNew"))->setText(QStringLiteral("Rising"));
-                    Grab(dialog, "rename");
-                });
-            OnDialog(
-                [this] { Trigger("mnuMove"); },
-                [this](QWidget& dialog) {
-                    dialog.resize(kPlanSize);
-                    dialog.findChild<QLineEdit*>(QStringLiteral("txtPlace"))->setText(QStringLiteral("5"));
-                    Grab(dialog, "move");
-                });
-        }
-
-        // With what was typed since the document was opened.
-        void Photographer::Comparison() {
-            Open("garage.zfsm");
-            for (const int row : {7, 10}) {
-                Press(row, 2, Qt::LeftButton);
-                auto* target = window_->findChild<QLineEdit*>(QStringLiteral("txtCellEdit"));
-                QTest::keyClicks(target, QStringLiteral("4"));
-                QTest::keyClick(target, Qt::Key_Return);
-            }
-            InDialogOf(0, 6, [](QWidget& dialog) {
-                QTest::keyClicks(dialog.findChild<QLineEdit*>(QStringLiteral("txtName")),
-                                 QStringLiteral("Wait"));
-                dialog.findChild<QPushButton*>(QStringLiteral("cmdOK"))->click();
-            });
-            SideWindow("mnuCompareWith", "frmCompare", "compare", kComparisonSize);
-        }
-
-        void Photographer::PrintAndExport() {
-            Open("garage.zfsm");
-            OnDialog(
-                [this] { Trigger("mnuFPrint"); },
-                [this](QWidget& dialog) {
-                    dialog.resize(kPrintSize);
-                    dialog.findChild<QLineEdit*>(QStringLiteral("txtRevision"))->setText(QStringLiteral("C"));
-                    dialog.findChild<QSpinBox*>(QStringLiteral("spnPage"))->setValue(3);
-                    Grab(dialog, "print");
-                });
-            OnDialog([this] { Trigger("mnuFExport"); },
-                     [this](QWidget& dialog) {
-                         dialog.resize(kExportSize);
-                         Grab(dialog, "export");
-                     });
-        }
-
-        bool Photographer::TakeAll() {
-            Table();
-            TypedTarget();
-            StateEditor();
-            EventEditor();
-            ActionEditor();
-            SideWindow("mnuCodeGenerate", "frmGenerator", "generator");
-            Backtrack();
-            GeneralCode();
-            Open("faulty.zfsm");
-            SideWindow("mnuCodeGenerate", "frmGenerator", "report");
-            RunPane();
-            FindingsPane();
-            DiagramPane();
-            PrintAndExport();
-            CellPane();
-            FindPane();
-            Plans();
-            Open("pump.zfsm");
-            SideWindow("mnuBuilder", "frmBuilder", "builder");
-            Comparison(); // leaves something unsaved behind, which the next start would offer
-            window_.reset();
-            return allSaved_;
-        }
-
-    } // namespace
-
-    int main(int argc, char* argv[]) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-        const QTemporaryDir state; // nothing of it is anybody's work to recover
-        qputenv("XDG_STATE_HOME", state.path().toLocal8Bit());
-        const QApplication application(argc, argv);
-        QApplication::setApplicationName(QStringLiteral("Orvane"));
-        QApplication::setWindowIcon(orvane::Logo());
-        if (argc != 3) {
-            std::fprintf(stderr, "usage: orvane_pictures EXAMPLES FOLDER\n");
-            return 2;
-        }
-        Photographer photographer(QDir(QString::fromLocal8Bit(argv[1])),
-                                  QDir(QString::fromLocal8Bit(argv[2])));
-        return photographer.TakeAll() ? 0 : 1;
-    }
+    Photographer photographer(QDir(QString::fromLocal8Bit(argv[1])), QDir(QString::fromLocal8Bit(argv[2])));
+    return photographer.TakeAll() ? 0 : 1;
+}

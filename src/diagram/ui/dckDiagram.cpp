@@ -3,6 +3,7 @@
 
 #include "diagram/ui/picDiagram.h"
 #include "kit/AnsiString.h"
+#include "kit/CloseKeys.h"
 #include "kit/OpenInDesktop.h"
 #include "text/AnsiText.h"
 
@@ -12,7 +13,6 @@
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
-#include <QShortcut>
 #include <QSignalBlocker>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -69,9 +69,7 @@ dckDiagram::dckDiagram(const diagram::LivePicture& picture, const PictureFonts& 
     column->addWidget(lblDiagram);
     setWidget(body);
     setFocusProxy(view_);
-    auto* escape = new QShortcut(Qt::Key_Escape, this);
-    escape->setContext(Qt::WidgetWithChildrenShortcut);
-    connect(escape, &QShortcut::activated, this, &QWidget::close);
+    AddCloseKeys(*this);
     connect(cboEvent, &QComboBox::currentIndexChanged, this, &dckDiagram::WishChanged);
     connect(cmdTidy, &QPushButton::clicked, this, &dckDiagram::TidyWanted);
     connect(view_, &picDiagram::AllWanted, all_, &QAction::toggle);
