@@ -7,6 +7,7 @@
 #include "support/ui/TableFixture.h"
 
 #include <QApplication>
+#include <QFileDialog>
 #include <QLabel>
 #include <QRegularExpression>
 
@@ -66,6 +67,8 @@ class TutorialTest : public TableFixture {
     }
     void FollowIn(QWidget& dialog) {
         EXPECT_TRUE(QTest::qWaitFor([&dialog] { return dialog.isAncestorOf(Focus()); }));
+        if (auto* files = qobject_cast<QFileDialog*>(&dialog))
+            files->setDirectory(Path({})); // another test may have left another folder
         while (dialog.isVisible() && next_ < deeds_.size())
             Do(deeds_[next_++]);
     }
