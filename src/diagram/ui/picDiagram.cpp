@@ -46,6 +46,7 @@ std::optional<diagram::Heading> HeadingOf(int key) {
 
 picDiagram::picDiagram(const diagram::LivePicture& picture, const PictureFonts& fonts, QWidget* parent)
     : QAbstractScrollArea(parent), picture_(picture), fonts_(fonts) {
+    AddPictureAccess(); // before a name is given, which makes an interface that is kept
     setObjectName(QStringLiteral("picDiagram"));
     setAccessibleName(tr("Diagram"));
     setFocusPolicy(Qt::StrongFocus);
@@ -54,7 +55,6 @@ picDiagram::picDiagram(const diagram::LivePicture& picture, const PictureFonts& 
     verticalScrollBar()->setSingleStep(20);
     viewport()->setToolTip(
         tr("Press: choose in the table. Double click: open. Ctrl+wheel: zoom. Middle button: move."));
-    AddPictureAccess();
 }
 
 void picDiagram::Refresh() {
