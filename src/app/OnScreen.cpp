@@ -17,13 +17,19 @@ constexpr int kTitleBar = 32; // pixels
 // What surrounds the window is known only when it is shown; a title bar must find room above.
 QRect RoomOn(const QRect& screen) { return screen.adjusted(0, kTitleBar, 0, 0); }
 
+// The size that there is room for, also when the window does not become as small.
+QSize ShrinkTo(const QRect& room, QWidget& window) {
+    const QSize size = window.size().boundedTo(room.size());
+    if (size != window.size())
+        window.resize(size);
+    return size;
+}
+
 } // namespace
 
 void FitOnScreen(QWidget& window, const QRect& screen) {
     const QRect room = RoomOn(screen);
-    const QSize size = window.size().boundedTo(room.size());
-    if (size != window.size())
-        window.resize(size);
+    const QSize size = ShrinkTo(room, window);
     const QPoint corner(std::clamp(window.x(), room.left(), room.right() + 1 - size.width()),
                         std::clamp(window.y(), screen.top(), room.bottom() + 1 - size.height()));
     if (corner != window.pos())
@@ -37,11 +43,8 @@ bool OnScreen::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() != QEvent::Show || event->spontaneous() || !watched->isWidgetType())
         return false;
     auto& widget = dynamic_cast<QWidget&>(*watched);
-    if (widget.windowType() != Qt::Window && widget.windowType() != Qt::Dialog)
-        return false;
-    const QSize size = widget.size().boundedTo(RoomOn(widget.screen()->availableGeometry()).size());
-    if (size != widget.size())
-        widget.resize(size);
+    if (widget.windowType() == Qt::Window || widget.windowType() == Qt::Dialog)
+        ShrinkTo(RoomOn(widget.screen()->availableGeometry()), widget);
     return false;
 }
 
