@@ -77,7 +77,16 @@ QRect PlaceOfFocus(QWidget& window, const QString& name) {
     return OnScreen(*widget, widget->rect());
 }
 
+// Of a control that cannot be pressed, too: it is looked at.
+QRect PlaceOfText(QWidget& window, const QString& name, const QString& text) {
+    const auto* widget = Find<QWidget>(window, name);
+    const bool shown = widget != nullptr && widget->isVisible() && widget->property("text") == text;
+    return shown ? OnScreen(*widget, widget->rect()) : QRect();
+}
+
 QRect PlaceIn(QWidget& window, const QString& name) {
+    if (const auto equals = name.indexOf(QLatin1Char('=')); equals > 0)
+        return PlaceOfText(window, name.left(equals), name.mid(equals + 1));
     if (name.endsWith(QLatin1Char('*')))
         return PlaceOfFocus(window, name.chopped(1));
     if (const auto parts = name.split(QLatin1Char('#')); parts.size() == 2)

@@ -6,6 +6,7 @@
 //   NAME/ROW/COLUMN   a cell of the table of that name, scrolled into view
 //   NAME#CAPTION      the tab with that caption
 //   NAME*             a control once it has the focus
+//   NAME=TEXT         a label, field or button while TEXT is what it shows
 //
 // Only what is visible and enabled in the window in front, or in the menu that is open over it, stands
 // anywhere. A window that is still on its way has no place yet.
