@@ -70,6 +70,8 @@ class Project {
 
   private:
     void TellFiles();
+    // Dates alone prove nothing: a checkout or a copy gives both files new ones.
+    void TellDifference(const ProjectProgram& program);
     void TellPrefixes();
     void TellLabels();
     void TellLaunches();
@@ -105,13 +107,18 @@ void Project::TellFiles() {
                                                      : " is not there, and no document to generate it from"));
             continue;
         }
-        if (program.IsOlder)
-            Tell(ProjectAdviceKind::ProgramOlder, program,
-                 program.Name + " is older than its document: generate it again");
         if (program.Generated && Code(*program.File) != Code(*program.Generated))
-            Tell(ProjectAdviceKind::ProgramDiffers, program,
-                 program.Name + " is not what its document gives: generate it again");
+            TellDifference(program);
     }
+}
+
+void Project::TellDifference(const ProjectProgram& program) {
+    if (program.IsOlder)
+        Tell(ProjectAdviceKind::ProgramOlder, program,
+             program.Name + " is older than its document: generate it again");
+    else
+        Tell(ProjectAdviceKind::ProgramDiffers, program,
+             program.Name + " is not what its document gives: generate it again");
 }
 
 void Project::TellPrefixes() {

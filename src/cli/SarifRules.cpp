@@ -41,7 +41,7 @@ constexpr auto kRules = std::to_array<Rule>(
      {"timer-blanks", "note", "Two timer ids differ only in blanks."},
      {"oscillates", "note", "States lead to each other by ELSE, so that the machine never rests."},
      {"file-missing", "note", "The builder script lists a file that is not there."},
-     {"program-older", "note", "The program is older than its document."},
+     {"program-older", "note", "The program is older than its document and not what it gives."},
      {"program-differs", "note", "The program is not what its document gives."},
      {"prefix-twice", "note", "Two machines of a project have the same prefix."},
      {"label-in-two", "note", "A label stands in two programs of a project."},
