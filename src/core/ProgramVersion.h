@@ -8,7 +8,7 @@ namespace orvane {
 // The version as users see it: "V", major, ".", minor, ".", the revision in three digits.
 std::string ProgramVersion();
 
-// "1.0.1", as the package has it and tools compare it.
+// "1.1.0", as the package has it and tools compare it.
 std::string VersionNumber();
 
 } // namespace orvane
