@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/ui/SeenPaints.h"
 #include "support/ui/TableFixture.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QLineEdit>
 #include <QMouseEvent>
+#include <QScrollBar>
 #include <QTest>
 
 namespace orvane {
@@ -48,6 +50,17 @@ TEST_F(CellEditing, EnterStoresTheTargetAndMarksTheDocument) {
     EXPECT_TRUE(Title().starts_with('*'));
     EXPECT_TRUE(Item("mnuUndo")->isEnabled());
     EXPECT_EQ(SavedDocument().State(1).Targets[7], 2);
+}
+
+// They cost as much to paint as the edit itself.
+TEST_F(CellEditing, ATypedTargetLeavesTheScrollBarsAlone) {
+    StartOn(PumpDocument());
+    Click(7, 1);
+    SeenPaints paints;
+    TypeTarget(7, 1, QStringLiteral("2"));
+    EXPECT_GT(paints.Times(*Grid()->viewport()), 0);
+    EXPECT_EQ(paints.Times(*Grid()->horizontalScrollBar()), 0);
+    EXPECT_EQ(paints.Times(*Grid()->verticalScrollBar()), 0);
 }
 
 TEST_F(CellEditing, AnyStateCanBeATargetWhetherItHasANameOrNot) {

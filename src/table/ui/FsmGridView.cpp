@@ -184,6 +184,8 @@ bool FsmGridView::viewportEvent(QEvent* event) {
         Q_EMIT PointerLeft();
     if (event->type() == QEvent::ToolTip)
         return ShowFinding(dynamic_cast<const QHelpEvent&>(*event));
+    if (event->type() == QEvent::LayoutRequest)
+        return true; // the in-place editor came or went: the base class would paint both scroll bars anew
     return QTableView::viewportEvent(event);
 }
 
