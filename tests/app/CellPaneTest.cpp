@@ -4,6 +4,7 @@
 #include "kit/CodePane.h"
 #include "support/ui/Controls.h"
 #include "support/ui/OpenedAddresses.h"
+#include "support/ui/SeenPaints.h"
 #include "support/ui/TableFixture.h"
 
 #include <QApplication>
@@ -38,6 +39,32 @@ class CellPaneTest : public TableFixture {
         QTest::keyClicks(&field, QString::fromLatin1(text));
     }
     void LeaveTo(QWidget& other) { other.setFocus(); }
+    // The three kinds of timeout, which show other fields each.
+    static FsmDocument TimedDocument() {
+        FsmDocument document = PumpDocument();
+        document.State(1).TimingMode = kStartConstant;
+        document.State(1).TimeConst = "10";
+        document.State(2).TimingMode = kStartVariable;
+        document.State(2).TimingVar = ";limit";
+        return document;
+    }
+    std::vector<std::string> Places() {
+        std::vector<std::string> places;
+        for (const QWidget* part : Find<QDockWidget>("dckCell")->findChildren<QWidget*>()) {
+            const QRect place = part->geometry();
+            const bool isOwn =
+                !part->objectName().isEmpty() && !part->objectName().startsWith(QLatin1String("qt_"));
+            if (isOwn && part->isVisible())
+                places.push_back(QStringLiteral("%1 %2, %3, %4 x %5")
+                                     .arg(part->objectName())
+                                     .arg(place.x())
+                                     .arg(place.y())
+                                     .arg(place.width())
+                                     .arg(place.height())
+                                     .toStdString());
+        }
+        return places;
+    }
     bool IsEdited() { return Title().starts_with('*'); }
     bool Says(const char* text) { return Panel("Panel3").find(text) != std::string::npos; }
 };
@@ -299,6 +326,27 @@ TEST_F(CellPaneTest, TheItemFollowsThePane) {
     EXPECT_TRUE(Find<QDockWidget>("dckCell")->isVisible());
     Trigger("mnuViewCell");
     EXPECT_FALSE(Find<QDockWidget>("dckCell")->isVisible());
+}
+
+TEST_F(CellPaneTest, AStateWithAnotherTimeoutIsLaidOutAndPaintedOnce) {
+    Open(TimedDocument());
+    for (const int state : {2, 1, 3, 2, 3, 1}) {
+        SeenPaints paints;
+        GoTo(6, state);
+        const std::vector<std::string> atOnce = Places();
+        for (const char* name : {"txtCellAction", "txtCellTest", "txtCellEntry", "txtCellExit"})
+            EXPECT_LE(paints.Times(*Pane(name).viewport()), 1) << name << " in state " << state;
+        EXPECT_EQ(Places(), atOnce) << "in state " << state;
+    }
+}
+
+TEST_F(CellPaneTest, WhatStaysTheSameInAnotherStateIsNotPainted) {
+    Open(TimedDocument());
+    GoTo(6, 1);
+    SeenPaints paints;
+    GoTo(6, 2);
+    EXPECT_EQ(paints.Times(Line("txtCellEvent")), 0);
+    EXPECT_GT(paints.Times(Line("txtCellState")), 0);
 }
 
 TEST_F(CellPaneTest, AnotherDocumentShowsNothingOfTheFormerOne) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editors/ui/dckCell.h"
 
+#include "editors/ui/OneLayout.h"
 #include "editors/ui/TimeoutPage.h"
 #include "kit/AnsiString.h"
 #include "kit/CloseKeys.h"
@@ -53,22 +54,23 @@ dckCell::dckCell(const Vocabulary& words, QWidget* parent)
     fraEvent = BuildEvent(words);
     fraState = BuildState(words);
     auto* content = new QWidget(this);
+    content->setAttribute(Qt::WA_StaticContents); // what does not move is not painted when it becomes longer
     auto* column = new QVBoxLayout(content);
     column->addWidget(lblCell);
     for (QGroupBox* part : {fraTransition, fraEvent, fraState})
         column->addWidget(part, part == fraState ? 2 : 1);
-    auto* scroller = new QScrollArea(this);
-    scroller->setFrameShape(QFrame::NoFrame);
-    scroller->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    scroller->setWidgetResizable(true);
-    scroller->setWidget(content);
-    scroller->setMinimumWidth(content->minimumSizeHint().width());
-    scroller->setFocusPolicy(Qt::NoFocus);
-    setWidget(scroller);
+    scroller_ = new QScrollArea(this);
+    scroller_->setFrameShape(QFrame::NoFrame);
+    scroller_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scroller_->setWidgetResizable(true);
+    scroller_->setWidget(content);
+    scroller_->setMinimumWidth(content->minimumSizeHint().width());
+    scroller_->setFocusPolicy(Qt::NoFocus);
+    setWidget(scroller_);
     // By whatever key or press it comes there.
-    connect(qApp, &QApplication::focusChanged, scroller, [scroller, content](QWidget*, QWidget* now) {
+    connect(qApp, &QApplication::focusChanged, scroller_, [this, content](QWidget*, QWidget* now) {
         if (now != nullptr && content->isAncestorOf(now))
-            scroller->ensureWidgetVisible(now);
+            scroller_->ensureWidgetVisible(now);
     });
     AddKeys();
 }
@@ -168,8 +170,12 @@ void dckCell::AddKeys() {
 
 void dckCell::ShowPlace(const FsmDocument& document, Cell place) {
     const bool isAnother = !(place == place_);
-    place_ = place;
     const PlaceFields next = FieldsOf(document, place);
+    const bool isTimedOtherwise = isAnother || shown_.TimingMode != next.TimingMode;
+    std::optional<OneLayout> layout;
+    if (isTimedOtherwise) // other parts are there, and other fields for the timeout
+        layout.emplace(*scroller_);
+    place_ = place;
     filling_ = true;
     for (const Field& field : fields_) {
         const std::string& text = next.*field.Member;
@@ -180,7 +186,7 @@ void dckCell::ShowPlace(const FsmDocument& document, Cell place) {
             },
             field.Control);
     }
-    if (isAnother || shown_.TimingMode != next.TimingMode)
+    if (isTimedOtherwise)
         SetTiming(next.TimingMode);
     filling_ = false;
     shown_ = next;

@@ -12,6 +12,7 @@
 
 class QGroupBox;
 class QLabel;
+class QScrollArea;
 class QVBoxLayout;
 
 namespace orvane {
@@ -77,6 +78,7 @@ class dckCell : public QDockWidget {
     bool IsEndOfField(const QEvent& event) const;
 
     QLabel* lblCell;
+    QScrollArea* scroller_ = nullptr;
     QGroupBox* fraTransition;
     QGroupBox* fraEvent;
     QGroupBox* fraState;
