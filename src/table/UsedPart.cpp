@@ -45,6 +45,13 @@ std::optional<RowNumber> FirstDifference(const StateRecord& a, const StateRecord
     return std::nullopt;
 }
 
+// In the row heads and the corner.
+bool DifferBesideTheStates(const FsmDocument& a, const FsmDocument& b) {
+    return a.General != b.General || std::any_of(EventRows().begin(), EventRows().end(), [&](RowNumber row) {
+               return Differ(a.Event(row), b.Event(row));
+           });
+}
+
 } // namespace
 
 StateNumber FirstUsedState(const FsmDocument& document) {
@@ -99,6 +106,20 @@ std::optional<Cell> FirstDifference(const FsmDocument& before, const FsmDocument
     if (before.General != after.General)
         return Cell{};
     return std::nullopt;
+}
+
+std::optional<StateNumber> OnlyColumnThatDiffers(const FsmDocument& before, const FsmDocument& after) {
+    std::optional<StateNumber> only;
+    for (const StateNumber state : StateNumbers()) {
+        const StateRecord& older = before.State(state);
+        const StateRecord& newer = after.State(state);
+        if (!FirstDifference(older, newer))
+            continue;
+        if (only || older.Name != newer.Name)
+            return std::nullopt;
+        only = state;
+    }
+    return DifferBesideTheStates(before, after) ? std::nullopt : only;
 }
 
 } // namespace orvane

@@ -25,4 +25,8 @@ Cell CellBelow(const FsmDocument& document, Cell cell);
 // (row, 0), or (0, 0) for the machine as a whole. None when nothing does.
 std::optional<Cell> FirstDifference(const FsmDocument& before, const FsmDocument& after);
 
+// The column that shows all of what FirstDifference looks at and what differs; none when others show some of
+// it, too, as they do the name of a state.
+std::optional<StateNumber> OnlyColumnThatDiffers(const FsmDocument& before, const FsmDocument& after);
+
 } // namespace orvane

@@ -11,6 +11,8 @@ namespace orvane {
 namespace {
 
 using testing::Contains;
+using testing::Each;
+using testing::IsSupersetOf;
 
 class Undo : public PopUpFixture {};
 
@@ -37,6 +39,15 @@ TEST_F(Undo, WhatIsUndoneAndRedoneIsDrawn) {
     TypeTarget(7, 5, QStringLiteral("2"));
     EXPECT_THAT(DrawnBy([this] { Trigger("mnuUndo"); }), Contains(5));
     EXPECT_THAT(DrawnBy([this] { Trigger("mnuRedo"); }), Contains(5));
+}
+
+TEST_F(Undo, OnlyWhatIsAnotherNowIsDrawn) {
+    StartOn(PumpDocument());
+    TypeTarget(7, 5, QStringLiteral("2"));
+    EXPECT_THAT(DrawnBy([this] { Trigger("mnuUndo"); }), Each(5));
+    EXPECT_THAT(DrawnBy([this] { Trigger("mnuRedo"); }), Each(5));
+    Choose(0, 1, "mnuInsertState");
+    EXPECT_THAT(DrawnBy([this] { Trigger("mnuUndo"); }), IsSupersetOf({1, 2, 3}));
 }
 
 TEST_F(Undo, ANewEditEndsRedo) {

@@ -65,5 +65,30 @@ TEST_F(UsedPartTest, TheFirstDifferenceIsToldWithItsPlace) {
     EXPECT_EQ(FirstDifference(Document, after), (Cell{kEntryActionRow, 5}));
 }
 
+TEST_F(UsedPartTest, AColumnIsTheOnlyOneThatDiffersUnlessOthersShowItToo) {
+    const auto afterwards = [this](const auto& change) {
+        FsmDocument after = Document;
+        change(after);
+        return OnlyColumnThatDiffers(Document, after);
+    };
+    EXPECT_EQ(afterwards([](FsmDocument&) {}), std::nullopt);
+    EXPECT_EQ(afterwards([](FsmDocument& after) { after.State(5).Targets[8] = 1; }), StateNumber(5));
+    EXPECT_EQ(afterwards([](FsmDocument& after) { after.State(5).ExitCode = ";out"; }), StateNumber(5));
+    EXPECT_EQ(afterwards([](FsmDocument& after) { after.State(5).Name = "Other"; }), std::nullopt);
+    EXPECT_EQ(
+        afterwards([](FsmDocument& after) { after.State(5).Targets[8] = after.State(6).Targets[8] = 1; }),
+        std::nullopt);
+    EXPECT_EQ(afterwards([](FsmDocument& after) {
+                  after.State(5).Targets[8] = 1;
+                  after.Event(8).Name = "Other";
+              }),
+              std::nullopt);
+    EXPECT_EQ(afterwards([](FsmDocument& after) {
+                  after.State(5).Targets[8] = 1;
+                  after.General.FsmName = "Other";
+              }),
+              std::nullopt);
+}
+
 } // namespace
 } // namespace orvane

@@ -21,6 +21,7 @@
 #include <QAction>
 #include <QCursor>
 #include <QMainWindow>
+#include <QScopedValueRollback>
 
 namespace orvane {
 
@@ -208,7 +209,11 @@ void TableRoom::Tell(const QString& text) {
 // Goes to where something is another now, so that nothing changes out of sight.
 void TableRoom::Step(std::vector<std::string> (Session::*step)()) {
     const FsmDocument before = session_.Document();
-    for (const std::string& fault : (session_.*step)())
+    const std::vector<std::string> faults = [&] {
+        const QScopedValueRollback stepping(steppedFrom_, &before);
+        return (session_.*step)();
+    }();
+    for (const std::string& fault : faults)
         orvane::Tell(&window_, FromAnsi(fault));
     const std::optional<Cell> place = FirstDifference(before, session_.Document());
     if (place && !grid_->View().CellRect(*place).isEmpty())
@@ -237,10 +242,18 @@ void TableRoom::Told(const Change& change) {
         keys_->Forget();
     if (change.RowsForced || change.Kind == ChangeKind::RowsToggled)
         grid_->ApplyRowVisibility();
-    grid_->Draw(change.Where);
+    grid_->Draw(PartToDraw(change));
     grid_->Hints().FollowChange();
     if (change.Kind == ChangeKind::Edited)
         grid_->View().ShowChangesNow(); // before the program is written, which the disk can take its time for
+}
+
+// A step brings a whole document, of which hardly ever more than one column is another.
+Touched TableRoom::PartToDraw(const Change& change) const {
+    if (steppedFrom_ == nullptr || change.Where.What != Touched::Extent::Everything)
+        return change.Where;
+    const std::optional<StateNumber> column = OnlyColumnThatDiffers(*steppedFrom_, session_.Document());
+    return column ? Touched{Touched::Extent::Column, *column} : change.Where;
 }
 
 void TableRoom::ShowAnotherDocument() {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "kit/Room.h"
+#include "session/Change.h"
 #include "table/PressTable.h"
 #include "table/ui/CellCommands.h"
 #include "table/ui/CellTyping.h"
@@ -52,6 +53,7 @@ class TableRoom : public Room {
     void PopUp(Command menu, const GridPress& press);
     void StepMachine(RowNumber row);
     void Step(std::vector<std::string> (Session::*step)());
+    Touched PartToDraw(const Change& change) const;
     void Tell(const QString& text);
 
     Session& session_;
@@ -64,6 +66,7 @@ class TableRoom : public Room {
     TableCommands commands_;
     CellCommands cells_;
     frmMyToolTip* frmMyToolTip_;
+    const FsmDocument* steppedFrom_ = nullptr; // while a step back or forward is told
 };
 
 } // namespace orvane
