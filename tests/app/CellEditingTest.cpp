@@ -63,6 +63,18 @@ TEST_F(CellEditing, ATypedTargetLeavesTheScrollBarsAlone) {
     EXPECT_EQ(paints.Times(*Grid()->verticalScrollBar()), 0);
 }
 
+TEST_F(CellEditing, ATypedTargetPaintsItsColumnWithTheHead) {
+    StartOn(PumpDocument());
+    Click(7, 5);
+    SeenPaints paints;
+    TypeTarget(7, 5, QStringLiteral("2"));
+    const QRegion painted = paints.Part(*Grid()->viewport());
+    for (const int row : {0, 6, 7, 9})
+        EXPECT_TRUE(painted.contains(CellRect(row, 5).center())) << "row " << row;
+    for (const int column : {0, 3, 7})
+        EXPECT_FALSE(painted.intersects(CellRect(0, column))) << "column " << column;
+}
+
 TEST_F(CellEditing, AnyStateCanBeATargetWhetherItHasANameOrNot) {
     StartOn(PumpDocument());
     TypeTarget(7, 1, QStringLiteral("100"));

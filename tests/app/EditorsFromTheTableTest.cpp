@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "kit/CodePane.h"
 #include "support/ui/Controls.h"
+#include "support/ui/SeenPaints.h"
 #include "support/ui/TableFixture.h"
 #include "text/ZorlanScanner.h"
 
@@ -130,6 +131,22 @@ TEST_F(EditorsFromTheTable, TheNameOfTheMachineFollowsWhileItIsTyped) {
     EXPECT_EQ(Panel("Panel2"), "PMP");
     EXPECT_EQ(Program().find("FAN"), std::string::npos);
     EXPECT_FALSE(Item("mnuUndo")->isEnabled());
+}
+
+TEST_F(EditorsFromTheTable, ALetterOfCodeLeavesTheTableBehindAsItIs) {
+    StartOn(PumpDocument());
+    InEditor("frmGeneralCodeEdit", [this](QWidget& dialog) {
+        auto& code = Named<CodePane>(dialog, "txtCodeSeg");
+        QTest::keyClicks(&code, QStringLiteral(";"));
+        SeenPaints paints;
+        QTest::keyClicks(&code, QStringLiteral("x"));
+        EXPECT_GT(paints.Times(*code.viewport()), 0);
+        EXPECT_EQ(paints.Times(*Grid()->viewport()), 0);
+        Type(dialog, "txtName", QStringLiteral("FAN"));
+        EXPECT_TRUE(paints.Part(*Grid()->viewport()).intersects(CellRect(0, 0)));
+        Press(dialog, "cmdOK");
+    });
+    Trigger("mnuGeneralCode");
 }
 
 TEST_F(EditorsFromTheTable, TheGeneralCodeFollowsUndoAndOtherDocuments) {

@@ -147,8 +147,11 @@ void EditorsRoom::EditGeneralCode() {
 
 void EditorsRoom::WriteGeneralCodeThrough() {
     hasDraft_ = true;
-    session_.Edit({kGeneralCodeStep, {Extent::RowHeads, {}}, EditKind::Typing},
-                  [&](const Editable& open) { TakeGeneralCode(open.Document, frmGeneralCodeEdit_->Code()); });
+    const GeneralCode code = frmGeneralCodeEdit_->Code();
+    // Of all the texts only the name stands in the table.
+    const bool isRenamed = code.FsmName != session_.Document().General.FsmName;
+    session_.Edit({kGeneralCodeStep, {isRenamed ? Extent::RowHeads : Extent::Nothing, {}}, EditKind::Typing},
+                  [&code](const Editable& open) { TakeGeneralCode(open.Document, code); });
 }
 
 void EditorsRoom::EditTransitionAction(Cell place) {

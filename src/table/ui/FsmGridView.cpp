@@ -148,11 +148,17 @@ void FsmGridView::updateGeometries() {
 void FsmGridView::dataChanged(const QModelIndex& topLeft, const QModelIndex& bottomRight,
                               const QList<int>& roles) {
     QTableView::dataChanged(topLeft, bottomRight, roles);
+    // The base class takes the heads for cells that scroll along.
     const QSize frozen = FrozenSize();
+    const int top = RowTop(topLeft.row());
+    const int left = ColumnLeft(topLeft.column());
     if (topLeft.column() == 0)
-        viewport()->update(0, 0, frozen.width(), viewport()->height());
+        viewport()->update(0, top, frozen.width(),
+                           RowTop(bottomRight.row()) + rowHeight(bottomRight.row()) - top);
     if (topLeft.row() == 0)
-        viewport()->update(0, 0, viewport()->width(), frozen.height());
+        viewport()->update(left, 0,
+                           ColumnLeft(bottomRight.column()) + columnWidth(bottomRight.column()) - left,
+                           frozen.height());
 }
 
 void FsmGridView::paintEvent(QPaintEvent* event) {
