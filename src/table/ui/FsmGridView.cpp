@@ -69,9 +69,10 @@ QRect FsmGridView::visualRect(const QModelIndex& index) const {
             rowHeight(index.row())};
 }
 
-QRect FsmGridView::VisibleRect(const QModelIndex& index) const {
+// Where a cell of this row and column can be seen in a viewport of this size: the heads cover the others.
+QRect FsmGridView::AreaOf(const QModelIndex& index, const QSize& viewport) const {
     const QSize frozen = FrozenSize();
-    QRect area = viewport()->rect();
+    QRect area(QPoint(), viewport);
     if (index.column() == 0)
         area.setWidth(std::min(frozen.width(), area.width()));
     else
@@ -80,7 +81,11 @@ QRect FsmGridView::VisibleRect(const QModelIndex& index) const {
         area.setHeight(std::min(frozen.height(), area.height()));
     else
         area.setTop(frozen.height());
-    return visualRect(index).intersected(area);
+    return area;
+}
+
+QRect FsmGridView::VisibleRect(const QModelIndex& index) const {
+    return visualRect(index).intersected(AreaOf(index, viewport()->size()));
 }
 
 QRect FsmGridView::CellRect(Cell cell) {
@@ -143,6 +148,15 @@ void FsmGridView::scrollContentsBy(int dx, int dy) {
 void FsmGridView::updateGeometries() {
     QTableView::updateGeometries();
     Q_EMIT CellsMoved();
+}
+
+// What takes room from the table, as a pane that opens beside it, takes the current cell from nobody who was
+// looking at it. Who has scrolled away from it is left where he is.
+void FsmGridView::resizeEvent(QResizeEvent* event) {
+    const bool wasSeen = visualRect(currentIndex()).intersects(AreaOf(currentIndex(), event->oldSize()));
+    QTableView::resizeEvent(event);
+    if (wasSeen)
+        scrollTo(currentIndex());
 }
 
 void FsmGridView::dataChanged(const QModelIndex& topLeft, const QModelIndex& bottomRight,

@@ -87,6 +87,7 @@ class FsmGridView : public QTableView {
     void paintEvent(QPaintEvent* event) override;
     void scrollContentsBy(int dx, int dy) override;
     void updateGeometries() override;
+    void resizeEvent(QResizeEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
@@ -100,6 +101,7 @@ class FsmGridView : public QTableView {
   private:
     // What the right button does on the cell under the pointer, done on the current cell.
     void PressCurrentCell();
+    QRect AreaOf(const QModelIndex& index, const QSize& viewport) const;
     bool ShowFinding(const QHelpEvent& event);
     bool DragBorder(const QMouseEvent& event);
     void PressCell(const QMouseEvent& event);
