@@ -40,7 +40,7 @@ frmTable::frmTable(QWidget* parent)
     session_.Observe(ObserverRank::Title, *this);
     connect(menus_, &CommandMenus::Chosen, this, &frmTable::Run);
     connect(status_, &TableStatusBar::FindingsWanted, this, [this] {
-        if (!session_.ListsFindings())
+        if (!session_.IsPaneShown(Command::ViewFindings))
             Run(Command::ViewFindings);
     });
     AddHelpKey(*this, kHelpPage);
@@ -106,6 +106,8 @@ void frmTable::AddRoom(std::unique_ptr<Room> room) {
     });
     connect(room.get(), &Room::DocumentWanted, this, &frmTable::OpenDocument);
     connect(room.get(), &Room::CommandWanted, this, &frmTable::Run);
+    connect(room.get(), &Room::PaneTurned, this,
+            [this](Command toggle, bool shown) { session_.SetPaneShown(toggle, shown); });
     connect(room.get(), &Room::CompareWanted, this, [this](const VersionsToCompare& versions) {
         for (const auto& other : rooms_)
             other->CompareVersions(versions);
@@ -165,10 +167,7 @@ void frmTable::Told(const Change& change) {
         status_->ShowFindings(FromAnsi(FindingCounts(session_.Findings())));
     if (change.Kind == ChangeKind::Moved || change.Kind == ChangeKind::Ran ||
         change.Kind == ChangeKind::Judged)
-        menus_->ShowState(session_);
-    if (change.Kind == ChangeKind::Moved || change.Kind == ChangeKind::Ran ||
-        change.Kind == ChangeKind::Judged)
-        return;
+        return menus_->ShowState(session_);
     ShowDocumentState();
     if (change.Kind == ChangeKind::Undone)
         status_->Say(tr("Undone: %1").arg(FromAnsi(change.Name)));

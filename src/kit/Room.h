@@ -80,6 +80,8 @@ class Room : public QObject {
     void EventFired(orvane::RowNumber row);
     void DocumentWanted(const QString& path);
     void CommandWanted(orvane::Command command);
+    // The pane that the command shows and hides is to be seen from now on, or no more.
+    void PaneTurned(orvane::Command toggle, bool shown);
     void CompareWanted(const orvane::VersionsToCompare& versions);
     void MenuWanted(orvane::Command menu, const QPoint& globalPosition);
     // The open document is about to be left for another one: asks the user about unsaved work. The answer is

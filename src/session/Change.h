@@ -23,8 +23,19 @@ enum class ChangeKind {
     Left,          // the document is left with the program
     Moved,         // the current cell, the current state, Shift, a pane: where the user is, not what he draws
     Ran,           // the machine that runs looks another way, or runs no more
-    Judged,        // what there is to be told of the design is something else, or is listed or not
+    Judged,        // what there is to be told of the design is something else
 };
+
+// After these the texts of the document may be others: names, comments, code, targets.
+constexpr bool ChangesTexts(ChangeKind kind) {
+    return kind == ChangeKind::Replaced || kind == ChangeKind::Edited || kind == ChangeKind::Undone ||
+           kind == ChangeKind::Redone || kind == ChangeKind::Typed;
+}
+
+// After these the program may be another one.
+constexpr bool ChangesTheProgram(ChangeKind kind) {
+    return ChangesTexts(kind) || kind == ChangeKind::Multitasking;
+}
 
 // Which part of the table shows the change.
 struct Touched {

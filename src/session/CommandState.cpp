@@ -54,10 +54,6 @@ bool IsChecked(const Session& session, Command toggle) {
         return IsMarked(view, SpecialRow::TimeTarget);
     case Command::Polytask:
         return view.Polytask;
-    case Command::ViewRun:
-        return session.Run().has_value();
-    case Command::ViewFindings:
-        return session.ListsFindings();
     default:
         return session.IsPaneShown(toggle);
     }

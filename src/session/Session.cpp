@@ -144,11 +144,6 @@ void Session::ShowFindings(std::vector<DesignFinding> findings) {
     Tell({.Kind = ChangeKind::Judged, .Where = {}});
 }
 
-void Session::ListFindings(bool shown) {
-    if (std::exchange(listsFindings_, shown) != shown)
-        Tell({.Kind = ChangeKind::Judged, .Where = {}});
-}
-
 bool Session::IsPaneShown(Command toggle) const {
     return std::find(shownPanes_.begin(), shownPanes_.end(), toggle) != shownPanes_.end();
 }

@@ -167,9 +167,6 @@ class Session {
     // All that there is to be told of the design, errors first; whoever gathers it shows it to all others.
     const std::vector<DesignFinding>& Findings() const { return findings_; }
     void ShowFindings(std::vector<DesignFinding> findings);
-    // The list of them is open.
-    bool ListsFindings() const { return listsFindings_; }
-    void ListFindings(bool shown);
 
     // Observers are told in the order of their ranks, those of one rank in the order in which they came.
     void Observe(ObserverRank rank, SessionObserver& observer);
@@ -202,7 +199,6 @@ class Session {
     ProgramState program_;
     std::vector<DesignFinding> report_;
     std::vector<DesignFinding> findings_;
-    bool listsFindings_ = false;
     std::optional<std::string> script_;
     std::vector<const DraftSource*> draftSources_;
     std::vector<Listener> listeners_;

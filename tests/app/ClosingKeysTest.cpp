@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Leaving what stands beside or over the table, by keys.
+// Leaving what stands over the table, by keys.
 #include "kit/CodePane.h"
 #include "support/ui/Controls.h"
-#include "support/ui/OpenedAddresses.h"
 #include "support/ui/PopUpFixture.h"
 
 #include <QApplication>
-#include <QDockWidget>
 #include <QLabel>
 #include <QPlainTextEdit>
 
@@ -37,20 +35,6 @@ class ClosingKeys : public PopUpFixture {
             EXPECT_FALSE(window->isVisible()) << name << " " << key;
         }
     }
-    void ExpectPaneClosedByKeys(const char* command, const char* name, const char* control) {
-        for (const auto& [key, modifiers] :
-             {std::pair{Qt::Key_Escape, Qt::KeyboardModifiers()},
-              std::pair{Qt::Key_W, Qt::KeyboardModifiers(Qt::ControlModifier)}}) {
-            Trigger(command);
-            auto& pane = Named<QDockWidget>(Window(), name);
-            ASSERT_TRUE(pane.isVisible()) << name;
-            auto& field = Named<QWidget>(pane, control);
-            field.setFocus();
-            QTest::keyClick(&field, key, modifiers);
-            EXPECT_FALSE(pane.isVisible()) << name << " " << key;
-            EXPECT_TRUE(Grid()->hasFocus()) << name;
-        }
-    }
 };
 
 TEST_F(ClosingKeys, SideWindowsAreClosedByEscAndCtrlW) {
@@ -66,14 +50,6 @@ TEST_F(ClosingKeys, SideWindowsAreClosedByEscAndCtrlW) {
     ASSERT_TRUE(QTest::qWaitForWindowActive(backtrack));
     QTest::keyClick(&Named<QWidget>(*backtrack, "MSFlexGrid1"), Qt::Key_Escape);
     EXPECT_FALSE(backtrack->isVisible());
-}
-
-TEST_F(ClosingKeys, PanesAreClosedByEscAndCtrlWAndTheTableHasTheFocus) {
-    StartOn(PumpDocument());
-    Window().activateWindow();
-    ExpectPaneClosedByKeys("mnuViewFindings", "dckFindings", "lstFindings");
-    ExpectPaneClosedByKeys("mnuViewFind", "dckFind", "txtFind");
-    ExpectPaneClosedByKeys("mnuViewRun", "dckRun", "lstInputs");
 }
 
 TEST_F(ClosingKeys, FindAndReplaceIsClosedByBoth) {
@@ -117,17 +93,6 @@ TEST_F(ClosingKeys, EscClosesAnActionThatWasOnlyReadWithoutAWord) {
     });
     Choose(7, 2, "mnuEditTransAct");
     EXPECT_EQ(Answers.Seen().size(), 1u);
-}
-
-TEST_F(ClosingKeys, F1InThePaneOfFindingsOpensItsPage) {
-    OpenedAddresses opened;
-    StartOn(PumpDocument());
-    Trigger("mnuViewFindings");
-    auto& list = Named<QWidget>(Window(), "lstFindings");
-    list.setFocus();
-    QTest::keyClick(&list, Qt::Key_F1);
-    ASSERT_EQ(opened.Addresses.size(), 1);
-    EXPECT_TRUE(opened.Addresses.front().toString().endsWith(QStringLiteral("4995.htm")));
 }
 
 } // namespace

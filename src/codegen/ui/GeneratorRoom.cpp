@@ -21,20 +21,6 @@ namespace {
 
 constexpr auto kOwnCommands = std::to_array<Command>({Command::Generate});
 
-bool AsksForProgram(ChangeKind kind) {
-    switch (kind) {
-    case ChangeKind::Edited:
-    case ChangeKind::Undone:
-    case ChangeKind::Redone:
-    case ChangeKind::Typed:
-    case ChangeKind::Multitasking:
-    case ChangeKind::ProgramWanted:
-        return true;
-    default:
-        return false;
-    }
-}
-
 // Of every line end, of whatever kind, a blank.
 std::string OnOneLine(std::string text) {
     for (const std::string_view end : {"\r\n", "\r", "\n"}) {
@@ -107,7 +93,7 @@ void GeneratorRoom::Told(const Change& change) {
         MakeProgramsAgree(change.Kind);
     if (change.Kind == ChangeKind::Replaced)
         generator_.RunWithoutFile(session_.Document(), path);
-    else if (AsksForProgram(change.Kind))
+    else if (ChangesTheProgram(change.Kind) || change.Kind == ChangeKind::ProgramWanted)
         generator_.Run(session_.Document(), path);
     else
         return;

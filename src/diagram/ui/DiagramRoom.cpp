@@ -25,10 +25,6 @@ constexpr auto kOwnCommands = std::to_array<Command>({Command::ViewDiagram});
 constexpr int kPause = 700; // milliseconds without an edit, before a better picture is looked for
 constexpr int kLimit = 300; // milliseconds that laying out all of a machine may take
 
-bool ChangesThePicture(ChangeKind kind) {
-    return kind == ChangeKind::Edited || kind == ChangeKind::Undone || kind == ChangeKind::Redone;
-}
-
 PictureMarks MarksOf(const Session& session, const diagram::Scene& scene) {
     PictureMarks marks;
     if (session.CurrentState() != kNoState)
@@ -59,7 +55,10 @@ QString WayText(const FsmDocument& document, Cell cell) {
 
 } // namespace
 
-DiagramRoom::DiagramRoom(const RoomPlace& place) : session_(place.Open), window_(place.Window) {
+DiagramRoom::DiagramRoom(const RoomPlace& place)
+    : PaneRoom(place.Window, Command::ViewDiagram, Qt::RightDockWidgetArea),
+      session_(place.Open),
+      window_(place.Window) {
     tmrPause_.setObjectName(QStringLiteral("tmrPause"));
     tmrPause_.setSingleShot(true);
     tmrPause_.setInterval(kPause);
@@ -76,26 +75,12 @@ std::span<const Command> DiagramRoom::Commands() const { return kOwnCommands; }
 
 ObserverRank DiagramRoom::Rank() const { return ObserverRank::Rooms; }
 
-bool DiagramRoom::Listens() const { return session_.IsPaneShown(Command::ViewDiagram); }
+void DiagramRoom::Run(Command) { Toggle(); }
 
-void DiagramRoom::Run(Command) {
-    if (Listens())
-        return void(pane_->close());
-    if (pane_ == nullptr)
-        MakePane();
-    pane_->show();
-    pane_->raise();
-    pane_->View().setFocus();
-}
-
-void DiagramRoom::MakePane() {
+Pane* DiagramRoom::MakePane() {
     fonts_.emplace(QApplication::font());
     picture_.emplace(*fonts_);
     pane_ = new dckDiagram(*picture_, *fonts_, &window_);
-    pane_->hide();
-    window_.addDockWidget(Qt::RightDockWidgetArea, pane_);
-    window_.resizeDocks({pane_}, {window_.width() / 2}, Qt::Horizontal);
-    connect(pane_, &QDockWidget::visibilityChanged, this, &DiagramRoom::PaneShown);
     connect(pane_, &dckDiagram::WishChanged, this, &DiagramRoom::Follow);
     connect(pane_, &dckDiagram::TidyWanted, this, &DiagramRoom::Tidy);
     connect(pane_, &dckDiagram::TurnWanted, this, &DiagramRoom::Turn);
@@ -104,15 +89,14 @@ void DiagramRoom::MakePane() {
     connect(&view, &picDiagram::CellsChosen, this, [this](const auto& cells) { Do(Act::Choose, cells); });
     connect(&view, &picDiagram::CellsOpened, this, [this](const auto& cells) { Do(Act::Open, cells); });
     connect(&view, &picDiagram::JumpWanted, this, [this](const auto& cells) { Do(Act::Jump, cells); });
+    return pane_;
 }
 
-// Also when the user closes the pane by its own button.
-void DiagramRoom::PaneShown(bool shown) {
-    if (shown == Listens())
-        return;
-    session_.SetPaneShown(Command::ViewDiagram, shown);
-    if (shown)
-        return DrawAnew();
+int DiagramRoom::FirstSize() const { return window_.width() / 2; }
+
+void DiagramRoom::Shown() { DrawAnew(); }
+
+void DiagramRoom::Hiding() {
     tmrPause_.stop();
     tmrLimit_.stop();
     work_.Drop();
@@ -131,7 +115,9 @@ void DiagramRoom::Told(const Change& change) {
         return DrawAnew();
     const StateNumber chosen = session_.CurrentCell().State;
     const bool isElsewhere = picture_->Around() && chosen != kNoState && chosen != *picture_->Around();
-    if (ChangesThePicture(change.Kind) || (change.Kind == ChangeKind::Moved && isElsewhere))
+    const bool isRedrawn =
+        ChangesTexts(change.Kind) && change.Kind != ChangeKind::Typed; // general code is not drawn
+    if (isRedrawn || (change.Kind == ChangeKind::Moved && isElsewhere))
         Follow();
     else if (change.Kind == ChangeKind::Moved || change.Kind == ChangeKind::Ran ||
              change.Kind == ChangeKind::Judged)
@@ -147,7 +133,7 @@ void DiagramRoom::DrawAnew() {
 }
 
 void DiagramRoom::Follow() {
-    if (!Listens())
+    if (!IsShown())
         return;
     const std::optional<StateNumber> before = picture_->Around();
     pane_->ShowEvents(session_.Document());
@@ -242,7 +228,7 @@ void DiagramRoom::DoWith(Act act, Cell cell) {
     if (act == Act::Open)
         return void(Q_EMIT EditWanted(cell));
     Q_EMIT PlaceChosen(cell);
-    if (act == Act::Choose && Listens()) {
+    if (act == Act::Choose && IsShown()) {
         pane_->activateWindow();
         pane_->View().setFocus();
     }

@@ -3,8 +3,8 @@
 
 #include "diagram/LivePicture.h"
 #include "kit/Background.h"
+#include "kit/PaneRoom.h"
 #include "kit/PictureFonts.h"
-#include "kit/Room.h"
 
 #include <QTimer>
 
@@ -18,7 +18,7 @@ class dckDiagram;
 // The picture of the machine beside the table. It follows every edit at once; what would be a better picture
 // is looked for in a thread while the user pauses. Hidden it costs nothing, and is drawn anew when it is
 // shown.
-class DiagramRoom : public Room {
+class DiagramRoom : public PaneRoom {
     Q_OBJECT
 
   public:
@@ -28,14 +28,17 @@ class DiagramRoom : public Room {
     std::span<const Command> Commands() const override;
     void Run(Command command) override;
     ObserverRank Rank() const override;
-    bool Listens() const override;
     void Told(const Change& change) override;
+
+  protected:
+    Pane* MakePane() override;
+    int FirstSize() const override;
+    void Shown() override;
+    void Hiding() override;
 
   private:
     enum class Act { Choose, Open, Jump };
 
-    void MakePane();
-    void PaneShown(bool shown);
     diagram::PictureWish Wish() const;
     void DrawAnew();
     void Follow();

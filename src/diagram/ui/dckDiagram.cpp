@@ -3,8 +3,6 @@
 
 #include "diagram/ui/picDiagram.h"
 #include "kit/AnsiString.h"
-#include "kit/CloseKeys.h"
-#include "kit/OpenInDesktop.h"
 #include "text/AnsiText.h"
 
 #include <QAction>
@@ -40,14 +38,13 @@ bool IsUsed(const FsmDocument& document, RowNumber row) {
 } // namespace
 
 dckDiagram::dckDiagram(const diagram::LivePicture& picture, const PictureFonts& fonts, QWidget* parent)
-    : QDockWidget(tr("Diagram"), parent),
+    : Pane("dckDiagram", tr("Diagram"), kHelpPage, parent),
       picture_(picture),
       view_(new picDiagram(picture, fonts, this)),
       cboEvent(new QComboBox(this)),
       cmdTidy(new QPushButton(this)),
       cmdPicture(new QToolButton(this)),
       lblDiagram(new QLabel(this)) {
-    setObjectName(QStringLiteral("dckDiagram"));
     cboEvent->setObjectName(QStringLiteral("cboEvent"));
     cboEvent->setAccessibleName(tr("Transitions shown"));
     cboEvent->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
@@ -69,7 +66,6 @@ dckDiagram::dckDiagram(const diagram::LivePicture& picture, const PictureFonts& 
     column->addWidget(lblDiagram);
     setWidget(body);
     setFocusProxy(view_);
-    AddCloseKeys(*this);
     connect(cboEvent, &QComboBox::currentIndexChanged, this, &dckDiagram::WishChanged);
     connect(cmdTidy, &QPushButton::clicked, this, &dckDiagram::TidyWanted);
     connect(view_, &picDiagram::AllWanted, all_, &QAction::toggle);
@@ -130,8 +126,6 @@ void dckDiagram::ShowEvents(const FsmDocument& document) {
     }
     cboEvent->setCurrentIndex(std::max(0, cboEvent->findData(chosen)));
 }
-
-bool dckDiagram::event(QEvent* event) { return TakesHelpKey(*event, kHelpPage) || QDockWidget::event(event); }
 
 void dckDiagram::ShowPicture() {
     view_->Refresh();

@@ -3,9 +3,8 @@
 
 #include "core/FsmDocument.h"
 #include "diagram/LivePicture.h"
+#include "kit/Pane.h"
 #include "kit/PictureFonts.h"
-
-#include <QDockWidget>
 
 class QAction;
 class QComboBox;
@@ -18,7 +17,7 @@ namespace orvane {
 class picDiagram;
 
 // The picture of the machine, with what of it is shown above and what there is to say of it below.
-class dckDiagram : public QDockWidget {
+class dckDiagram : public Pane {
     Q_OBJECT
 
   public:
@@ -38,9 +37,6 @@ class dckDiagram : public QDockWidget {
     void TidyWanted();
     void TurnWanted();
     void SaveWanted();
-
-  protected:
-    bool event(QEvent* event) override;
 
   private:
     void MakeMenu();

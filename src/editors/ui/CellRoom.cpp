@@ -27,11 +27,6 @@ bool IsEvent(const PlaceFields& before, const PlaceFields& after) {
     return before.EventName != after.EventName || before.Test != after.Test;
 }
 
-bool ChangesTexts(ChangeKind kind) {
-    return kind == ChangeKind::Replaced || kind == ChangeKind::Edited || kind == ChangeKind::Undone ||
-           kind == ChangeKind::Redone || kind == ChangeKind::Typed;
-}
-
 // A state's name stands in every cell that leads to it, an event's in its own head.
 Touched DrawnFor(Cell place, const PlaceFields& before, const PlaceFields& after) {
     if (IsTransition(before, after))
@@ -42,7 +37,10 @@ Touched DrawnFor(Cell place, const PlaceFields& before, const PlaceFields& after
 } // namespace
 
 CellRoom::CellRoom(const RoomPlace& place)
-    : session_(place.Open), words_(place.Words), window_(place.Window) {
+    : PaneRoom(place.Window, Command::ViewCell, Qt::RightDockWidgetArea),
+      session_(place.Open),
+      words_(place.Words),
+      window_(place.Window) {
     session_.AddDraftSource(*this);
 }
 
@@ -52,39 +50,20 @@ std::span<const Command> CellRoom::Commands() const { return kOwnCommands; }
 
 ObserverRank CellRoom::Rank() const { return ObserverRank::Rooms; }
 
-bool CellRoom::Listens() const { return session_.IsPaneShown(Command::ViewCell); }
+void CellRoom::Run(Command) { Toggle(); }
 
-void CellRoom::Run(Command) {
-    if (Listens())
-        return void(pane_->close());
-    if (pane_ == nullptr)
-        MakePane();
-    pane_->show();
-    pane_->raise();
-    pane_->FocusFirst();
-}
-
-void CellRoom::MakePane() {
+Pane* CellRoom::MakePane() {
     pane_ = new dckCell(words_, &window_);
-    pane_->hide();
-    window_.addDockWidget(Qt::RightDockWidgetArea, pane_);
-    connect(pane_, &QDockWidget::visibilityChanged, this, &CellRoom::PaneShown);
     connect(pane_, &dckCell::Edited, this, [this] { session_.TellDraft(); });
     connect(pane_, &dckCell::FieldLeft, this, &CellRoom::Commit);
     connect(pane_, &dckCell::CharactersLeftOut, this,
             [this](const QString& characters) { Q_EMIT Said(LeftOutMessage(characters)); });
+    return pane_;
 }
 
-// Also when the user closes the pane by its own button.
-void CellRoom::PaneShown(bool shown) {
-    if (shown == Listens())
-        return;
-    if (shown)
-        pane_->ShowPlace(session_.Document(), session_.CurrentCell());
-    else
-        Commit();
-    session_.SetPaneShown(Command::ViewCell, shown);
-}
+void CellRoom::Shown() { pane_->ShowPlace(session_.Document(), session_.CurrentCell()); }
+
+void CellRoom::Hiding() { Commit(); }
 
 void CellRoom::Prepare(const CommandEntry&) { Commit(); }
 

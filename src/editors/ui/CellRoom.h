@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "kit/Room.h"
+#include "kit/PaneRoom.h"
 #include "session/Draft.h"
 
 namespace orvane {
@@ -10,7 +10,7 @@ class dckCell;
 
 // The current cell beside the table, shown and edited without a dialog. What is typed in a field is one edit
 // when the field is left, when another cell is chosen and before every command; until then it is a draft.
-class CellRoom : public Room, public DraftSource {
+class CellRoom : public PaneRoom, public DraftSource {
     Q_OBJECT
 
   public:
@@ -21,14 +21,16 @@ class CellRoom : public Room, public DraftSource {
     void Run(Command command) override;
     void Prepare(const CommandEntry& next) override;
     ObserverRank Rank() const override;
-    bool Listens() const override;
     void Told(const Change& change) override;
 
     std::optional<Draft> CurrentDraft() const override;
 
+  protected:
+    Pane* MakePane() override;
+    void Shown() override;
+    void Hiding() override;
+
   private:
-    void MakePane();
-    void PaneShown(bool shown);
     void Commit();
     void TellUnfinished();
 

@@ -8,7 +8,6 @@
 #include "kit/CodePane.h"
 #include "kit/DocumentLineEdit.h"
 #include "kit/DocumentTextEdit.h"
-#include "kit/OpenInDesktop.h"
 
 #include <QApplication>
 #include <QFocusEvent>
@@ -45,8 +44,7 @@ QWidget* WidgetOf(const std::variant<DocumentLineEdit*, DocumentTextEdit*, CodeP
 } // namespace
 
 dckCell::dckCell(const Vocabulary& words, QWidget* parent)
-    : QDockWidget(tr("Cell"), parent), lblCell(new QLabel(this)) {
-    setObjectName(QStringLiteral("dckCell"));
+    : Pane("dckCell", tr("Cell"), kHelpPage, parent), lblCell(new QLabel(this)) {
     lblCell->setObjectName(QStringLiteral("lblCell"));
     lblCell->setTextFormat(Qt::PlainText);
     lblCell->setWordWrap(true);
@@ -156,7 +154,6 @@ void dckCell::Connect(const Field& field) {
 }
 
 void dckCell::AddKeys() {
-    AddCloseKeys(*this);
     const auto add = [this](const QKeySequence& keys, auto&& action) {
         auto* shortcut = new QShortcut(keys, this);
         shortcut->setContext(Qt::WidgetWithChildrenShortcut);
@@ -228,7 +225,7 @@ TimingProblem dckCell::Unfinished() const {
     return ChooseTimingMode(timeout_->Options(), typed.TimeConst, typed.TimingVar).Problem;
 }
 
-void dckCell::FocusFirst() {
+void dckCell::TakeFocus() {
     for (const Field& field : fields_) {
         QWidget* control = WidgetOf(field.Control);
         if (control->isEnabled() && control->isVisibleTo(this))
@@ -259,8 +256,6 @@ bool dckCell::IsEndOfField(const QEvent& event) const {
            static_cast<const QFocusEvent&>(event).reason() != Qt::PopupFocusReason;
 }
 
-bool dckCell::event(QEvent* event) { return TakesHelpKey(*event, kHelpPage) || QDockWidget::event(event); }
-
 // Esc is taken before it becomes the pane's shortcut: it takes an edited field back first. A list of words
 // that is open over the code has it for itself.
 bool dckCell::eventFilter(QObject* watched, QEvent* event) {
@@ -268,7 +263,7 @@ bool dckCell::eventFilter(QObject* watched, QEvent* event) {
         Q_EMIT FieldLeft();
     const bool isPress = event->type() == QEvent::KeyPress;
     if (!isPress && event->type() != QEvent::ShortcutOverride)
-        return QDockWidget::eventFilter(watched, event);
+        return Pane::eventFilter(watched, event);
     const int key = static_cast<QKeyEvent*>(event)->key();
     const auto* pane = qobject_cast<CodePane*>(watched);
     if (key == Qt::Key_Escape && (pane == nullptr || !pane->isListActive())) {
@@ -280,7 +275,7 @@ bool dckCell::eventFilter(QObject* watched, QEvent* event) {
     if (isPress && (key == Qt::Key_Return || key == Qt::Key_Enter) &&
         qobject_cast<DocumentLineEdit*>(watched) != nullptr)
         Q_EMIT FieldLeft();
-    return QDockWidget::eventFilter(watched, event);
+    return Pane::eventFilter(watched, event);
 }
 
 } // namespace orvane

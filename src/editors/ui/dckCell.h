@@ -3,9 +3,8 @@
 
 #include "editors/PlaceFields.h"
 #include "editors/TimingOptions.h"
+#include "kit/Pane.h"
 #include "text/Vocabulary.h"
-
-#include <QDockWidget>
 
 #include <variant>
 #include <vector>
@@ -25,7 +24,7 @@ class TimeoutPage;
 // Everything of one place of the table beside it: the transition, the event and the state, each in fields
 // that can be edited. It holds what is typed and knows nothing of undo: whoever owns it takes that when it is
 // told.
-class dckCell : public QDockWidget {
+class dckCell : public Pane {
     Q_OBJECT
 
   public:
@@ -44,8 +43,8 @@ class dckCell : public QDockWidget {
     // Options of the timeout that make no mode yet, because the limit is missing.
     TimingProblem Unfinished() const;
 
-    // The first field of what the place has gets the focus.
-    void FocusFirst();
+    // To the first field of what the place has.
+    void TakeFocus() override;
 
   Q_SIGNALS:
     void Edited();    // by a letter
@@ -53,7 +52,6 @@ class dckCell : public QDockWidget {
     void CharactersLeftOut(const QString& characters);
 
   protected:
-    bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:

@@ -19,14 +19,12 @@ namespace {
 constexpr auto kOwnCommands = std::to_array<Command>(
     {Command::Find, Command::WhereUsed, Command::ViewFind, Command::StateUses, Command::EventUses});
 
-bool ChangesTexts(ChangeKind kind) {
-    return kind == ChangeKind::Replaced || kind == ChangeKind::Edited || kind == ChangeKind::Undone ||
-           kind == ChangeKind::Redone || kind == ChangeKind::Typed || kind == ChangeKind::Viewed;
-}
-
 } // namespace
 
-FindRoom::FindRoom(const RoomPlace& place) : session_(place.Open), window_(place.Window) {
+FindRoom::FindRoom(const RoomPlace& place)
+    : PaneRoom(place.Window, Command::ViewFind, Qt::BottomDockWidgetArea),
+      session_(place.Open),
+      window_(place.Window) {
     for (const auto& [key, by] :
          {std::pair{QKeySequence(Qt::Key_F3), 1}, std::pair{QKeySequence(Qt::SHIFT | Qt::Key_F3), -1}}) {
         auto* shortcut = new QShortcut(key, &window_);
@@ -38,12 +36,10 @@ std::span<const Command> FindRoom::Commands() const { return kOwnCommands; }
 
 ObserverRank FindRoom::Rank() const { return ObserverRank::Rooms; }
 
-bool FindRoom::Listens() const { return pane_ != nullptr && pane_->isVisible(); }
-
 void FindRoom::Run(Command command) {
     switch (command) {
     case Command::ViewFind:
-        return TogglePane();
+        return Toggle();
     case Command::WhereUsed:
         return ShowUsesOf(ChosenSubject(window_, session_));
     case Command::StateUses:
@@ -51,38 +47,20 @@ void FindRoom::Run(Command command) {
     case Command::EventUses:
         return ShowUsesOf(find::OfEvent{session_.Pressed().Row});
     default:
-        ShowPane();
-        return pane_->BeginFind({});
+        return Open();
     }
 }
 
-void FindRoom::TogglePane() {
-    if (pane_ != nullptr && pane_->isVisible())
-        return pane_->hide();
-    ShowPane();
-    pane_->BeginFind({});
-}
-
-void FindRoom::ShowPane() {
-    if (pane_ == nullptr)
-        MakePane();
-    if (pane_->isVisible())
-        return;
-    pane_->show();
-    LookAgain();
-}
-
-void FindRoom::MakePane() {
+Pane* FindRoom::MakePane() {
     pane_ = new dckFind(session_.Document(), &window_);
-    pane_->hide();
-    window_.addDockWidget(Qt::BottomDockWidgetArea, pane_);
     connect(pane_, &dckFind::QueryChanged, this, &FindRoom::LookForText);
     connect(pane_, &dckFind::ReplaceWanted, this, &FindRoom::Replace);
     connect(pane_, &dckFind::PieceChosen, this, &FindRoom::GoTo);
     connect(pane_, &dckFind::PlaceChosen, this, &Room::PlaceChosen);
-    connect(pane_, &QDockWidget::visibilityChanged, this,
-            [this](bool shown) { session_.SetPaneShown(Command::ViewFind, shown); });
+    return pane_;
 }
+
+void FindRoom::Shown() { LookAgain(); }
 
 void FindRoom::Step(int by) {
     if (pane_ == nullptr)
@@ -94,7 +72,7 @@ void FindRoom::Step(int by) {
 void FindRoom::Told(const Change& change) {
     if (change.Kind == ChangeKind::Replaced)
         subject_.reset(); // of another document
-    if (ChangesTexts(change.Kind))
+    if (ChangesTexts(change.Kind) || change.Kind == ChangeKind::Viewed)
         LookAgain();
 }
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "find/Subject.h"
-#include "kit/Room.h"
+#include "kit/PaneRoom.h"
 
 #include <optional>
 #include <string>
@@ -13,7 +13,7 @@ class dckFind;
 
 // Finds texts, replaces them, and tells where something is used. The pane is hidden until it is asked for and
 // costs nothing then; while it is shown its lists follow every edit.
-class FindRoom : public Room {
+class FindRoom : public PaneRoom {
     Q_OBJECT
 
   public:
@@ -22,13 +22,14 @@ class FindRoom : public Room {
     std::span<const Command> Commands() const override;
     void Run(Command command) override;
     ObserverRank Rank() const override;
-    bool Listens() const override;
     void Told(const Change& change) override;
 
+  protected:
+    Pane* MakePane() override;
+    void Shown() override;
+    void Hiding() override {}
+
   private:
-    void TogglePane();
-    void ShowPane();
-    void MakePane();
     void Step(int by);
     void LookAgain();
     void LookForText();

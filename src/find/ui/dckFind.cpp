@@ -5,10 +5,8 @@
 #include "find/ui/HitsModel.h"
 #include "find/ui/UsesModel.h"
 #include "kit/AnsiString.h"
-#include "kit/CloseKeys.h"
 #include "kit/DocumentLineEdit.h"
 #include "kit/LeftOut.h"
-#include "kit/OpenInDesktop.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>
@@ -39,17 +37,15 @@ QLabel* MakeLabel(QWidget* parent, const char* name) {
 } // namespace
 
 dckFind::dckFind(const FsmDocument& document, QWidget* parent)
-    : QDockWidget(tr("Find"), parent),
+    : Pane("dckFind", tr("Find"), kHelpPage, parent),
       hits_(new HitsModel(document, this)),
       uses_(new UsesModel(document, this)) {
-    setObjectName(QStringLiteral("dckFind"));
     tabFind = new QTabWidget(this);
     tabFind->setObjectName(QStringLiteral("tabFind"));
     tabFind->addTab(MakeFindPage(), tr("Find"));
     tabFind->addTab(MakeUsesPage(), tr("Where used"));
     setWidget(tabFind);
     ConnectLists();
-    AddCloseKeys(*this);
 }
 
 QWidget* dckFind::MakeFindPage() {
@@ -126,10 +122,8 @@ void dckFind::ConnectLists() {
     }
 }
 
-void dckFind::BeginFind(const QString& text) {
+void dckFind::TakeFocus() {
     tabFind->setCurrentIndex(0);
-    if (!text.isEmpty())
-        txtFind->setText(text);
     txtFind->selectAll();
     txtFind->setFocus();
 }
@@ -206,7 +200,5 @@ void dckFind::ChooseUse(int row) {
     else
         Q_EMIT PlaceChosen(use.At);
 }
-
-bool dckFind::event(QEvent* event) { return TakesHelpKey(*event, kHelpPage) || QDockWidget::event(event); }
 
 } // namespace orvane

@@ -4,8 +4,7 @@
 #include "find/Pattern.h"
 #include "find/Search.h"
 #include "find/WhereUsed.h"
-
-#include <QDockWidget>
+#include "kit/Pane.h"
 
 #include <optional>
 
@@ -24,16 +23,15 @@ class UsesModel;
 
 // The pane below the table in which texts are looked for and uses are listed. It shows what it is given and
 // tells what the user wants; it looks for nothing itself.
-class dckFind : public QDockWidget {
+class dckFind : public Pane {
     Q_OBJECT
 
   public:
     // The document outlives the pane.
     dckFind(const FsmDocument& document, QWidget* parent);
 
-    // The page for looking, the caret in the field; the text, when there is one, in place of what stands
-    // there.
-    void BeginFind(const QString& text);
+    // To the field for what is looked for, ready to type another.
+    void TakeFocus() override;
     find::SearchQuery Query() const;
     std::string Replacement() const;
     // What the query has found, or why nothing could be looked for. The row that was chosen stays chosen.
@@ -50,9 +48,6 @@ class dckFind : public QDockWidget {
     void ReplaceWanted();
     void PieceChosen(const orvane::TextPiece& piece);
     void PlaceChosen(orvane::Cell place);
-
-  protected:
-    bool event(QEvent* event) override;
 
   private:
     QWidget* MakeFindPage();

@@ -17,25 +17,12 @@ namespace {
 constexpr auto kOwnCommands =
     std::to_array<Command>({Command::ViewFindings, Command::NextFinding, Command::PreviousFinding});
 
-// What the generator has looked at anew.
-bool ChangesTheDesign(ChangeKind kind) {
-    switch (kind) {
-    case ChangeKind::Replaced:
-    case ChangeKind::Edited:
-    case ChangeKind::Undone:
-    case ChangeKind::Redone:
-    case ChangeKind::Typed:
-    case ChangeKind::Multitasking:
-    case ChangeKind::ProgramWanted:
-        return true;
-    default:
-        return false;
-    }
-}
-
 } // namespace
 
-FindingsRoom::FindingsRoom(const RoomPlace& place) : session_(place.Open), window_(place.Window) {}
+FindingsRoom::FindingsRoom(const RoomPlace& place)
+    : PaneRoom(place.Window, Command::ViewFindings, Qt::BottomDockWidgetArea),
+      session_(place.Open),
+      window_(place.Window) {}
 
 FindingsRoom::~FindingsRoom() = default;
 
@@ -45,42 +32,25 @@ ObserverRank FindingsRoom::Rank() const { return ObserverRank::Rooms; }
 
 void FindingsRoom::Run(Command command) {
     if (command == Command::ViewFindings)
-        TogglePane();
+        Toggle();
     else
         GoOn(command == Command::NextFinding ? 1 : -1);
 }
 
-void FindingsRoom::TogglePane() {
-    if (session_.ListsFindings()) {
-        pane_->close();
-        return;
-    }
-    if (pane_ == nullptr)
-        MakePane();
-    pane_->show();
-    pane_->raise();
-    pane_->setFocus();
-}
-
-void FindingsRoom::MakePane() {
+Pane* FindingsRoom::MakePane() {
     pane_ = new dckFindings(session_.Document(), session_.Findings(), &window_);
-    pane_->hide();
-    window_.addDockWidget(Qt::BottomDockWidgetArea, pane_);
-    connect(pane_, &QDockWidget::visibilityChanged, this, &FindingsRoom::PaneShown);
     connect(pane_, &dckFindings::FindingChosen, this, &FindingsRoom::GoTo);
     connect(pane_, &dckFindings::ExploringWanted, this, &FindingsRoom::Explore);
+    return pane_;
 }
 
-// Also when the user closes the pane by its own button.
-void FindingsRoom::PaneShown(bool shown) {
-    if (shown == session_.ListsFindings())
-        return;
-    session_.ListFindings(shown);
-    Explore();
-}
+void FindingsRoom::Shown() { Explore(); }
 
+void FindingsRoom::Hiding() { Forget(); }
+
+// After what the generator has looked at anew.
 void FindingsRoom::Told(const Change& change) {
-    if (!ChangesTheDesign(change.Kind))
+    if (!ChangesTheProgram(change.Kind) && change.Kind != ChangeKind::ProgramWanted)
         return;
     if (change.Kind == ChangeKind::Replaced)
         last_.reset();
@@ -88,13 +58,17 @@ void FindingsRoom::Told(const Change& change) {
 }
 
 // What was found of the table as it was is not true of this one.
-void FindingsRoom::Explore() {
+void FindingsRoom::Forget() {
     work_.Drop();
     explored_.clear();
     Gather();
-    if (pane_ == nullptr)
+}
+
+void FindingsRoom::Explore() {
+    Forget();
+    if (!IsShown())
         return;
-    const bool wanted = session_.ListsFindings() && pane_->Explores();
+    const bool wanted = pane_->Explores();
     pane_->ShowExploring(wanted ? tr("Looking...") : QString());
     if (wanted)
         work_.Begin([document = session_.Document()](
@@ -114,7 +88,7 @@ void FindingsRoom::Gather() {
     std::vector<DesignFinding> list = findings::FindingList(session_.Report(), session_.Document());
     list.insert(list.end(), explored_.begin(), explored_.end());
     session_.ShowFindings(std::move(list));
-    if (session_.ListsFindings())
+    if (IsShown())
         pane_->ShowFindings();
 }
 
@@ -135,7 +109,7 @@ void FindingsRoom::GoTo(int row) {
     at_ = std::size_t(row);
     const DesignFinding finding = session_.Findings().at(at_);
     last_ = finding;
-    if (session_.ListsFindings())
+    if (IsShown())
         pane_->Choose(row);
     Q_EMIT PlaceChosen(finding.Place);
     Q_EMIT Said(tr("%1: %2").arg(FromAnsi(LevelWord(finding.Level)), FromAnsi(finding.Text)));

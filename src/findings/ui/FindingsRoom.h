@@ -4,7 +4,7 @@
 #include "core/DesignFinding.h"
 #include "findings/FindingList.h"
 #include "kit/Background.h"
-#include "kit/Room.h"
+#include "kit/PaneRoom.h"
 
 #include <optional>
 #include <vector>
@@ -15,7 +15,7 @@ class dckFindings;
 
 // Gathers what there is to be told of the design after every edit: for the count in the status bar, for the
 // marks in the table, and for the list, which is hidden until it is asked for.
-class FindingsRoom : public Room {
+class FindingsRoom : public PaneRoom {
     Q_OBJECT
 
   public:
@@ -28,11 +28,14 @@ class FindingsRoom : public Room {
     bool Listens() const override { return true; }
     void Told(const Change& change) override;
 
+  protected:
+    Pane* MakePane() override;
+    void Shown() override;
+    void Hiding() override;
+
   private:
-    void TogglePane();
-    void MakePane();
-    void PaneShown(bool shown);
     void Gather();
+    void Forget();
     void Explore();
     void TakeExplored(findings::Explored explored);
     void GoOn(int step);

@@ -2,8 +2,6 @@
 #include "findings/ui/dckFindings.h"
 
 #include "findings/ui/FindingsModel.h"
-#include "kit/CloseKeys.h"
-#include "kit/OpenInDesktop.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>
@@ -24,19 +22,17 @@ constexpr int kPlaceWidth = 32;
 
 dckFindings::dckFindings(const FsmDocument& document, const std::vector<DesignFinding>& findings,
                          QWidget* parent)
-    : QDockWidget(tr("Findings"), parent),
+    : Pane("dckFindings", tr("Findings"), kHelpPage, parent),
       model_(new FindingsModel(document, findings, this)),
       lstFindings(new QTableView(this)),
       chkExplore(new QCheckBox(tr("Look at all that the machine can do, too"), this)),
       lblExplore(new QLabel(this)) {
-    setObjectName(QStringLiteral("dckFindings"));
     auto* body = new QWidget(this);
     auto* column = new QVBoxLayout(body);
     MakeList(*column);
     MakeBottom(*column);
     setWidget(body);
     setFocusProxy(lstFindings);
-    AddCloseKeys(*this);
 }
 
 void dckFindings::MakeList(QVBoxLayout& column) {
@@ -91,15 +87,11 @@ bool dckFindings::Explores() const { return chkExplore->isChecked(); }
 
 void dckFindings::ShowExploring(const QString& text) { lblExplore->setText(text); }
 
-bool dckFindings::event(QEvent* event) {
-    return TakesHelpKey(*event, kHelpPage) || QDockWidget::event(event);
-}
-
 bool dckFindings::eventFilter(QObject* watched, QEvent* event) {
     const auto* key = event->type() == QEvent::KeyPress ? dynamic_cast<QKeyEvent*>(event) : nullptr;
     if (watched != lstFindings || key == nullptr ||
         (key->key() != Qt::Key_Return && key->key() != Qt::Key_Enter))
-        return QDockWidget::eventFilter(watched, event);
+        return Pane::eventFilter(watched, event);
     if (lstFindings->currentIndex().isValid())
         Q_EMIT FindingChosen(lstFindings->currentIndex().row());
     return true;

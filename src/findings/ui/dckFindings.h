@@ -3,8 +3,7 @@
 
 #include "core/DesignFinding.h"
 #include "core/FsmDocument.h"
-
-#include <QDockWidget>
+#include "kit/Pane.h"
 
 #include <vector>
 
@@ -18,7 +17,7 @@ namespace orvane {
 class FindingsModel;
 
 // The list of all that there is to be told of the design. It shows them and tells where the user wants to go.
-class dckFindings : public QDockWidget {
+class dckFindings : public Pane {
     Q_OBJECT
 
   public:
@@ -38,7 +37,6 @@ class dckFindings : public QDockWidget {
     void ExploringWanted(bool wanted);
 
   protected:
-    bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:

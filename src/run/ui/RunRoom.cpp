@@ -26,12 +26,6 @@ constexpr auto kOwnCommands =
     std::to_array<Command>({Command::ViewRun, Command::PowerOn, Command::StepTime, Command::StepBack,
                             Command::ToTimeout, Command::SaveAsTest, Command::RunTests, Command::Tour});
 
-// What the program of the table depends on.
-bool ChangesTheMachine(ChangeKind kind) {
-    return kind == ChangeKind::Edited || kind == ChangeKind::Undone || kind == ChangeKind::Redone ||
-           kind == ChangeKind::Multitasking;
-}
-
 RunWish WishOf(Command command) {
     switch (command) {
     case Command::PowerOn:
@@ -51,7 +45,10 @@ RunWish WishOf(Command command) {
 
 } // namespace
 
-RunRoom::RunRoom(const RoomPlace& place) : session_(place.Open), window_(place.Window) {
+RunRoom::RunRoom(const RoomPlace& place)
+    : PaneRoom(place.Window, Command::ViewRun, Qt::RightDockWidgetArea),
+      session_(place.Open),
+      window_(place.Window) {
     tmrReplay_.setInterval(0);
     connect(&tmrReplay_, &QTimer::timeout, this, &RunRoom::ReplayOn);
 }
@@ -64,41 +61,22 @@ ObserverRank RunRoom::Rank() const { return ObserverRank::Rooms; }
 
 void RunRoom::Run(Command command) {
     if (command == Command::ViewRun)
-        return TogglePane();
+        return Toggle();
     if (command == Command::Tour)
         return MakeTour();
-    ShowPane();
+    if (!IsShown())
+        Open();
     Do(WishOf(command));
 }
 
-bool RunRoom::IsShown() const { return session_.Run().has_value(); }
-
-void RunRoom::TogglePane() {
-    if (IsShown())
-        pane_->close();
-    else
-        ShowPane();
-}
-
-void RunRoom::ShowPane() {
-    if (IsShown())
-        return;
-    if (pane_ == nullptr)
-        MakePane();
-    pane_->show();
-    pane_->raise();
-    pane_->setFocus();
-}
-
-void RunRoom::MakePane() {
+Pane* RunRoom::MakePane() {
     run_ = std::make_unique<run::LiveRun>(session_.Document());
     pane_ = new dckRun(session_.Document(), *run_, &window_);
     pane_->setFocusPolicy(Qt::StrongFocus);
-    pane_->hide();
-    window_.addDockWidget(Qt::RightDockWidgetArea, pane_);
     tests_ = new TestsPane(pane_);
     pane_->AddBelow(tests_);
     ConnectPane();
+    return pane_;
 }
 
 void RunRoom::ConnectPane() {
@@ -106,7 +84,6 @@ void RunRoom::ConnectPane() {
         run_->Play(test);
         Show(Log::IsAnother);
     });
-    connect(pane_, &QDockWidget::visibilityChanged, this, &RunRoom::PaneShown);
     connect(pane_, &dckRun::Wanted, this, &RunRoom::Do);
     connect(pane_, &dckRun::PulseWanted, this, &RunRoom::FireEvent);
     connect(pane_, &dckRun::HoldWanted, this, [this](RowNumber event) {
@@ -129,23 +106,21 @@ void RunRoom::ConnectPane() {
     });
 }
 
-// Also when the user closes the pane by its own button.
-void RunRoom::PaneShown(bool shown) {
-    if (shown == IsShown())
-        return;
-    if (!shown) {
-        pane_->StopTime();
-        DropSearch();
-        session_.ShowRun(std::nullopt);
-        return;
-    }
+void RunRoom::Shown() {
     if (std::exchange(missedEdits_, false))
         run_->Recompile();
     Show(Log::IsAnother);
 }
 
+void RunRoom::Hiding() {
+    pane_->StopTime();
+    DropSearch();
+    session_.ShowRun(std::nullopt);
+}
+
+// The letters of the general code, which are told one by one, make no other machine.
 void RunRoom::Told(const Change& change) {
-    if (change.Kind != ChangeKind::Replaced && !ChangesTheMachine(change.Kind))
+    if (!ChangesTheProgram(change.Kind) || change.Kind == ChangeKind::Typed)
         return;
     if (frmTour_ != nullptr)
         frmTour_->TakeEdit();

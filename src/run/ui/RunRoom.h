@@ -2,7 +2,7 @@
 #pragma once
 
 #include "kit/Background.h"
-#include "kit/Room.h"
+#include "kit/PaneRoom.h"
 #include "run/WayFromRun.h"
 #include "run/ui/RunWish.h"
 
@@ -21,7 +21,7 @@ class LiveRun;
 
 // Runs the machine while it is drawn. The pane is hidden until it is asked for, and costs nothing then; what
 // was done in it is played again on the table as it is when the pane is shown again.
-class RunRoom : public Room {
+class RunRoom : public PaneRoom {
     Q_OBJECT
 
   public:
@@ -35,13 +35,14 @@ class RunRoom : public Room {
     void Told(const Change& change) override;
     void FireEvent(RowNumber row) override;
 
+  protected:
+    Pane* MakePane() override;
+    void Shown() override;
+    void Hiding() override;
+
   private:
     enum class Log { GoesOn, IsAnother };
 
-    void TogglePane();
-    void ShowPane();
-    void MakePane();
-    void PaneShown(bool shown);
     void ConnectPane();
     void TellRun(const Change& change);
     void Do(RunWish wish);
@@ -52,7 +53,6 @@ class RunRoom : public Room {
     void SaveAsTest();
     void RunTests();
     void Show(Log log);
-    bool IsShown() const;
 
     Session& session_;
     QMainWindow& window_;

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "run/ui/dckRun.h"
 
-#include "kit/CloseKeys.h"
-#include "kit/OpenInDesktop.h"
 #include "run/RunWords.h"
 #include "run/ui/InputsModel.h"
 #include "run/ui/InputsView.h"
@@ -42,14 +40,13 @@ QLabel* MakeLabel(QWidget* parent, const char* name) {
 } // namespace
 
 dckRun::dckRun(const FsmDocument& document, const run::LiveRun& run, QWidget* parent)
-    : QDockWidget(tr("Run the machine"), parent),
+    : Pane("dckRun", tr("Run the machine"), kHelpPage, parent),
       document_(document),
       run_(run),
       body_(new QWidget(this)),
       inputs_(new InputsModel(document, run, this)),
       timers_(new TimersModel(document, run, this)),
       log_(new LogModel(document, run, this)) {
-    setObjectName(QStringLiteral("dckRun"));
     auto* layout = new QVBoxLayout(body_);
     MakeTop(*layout);
     MakeLists(*layout);
@@ -178,7 +175,6 @@ void dckRun::AddKeys() {
     AddKey(Qt::Key_Backspace, RunWish::StepBack);
     AddKey(QKeySequence(Qt::SHIFT | Qt::Key_Backspace), RunWish::StepForward);
     AddKey(Qt::Key_Home, RunWish::PowerOn);
-    AddCloseKeys(*this);
     auto* runs = new QShortcut(Qt::Key_R, this);
     runs->setContext(Qt::WidgetWithChildrenShortcut);
     runs->setAutoRepeat(false);
@@ -190,8 +186,6 @@ void dckRun::AddKey(const QKeySequence& key, RunWish wish) {
     shortcut->setContext(Qt::WidgetWithChildrenShortcut);
     connect(shortcut, &QShortcut::activated, this, [this, wish] { Q_EMIT Wanted(wish); });
 }
-
-bool dckRun::event(QEvent* event) { return TakesHelpKey(*event, kHelpPage) || QDockWidget::event(event); }
 
 void dckRun::ShowRun(bool anew) {
     const RowNumber chosen =

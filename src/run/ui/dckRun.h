@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "kit/Pane.h"
 #include "run/LiveRun.h"
 #include "run/ui/RunWish.h"
-
-#include <QDockWidget>
 
 class QBoxLayout;
 class QCheckBox;
@@ -26,7 +25,7 @@ class fraWay;
 
 // The pane beside the table in which the machine is run. It shows a run and tells what the user wants done
 // to it; it does nothing to it itself.
-class dckRun : public QDockWidget {
+class dckRun : public Pane {
     Q_OBJECT
 
   public:
@@ -57,9 +56,6 @@ class dckRun : public QDockWidget {
     void LimitGiven(orvane::run::Units units);
     void WayWanted(orvane::StateNumber to);
     void SearchUnwanted();
-
-  protected:
-    bool event(QEvent* event) override;
 
   private:
     void MakeTop(QVBoxLayout& layout);
