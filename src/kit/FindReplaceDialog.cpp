@@ -3,6 +3,7 @@
 
 #include "kit/CloseKeys.h"
 #include "kit/DocumentLineEdit.h"
+#include "kit/EditedLabel.h"
 #include "kit/LeftOut.h"
 #include "kit/QScintilla.h"
 
@@ -42,10 +43,7 @@ FindReplaceDialog::FindReplaceDialog(QsciScintilla* editor) : QDialog(editor), e
     lblResult = new QLabel(this);
     lblResult->setObjectName(QStringLiteral("lblResult"));
     grid->addWidget(lblResult, 3, 0, 1, 2);
-    auto* lblEdited = new QLabel(editor->accessibleName(), this);
-    lblEdited->setObjectName(QStringLiteral("lblEdited"));
-    lblEdited->setTextFormat(Qt::PlainText);
-    lblEdited->setWordWrap(true);
+    auto* lblEdited = new EditedLabel(this, editor->accessibleName());
     grid->addWidget(lblEdited, 4, 0, 1, 3);
     grid->setColumnStretch(1, 1);
     AddCloseKeys(*this);

@@ -6,6 +6,7 @@
 #include "builder/ui/ScriptGate.h"
 #include "kit/AnsiString.h"
 #include "kit/CloseKeys.h"
+#include "kit/EditedLabel.h"
 #include "kit/OpenInDesktop.h"
 #include "kit/UserMessageBox.h"
 #include "session/Session.h"
@@ -83,6 +84,7 @@ bool frmBuilder::MayLeaveScript() {
 }
 
 void frmBuilder::BuildControls() {
+    lblEdited = new EditedLabel(this);
     txtBuildScript = new QPlainTextEdit(this);
     txtBuildScript->setObjectName(QStringLiteral("txtBuildScript"));
     txtBuildScript->setAccessibleName(tr("Builder script"));
@@ -122,6 +124,7 @@ void frmBuilder::LayOut() {
     actions->addWidget(cmdSave);
     actions->addWidget(cmdRun);
     auto* all = new QVBoxLayout(this);
+    all->addWidget(lblEdited);
     all->addWidget(txtBuildScript, 1);
     all->addWidget(txtPrompt);
     all->addLayout(file);
@@ -146,8 +149,15 @@ void frmBuilder::ShowScript(const QString& script) {
 
 void frmBuilder::SetFileName(const QString& path) { txtFileName->setText(path); }
 
-void frmBuilder::StartDocument() {
+void frmBuilder::TakeDocumentPath() {
     documentPath_ = QString::fromStdString(session_.Path());
+    lblEdited->ShowEdited(documentPath_.isEmpty()
+                              ? tr("The builder script of a machine that has no file yet")
+                              : tr("The builder script of %1").arg(QFileInfo(documentPath_).fileName()));
+}
+
+void frmBuilder::StartDocument() {
+    TakeDocumentPath();
     settled_ = false;
     knownFile_.clear();
     lastSavedScript_.clear();
@@ -167,7 +177,7 @@ void frmBuilder::RenameDocument() {
     if (documentPath_ == QString::fromStdString(session_.Path()))
         return; // the document names its script as before
     const bool hadDefault = txtFileName->text().isEmpty() || txtFileName->text() == DefaultName();
-    documentPath_ = QString::fromStdString(session_.Path());
+    TakeDocumentPath();
     if (!settled_ || !hadDefault)
         return;
     if (txtBuildScript->document()->isModified()) {

@@ -13,6 +13,7 @@ class QPushButton;
 
 namespace orvane {
 
+class EditedLabel;
 class Session;
 
 // Shows and edits the builder script of the document and starts the build.
@@ -68,6 +69,7 @@ class frmBuilder : public TabStops<QWidget>, public DraftSource {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
+    void TakeDocumentPath();
     void BuildControls();
     void LayOut();
     void Settle();
@@ -90,6 +92,7 @@ class frmBuilder : public TabStops<QWidget>, public DraftSource {
     QString DefaultName() const;
     void Warn(const QString& text);
 
+    EditedLabel* lblEdited = nullptr;
     QPlainTextEdit* txtBuildScript = nullptr;
     QPlainTextEdit* txtPrompt = nullptr;
     QLineEdit* txtFileName = nullptr;

@@ -5,6 +5,7 @@
 #include "kit/CodePane.h"
 #include "kit/DocumentLineEdit.h"
 #include "kit/DocumentTextEdit.h"
+#include "kit/EditedLabel.h"
 #include "kit/OpenInDesktop.h"
 
 #include <QHBoxLayout>
@@ -19,20 +20,12 @@ namespace orvane {
 
 EditorDialog::EditorDialog(const QString& name, int helpPage, QWidget* parent) : TabStops(parent) {
     setObjectName(name);
-    lblEdited = BuildPrompt("lblEdited", {});
-    lblEdited->setWordWrap(false);
-    lblEdited->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed); // a long name is cut off
-    QFont bold = lblEdited->font();
-    bold.setBold(true);
-    lblEdited->setFont(bold);
+    lblEdited = new EditedLabel(this);
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     AddHelpKey(*this, helpPage);
 }
 
-void EditorDialog::SetEdited(const QString& what) {
-    lblEdited->setText(what);
-    lblEdited->setToolTip(Qt::mightBeRichText(what) ? what.toHtmlEscaped() : what);
-}
+void EditorDialog::SetEdited(const QString& what) { lblEdited->ShowEdited(what); }
 
 // Left to itself Qt puts it over the window anew each time, beside where the frame was.
 void EditorDialog::setVisible(bool visible) {

@@ -17,6 +17,7 @@ namespace orvane {
 class CodePane;
 class DocumentLineEdit;
 class DocumentTextEdit;
+class EditedLabel;
 class EditorStatusBar;
 
 // What the dialogs that edit a piece of the document have in common: OK and Cancel, the help page on F1, and
@@ -70,7 +71,7 @@ class EditorDialog : public TabStops<QDialog> {
   private:
     std::function<void()> WhenChanged(const std::function<void()>& changed);
 
-    QLabel* lblEdited = nullptr;
+    EditedLabel* lblEdited = nullptr;
     QByteArray place_; // where it was closed
     bool filling_ = false;
 };

@@ -8,6 +8,7 @@
 #include "find/ui/PlanModel.h"
 #include "kit/AnsiString.h"
 #include "kit/DocumentLineEdit.h"
+#include "kit/EditedLabel.h"
 #include "kit/OpenInDesktop.h"
 
 #include <QCheckBox>
@@ -39,9 +40,7 @@ frmMove::frmMove(const FsmDocument& document, Cell what, QWidget* parent)
 void frmMove::Build() {
     const bool ofState = what_.State != kNoState;
     auto* layout = new QVBoxLayout(this);
-    auto* lblEdited = new QLabel(FromAnsi(find::CellTitle(document_, what_)), this);
-    lblEdited->setObjectName(QStringLiteral("lblEdited"));
-    lblEdited->setTextFormat(Qt::PlainText);
+    auto* lblEdited = new EditedLabel(this, FromAnsi(find::CellTitle(document_, what_)));
     txtPlace = new DocumentLineEdit(this);
     txtPlace->setObjectName(QStringLiteral("txtPlace"));
     txtPlace->setAccessibleName(tr("Number of the place"));

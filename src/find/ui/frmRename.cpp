@@ -6,6 +6,7 @@
 #include "find/ui/PlanModel.h"
 #include "kit/AnsiString.h"
 #include "kit/DocumentLineEdit.h"
+#include "kit/EditedLabel.h"
 #include "kit/LeftOut.h"
 #include "kit/OpenInDesktop.h"
 
@@ -41,9 +42,7 @@ frmRename::frmRename(const FsmDocument& document, find::Subject subject, QWidget
 }
 
 void frmRename::Build() {
-    auto* lblEdited = new QLabel(FromAnsi(find::TitleOf(document_, subject_)), this);
-    lblEdited->setObjectName(QStringLiteral("lblEdited"));
-    lblEdited->setTextFormat(Qt::PlainText);
+    auto* lblEdited = new EditedLabel(this, FromAnsi(find::TitleOf(document_, subject_)));
     txtNew = new DocumentLineEdit(this);
     txtNew->setObjectName(QStringLiteral("txtNew"));
     txtNew->setAccessibleName(tr("New name"));

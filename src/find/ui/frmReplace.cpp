@@ -5,6 +5,7 @@
 #include "find/ui/PlanButtons.h"
 #include "find/ui/PlanModel.h"
 #include "kit/AnsiString.h"
+#include "kit/EditedLabel.h"
 #include "kit/OpenInDesktop.h"
 
 #include <QLabel>
@@ -27,8 +28,7 @@ frmReplace::frmReplace(const FsmDocument& document, find::ReplacementPlan plan, 
     setObjectName(QStringLiteral("frmReplace"));
     setWindowTitle(tr("Replace in all"));
     AddHelpKey(*this, kHelpPage);
-    auto* lblEdited = new QLabel(tr("All texts of the machine"), this);
-    lblEdited->setObjectName(QStringLiteral("lblEdited"));
+    auto* lblEdited = new EditedLabel(this, tr("All texts of the machine"));
     auto* lblNotes = new QLabel(NoteOf(plan), this);
     lblNotes->setObjectName(QStringLiteral("lblNotes"));
     lblNotes->setWordWrap(true);

@@ -6,6 +6,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QLabel>
 #include <QPlainTextEdit>
 #include <QTest>
 
@@ -113,6 +114,18 @@ TEST_F(BuilderRoomTest, WhatTheFileLosesByASaveIsToldInTheStatusBar) {
         "machine.b1d: The file has other names (hard links): these keep what was there before"));
 }
 #endif
+
+TEST_F(BuilderRoomTest, TheWindowSaysWhoseScriptItShows) {
+    Start({QStringLiteral("/nosplash")});
+    OpenBuilder();
+    const auto edited = [this] { return Named<QLabel>(Builder(), "lblEdited").text().toStdString(); };
+    EXPECT_EQ(edited(), "The builder script of a machine that has no file yet");
+    Answers.ChooseFile(Path(QStringLiteral("pump.zfsm")));
+    Trigger("mnuFSaveAs");
+    EXPECT_EQ(edited(), "The builder script of pump.zfsm");
+    Trigger("mnuFNew");
+    EXPECT_EQ(edited(), "The builder script of a machine that has no file yet");
+}
 
 TEST_F(BuilderRoomTest, BinaryDataIsNoScript) {
     WriteFile(kScript, std::string("CODESEG\0", 8));
