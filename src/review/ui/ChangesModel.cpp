@@ -38,7 +38,7 @@ QVariant ChangesModel::data(const QModelIndex& index, int role) const {
     case Qt::BackgroundRole:
         return isSign ? GroundOf(told.Sign) : QVariant();
     case Qt::ForegroundRole:
-        return isSign ? QColor(Qt::black) : QVariant();
+        return isSign ? InkOnGround() : QVariant();
     case Qt::TextAlignmentRole:
         return isSign ? QVariant(Qt::AlignCenter) : QVariant();
     default:

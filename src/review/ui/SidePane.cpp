@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "review/ui/SidePane.h"
 
-#include "kit/PaneLook.h"
 #include "review/ui/SignLook.h"
 
 #include <QEvent>
@@ -12,7 +11,6 @@ namespace {
 
 constexpr int kSignMargin = 2;
 constexpr int kLineMarker = 1;
-constexpr int kDarkened = 300; // per cent: a light ground for a pane with light text on it
 
 } // namespace
 
@@ -26,8 +24,7 @@ SidePane::SidePane(Side side, QWidget* parent) : CodePane({}, parent), side_(sid
 }
 
 void SidePane::ApplySignLook() {
-    const QColor ground = GroundOf(side_ == Side::Old ? '-' : '+');
-    setMarkerBackgroundColor(IsDark(palette()) ? ground.darker(kDarkened) : ground, kLineMarker);
+    setMarkerBackgroundColor(GroundOf(side_ == Side::Old ? '-' : '+'), kLineMarker);
 }
 
 // The editor takes no text while it is read only.

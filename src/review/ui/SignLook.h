@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // How what came, went, moved and changed looks wherever two versions are shown: always with its sign, so that
-// nobody has to tell colours apart. The grounds are light and the text on them is black on every desktop.
+// nobody has to tell colours apart. A dark desktop has dark grounds of the same hues.
 #pragma once
 
 #include <QColor>
@@ -10,6 +10,7 @@ namespace orvane {
 
 // Of + - > ~; no colour for any other sign.
 QColor GroundOf(char sign);
+QColor InkOnGround();
 
 // "- 5:Stop"; the text alone without a sign.
 QString WithSign(char sign, const QString& text);

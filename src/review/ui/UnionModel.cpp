@@ -62,7 +62,7 @@ QVariant UnionModel::data(const QModelIndex& index, int role) const {
     case Qt::BackgroundRole:
         return ground.isValid() ? ground : QVariant();
     case Qt::ForegroundRole:
-        return ground.isValid() ? QColor(Qt::black) : QVariant();
+        return ground.isValid() ? InkOnGround() : QVariant();
     case Qt::ToolTipRole:
         return WholeText(*versions_, place);
     default:
@@ -81,7 +81,7 @@ QVariant UnionModel::headerData(int section, Qt::Orientation orientation, int ro
     case Qt::BackgroundRole:
         return ground.isValid() ? ground : QVariant();
     case Qt::ForegroundRole:
-        return ground.isValid() ? QColor(Qt::black) : QVariant();
+        return ground.isValid() ? InkOnGround() : QVariant();
     case Qt::ToolTipRole:
         return HeadText(table, section, orientation);
     default:

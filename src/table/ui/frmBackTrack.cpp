@@ -4,6 +4,7 @@
 #include "kit/AnsiString.h"
 #include "kit/CloseKeys.h"
 #include "kit/OpenInDesktop.h"
+#include "kit/PaneLook.h"
 
 #include <QEvent>
 #include <QHeaderView>
@@ -22,11 +23,15 @@ constexpr int kEventColumn = 0;
 constexpr int kFromColumn = 1;
 constexpr int kEventPercent = 45; // of the grid's width; the other column has the rest
 
-// The grounds are light on every desktop, so the text is dark on every desktop.
-QTableWidgetItem* ListItem(const std::string& text, Colour ground) {
+QColor ToQColor(Colour colour) { return {colour.Red, colour.Green, colour.Blue}; }
+
+// In the colours that the table has.
+QTableWidgetItem* ListItem(const std::string& text, Colour light, bool isDark) {
+    const Colour ground = isDark ? OnDark(light) : light;
+    const bool isBlack = !isDark || TakesBlackText(ground);
     auto* item = new QTableWidgetItem(FromAnsi(text));
-    item->setBackground(QColor(ground.Red, ground.Green, ground.Blue));
-    item->setForeground(Qt::black);
+    item->setBackground(ToQColor(ground));
+    item->setForeground(isBlack ? QColor(Qt::black) : ToQColor(kLightText));
     return item;
 }
 
@@ -78,13 +83,18 @@ void frmBackTrack::Fill(const FsmDocument& document) {
         return;
     lines_ = std::move(lines);
     MSFlexGrid1->setRowCount(static_cast<int>(lines_.size()));
+    FillGrid();
+}
+
+void frmBackTrack::FillGrid() {
     for (int row = 0; const BacktrackLine& line : lines_)
         AddBacktrackLine(row++, line);
 }
 
 void frmBackTrack::AddBacktrackLine(int row, const BacktrackLine& line) {
-    MSFlexGrid1->setItem(row, kEventColumn, ListItem(line.EventText, line.EventColour));
-    MSFlexGrid1->setItem(row, kFromColumn, ListItem(line.FromText, kStateHeadColour));
+    const bool isDark = IsDark(palette());
+    MSFlexGrid1->setItem(row, kEventColumn, ListItem(line.EventText, line.EventColour, isDark));
+    MSFlexGrid1->setItem(row, kFromColumn, ListItem(line.FromText, kStateHeadColour, isDark));
 }
 
 void frmBackTrack::FitColumns() {
@@ -98,6 +108,12 @@ bool frmBackTrack::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::Resize)
         FitColumns();
     return QWidget::eventFilter(watched, event);
+}
+
+void frmBackTrack::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::PaletteChange)
+        FillGrid();
+    QWidget::changeEvent(event);
 }
 
 void frmBackTrack::Choose(int row, int column) {

@@ -29,10 +29,12 @@ class frmBackTrack : public QWidget {
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
   private:
     void BuildGrid();
     void Fill(const FsmDocument& document);
+    void FillGrid();
     void AddBacktrackLine(int row, const BacktrackLine& line);
     void FitColumns();
     void Choose(int row, int column);

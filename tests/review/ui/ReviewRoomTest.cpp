@@ -92,6 +92,22 @@ TEST_F(ReviewRoomTest, WhatWasEditedSinceTheSaveIsListedAndFollowsUndo) {
     ExpectChanges(testing::IsEmpty());
 }
 
+TEST_F(ReviewRoomTest, ADarkDesktopHasDarkGroundsWithLightText) {
+    StartOn(PumpDocument());
+    TypeTarget(7, 1, QStringLiteral("2"));
+    Compare();
+    ExpectChanges(testing::SizeIs(1));
+    const QModelIndex sign = List().model()->index(0, 0);
+    const auto lightness = [&](int role) { return sign.data(role).value<QColor>().lightness(); };
+    EXPECT_EQ(sign.data(Qt::BackgroundRole).value<QColor>(), QColor(0xFFF0B0));
+    EXPECT_EQ(sign.data(Qt::ForegroundRole).value<QColor>(), QColor(Qt::black));
+    const QPalette light = QApplication::palette();
+    QApplication::setPalette(QPalette(QColor(40, 40, 40)));
+    EXPECT_LT(lightness(Qt::BackgroundRole), 100);
+    EXPECT_GT(lightness(Qt::ForegroundRole), 200);
+    QApplication::setPalette(light);
+}
+
 TEST_F(ReviewRoomTest, ADocumentWithoutAFileSaysWhatToDo) {
     Start({QStringLiteral("/nosplash")});
     Compare();

@@ -135,6 +135,22 @@ TEST_F(frmBackTrackTest, ARefreshThatChangesNothingStaysWhereItIsScrolledTo) {
     EXPECT_EQ(Grid->visualItemRect(first).topLeft(), place);
 }
 
+TEST_F(frmBackTrackTest, ADarkDesktopHasDarkGroundsWithLightTextAtOnce) {
+    Window.BackTrack(Document, 2);
+    Window.setPalette(QPalette(QColor(40, 40, 40)));
+    for (const int row : {0, 1}) {
+        for (const int column : {0, 1}) {
+            EXPECT_LT(Grid->item(row, column)->background().color().lightness(), 100) << row << column;
+            EXPECT_GT(Grid->item(row, column)->foreground().color().lightness(), 200) << row << column;
+        }
+    }
+    EXPECT_NE(Grid->item(0, 0)->background().color(), Grid->item(1, 0)->background().color());
+    Window.BackTrack(Document, 1);
+    EXPECT_LT(Grid->item(0, 0)->background().color().lightness(), 100);
+    Window.setPalette({});
+    EXPECT_EQ(Grid->item(0, 0)->background().color(), QColor(255, 238, 204));
+}
+
 TEST_F(frmBackTrackTest, TheColumnsKeepTheirShareOfTheWidth) {
     for (const StateNumber state : StateNumbers())
         Document.State(state).Targets[6] = 2; // a scroll bar takes some of the width
