@@ -327,6 +327,21 @@ TEST_F(CurrentCellTest, ASpreadsheetGetsAndGivesTables) {
     EXPECT_EQ(Text(7, 2), "");
 }
 
+// What would be mark-up in a page, and what would be another cell or line in a table.
+TEST_F(CurrentCellTest, ANameIsGivenAwayAsItReads) {
+    FsmDocument document = GateDocument();
+    document.State(2).Name = "<b>A&B";
+    document.State(3).Name = "up\tand\r\ndown";
+    document.State(1).Targets[7] = 3;
+    StartOn(document);
+    GoTo(6, 1);
+    Key(Qt::Key_Down, Qt::ShiftModifier);
+    Key(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(SystemText(), "2:<b>A&B\n3:up and  down\n");
+    EXPECT_TRUE(QApplication::clipboard()->mimeData()->html().contains(
+        QStringLiteral("<td>2:&lt;b&gt;A&amp;B</td>")));
+}
+
 TEST_F(CurrentCellTest, APageGivesItsTableWhenItHasNoText) {
     StartOn(GateDocument());
     auto* page = new QMimeData;
