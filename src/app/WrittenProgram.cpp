@@ -16,22 +16,13 @@ WrittenProgram::WrittenProgram(Session& session, TableStatusBar& status)
 }
 
 void WrittenProgram::Told(const Change& change) {
-    switch (change.Kind) {
-    case ChangeKind::Edited:
-    case ChangeKind::Undone:
-    case ChangeKind::Redone:
-    case ChangeKind::Typed:
-    case ChangeKind::Multitasking:
-    case ChangeKind::ProgramWanted: {
-        const QString path = QString::fromStdString(ProgramFilePath(session_.Path()));
-        const bool isWritten = session_.Program().Written && !session_.Path().empty();
-        return status_.ShowProgram(isWritten ? QFileInfo(path).fileName() : QString());
-    }
-    case ChangeKind::Replaced:
+    if (change.Kind == ChangeKind::Replaced)
         return status_.ShowProgram({});
-    default:
+    if (!ChangesTheProgram(change.Kind) && change.Kind != ChangeKind::ProgramWanted)
         return;
-    }
+    const QString path = QString::fromStdString(ProgramFilePath(session_.Path()));
+    const bool isWritten = session_.Program().Written && !session_.Path().empty();
+    status_.ShowProgram(isWritten ? QFileInfo(path).fileName() : QString());
 }
 
 } // namespace orvane

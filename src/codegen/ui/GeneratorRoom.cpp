@@ -3,6 +3,7 @@
 
 #include "codegen/Reachability.h"
 #include "codegen/ui/frmGenerator.h"
+#include "files/NativeFiles.h"
 #include "kit/UserMessageBox.h"
 #include "kit/WhenIdle.h"
 #include "session/Commands.h"
@@ -47,7 +48,14 @@ std::vector<DesignFinding> ReportForAll(const Report& report) {
 } // namespace
 
 GeneratorRoom::GeneratorRoom(const RoomPlace& place)
-    : session_(place.Open), words_(place.Words), window_(place.Window), generator_(files_) {
+    : GeneratorRoom(place, std::make_unique<NativeFiles>()) {}
+
+GeneratorRoom::GeneratorRoom(const RoomPlace& place, std::unique_ptr<FileSystem> files)
+    : session_(place.Open),
+      words_(place.Words),
+      window_(place.Window),
+      files_(std::move(files)),
+      generator_(*files_) {
     connect(&generator_, &GeneratorRun::Finished, this, &GeneratorRoom::ShowRun);
     connect(&generator_, &GeneratorRun::WriteFailed, this, [this](const QString& path, const QString& why) {
         toTell_ += tr("The generated program could not be written to\r\n%1\r\n%2.")

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "codegen/ui/GeneratorRun.h"
-#include "files/NativeFiles.h"
+#include "files/FileSystem.h"
 #include "kit/Room.h"
 #include "session/Change.h"
 
@@ -20,6 +20,8 @@ class GeneratorRoom : public Room {
 
   public:
     explicit GeneratorRoom(const RoomPlace& place);
+    // With the program on other files than those of the computer.
+    GeneratorRoom(const RoomPlace& place, std::unique_ptr<FileSystem> files);
     ~GeneratorRoom() override;
 
     std::span<const Command> Commands() const override;
@@ -54,7 +56,7 @@ class GeneratorRoom : public Room {
     Session& session_;
     const Vocabulary& words_;
     QMainWindow& window_;
-    NativeFiles files_;
+    std::unique_ptr<FileSystem> files_;
     GeneratorRun generator_;
     QStringList toTell_; // about programs that could not be written
     bool isToldLater_ = false;
