@@ -151,6 +151,19 @@ TEST_F(CellPaneTest, EveryCommandTakesWhatIsTypedFirst) {
     EXPECT_EQ(Text(0, 2), "2:Pump");
 }
 
+TEST_F(CellPaneTest, UndoTakesBackWhatWasJustTypedAndNothingOlder) {
+    Open(PumpDocument());
+    TypeTarget(6, 2, QStringLiteral("1"));
+    GoTo(6, 2);
+    Type(Line("txtCellState"), "Motor");
+    Trigger("mnuUndo");
+    EXPECT_EQ(Text(0, 2), "2:Run");
+    EXPECT_EQ(LineText("txtCellState"), "Run");
+    EXPECT_EQ(Text(6, 2), "1:Idle");
+    Trigger("mnuRedo");
+    EXPECT_EQ(Text(0, 2), "2:Motor");
+}
+
 TEST_F(CellPaneTest, EscapeTakesAFieldBackAndThenClosesThePane) {
     Open(PumpDocument());
     GoTo(6, 2);
@@ -231,6 +244,17 @@ TEST_F(CellPaneTest, CtrlWTakesWhatIsTypedAndClosesThePane) {
     EXPECT_FALSE(Item("mnuViewCell")->isChecked());
     EXPECT_TRUE(Grid()->hasFocus());
     EXPECT_EQ(SavedDocument().State(2).EntryCode.substr(0, 2), ";x");
+}
+
+// Whoever fills a field without going there, as tools for the blind do, leaves it by nothing.
+TEST_F(CellPaneTest, HidingThePaneByItsButtonTakesWhatStandsThere) {
+    Open(PumpDocument());
+    GoTo(6, 2);
+    Grid()->setFocus();
+    Line("txtCellState").setText(QStringLiteral("Motor"));
+    EXPECT_FALSE(IsEdited());
+    Find<QDockWidget>("dckCell")->close();
+    EXPECT_EQ(Text(0, 2), "2:Motor");
 }
 
 TEST_F(CellPaneTest, F1OpensThePageOfThePaneFromEveryField) {

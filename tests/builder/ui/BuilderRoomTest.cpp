@@ -120,9 +120,13 @@ TEST_F(BuilderRoomTest, TheWindowSaysWhoseScriptItShows) {
     OpenBuilder();
     const auto edited = [this] { return Named<QLabel>(Builder(), "lblEdited").text().toStdString(); };
     EXPECT_EQ(edited(), "The builder script of a machine that has no file yet");
-    Answers.ChooseFile(Path(QStringLiteral("pump.zfsm")));
-    Trigger("mnuFSaveAs");
-    EXPECT_EQ(edited(), "The builder script of pump.zfsm");
+    for (const char* name : {"pump.zfsm", "gate.zfsm"}) {
+        TypeIntoScript("x"); // the script stays as it is being edited
+        Answers.ChooseFile(Path(QString::fromLatin1(name)));
+        Trigger("mnuFSaveAs");
+        EXPECT_EQ(edited(), std::string("The builder script of ") + name);
+    }
+    Answers.Press(QMessageBox::No);
     Trigger("mnuFNew");
     EXPECT_EQ(edited(), "The builder script of a machine that has no file yet");
 }
