@@ -5,9 +5,12 @@
 
 #include <QAbstractItemModel>
 #include <QAccessible>
+#include <QApplication>
 #include <QHeaderView>
 #include <QLabel>
+#include <QListWidget>
 #include <QPixmap>
+#include <QScrollBar>
 #include <QTimer>
 
 namespace orvane {
@@ -101,6 +104,35 @@ TEST_F(SeenTest, NoHintComesWhileACellIsEdited) {
     MoveTo(6, 1);
     LetHintCome();
     EXPECT_NE(Hint(), "");
+}
+
+TEST_F(SeenTest, TheListOfTargetsShowsLongNamesWholeAndStaysWithinTheTable) {
+    for (const std::size_t length : {std::size_t(45), std::size_t(400)}) {
+        FsmDocument document = PumpDocument();
+        document.State(2).Name = std::string(length, 'n');
+        StartOn(document);
+        Grid()->setCurrentIndex(Grid()->model()->index(6, 2));
+        Trigger("mnuChooseTarget");
+        const auto& list = *Find<QListWidget>("lstTargets");
+        const int needed = list.fontMetrics().horizontalAdvance(list.item(1)->text());
+        EXPECT_EQ(list.viewport()->width() >= needed, length == 45) << length;
+        EXPECT_FALSE(list.horizontalScrollBar()->isVisible()); // it would lie over the last name
+        EXPECT_TRUE(Grid()->viewport()->rect().contains(Find<QWidget>("frmChooseTarget")->geometry()));
+    }
+}
+
+TEST_F(SeenTest, AWindowGetsNoWiderByALongName) {
+    FsmDocument document = PumpDocument();
+    document.State(2).Name = std::string(400, 'n');
+    StartOn(document);
+    InNextDialog(Answers, [](QWidget& dialog) {
+        const int before = dialog.width();
+        QTest::keyClicks(dialog.focusWidget(), QStringLiteral("2"));
+        QApplication::processEvents();
+        EXPECT_EQ(dialog.width(), before);
+        Press(dialog, "cmdCancel");
+    });
+    Trigger("mnuGoTo");
 }
 
 TEST_F(SeenTest, EveryDialogSaysWhatItEdits) {

@@ -28,7 +28,7 @@ int FindingsModel::rowCount(const QModelIndex& parent) const {
 int FindingsModel::columnCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : kColumns; }
 
 QVariant FindingsModel::data(const QModelIndex& index, int role) const {
-    const bool isText = role == Qt::DisplayRole || (role == Qt::ToolTipRole && index.column() == kText);
+    const bool isText = role == Qt::DisplayRole || (role == Qt::ToolTipRole && index.column() != kSeverity);
     if (!isText || !checkIndex(index, CheckIndexOption::IndexIsValid) ||
         std::size_t(index.row()) >= findings_.size())
         return {};

@@ -11,6 +11,8 @@
 
 #include <QKeyEvent>
 #include <QListWidget>
+#include <QStyle>
+#include <QTextDocument>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -21,6 +23,7 @@ namespace {
 
 constexpr int kMostLines = 10;      // seen at once
 constexpr int kAverageName = 28;    // characters
+constexpr int kLongestName = 70;    // characters that are seen of a name
 constexpr int kRole = Qt::UserRole; // the state's number; none on the line that says there is none
 
 } // namespace
@@ -42,6 +45,7 @@ frmChooseTarget::frmChooseTarget(const FsmDocument& document, FsmGridView& view)
     lstTargets->setAccessibleName(tr("States to go to"));
     lstTargets->setFocusPolicy(Qt::NoFocus);
     lstTargets->setUniformItemSizes(true);
+    lstTargets->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff); // it would lie over a name
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(1, 1, 1, 1);
     layout->setSpacing(0);
@@ -75,6 +79,7 @@ void frmChooseTarget::Fill() {
         auto* line =
             new QListWidgetItem(FromAnsi(StateLabel(state, document_.State(state).Name)), lstTargets);
         line->setData(kRole, state.Number());
+        line->setToolTip(Qt::convertFromPlainText(line->text()));
     }
     if (lstTargets->count() == 0)
         (new QListWidgetItem(tr("No state has this in its name or number"), lstTargets))
@@ -83,10 +88,22 @@ void frmChooseTarget::Fill() {
         lstTargets->setCurrentRow(0);
 }
 
+// What the longest name takes, of whatever state, so that the list stays as it is while a letter is typed.
+int frmChooseTarget::WidthOfNames() const {
+    const int character = fontMetrics().averageCharWidth();
+    int widest = 0;
+    for (const StateNumber state : StatesMatching(document_, {})) {
+        const QString label = FromAnsi(StateLabel(state, document_.State(state).Name));
+        widest = std::max(widest, lstTargets->fontMetrics().horizontalAdvance(label));
+    }
+    const int beside = style()->pixelMetric(QStyle::PM_ScrollBarExtent) + 4 * frameWidth() + 2 * character;
+    return std::clamp(widest + beside, kAverageName * character, kLongestName * character);
+}
+
 // Over the cell with its upper left corner, moved as far as it must to be seen whole.
 void frmChooseTarget::Place() {
     const QRect cell = view_.VisibleRect(IndexOf(*view_.model(), cell_));
-    const int width = std::max(cell.width(), kAverageName * fontMetrics().averageCharWidth());
+    const int width = std::max(cell.width(), WidthOfNames());
     const int lines = lstTargets->sizeHintForRow(0) * kMostLines;
     const QRect room = view_.viewport()->rect();
     const QSize size = QSize(width, txtChooseTarget->sizeHint().height() + lines).boundedTo(room.size());

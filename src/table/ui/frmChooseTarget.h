@@ -37,6 +37,7 @@ class frmChooseTarget : public QFrame {
 
   private:
     void Fill();
+    int WidthOfNames() const;
     void Place();
     void Choose();
     bool Take(int key);

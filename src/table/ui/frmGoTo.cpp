@@ -38,6 +38,7 @@ frmGoTo::frmGoTo(const FsmDocument& document, QWidget* parent)
     txtGoTo->setMinimumWidth(kAverageText * fontMetrics().averageCharWidth());
     lblGoTo->setObjectName(QStringLiteral("lblGoTo"));
     lblGoTo->setTextFormat(Qt::PlainText);
+    lblGoTo->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed); // a long name makes no window wider
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
     cmdOK = buttons->button(QDialogButtonBox::Ok);
     cmdOK->setObjectName(QStringLiteral("cmdOK"));
