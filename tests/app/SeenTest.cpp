@@ -121,6 +121,17 @@ TEST_F(SeenTest, TheListOfTargetsShowsLongNamesWholeAndStaysWithinTheTable) {
     }
 }
 
+TEST_F(SeenTest, TheListOfTargetsShowsTenLinesWhole) {
+    FsmDocument document = PumpDocument();
+    for (const StateNumber state : StateRange(3, 20))
+        document.State(state).Name = "Wait";
+    StartOn(document);
+    Grid()->setCurrentIndex(Grid()->model()->index(6, 2));
+    Trigger("mnuChooseTarget");
+    const auto& list = *Find<QListWidget>("lstTargets");
+    EXPECT_TRUE(list.viewport()->rect().contains(list.visualItemRect(list.item(9))));
+}
+
 TEST_F(SeenTest, AWindowGetsNoWiderByALongName) {
     FsmDocument document = PumpDocument();
     document.State(2).Name = std::string(400, 'n');

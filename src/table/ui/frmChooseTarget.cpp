@@ -104,7 +104,8 @@ int frmChooseTarget::WidthOfNames() const {
 void frmChooseTarget::Place() {
     const QRect cell = view_.VisibleRect(IndexOf(*view_.model(), cell_));
     const int width = std::max(cell.width(), WidthOfNames());
-    const int lines = lstTargets->sizeHintForRow(0) * kMostLines;
+    const int frames = 2 * (lstTargets->frameWidth() + frameWidth() + 1);
+    const int lines = lstTargets->sizeHintForRow(0) * kMostLines + frames;
     const QRect room = view_.viewport()->rect();
     const QSize size = QSize(width, txtChooseTarget->sizeHint().height() + lines).boundedTo(room.size());
     const QPoint corner(std::clamp(cell.left(), 0, room.width() - size.width()),
