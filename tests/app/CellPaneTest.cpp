@@ -104,6 +104,19 @@ TEST_F(CellPaneTest, OnlyWhatThePlaceHasIsShown) {
     EXPECT_FALSE(IsShown("fraCellState"));
 }
 
+TEST_F(CellPaneTest, TheWordsStandAtTheTopAlsoOfAPlaceWithoutParts) {
+    Open(PumpDocument());
+    const auto top = [this] {
+        QApplication::processEvents();
+        const QLabel& words = *Find<QLabel>("lblCell");
+        return words.y() + words.contentsRect().center().y() - words.fontMetrics().height();
+    };
+    GoTo(7, 2);
+    const int before = top();
+    GoTo(0, 0);
+    EXPECT_LE(top(), before + Find<QLabel>("lblCell")->fontMetrics().height());
+}
+
 TEST_F(CellPaneTest, LeavingAFieldIsOneEdit) {
     Open(PumpDocument());
     GoTo(6, 1);

@@ -57,6 +57,7 @@ dckCell::dckCell(const Vocabulary& words, QWidget* parent)
     column->addWidget(lblCell);
     for (QGroupBox* part : {fraTransition, fraEvent, fraState})
         column->addWidget(part, part == fraState ? 2 : 1);
+    column->addStretch(); // where there is no part, the words stand at the top all the same
     scroller_ = new QScrollArea(this);
     scroller_->setFrameShape(QFrame::NoFrame);
     scroller_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
