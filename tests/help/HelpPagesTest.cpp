@@ -107,6 +107,15 @@ TEST(HelpPages, EachCanBeSearchedFrom) {
     }
 }
 
+TEST(HelpPages, EachEndsWithTheSameFoot) {
+    for (const test::HelpPage& page : Pages())
+        EXPECT_THAT(
+            FileBytes(FileOf(page.File)),
+            testing::EndsWith("</main>\n<footer><p>Orvane help. <kbd>F1</kbd> in any window or pane opens "
+                              "its page.</p></footer>\n</body>\n</html>\n"))
+            << page.File;
+}
+
 TEST(HelpPages, NoHeadingStandsTwiceOnAPage) {
     for (const test::HelpPage& page : Pages()) {
         std::vector<std::string> ids;
