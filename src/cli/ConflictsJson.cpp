@@ -2,7 +2,7 @@
 #include "cli/ConflictsJson.h"
 
 #include "cli/JsonReport.h"
-#include "text/AnsiText.h"
+#include "text/JsonString.h"
 #include "text/NumberText.h"
 
 namespace orvane::cli {
@@ -17,9 +17,8 @@ std::string ConflictObject(const review::Conflict& conflict) {
            ",\"state\":" + NumberOrNull(conflict.Place.State.Number()) +
            ",\"row\":" + NumberOrNull(conflict.Place.Row.Number()) +
            ",\"field\":" + (conflict.Tag.empty() ? "null" : JsonString(conflict.Tag)) +
-           ",\"base\":" + JsonString(ToUtf8(conflict.Base)) +
-           ",\"ours\":" + JsonString(ToUtf8(conflict.Ours)) +
-           ",\"theirs\":" + JsonString(ToUtf8(conflict.Theirs)) + "}";
+           ",\"base\":" + JsonStringOfAnsi(conflict.Base) + ",\"ours\":" + JsonStringOfAnsi(conflict.Ours) +
+           ",\"theirs\":" + JsonStringOfAnsi(conflict.Theirs) + "}";
 }
 
 } // namespace

@@ -3,7 +3,7 @@
 
 #include "cli/JsonReport.h"
 #include "review/TellChanges.h"
-#include "text/AnsiText.h"
+#include "text/JsonString.h"
 #include "text/NumberText.h"
 
 namespace orvane::cli {
@@ -15,7 +15,7 @@ using review::ChangeKind;
 
 std::string NumberOrNull(int number) { return number == 0 ? "null" : NumberText(number); }
 std::string Bool(bool value) { return value ? "true" : "false"; }
-std::string Text(std::string_view ansi) { return JsonString(ToUtf8(ansi)); }
+std::string Text(std::string_view ansi) { return JsonStringOfAnsi(ansi); }
 
 struct JsonValue {
     std::string operator()(const std::string& text) const { return Text(text); }

@@ -11,6 +11,7 @@
 #include "run/TestReader.h"
 #include "run/TestWriter.h"
 #include "text/AnsiText.h"
+#include "text/JsonString.h"
 
 namespace orvane::cli {
 

@@ -11,6 +11,7 @@
 #include "find/PlaceText.h"
 #include "find/Search.h"
 #include "text/AnsiText.h"
+#include "text/JsonString.h"
 #include "text/NumberText.h"
 
 #include <algorithm>
@@ -63,13 +64,13 @@ std::string HitObject(const Found& found, const find::Hit& hit) {
     const Cell at = hit.Place.At;
     const bool hasRow = at.State == kNoState || std::holds_alternative<CellAction>(hit.Place.Field);
     return "{\"line\":" + NumberText(FileLine(found, hit)) +
-           ",\"place\":" + JsonString(ToUtf8(find::PlaceTitle(found.Document, hit.Place))) +
+           ",\"place\":" + JsonStringOfAnsi(find::PlaceTitle(found.Document, hit.Place)) +
            ",\"state\":" + NumberOrNull(at.State.Number()) +
            ",\"row\":" + NumberOrNull(hasRow ? at.Row.Number() : kNoRow) +
            ",\"field\":" + JsonString(KindOf(hit.Place).Tag) + ",\"textLine\":" + NumberText(hit.Line) +
            ",\"column\":" + NumberText(hit.Column) +
-           ",\"match\":" + JsonString(ToUtf8(std::string_view(text).substr(hit.Start, hit.Length))) +
-           ",\"text\":" + JsonString(ToUtf8(find::LineAt(text, hit.Start))) + "}";
+           ",\"match\":" + JsonStringOfAnsi(std::string_view(text).substr(hit.Start, hit.Length)) +
+           ",\"text\":" + JsonStringOfAnsi(find::LineAt(text, hit.Start)) + "}";
 }
 
 std::string JsonOf(const Found& found) {

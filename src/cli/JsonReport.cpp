@@ -3,36 +3,17 @@
 
 #include "cli/FindingLine.h"
 #include "cli/MessageText.h"
-#include "text/AnsiText.h"
-#include "text/ByteOf.h"
+#include "text/JsonString.h"
 #include "text/NumberText.h"
-#include "text/Utf8.h"
 
 namespace orvane::cli {
 
 namespace {
 
-void AppendAscii(std::string& json, char character) {
-    constexpr std::string_view digits = "0123456789abcdef";
-    const auto code = ByteOf(character);
-    if (character == '\n') {
-        json += "\\n";
-    } else if (character == '\t') {
-        json += "\\t";
-    } else if (code < 0x20 || code == 0x7F) {
-        json.append("\\u00") += digits[code >> 4];
-        json += digits[code & 0xF];
-    } else {
-        if (character == '"' || character == '\\')
-            json += '\\';
-        json += character;
-    }
-}
-
 std::string FindingObject(const Finding& finding, const CheckedDocument& checked) {
     const std::string stateName = finding.Place.State == kNoState
                                       ? "null"
-                                      : JsonString(ToUtf8(checked.Document.State(finding.Place.State).Name));
+                                      : JsonStringOfAnsi(checked.Document.State(finding.Place.State).Name);
     return "{\"severity\":" + JsonString(SeverityName(checked.Findings.LevelOf(finding))) +
            ",\"kind\":" + JsonString(KindName(finding.Kind)) +
            ",\"line\":" + NumberText(LineOf(finding, checked.Document, checked.Starts)) +
@@ -45,7 +26,7 @@ std::string FindingObject(const Finding& finding, const CheckedDocument& checked
 std::string RestOfAdvice(const run::Advice& advice) {
     return ",\"state\":" + NumberOrNull(advice.Place.State.Number()) +
            ",\"row\":" + NumberOrNull(advice.Place.Row.Number()) +
-           ",\"text\":" + JsonString(ToUtf8(advice.Message)) + "}";
+           ",\"text\":" + JsonStringOfAnsi(advice.Message) + "}";
 }
 
 std::string AdviceObject(const run::Advice& advice) {
@@ -82,17 +63,6 @@ std::string Array(const std::vector<Item>& items, Object object) {
 } // namespace
 
 std::string NumberOrNull(std::int64_t number) { return number == 0 ? "null" : NumberText(number); }
-
-std::string JsonString(std::string_view utf8) {
-    std::string json = "\"";
-    for (const char byte : ValidUtf8(utf8)) {
-        if (ByteOf(byte) < 0x80)
-            AppendAscii(json, byte);
-        else
-            json += byte;
-    }
-    return json + "\"";
-}
 
 std::string JsonLine(const CheckedDocument& checked) {
     const auto count = [&](Severity severity) { return NumberText(checked.Findings.Count(severity)); };

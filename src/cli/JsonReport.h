@@ -5,16 +5,12 @@
 
 #include <cstdint>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace orvane::cli {
 
 // "null" for 0, which in a place or a line says that there is none.
 std::string NumberOrNull(std::int64_t number);
-
-// A text as a JSON string, quotes included. Malformed UTF-8 becomes U+FFFD, so that the line stays valid.
-std::string JsonString(std::string_view utf8);
 
 // One line:
 // {"version":1,"path":...,"complete":...,"counts":{"notes":...,"warnings":...,"errors":...},"findings":[...],

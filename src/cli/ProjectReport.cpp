@@ -2,9 +2,8 @@
 #include "cli/ProjectReport.h"
 
 #include "cli/GccReport.h"
-#include "cli/JsonReport.h"
 #include "cli/MessageText.h"
-#include "text/AnsiText.h"
+#include "text/JsonString.h"
 #include "text/NumberText.h"
 
 namespace orvane::cli {
@@ -19,7 +18,7 @@ std::string TextLine(const ProjectAdvice& advice) {
 std::string AdviceObject(const ProjectAdvice& advice) {
     return "{\"kind\":" + JsonString(ProjectAdviceKindName(advice.Kind)) +
            ",\"line\":" + NumberText(advice.Line) +
-           ",\"state\":null,\"row\":null,\"text\":" + JsonString(ToUtf8(advice.Message)) + "}";
+           ",\"state\":null,\"row\":null,\"text\":" + JsonStringOfAnsi(advice.Message) + "}";
 }
 
 std::string JsonOf(const std::string& script, const std::vector<ProjectAdvice>& list) {

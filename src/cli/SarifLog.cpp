@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/SarifLog.h"
 
-#include "cli/JsonReport.h"
 #include "cli/MessageText.h"
 #include "cli/SarifRules.h"
 #include "core/ProgramVersion.h"
 #include "text/ByteOf.h"
+#include "text/JsonString.h"
 #include "text/NumberText.h"
 
 #include <algorithm>

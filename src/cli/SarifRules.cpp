@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/SarifRules.h"
 
-#include "cli/JsonReport.h"
+#include "text/JsonString.h"
 #include "text/NumberText.h"
 
 #include <algorithm>

@@ -2,14 +2,13 @@
 #include "cli/TestReports.h"
 
 #include "cli/DocumentPath.h"
-#include "cli/JsonReport.h"
 #include "cli/MessageText.h"
 #include "codegen/DesignChecks.h"
 #include "run/StepCheck.h"
 #include "text/AnsiText.h"
-#include "text/ByteOf.h"
+#include "text/JsonString.h"
 #include "text/NumberText.h"
-#include "text/Utf8.h"
+#include "text/XmlText.h"
 
 #include <algorithm>
 
@@ -39,40 +38,20 @@ const char* VerdictName(run::Verdict verdict) {
     return "error";
 }
 
-// XML has no place for control characters, also not as references.
-std::string Xml(std::string_view utf8) {
-    std::string xml;
-    for (const char byte : utf8) {
-        if (byte == '&')
-            xml += "&amp;";
-        else if (byte == '<')
-            xml += "&lt;";
-        else if (byte == '>')
-            xml += "&gt;";
-        else if (byte == '"')
-            xml += "&quot;";
-        else if (ByteOf(byte) < 0x20)
-            xml += '?';
-        else
-            xml += byte;
-    }
-    return xml;
-}
-
 std::string TestCase(const TestedFile& file, const TestedTest& test) {
-    std::string xml = "    <testcase classname=\"" + Xml(ValidUtf8(file.Name)) + "\" name=\"" +
-                      Xml(ValidUtf8(test.Name.empty() ? "line " + Number(test.Line) : test.Name)) + "\"";
+    std::string xml = "    <testcase classname=\"" + XmlTextOfUtf8(file.Name) + "\" name=\"" +
+                      XmlTextOfUtf8(test.Name.empty() ? "line " + Number(test.Line) : test.Name) + "\"";
     if (test.Is == run::Verdict::Passed && test.Notes.empty())
         return xml + "/>\n";
     xml += ">\n";
     const std::string where = file.Name + ":" + Number(test.Line) + ":" + Number(test.Column) + ": ";
     const char* element = test.Is == run::Verdict::Failed ? "failure" : "error";
     if (test.Is != run::Verdict::Passed)
-        xml += std::string("      <") + element + " message=\"" + Xml(ValidUtf8(test.Message)) + "\">" +
-               Xml(ValidUtf8(where + test.Message)) + "</" + element + ">\n";
+        xml += std::string("      <") + element + " message=\"" + XmlTextOfUtf8(test.Message) + "\">" +
+               XmlTextOfUtf8(where + test.Message) + "</" + element + ">\n";
     for (const run::TestMessage& note : test.Notes)
         xml += "      <system-out>" +
-               Xml(ValidUtf8(file.Name + ":" + Number(note.At.Line) + ": note: " + note.Text)) +
+               XmlTextOfUtf8(file.Name + ":" + Number(note.At.Line) + ": note: " + note.Text) +
                "</system-out>\n";
     return xml + "    </testcase>\n";
 }
@@ -169,9 +148,8 @@ std::string JUnitXml(const std::vector<TestedFile>& files) {
     std::string xml = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<testsuites name=\"orvanec test\">\n";
     for (const TestedFile& file : files) {
         const TestCounts counts = CountTests({file});
-        xml += "  <testsuite name=\"" + Xml(ValidUtf8(file.Name)) + "\" tests=\"" +
-               Number(file.Tests.size()) + "\" failures=\"" + Number(counts.Failed) + "\" errors=\"" +
-               Number(counts.Errors) + "\">\n";
+        xml += "  <testsuite name=\"" + XmlTextOfUtf8(file.Name) + "\" tests=\"" + Number(file.Tests.size()) +
+               "\" failures=\"" + Number(counts.Failed) + "\" errors=\"" + Number(counts.Errors) + "\">\n";
         for (const TestedTest& test : file.Tests)
             xml += TestCase(file, test);
         xml += "  </testsuite>\n";

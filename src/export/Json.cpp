@@ -3,7 +3,7 @@
 #include "export/Exports.h"
 #include "export/FieldKey.h"
 #include "export/Names.h"
-#include "text/EscapedUtf8.h"
+#include "text/JsonString.h"
 #include "text/NumberText.h"
 
 #include <type_traits>
@@ -12,32 +12,7 @@ namespace orvane::exports {
 
 namespace {
 
-constexpr ByteSet kEscaped = EscapedBytes(
-    [](unsigned char byte) { return byte < 0x20 || byte == 0x7F || byte == '"' || byte == '\\'; });
-
-void AppendEscape(std::string& json, char character) {
-    constexpr std::string_view digits = "0123456789abcdef";
-    const auto code = ByteOf(character);
-    if (character == '\n')
-        json += "\\n";
-    else if (character == '\r')
-        json += "\\r";
-    else if (character == '\t')
-        json += "\\t";
-    else if (character == '"' || character == '\\')
-        (json += '\\') += character;
-    else
-        ((json += "\\u00") += digits[code >> 4]) += digits[code & 0xF];
-}
-
-std::string Quoted(std::string_view ansi) {
-    std::string json = "\"";
-    AppendEscaped(json, ansi, kEscaped,
-                  [](std::string& out, std::string_view rest) { AppendEscape(out, rest.front()); });
-    return json + "\"";
-}
-
-std::string ValueText(const std::string& text) { return Quoted(text); }
+std::string ValueText(const std::string& text) { return JsonStringOfAnsi(text); }
 std::string ValueText(bool isOn) { return isOn ? "true" : "false"; }
 std::string ValueText(Twips length) { return NumberText(length.Count()); }
 template <typename Integer>
@@ -114,7 +89,7 @@ class JsonWriter {
         if (target != kNoState)
             text_ += ", \"target\": " + NumberText(target.Number());
         if (!state.Actions[row].empty())
-            text_ += ", \"action\": " + Quoted(state.Actions[row]);
+            text_ += ", \"action\": " + JsonStringOfAnsi(state.Actions[row]);
         text_ += " }";
     }
 

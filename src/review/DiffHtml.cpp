@@ -2,7 +2,7 @@
 #include "review/DiffHtml.h"
 
 #include "review/TellChanges.h"
-#include "text/Utf8.h"
+#include "text/XmlText.h"
 
 namespace orvane::review {
 
@@ -15,21 +15,6 @@ constexpr const char* kStyle =
     "td:first-child{font:bold 1em monospace;width:1em;text-align:center}"
     "pre{margin:.2em 0;white-space:pre-wrap;tab-size:4}"
     ".came,.p{background:#e2f4e2}.went,.m{background:#fbe4e4}.moved{background:#e6ecfa}";
-
-std::string Escaped(std::string_view utf8) {
-    std::string html;
-    for (const char byte : ValidUtf8(utf8)) {
-        if (byte == '&')
-            html += "&amp;";
-        else if (byte == '<')
-            html += "&lt;";
-        else if (byte == '>')
-            html += "&gt;";
-        else
-            html += byte;
-    }
-    return html;
-}
 
 const char* ClassOf(char sign) {
     switch (sign) {
@@ -50,7 +35,7 @@ std::string Details(const ToldChange& told) {
     std::string html = "<pre>";
     for (const std::string& line : told.Details) {
         const char* mark = line.starts_with('+') ? "p" : line.starts_with('-') ? "m" : "s";
-        html += std::string("<span class=\"") + mark + "\">" + Escaped(line) + "</span>\n";
+        html += std::string("<span class=\"") + mark + "\">" + XmlTextOfUtf8(line) + "</span>\n";
     }
     return html + "</pre>";
 }
@@ -59,7 +44,7 @@ std::string Details(const ToldChange& told) {
 
 std::string DiffHtml(const ChangeList& list, const FsmDocument& oldOne, const FsmDocument& newOne,
                      const std::string& names) {
-    const std::string title = Escaped(names) + ": " + CountText(list.Changes.size());
+    const std::string title = XmlTextOfUtf8(names) + ": " + CountText(list.Changes.size());
     std::string html = "<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n<title>" +
                        title + "</title>\n<style>" + kStyle + "</style>\n</head>\n<body>\n<h1>" + title +
                        "</h1>\n";
@@ -69,8 +54,9 @@ std::string DiffHtml(const ChangeList& list, const FsmDocument& oldOne, const Fs
     html += "<table>\n";
     for (const Change& change : list.Changes) {
         const ToldChange told = TellChange(change, oldOne, newOne);
-        html += std::string("<tr class=\"") + ClassOf(told.Sign) + "\"><td>" + Escaped({&told.Sign, 1}) +
-                "</td><td>" + Escaped(told.Text) + Details(told) + "</td></tr>\n";
+        html += std::string("<tr class=\"") + ClassOf(told.Sign) + "\"><td>" +
+                XmlTextOfUtf8({&told.Sign, 1}) + "</td><td>" + XmlTextOfUtf8(told.Text) + Details(told) +
+                "</td></tr>\n";
     }
     return html + "</table>\n</body>\n</html>\n";
 }

@@ -43,7 +43,7 @@ void AppendEntity(std::string& xml, std::string_view rest) {
 std::string XmlTextOfUtf8(std::string_view utf8) {
     static constexpr ByteSet special = BytesThat(IsSpecial);
     std::string xml;
-    AppendReplaced(xml, utf8, special, AppendEntity);
+    AppendReplaced(xml, ValidUtf8(utf8), special, AppendEntity);
     return xml;
 }
 

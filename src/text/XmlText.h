@@ -11,7 +11,7 @@ namespace orvane {
 std::string XmlText(std::string_view ansi);
 void AppendXmlText(std::string& xml, std::string_view ansi);
 
-// The same of UTF-8.
+// The same of UTF-8. Malformed bytes become U+FFFD.
 std::string XmlTextOfUtf8(std::string_view utf8);
 
 } // namespace orvane

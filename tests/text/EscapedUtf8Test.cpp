@@ -47,6 +47,7 @@ TEST(XmlText, EscapesMarkupAndReplacesWhatNoFileMayHold) {
     EXPECT_EQ(XmlText("a\r\nb\rc\nd\te"), "a\nb\nc\nd\te");
     EXPECT_EQ(XmlText(std::string_view("\0x\x1F", 3)), "\xEF\xBF\xBDx\xEF\xBF\xBD");
     EXPECT_EQ(XmlTextOfUtf8("\xC3\xA9<\r\n"), "\xC3\xA9&lt;\n");
+    EXPECT_EQ(XmlTextOfUtf8("a\xC3"), "a\xEF\xBF\xBD");
     EXPECT_EQ(XmlText("end\r"), "end\n");
 }
 
