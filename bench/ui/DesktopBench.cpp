@@ -68,17 +68,19 @@ double TimeOfOperation(const std::function<void()>& work) {
     });
 }
 
-void AddTyping(MedianTable& table, TableDriver& driver, const FsmDocument& document) {
-    constexpr int row = 20;
-    constexpr int column = 50;
-    auto target = std::make_shared<int>(1);
-    const auto type = [&driver, target] {
-        *target = *target % kStateCount + 1;
+// A transition that is typed into the cell, another one each time, also of copies: what is typed again
+// changes nothing.
+Timed Typing(TableDriver& driver, int row, int column, int mostStates = kStateCount) {
+    return [&driver, row, column, mostStates, target = std::make_shared<int>(1)] {
+        *target = *target % mostStates + 1;
         driver.BeginTarget(row, column, QString::number(*target));
         return TimeOfOperation([&] { driver.CommitTarget(); });
     };
+}
+
+void AddTyping(MedianTable& table, TableDriver& driver, const FsmDocument& document) {
     const std::string engine = "pack + generate";
-    table.Add("typed transition", engine, 3, type, PackingAndGenerating(document));
+    table.Add("typed transition", engine, 3, Typing(driver, 20, 50), PackingAndGenerating(document));
     table.Add(
         "undo", engine, 6, [&driver] { return TimeOfOperation([&] { driver.Trigger("mnuUndo"); }); },
         PackingAndGenerating(document));
@@ -108,12 +110,7 @@ FsmDocument RunnableAtTheLimit() {
 void AddRunning(MedianTable& table, TableDriver& driver, const FsmDocument& document) {
     constexpr int steps = 200'000;
     driver.PlaySteps(steps);
-    const auto target = std::make_shared<int>(1);
-    const auto type = [&driver, target] {
-        *target = *target % kStateCount + 1;
-        driver.BeginTarget(20, 50, QString::number(*target));
-        return TimeOfOperation([&] { driver.CommitTarget(); });
-    };
+    const Timed type = Typing(driver, 20, 50);
     table.Add("typed transition, a run of 200,000 steps open", "pack + generate", 12, type,
               PackingAndGenerating(document));
     // Of two steps the second counts: the first one after an edit plays the whole run again.
@@ -132,13 +129,7 @@ void AddRunning(MedianTable& table, TableDriver& driver, const FsmDocument& docu
 
 void AddFindings(MedianTable& table, TableDriver& driver, const FsmDocument& document) {
     driver.Trigger("mnuViewFindings");
-    const auto target = std::make_shared<int>(1);
-    const auto type = [&driver, target] {
-        *target = *target % kStateCount + 1;
-        driver.BeginTarget(20, 50, QString::number(*target));
-        return TimeOfOperation([&] { driver.CommitTarget(); });
-    };
-    table.Add("typed transition, findings listed", "pack + generate", 4, type,
+    table.Add("typed transition, findings listed", "pack + generate", 4, Typing(driver, 20, 50),
               PackingAndGenerating(document));
 }
 
@@ -150,36 +141,25 @@ void AddOpening(MedianTable& table, TableDriver& driver, const FsmDocument& docu
         Reading(WriteDocument(document)));
 }
 
-// Two transitions, of which the second counts: the first one after the switch begins a journal with all that
-// there is.
-double TimeOfTransition(TableDriver& driver, bool keepsJournal, int& target) {
-    driver.KeepJournal(keepsJournal);
-    double time = 0;
-    for (int edit = 0; edit < 2; ++edit) {
-        target = target % kStateCount + 1;
-        driver.BeginTarget(21, 50, QString::number(target));
-        time = TimeOfOperation([&] { driver.CommitTarget(); });
-    }
-    return time;
-}
-
+// Of two transitions the second counts: the first one after the switch begins a journal with all that there
+// is.
 void AddJournal(MedianTable& table, TableDriver& driver, const FsmDocument&) {
-    const auto target = std::make_shared<int>(1);
-    const auto type = [&driver, target](bool keepsJournal) -> Timed {
-        return [&driver, target, keepsJournal] { return TimeOfTransition(driver, keepsJournal, *target); };
+    const auto type = [&driver, typing = Typing(driver, 21, 50)](bool keepsJournal) -> Timed {
+        return [&driver, keepsJournal, typing] {
+            driver.KeepJournal(keepsJournal);
+            typing();
+            return typing();
+        };
     };
     table.Add("typed transition", "the same without journal", 1.1, type(true), type(false));
 }
 
 // A key to the table and the pane, both painted, beside the same with the pane hidden.
 void AddCellPane(MedianTable& table, TableDriver& driver, const FsmDocument&) {
-    const auto target = std::make_shared<int>(1);
-    const auto type = [&driver, target](bool withPane) -> Timed {
-        return [&driver, target, withPane] {
+    const auto type = [&driver, typing = Typing(driver, 22, 50)](bool withPane) -> Timed {
+        return [&driver, withPane, typing] {
             driver.ShowPane("mnuViewCell", withPane);
-            *target = *target % kStateCount + 1;
-            driver.BeginTarget(22, 50, QString::number(*target));
-            return TimeOfOperation([&] { driver.CommitTarget(); });
+            return typing();
         };
     };
     const auto step = [&driver](bool withPane) -> Timed {
@@ -212,14 +192,8 @@ void AddDiagram(MedianTable& table, TableDriver& driver, const FsmDocument& docu
         QApplication::processEvents();
     if (!ShowsWholePicture())
         throw std::runtime_error("the picture was not laid out");
-    const auto target = std::make_shared<int>(1);
-    const auto type = [&driver, target] {
-        *target = *target % 12 + 1;
-        driver.BeginTarget(50, 6, QString::number(*target));
-        return TimeOfOperation([&] { driver.CommitTarget(); });
-    };
     table.Add("typed transition, " + std::to_string(diagram::MergedEdges(document)) + " lines in the diagram",
-              "pack + generate", 60, type, PackingAndGenerating(document));
+              "pack + generate", 60, Typing(driver, 50, 6, 12), PackingAndGenerating(document));
 }
 
 // What must be there before the next picture of a screen that shows 60 in a second.
