@@ -10,17 +10,9 @@
 namespace orvane {
 
 HitsModel::HitsModel(const FsmDocument& document, QObject* parent)
-    : QAbstractTableModel(parent), document_(document) {}
+    : ListModel({tr("Place"), tr("Text")}, parent), document_(document) {}
 
-void HitsModel::Show(std::vector<find::Hit> hits) {
-    beginResetModel();
-    hits_ = std::move(hits);
-    endResetModel();
-}
-
-int HitsModel::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : int(hits_.size()); }
-
-int HitsModel::columnCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : ColumnCount; }
+void HitsModel::Show(std::vector<find::Hit> hits) { Replace(hits_, std::move(hits)); }
 
 QVariant HitsModel::data(const QModelIndex& index, int role) const {
     if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::AccessibleTextRole))
@@ -29,12 +21,6 @@ QVariant HitsModel::data(const QModelIndex& index, int role) const {
     if (index.column() == Place)
         return FromAnsi(find::PlaceTitle(document_, hit.Place));
     return ShownLine(find::LineAt(TextAt(document_, hit.Place), hit.Start));
-}
-
-QVariant HitsModel::headerData(int section, Qt::Orientation orientation, int role) const {
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
-        return {};
-    return section == Place ? tr("Place") : tr("Text");
 }
 
 } // namespace orvane

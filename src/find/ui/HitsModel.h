@@ -2,18 +2,17 @@
 #pragma once
 
 #include "find/Search.h"
-
-#include <QAbstractTableModel>
+#include "kit/ListModel.h"
 
 namespace orvane {
 
 // What a search has found, a row a hit: its place and its line. Texts are made when they are shown, because
 // there may be thousands and a screenful is seen.
-class HitsModel : public QAbstractTableModel {
+class HitsModel : public ListModel {
     Q_OBJECT
 
   public:
-    enum Column { Place, Text, ColumnCount };
+    enum Column { Place, Text };
 
     // The document outlives the model.
     HitsModel(const FsmDocument& document, QObject* parent);
@@ -22,10 +21,10 @@ class HitsModel : public QAbstractTableModel {
     void Show(std::vector<find::Hit> hits);
     const find::Hit& HitAt(int row) const { return hits_[std::size_t(row)]; }
 
-    int rowCount(const QModelIndex& parent = {}) const override;
-    int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
-    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+  protected:
+    int Rows() const override { return int(hits_.size()); }
 
   private:
     const FsmDocument& document_;

@@ -11,7 +11,7 @@
 namespace orvane {
 
 PlanModel::PlanModel(const FsmDocument& document, QObject* parent)
-    : QAbstractTableModel(parent), document_(document) {}
+    : ListModel({tr("Place"), tr("Before"), tr("After")}, parent), document_(document) {}
 
 bool PlanModel::HasSamePlaces(const std::vector<find::TextChange>& changes) const {
     return std::equal(changes.begin(), changes.end(), changes_.begin(), changes_.end(),
@@ -50,12 +50,6 @@ void PlanModel::CheckAll(bool checked) {
         Q_EMIT dataChanged(index(0, Place), index(rowCount() - 1, Place));
 }
 
-int PlanModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : int(changes_.size());
-}
-
-int PlanModel::columnCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : ColumnCount; }
-
 QVariant PlanModel::data(const QModelIndex& index, int role) const {
     if (!index.isValid())
         return {};
@@ -88,13 +82,6 @@ Qt::ItemFlags PlanModel::flags(const QModelIndex& index) const {
     const Qt::ItemFlags flags = QAbstractTableModel::flags(index);
     const bool mayChoose = index.column() == Place && std::size_t(index.row()) >= fixed_;
     return mayChoose ? flags | Qt::ItemIsUserCheckable : flags;
-}
-
-QVariant PlanModel::headerData(int section, Qt::Orientation orientation, int role) const {
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
-        return {};
-    static const QStringList heads{tr("Place"), tr("Before"), tr("After")};
-    return heads.value(section);
 }
 
 } // namespace orvane

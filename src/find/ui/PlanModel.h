@@ -2,17 +2,16 @@
 #pragma once
 
 #include "find/TextChange.h"
-
-#include <QAbstractTableModel>
+#include "kit/ListModel.h"
 
 namespace orvane {
 
 // Changes of texts before they are made, a row each: a check mark and the place, the line before and after.
-class PlanModel : public QAbstractTableModel {
+class PlanModel : public ListModel {
     Q_OBJECT
 
   public:
-    enum Column { Place, Before, After, ColumnCount };
+    enum Column { Place, Before, After };
 
     // The document outlives the model.
     PlanModel(const FsmDocument& document, QObject* parent);
@@ -26,12 +25,12 @@ class PlanModel : public QAbstractTableModel {
     std::vector<find::TextChange> ChosenChanges() const;
     void CheckAll(bool checked);
 
-    int rowCount(const QModelIndex& parent = {}) const override;
-    int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
     bool setData(const QModelIndex& index, const QVariant& value, int role) override;
     Qt::ItemFlags flags(const QModelIndex& index) const override;
-    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+  protected:
+    int Rows() const override { return int(changes_.size()); }
 
   private:
     bool HasSamePlaces(const std::vector<find::TextChange>& changes) const;

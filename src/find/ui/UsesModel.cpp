@@ -11,17 +11,9 @@
 namespace orvane {
 
 UsesModel::UsesModel(const FsmDocument& document, QObject* parent)
-    : QAbstractTableModel(parent), document_(document) {}
+    : ListModel({tr("Place"), tr("What")}, parent), document_(document) {}
 
-void UsesModel::Show(std::vector<find::Use> uses) {
-    beginResetModel();
-    uses_ = std::move(uses);
-    endResetModel();
-}
-
-int UsesModel::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : int(uses_.size()); }
-
-int UsesModel::columnCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : ColumnCount; }
+void UsesModel::Show(std::vector<find::Use> uses) { Replace(uses_, std::move(uses)); }
 
 QVariant UsesModel::data(const QModelIndex& index, int role) const {
     if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::ToolTipRole))
@@ -35,12 +27,6 @@ QVariant UsesModel::data(const QModelIndex& index, int role) const {
         return FromAnsi(use.What);
     return FromAnsi(use.Text ? find::PlaceTitle(document_, use.Text->Place)
                              : find::CellTitle(document_, use.At));
-}
-
-QVariant UsesModel::headerData(int section, Qt::Orientation orientation, int role) const {
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
-        return {};
-    return section == Place ? tr("Place") : tr("What");
 }
 
 } // namespace orvane

@@ -2,17 +2,16 @@
 #pragma once
 
 #include "find/WhereUsed.h"
-
-#include <QAbstractTableModel>
+#include "kit/ListModel.h"
 
 namespace orvane {
 
 // Where something is used, a row each: the place and what is there.
-class UsesModel : public QAbstractTableModel {
+class UsesModel : public ListModel {
     Q_OBJECT
 
   public:
-    enum Column { Place, What, ColumnCount };
+    enum Column { Place, What };
 
     // The document outlives the model.
     UsesModel(const FsmDocument& document, QObject* parent);
@@ -21,10 +20,10 @@ class UsesModel : public QAbstractTableModel {
     void Show(std::vector<find::Use> uses);
     const find::Use& UseAt(int row) const { return uses_[std::size_t(row)]; }
 
-    int rowCount(const QModelIndex& parent = {}) const override;
-    int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
-    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+  protected:
+    int Rows() const override { return int(uses_.size()); }
 
   private:
     const FsmDocument& document_;

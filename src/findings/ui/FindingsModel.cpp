@@ -8,24 +8,20 @@ namespace orvane {
 
 namespace {
 
-enum Column { kSeverity, kPlace, kText, kColumns };
+enum Column { kSeverity, kPlace, kText };
 
 } // namespace
 
 FindingsModel::FindingsModel(const FsmDocument& document, const std::vector<DesignFinding>& findings,
                              QObject* parent)
-    : QAbstractTableModel(parent), document_(document), findings_(findings) {}
+    : ListModel({tr("Severity"), tr("Place"), tr("What there is to be told")}, parent),
+      document_(document),
+      findings_(findings) {}
 
 void FindingsModel::Refresh() {
     beginResetModel();
     endResetModel();
 }
-
-int FindingsModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : int(findings_.size());
-}
-
-int FindingsModel::columnCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : kColumns; }
 
 QVariant FindingsModel::data(const QModelIndex& index, int role) const {
     const bool isText = role == Qt::DisplayRole || (role == Qt::ToolTipRole && index.column() != kSeverity);
@@ -41,14 +37,6 @@ QVariant FindingsModel::data(const QModelIndex& index, int role) const {
     default:
         return FromAnsi(finding.Text);
     }
-}
-
-QVariant FindingsModel::headerData(int section, Qt::Orientation orientation, int role) const {
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
-        return {};
-    return section == kSeverity ? tr("Severity")
-           : section == kPlace  ? tr("Place")
-                                : tr("What there is to be told");
 }
 
 } // namespace orvane

@@ -3,15 +3,14 @@
 
 #include "core/DesignFinding.h"
 #include "core/FsmDocument.h"
-
-#include <QAbstractTableModel>
+#include "kit/ListModel.h"
 
 #include <vector>
 
 namespace orvane {
 
 // Severity, place and text of each finding.
-class FindingsModel : public QAbstractTableModel {
+class FindingsModel : public ListModel {
     Q_OBJECT
 
   public:
@@ -21,10 +20,10 @@ class FindingsModel : public QAbstractTableModel {
     // The findings, or the names of what they are about, are others.
     void Refresh();
 
-    int rowCount(const QModelIndex& parent = {}) const override;
-    int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
-    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+  protected:
+    int Rows() const override { return int(findings_.size()); }
 
   private:
     const FsmDocument& document_;

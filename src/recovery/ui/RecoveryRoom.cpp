@@ -41,7 +41,6 @@ NamedVersion BeganFrom(const QString& path) {
 
 RecoveryRoom::RecoveryRoom(const RoomPlace& place) : session_(place.Open), main_(place.Window) {
     draftsDue_.setSingleShot(true);
-    connect(&finder_, &WorkFinder::Found, this, &RecoveryRoom::Offer);
     connect(&draftsDue_, &QTimer::timeout, this, &RecoveryRoom::WaitForDrafts);
     if (const std::optional<FileSystem::Path> path = UserRecoveryFolder()) {
         folder_.emplace(files_, *path);
@@ -107,9 +106,16 @@ bool RecoveryRoom::eventFilter(QObject* watched, QEvent* event) {
     return Room::eventFilter(watched, event);
 }
 
+// Long journals take their time; meanwhile the user goes on.
 void RecoveryRoom::LookAround() {
-    if (folder_)
-        finder_.Begin(files_, *folder_);
+    if (!folder_)
+        return;
+    finder_.Begin(
+        [this](const std::stop_token&) {
+            folder_->Age(TimeNow());
+            return ListWork(files_, *folder_);
+        },
+        [this](const WorkList& work) { Offer(work); });
 }
 
 // The window comes up by itself, so it does not take the keys that are meant for the table.

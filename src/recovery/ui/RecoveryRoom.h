@@ -2,8 +2,9 @@
 #pragma once
 
 #include "files/NativeFiles.h"
+#include "kit/Background.h"
 #include "kit/Room.h"
-#include "recovery/ui/WorkFinder.h"
+#include "recovery/ui/WorkList.h"
 #include "session/Journal.h"
 
 #include <QTimer>
@@ -56,7 +57,7 @@ class RecoveryRoom : public Room {
     std::optional<RecoveryFolder> folder_; // none where there is no place for it, and then no journal
     std::optional<Journal> journal_;
     QTimer draftsDue_;
-    WorkFinder finder_;                  // goes before the folder
+    Background<WorkList> finder_{*this}; // goes before the folder
     frmRecovery* frmRecovery_ = nullptr; // belongs to the main window, which it stands in front of
 };
 

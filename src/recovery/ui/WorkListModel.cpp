@@ -24,17 +24,10 @@ QString TextOf(const WorkRow& row, int column) {
 
 } // namespace
 
-void WorkListModel::Show(std::vector<WorkItem> items) {
-    beginResetModel();
-    items_ = std::move(items);
-    endResetModel();
-}
+WorkListModel::WorkListModel(QObject* parent)
+    : ListModel({tr("Document"), tr("Folder"), tr("Last change"), tr("Changes"), tr("Its file")}, parent) {}
 
-int WorkListModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(items_.size());
-}
-
-int WorkListModel::columnCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : ColumnCount; }
+void WorkListModel::Show(std::vector<WorkItem> items) { Replace(items_, std::move(items)); }
 
 QVariant WorkListModel::data(const QModelIndex& index, int role) const {
     if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::ToolTipRole))
@@ -42,14 +35,6 @@ QVariant WorkListModel::data(const QModelIndex& index, int role) const {
     const QString text = TextOf(Item(index.row()).Row, index.column());
     // What does not fit its column is read under the mouse; a path is plain text there, too.
     return role == Qt::ToolTipRole ? text.toHtmlEscaped() : text;
-}
-
-QVariant WorkListModel::headerData(int section, Qt::Orientation orientation, int role) const {
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
-        return {};
-    static const QStringList heads{tr("Document"), tr("Folder"), tr("Last change"), tr("Changes"),
-                                   tr("Its file")};
-    return heads.value(section);
 }
 
 } // namespace orvane

@@ -27,13 +27,8 @@ Comparison Compared(const ComparisonTask& task) {
 
 } // namespace
 
-ComparisonWorker::~ComparisonWorker() {
-    if (thread_.joinable())
-        thread_.join();
-}
-
 void ComparisonWorker::Begin(ComparisonTask task) {
-    if (thread_.joinable())
+    if (work_.IsOn())
         next_ = std::move(task);
     else
         Start(std::move(task));
@@ -41,15 +36,11 @@ void ComparisonWorker::Begin(ComparisonTask task) {
 
 void ComparisonWorker::Start(ComparisonTask task) {
     isWanted_ = true;
-    thread_ = std::thread([this, task = std::move(task)] {
-        const Comparison comparison = Compared(task);
-        QMetaObject::invokeMethod(
-            this, [this, comparison] { Finish(comparison); }, Qt::QueuedConnection);
-    });
+    work_.Begin([task = std::move(task)](const std::stop_token&) { return Compared(task); },
+                [this](const Comparison& comparison) { Finish(comparison); });
 }
 
 void ComparisonWorker::Finish(const Comparison& comparison) {
-    thread_.join();
     if (next_)
         return Start(*std::exchange(next_, std::nullopt));
     if (std::exchange(isWanted_, false))

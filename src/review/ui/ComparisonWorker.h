@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "kit/Background.h"
 #include "review/Identity.h"
 
 #include <QObject>
 
 #include <memory>
 #include <optional>
-#include <thread>
 
 namespace orvane {
 
@@ -38,7 +38,6 @@ class ComparisonWorker : public QObject {
 
   public:
     using QObject::QObject;
-    ~ComparisonWorker() override;
 
     void Begin(ComparisonTask task);
     // Nothing is told any more of what is under way.
@@ -51,9 +50,9 @@ class ComparisonWorker : public QObject {
     void Start(ComparisonTask task);
     void Finish(const Comparison& comparison);
 
-    std::thread thread_; // joinable from Start to Finish
-    std::optional<ComparisonTask> next_;
+    std::optional<ComparisonTask> next_; // waits: a comparison that is under way cannot be stopped
     bool isWanted_ = false;
+    Background<Comparison> work_{*this};
 };
 
 } // namespace orvane

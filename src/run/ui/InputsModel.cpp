@@ -15,24 +15,12 @@ namespace orvane {
 
 namespace {
 
-enum Column { Name, Present, LeadsTo, ColumnCount };
+enum Column { Name, Present, LeadsTo };
 
 } // namespace
 
 InputsModel::InputsModel(const FsmDocument& document, const run::LiveRun& run, QObject* parent)
-    : QAbstractTableModel(parent), document_(document), run_(run) {}
-
-int InputsModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : int(events_.size());
-}
-
-int InputsModel::columnCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : ColumnCount; }
-
-QVariant InputsModel::headerData(int section, Qt::Orientation orientation, int role) const {
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
-        return {};
-    return section == Name ? tr("Input") : section == Present ? tr("Now") : tr("Leads to");
-}
+    : ListModel({tr("Input"), tr("Now"), tr("Leads to")}, parent), document_(document), run_(run) {}
 
 QVariant InputsModel::data(const QModelIndex& index, int role) const {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid))
@@ -83,7 +71,7 @@ void InputsModel::Refresh() {
         events_ = std::move(events);
         Q_EMIT layoutChanged();
         if (!events_.empty())
-            Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, ColumnCount - 1));
+            Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
         return;
     }
     beginResetModel();

@@ -2,24 +2,20 @@
 #pragma once
 
 #include "core/FsmDocument.h"
+#include "kit/ListModel.h"
 #include "run/LiveRun.h"
-
-#include <QAbstractTableModel>
 
 namespace orvane {
 
 // The events that the machine tests, first those that have an effect in the state it is in.
-class InputsModel : public QAbstractTableModel {
+class InputsModel : public ListModel {
     Q_OBJECT
 
   public:
     // Both outlive the model.
     InputsModel(const FsmDocument& document, const run::LiveRun& run, QObject* parent);
 
-    int rowCount(const QModelIndex& parent = {}) const override;
-    int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
-    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
     // Of a valid index only.
     RowNumber EventAt(const QModelIndex& index) const { return events_[std::size_t(index.row())]; }
@@ -28,6 +24,9 @@ class InputsModel : public QAbstractTableModel {
 
     // The run is at another moment.
     void Refresh();
+
+  protected:
+    int Rows() const override { return int(events_.size()); }
 
   private:
     QString Text(RowNumber event, int column) const;

@@ -9,22 +9,12 @@ namespace orvane {
 
 namespace {
 
-enum Column { When, What, ColumnCount };
+enum Column { When, What };
 
 } // namespace
 
 LogModel::LogModel(const FsmDocument& document, const run::LiveRun& run, QObject* parent)
-    : QAbstractTableModel(parent), document_(document), run_(run) {}
-
-int LogModel::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : rows_; }
-
-int LogModel::columnCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : ColumnCount; }
-
-QVariant LogModel::headerData(int section, Qt::Orientation orientation, int role) const {
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
-        return {};
-    return section == When ? tr("At") : tr("What happened");
-}
+    : ListModel({tr("At"), tr("What happened")}, parent), document_(document), run_(run) {}
 
 run::LogEntry LogModel::EntryAt(const QModelIndex& index) const {
     return run_.Past()->Log()[std::size_t(index.row())];

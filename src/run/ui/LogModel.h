@@ -2,25 +2,21 @@
 #pragma once
 
 #include "core/FsmDocument.h"
+#include "kit/ListModel.h"
 #include "run/LiveRun.h"
-
-#include <QAbstractTableModel>
 
 namespace orvane {
 
 // What has happened up to the moment shown, a row each. A run may have a million of them, so that rows come
 // and go one by one and none is kept here.
-class LogModel : public QAbstractTableModel {
+class LogModel : public ListModel {
     Q_OBJECT
 
   public:
     // Both outlive the model.
     LogModel(const FsmDocument& document, const run::LiveRun& run, QObject* parent);
 
-    int rowCount(const QModelIndex& parent = {}) const override;
-    int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
-    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
     // Of a valid index only.
     run::LogEntry EntryAt(const QModelIndex& index) const;
@@ -29,6 +25,9 @@ class LogModel : public QAbstractTableModel {
     void Refresh();
     // It is another run, or the table says otherwise.
     void RefreshAll();
+
+  protected:
+    int Rows() const override { return rows_; }
 
   private:
     int Entries() const;

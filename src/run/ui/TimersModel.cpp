@@ -9,33 +9,14 @@ namespace orvane {
 
 namespace {
 
-enum Column { Name, RunsFor, Limit, Left, LeadsTo, ColumnCount };
+enum Column { Name, RunsFor, Limit, Left, LeadsTo };
 
 } // namespace
 
 TimersModel::TimersModel(const FsmDocument& document, const run::LiveRun& run, QObject* parent)
-    : QAbstractTableModel(parent), document_(document), run_(run) {}
-
-int TimersModel::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : rows_; }
-
-int TimersModel::columnCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : ColumnCount; }
-
-QVariant TimersModel::headerData(int section, Qt::Orientation orientation, int role) const {
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
-        return {};
-    switch (section) {
-    case Name:
-        return tr("Timer");
-    case RunsFor:
-        return tr("Runs for");
-    case Limit:
-        return tr("Limit");
-    case Left:
-        return tr("Left");
-    default:
-        return tr("Leads to");
-    }
-}
+    : ListModel({tr("Timer"), tr("Runs for"), tr("Limit"), tr("Left"), tr("Leads to")}, parent),
+      document_(document),
+      run_(run) {}
 
 QVariant TimersModel::data(const QModelIndex& index, int role) const {
     if (role != Qt::DisplayRole || !checkIndex(index, CheckIndexOption::IndexIsValid))
@@ -83,7 +64,7 @@ void TimersModel::Refresh() {
         rows_ = Timers();
         endResetModel();
     } else if (rows_ > 0) {
-        Q_EMIT dataChanged(index(0, 0), index(rows_ - 1, ColumnCount - 1));
+        Q_EMIT dataChanged(index(0, 0), index(rows_ - 1, columnCount() - 1));
     }
 }
 

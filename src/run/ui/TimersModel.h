@@ -2,27 +2,26 @@
 #pragma once
 
 #include "core/FsmDocument.h"
+#include "kit/ListModel.h"
 #include "run/LiveRun.h"
-
-#include <QAbstractTableModel>
 
 namespace orvane {
 
 // The timers of the machine; of the one that the present state looks at, what is left and where that leads.
-class TimersModel : public QAbstractTableModel {
+class TimersModel : public ListModel {
     Q_OBJECT
 
   public:
     // Both outlive the model.
     TimersModel(const FsmDocument& document, const run::LiveRun& run, QObject* parent);
 
-    int rowCount(const QModelIndex& parent = {}) const override;
-    int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
-    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
     // The run is at another moment.
     void Refresh();
+
+  protected:
+    int Rows() const override { return rows_; }
 
   private:
     int Timers() const;
