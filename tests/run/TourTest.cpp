@@ -172,7 +172,7 @@ TEST(Tour, OfRandomMachinesPassesAndCoversWhatATestCanTake) {
 }
 
 // What a tour notices. Tells each wrong machine that the tour of the right one does not: `makeWrong` spoils
-// one cell, or leaves it as it is.
+// one cell of a state with a block, or leaves it as it is.
 template <typename MakeWrong>
 std::vector<std::string> Unnoticed(const TourOptions& options, int& tried, const MakeWrong& makeWrong) {
     std::vector<std::string> unnoticed;
@@ -183,13 +183,16 @@ std::vector<std::string> Unnoticed(const TourOptions& options, int& tried, const
         if (!isExample && (tour.Transitions.All > 25 || ++machines % 3 != 0))
             continue; // the others are enough
         const TestFile tests = ReadBack(tour.Tests);
+        const Machine right(machine.Document);
         for (const StateNumber state : StateNumbers()) {
+            if (!right.State(state).HasBlock)
+                continue;
             for (const RowNumber row : CellRows()) {
                 const Cell cell{row, state};
                 const bool never =
                     std::find(tour.NeverTaken.begin(), tour.NeverTaken.end(), cell) != tour.NeverTaken.end();
                 FsmDocument wrong = machine.Document;
-                if (never || !makeWrong(wrong, cell) || !Obstacles(wrong).empty())
+                if (never || !makeWrong(wrong, right, cell) || !Obstacles(wrong).empty())
                     continue;
                 ++tried;
                 if (RunTour(tests, wrong).Passed)
@@ -202,14 +205,13 @@ std::vector<std::string> Unnoticed(const TourOptions& options, int& tried, const
 }
 
 bool Leads(const FsmDocument& document, Cell cell) {
-    return Machine(document).State(cell.State).HasBlock &&
-           document.State(cell.State).Targets[cell.Row] != kNoState;
+    return document.State(cell.State).Targets[cell.Row] != kNoState;
 }
 
 TEST(Tour, NoticesWrongTargetsAndMissingTransitions) {
     int tried = 0;
     EXPECT_THAT(Unnoticed({}, tried,
-                          [](FsmDocument& wrong, Cell cell) {
+                          [](FsmDocument& wrong, const Machine&, Cell cell) {
                               const bool leads = Leads(wrong, cell);
                               const StateNumber target = wrong.State(cell.State).Targets[cell.Row];
                               wrong.State(cell.State).Targets[cell.Row] = target == StateNumber(1) ? 2 : 1;
@@ -217,9 +219,9 @@ TEST(Tour, NoticesWrongTargetsAndMissingTransitions) {
                           }),
                 IsEmpty());
     EXPECT_THAT(Unnoticed({}, tried,
-                          [](FsmDocument& wrong, Cell cell) {
+                          [](FsmDocument& wrong, const Machine& right, Cell cell) {
                               const bool leads = Leads(wrong, cell);
-                              const std::uint64_t holds = Machine(wrong).State(cell.State).Holds;
+                              const std::uint64_t holds = right.State(cell.State).Holds;
                               wrong.State(cell.State).Targets[cell.Row] = kNoState;
                               // What holds a state where nothing else happens is as good as nothing.
                               return leads && cell.Row != RowNumber(kTimeoutRow) &&
@@ -232,7 +234,7 @@ TEST(Tour, NoticesWrongTargetsAndMissingTransitions) {
 TEST(Tour, NoticesMissingActionsAndLimitsThatAreOneUnitOff) {
     int tried = 0;
     EXPECT_THAT(Unnoticed({}, tried,
-                          [](FsmDocument& wrong, Cell cell) {
+                          [](FsmDocument& wrong, const Machine&, Cell cell) {
                               StateRecord& state = wrong.State(cell.State);
                               const bool dropped =
                                   cell.Row == RowNumber(kTimeoutRow) && HasVariableLimit(state.TimingMode);
@@ -243,7 +245,7 @@ TEST(Tour, NoticesMissingActionsAndLimitsThatAreOneUnitOff) {
                 IsEmpty());
     for (const int off : {-1, 1}) {
         EXPECT_THAT(Unnoticed({}, tried,
-                              [off](FsmDocument& wrong, Cell cell) {
+                              [off](FsmDocument& wrong, const Machine&, Cell cell) {
                                   StateRecord& state = wrong.State(cell.State);
                                   const std::optional<std::int64_t> limit = LimitNumber(state.TimeConst);
                                   if (cell.Row != RowNumber(kTimeoutRow) || !limit || !Leads(wrong, cell))
@@ -257,13 +259,11 @@ TEST(Tour, NoticesMissingActionsAndLimitsThatAreOneUnitOff) {
 }
 
 TEST(Tour, WithEmptyCellsNoticesTransitionsThatWereAdded) {
-    const auto add = [](FsmDocument& wrong, Cell cell) {
-        const Machine machine(wrong);
+    const auto add = [](FsmDocument& wrong, const Machine& machine, Cell cell) {
         std::uint64_t anyEvents = 0;
         for (const StateNumber state : StateNumbers())
             anyEvents |= machine.State(state).Events;
-        const bool empty = machine.State(cell.State).HasBlock && machine.Yields(cell.State) &&
-                           (anyEvents >> cell.Row.Number() & 1U) != 0 &&
+        const bool empty = machine.Yields(cell.State) && (anyEvents >> cell.Row.Number() & 1U) != 0 &&
                            wrong.State(cell.State).Targets[cell.Row] == kNoState;
         wrong.State(cell.State).Targets[cell.Row] = cell.State == StateNumber(1) ? 2 : 1;
         return empty && machine.State(wrong.State(cell.State).Targets[cell.Row]).HasBlock;
@@ -276,8 +276,7 @@ TEST(Tour, WithEmptyCellsNoticesTransitionsThatWereAdded) {
 
 // Rows that change places with all that is in them; events keep their names.
 TEST(Tour, TogetherNoticesExchangedPriorities) {
-    const auto exchange = [](FsmDocument& wrong, Cell cell) {
-        const Machine machine(wrong);
+    const auto exchange = [](FsmDocument& wrong, const Machine& machine, Cell cell) {
         const RowNumber upper = cell.Row;
         const RowNumber lower = upper + 1;
         if (upper < RowNumber(kFirstEventRow) || upper == RowNumber(kLastRow))
