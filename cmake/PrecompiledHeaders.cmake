@@ -6,3 +6,10 @@ function(orvane_precompile_headers target)
   set_target_properties(${target} PROPERTIES CXX_COMPILER_LAUNCHER "")
   target_compile_options(${target} PRIVATE "${orvane_blind_warnings}")
 endfunction()
+
+# The headers of the standard library that nearly every file includes, where there is no compiler cache, which does better.
+function(orvane_precompile_standard_headers target)
+  if(NOT CMAKE_CXX_COMPILER_LAUNCHER)
+    orvane_precompile_headers(${target} <algorithm> <array> <map> <optional> <string> <string_view> <vector>)
+  endif()
+endfunction()

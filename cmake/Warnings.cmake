@@ -15,6 +15,6 @@ endif()
 # Among the sanitizers' checks, and with precompiled headers, this compiler's release loses sight of what is set and how
 # long it is. Every other build has these warnings.
 set(orvane_blind_warnings $<$<AND:$<CXX_COMPILER_ID:GNU>,$<VERSION_LESS:$<CXX_COMPILER_VERSION>,13>>:-Wno-array-bounds;-Wno-maybe-uninitialized;-Wno-restrict;-Wno-stringop-overflow;-Wno-stringop-overread>)
-if(ORVANE_SANITIZE)
+if(ORVANE_SANITIZE STREQUAL "ALL")
   target_compile_options(orvane_warnings INTERFACE "${orvane_blind_warnings}")
 endif()
