@@ -2,6 +2,7 @@
 #pragma once
 
 #include "text/AnsiText.h"
+#include "text/Append.h"
 
 #include <cstddef>
 #include <string>
@@ -16,8 +17,7 @@ class ProgramText {
     // A line made of the pieces, as they are.
     template <typename... Pieces>
     void EmitLine(const Pieces&... pieces) {
-        (text_.append(std::string_view(pieces)), ...);
-        text_.append(kLineEnd);
+        Append(text_, pieces..., kLineEnd);
     }
 
     template <typename... Pieces>

@@ -3,28 +3,32 @@
 #include "export/Exports.h"
 #include "export/FieldKey.h"
 #include "export/Names.h"
+#include "text/Append.h"
 #include "text/JsonString.h"
 #include "text/NumberText.h"
 
 #include <type_traits>
+#include <utility>
 
 namespace orvane::exports {
 
 namespace {
 
-std::string ValueText(const std::string& text) { return JsonStringOfAnsi(text); }
-std::string ValueText(bool isOn) { return isOn ? "true" : "false"; }
-std::string ValueText(Twips length) { return NumberText(length.Count()); }
+void AppendValue(std::string& json, const std::string& ansi) { AppendJsonStringOfAnsi(json, ansi); }
+void AppendValue(std::string& json, bool isOn) { json += isOn ? "true" : "false"; }
+void AppendValue(std::string& json, Twips length) { AppendNumber(json, length.Count()); }
+void AppendValue(std::string& json, RowNumber row) { AppendNumber(json, row.Number()); }
+void AppendValue(std::string& json, StateNumber state) { AppendNumber(json, state.Number()); }
 template <typename Integer>
-std::enable_if_t<std::is_integral_v<Integer>, std::string> ValueText(Integer number) {
-    return NumberText(number);
+std::enable_if_t<std::is_integral_v<Integer>> AppendValue(std::string& json, Integer number) {
+    AppendNumber(json, number);
 }
 
 class JsonWriter {
   public:
     std::string Write(const FsmDocument& document) {
         Open("{");
-        Member("version", "1");
+        Member("version", 1);
         Machine(document);
         Key("events");
         Open("[");
@@ -41,7 +45,7 @@ class JsonWriter {
         }
         Close("]");
         Close("}");
-        return text_ + "\n";
+        return std::move(text_ += "\n");
     }
 
   private:
@@ -55,13 +59,13 @@ class JsonWriter {
         Fields(kRowHeightFields, document.View.RowVisible);
         Close("}");
         Close("}");
-        Member("defaultColumnWidth", ValueText(document.DefaultColumnWidth()));
+        Member("defaultColumnWidth", document.DefaultColumnWidth());
     }
 
     void Event(const EventRecord& event, RowNumber row) {
         Item();
         Open("{");
-        Member("row", NumberText(row.Number()));
+        Member("row", row);
         Fields(kEventFields, event);
         Close("}");
     }
@@ -69,7 +73,7 @@ class JsonWriter {
     void State(const StateRecord& state, StateNumber number) {
         Item();
         Open("{");
-        Member("number", NumberText(number.Number()));
+        Member("number", number);
         Fields(kStateFields, state);
         Key("cells");
         Open("[");
@@ -85,11 +89,12 @@ class JsonWriter {
             return;
         RequireInRange(target, TargetNumbers(), "target");
         Item();
-        text_ += "{ \"row\": " + NumberText(row.Number());
+        text_ += "{ \"row\": ";
+        AppendValue(text_, row);
         if (target != kNoState)
-            text_ += ", \"target\": " + NumberText(target.Number());
+            AppendValue(text_ += ", \"target\": ", target);
         if (!state.Actions[row].empty())
-            text_ += ", \"action\": " + JsonStringOfAnsi(state.Actions[row]);
+            AppendValue(text_ += ", \"action\": ", state.Actions[row]);
         text_ += " }";
     }
 
@@ -98,7 +103,7 @@ class JsonWriter {
     void Fields(const Table& table, const Record& record) {
         ForEachField(table, [&]<typename Value>(const Field<Record, Value>& field) {
             if (field.File.EvenEmpty || !(record.*field.Member == Value()))
-                Member(FieldKey(field.Name), ValueText(record.*field.Member));
+                Member(FieldKey(field.Name), record.*field.Member);
         });
     }
 
@@ -107,13 +112,14 @@ class JsonWriter {
         text_.append(2 * depth_, ' ');
         isFirst_ = false;
     }
-    void Key(const std::string& key) {
+    void Key(std::string_view key) {
         Item();
-        text_ += "\"" + key + "\": ";
+        Append(text_, "\"", key, "\": ");
     }
-    void Member(const std::string& key, const std::string& value) {
+    template <typename Value>
+    void Member(std::string_view key, const Value& value) {
         Key(key);
-        text_ += value;
+        AppendValue(text_, value);
     }
     void Open(const char* bracket) {
         text_ += bracket;

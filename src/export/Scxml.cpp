@@ -5,6 +5,7 @@
 #include "export/Names.h"
 #include "export/ScxmlWords.h"
 #include "export/Titles.h"
+#include "text/Append.h"
 #include "text/EscapedUtf8.h"
 #include "text/NumberText.h"
 #include "text/XmlText.h"
@@ -49,14 +50,16 @@ void AppendEscape(std::string& literal, std::string_view rest) {
 }
 
 // A text as an expression in an attribute.
-std::string Literal(std::string_view ansi) {
-    std::string literal = "&#39;";
-    AppendEscaped(literal, ansi, kEscaped, AppendEscape);
-    return literal + "&#39;";
+void AppendLiteral(std::string& xml, std::string_view ansi) {
+    xml += "&#39;";
+    AppendEscaped(xml, ansi, kEscaped, AppendEscape);
+    xml += "&#39;";
 }
 
-std::string Log(const std::string& indent, std::string_view label, std::string_view code) {
-    return indent + "<log label=\"" + std::string(label) + "\" expr=\"" + Literal(code) + "\"/>\n";
+void AppendLog(std::string& xml, std::string_view label, std::string_view code) {
+    Append(xml, "      <log label=\"", label, "\" expr=\"");
+    AppendLiteral(xml, code);
+    xml += "\"/>\n";
 }
 
 class ScxmlWriter {
@@ -114,7 +117,7 @@ class ScxmlWriter {
             return;
         text_ += "    <onentry>\n";
         if (!record.EntryCode.empty())
-            text_ += Log("      ", scxml::kEntry, record.EntryCode);
+            AppendLog(text_, scxml::kEntry, record.EntryCode);
         if (HasDelay(record))
             text_ += "      <send id=\"" + TimeoutEvent(state) + "\" event=\"" + TimeoutEvent(state) +
                      "\" delay=\"" + XmlText(Delay(record)) + "\"/><!-- limit " +
@@ -129,7 +132,7 @@ class ScxmlWriter {
         if (HasDelay(record))
             text_ += "      <cancel sendid=\"" + TimeoutEvent(state) + "\"/>\n";
         if (!record.ExitCode.empty())
-            text_ += Log("      ", scxml::kExit, record.ExitCode);
+            AppendLog(text_, scxml::kExit, record.ExitCode);
         text_ += "    </onexit>\n";
     }
 
@@ -139,18 +142,23 @@ class ScxmlWriter {
             return;
         if (cell.Row == kTimeoutRow && !HasDelay(record))
             WriteLoss(record);
-        ((text_ += "    <transition") += EventOf(cell)) += " target=\"";
-        (text_ += StateId(target)) += '"';
-        const std::string& action = record.Actions[cell.Row];
-        text_ +=
-            action.empty() ? "/>\n" : ">\n" + Log("      ", scxml::kAction, action) + "    </transition>\n";
+        text_ += "    <transition";
+        if (cell.Row == kTimeoutRow)
+            Append(text_, " event=\"", TimeoutEvent(cell.State), "\"");
+        else if (cell.Row != kElseRow)
+            Append(text_, " event=\"", ids_.Of(cell.Row), "\"");
+        Append(text_, " target=\"", StateId(target), "\"");
+        WriteContent(record.Actions[cell.Row]);
     }
 
-    std::string EventOf(Cell cell) const {
-        if (cell.Row == kElseRow)
-            return "";
-        const std::string event = cell.Row == kTimeoutRow ? TimeoutEvent(cell.State) : ids_.Of(cell.Row);
-        return " event=\"" + event + "\"";
+    void WriteContent(const std::string& action) {
+        if (action.empty()) {
+            text_ += "/>\n";
+            return;
+        }
+        text_ += ">\n";
+        AppendLog(text_, scxml::kAction, action);
+        text_ += "    </transition>\n";
     }
 
     void WriteLoss(const StateRecord& record) {

@@ -37,10 +37,16 @@ std::string JsonString(std::string_view utf8) {
 }
 
 std::string JsonStringOfAnsi(std::string_view ansi) {
+    std::string json;
+    AppendJsonStringOfAnsi(json, ansi);
+    return json;
+}
+
+void AppendJsonStringOfAnsi(std::string& json, std::string_view ansi) {
     static constexpr ByteSet special = EscapedBytes(IsSpecial);
-    std::string json = "\"";
+    json += '"';
     AppendEscaped(json, ansi, special, AppendEscape);
-    return json += '"';
+    json += '"';
 }
 
 } // namespace orvane

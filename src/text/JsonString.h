@@ -12,5 +12,6 @@ std::string JsonString(std::string_view utf8);
 
 // The same of document text.
 std::string JsonStringOfAnsi(std::string_view ansi);
+void AppendJsonStringOfAnsi(std::string& json, std::string_view ansi);
 
 } // namespace orvane

@@ -26,6 +26,12 @@ std::int64_t ParseNumber(std::string_view text) {
 
 std::string NumberText(std::int64_t number) { return std::to_string(number); }
 
+void AppendNumber(std::string& text, std::int64_t number) {
+    std::array<char, std::numeric_limits<std::int64_t>::digits10 + 2> digits{}; // and a sign
+    const auto result = std::to_chars(digits.begin(), digits.end(), number);
+    text.append(digits.begin(), result.ptr);
+}
+
 std::string HexText(unsigned number) {
     std::array<char, 8> digits{};
     const auto result = std::to_chars(digits.begin(), digits.end(), number, 16);

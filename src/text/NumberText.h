@@ -14,6 +14,7 @@ std::int64_t ParseNumber(std::string_view text);
 
 // Decimal text without blanks, a sign only for negative numbers.
 std::string NumberText(std::int64_t number);
+void AppendNumber(std::string& text, std::int64_t number);
 
 // Upper-case hexadecimal text without leading zeros: 0, 1, ..., 9, A, B, ...
 std::string HexText(unsigned number);
