@@ -121,8 +121,9 @@ std::string_view CodePane::Utf8() const {
 }
 
 void CodePane::ReplaceUtf8(std::size_t start, std::size_t length, std::string_view utf8) {
-    SendScintilla(SCI_SETTARGETSTART, start);
-    SendScintilla(SCI_SETTARGETEND, start + length);
+    using Place = unsigned long; // of Scintilla; no std::size_t on Windows
+    SendScintilla(SCI_SETTARGETSTART, Place(start));
+    SendScintilla(SCI_SETTARGETEND, Place(start + length));
     SendScintilla(SCI_REPLACETARGET, utf8.size(), utf8.data());
 }
 
