@@ -2,7 +2,6 @@
 #pragma once
 
 #include "text/AnsiText.h"
-#include "text/Append.h"
 
 #include <cstddef>
 #include <string>
@@ -17,7 +16,8 @@ class ProgramText {
     // A line made of the pieces, as they are.
     template <typename... Pieces>
     void EmitLine(const Pieces&... pieces) {
-        Append(text_, pieces..., kLineEnd);
+        (text_.append(std::string_view(pieces)), ...);
+        text_.append(kLineEnd);
     }
 
     template <typename... Pieces>
