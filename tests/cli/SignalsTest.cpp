@@ -18,11 +18,13 @@ constexpr unsigned kLongestLife = 300;
 
 class Signals : public Orvanec, public testing::WithParamInterface<int> {
   protected:
-    // So large that writing it takes a while.
-    Signals() {
+    // So large that writing it takes a while. A shell's background job, as these tests may be, ignores an
+    // interrupt, and so would what it starts.
+    Signals() : before_(std::signal(GetParam(), SIG_DFL)) {
         WriteFile("large.zfsm",
                   "\xA4<FSM_NAME>D\xA4/\r\n\xA4<CODESEG>" + std::string(60u << 20, 'x') + "\xA4/\r\n\r\n");
     }
+    ~Signals() override { std::signal(GetParam(), before_); }
 
     pid_t Start(const char* verb) const {
         const std::string folder = Path("").string();
@@ -66,6 +68,9 @@ class Signals : public Orvanec, public testing::WithParamInterface<int> {
         waitpid(child, &status, 0);
         return status;
     }
+
+  private:
+    void (*before_)(int);
 };
 
 INSTANTIATE_TEST_SUITE_P(That, Signals, testing::Values(SIGINT, SIGTERM, SIGHUP), [](const auto& which) {
