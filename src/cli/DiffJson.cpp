@@ -13,7 +13,6 @@ namespace {
 using review::Change;
 using review::ChangeKind;
 
-std::string NumberOrNull(int number) { return number == 0 ? "null" : NumberText(number); }
 std::string Bool(bool value) { return value ? "true" : "false"; }
 std::string Text(std::string_view ansi) { return JsonStringOfAnsi(ansi); }
 
