@@ -10,7 +10,7 @@ endif()
 # orvane_sanitize(TARGET): with ENGINE, the target's own files are looked at, and what links it is linked for that.
 function(orvane_sanitize target)
   if(ORVANE_SANITIZE STREQUAL "ENGINE")
-    # Optimised as for a debugger such code compiles in half the time that -O1 takes, and runs as fast.
+    # Optimised as for a debugger such code compiles in half the time that -O1 takes.
     target_compile_options(${target} PRIVATE ${orvane_sanitized} $<$<CONFIG:Debug>:-Og> ${orvane_blind_warnings})
     target_link_options(${target} PUBLIC ${orvane_sanitizers})
   endif()
