@@ -18,7 +18,7 @@ WrittenProgram::WrittenProgram(Session& session, TableStatusBar& status)
 void WrittenProgram::Told(const Change& change) {
     if (change.Kind == ChangeKind::Replaced)
         return status_.ShowProgram({});
-    if (!ChangesTheProgram(change.Kind) && change.Kind != ChangeKind::ProgramWanted)
+    if (!RunsTheGenerator(change.Kind))
         return;
     const QString path = QString::fromStdString(ProgramFilePath(session_.Path()));
     const bool isWritten = session_.Program().Written && !session_.Path().empty();

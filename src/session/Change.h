@@ -26,15 +26,29 @@ enum class ChangeKind {
     Judged,        // what there is to be told of the design is something else
 };
 
-// After these the texts of the document may be others: names, comments, code, targets.
-constexpr bool ChangesTexts(ChangeKind kind) {
+// After these the table may be another one: states, events, targets, actions, timeouts. What is typed letter
+// by letter is general code.
+constexpr bool ChangesTheTable(ChangeKind kind) {
     return kind == ChangeKind::Replaced || kind == ChangeKind::Edited || kind == ChangeKind::Undone ||
-           kind == ChangeKind::Redone || kind == ChangeKind::Typed;
+           kind == ChangeKind::Redone;
 }
+
+// After these the machine may do something else.
+constexpr bool ChangesTheMachine(ChangeKind kind) {
+    return ChangesTheTable(kind) || kind == ChangeKind::Multitasking;
+}
+
+// After these the texts of the document may be others: names, comments, code, targets.
+constexpr bool ChangesTexts(ChangeKind kind) { return ChangesTheTable(kind) || kind == ChangeKind::Typed; }
 
 // After these the program may be another one.
 constexpr bool ChangesTheProgram(ChangeKind kind) {
     return ChangesTexts(kind) || kind == ChangeKind::Multitasking;
+}
+
+// After these the generator runs: the program may be another one, or somebody waits for it.
+constexpr bool RunsTheGenerator(ChangeKind kind) {
+    return ChangesTheProgram(kind) || kind == ChangeKind::ProgramWanted;
 }
 
 // Which part of the table shows the change.

@@ -101,7 +101,7 @@ void GeneratorRoom::Told(const Change& change) {
         MakeProgramsAgree(change.Kind);
     if (change.Kind == ChangeKind::Replaced)
         generator_.RunWithoutFile(session_.Document(), path);
-    else if (ChangesTheProgram(change.Kind) || change.Kind == ChangeKind::ProgramWanted)
+    else if (RunsTheGenerator(change.Kind))
         generator_.Run(session_.Document(), path);
     else
         return;

@@ -115,9 +115,7 @@ void DiagramRoom::Told(const Change& change) {
         return DrawAnew();
     const StateNumber chosen = session_.CurrentCell().State;
     const bool isElsewhere = picture_->Around() && chosen != kNoState && chosen != *picture_->Around();
-    const bool isRedrawn =
-        ChangesTexts(change.Kind) && change.Kind != ChangeKind::Typed; // general code is not drawn
-    if (isRedrawn || (change.Kind == ChangeKind::Moved && isElsewhere))
+    if (ChangesTheTable(change.Kind) || (change.Kind == ChangeKind::Moved && isElsewhere))
         Follow();
     else if (change.Kind == ChangeKind::Moved || change.Kind == ChangeKind::Ran ||
              change.Kind == ChangeKind::Judged)

@@ -50,7 +50,7 @@ void FindingsRoom::Hiding() { Forget(); }
 
 // After what the generator has looked at anew.
 void FindingsRoom::Told(const Change& change) {
-    if (!ChangesTheProgram(change.Kind) && change.Kind != ChangeKind::ProgramWanted)
+    if (!RunsTheGenerator(change.Kind))
         return;
     if (change.Kind == ChangeKind::Replaced)
         last_.reset();

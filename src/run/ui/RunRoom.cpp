@@ -118,9 +118,8 @@ void RunRoom::Hiding() {
     session_.ShowRun(std::nullopt);
 }
 
-// The letters of the general code, which are told one by one, make no other machine.
 void RunRoom::Told(const Change& change) {
-    if (!ChangesTheProgram(change.Kind) || change.Kind == ChangeKind::Typed)
+    if (!ChangesTheMachine(change.Kind))
         return;
     if (frmTour_ != nullptr)
         frmTour_->TakeEdit();
