@@ -5,6 +5,7 @@
 #include "kit/DocumentLineEdit.h"
 #include "kit/EditedLabel.h"
 #include "kit/LeftOut.h"
+#include "kit/OpenInDesktop.h"
 #include "kit/QScintilla.h"
 
 #include <QCheckBox>
@@ -22,6 +23,8 @@ namespace orvane {
 namespace {
 
 using Sci = QsciScintillaBase;
+
+constexpr int kHelpPage = 4985;
 
 unsigned long Unsigned(long position) { return static_cast<unsigned long>(position); }
 
@@ -47,6 +50,7 @@ FindReplaceDialog::FindReplaceDialog(QsciScintilla* editor) : QDialog(editor), e
     grid->addWidget(lblEdited, 4, 0, 1, 3);
     grid->setColumnStretch(1, 1);
     AddCloseKeys(*this);
+    AddHelpKey(*this, kHelpPage);
 }
 
 void FindReplaceDialog::BuildFields(QGridLayout& grid) {

@@ -2,6 +2,7 @@
 // Leaving what stands over the table, by keys.
 #include "kit/CodePane.h"
 #include "support/ui/Controls.h"
+#include "support/ui/OpenedAddresses.h"
 #include "support/ui/PopUpFixture.h"
 
 #include <QApplication>
@@ -66,6 +67,21 @@ TEST_F(ClosingKeys, FindAndReplaceIsClosedByBoth) {
         QTest::keyClick(&Named<QWidget>(find, "txtFind"), key, modifiers);
         EXPECT_FALSE(find.isVisible());
     }
+}
+
+TEST_F(ClosingKeys, F1InFindAndReplaceOpensItsOwnPage) {
+    StartOn(PumpDocument());
+    Trigger("mnuViewCell");
+    auto& pane = Named<CodePane>(Window(), "txtCellEntry");
+    pane.setFocus();
+    QTest::keyClick(&pane, Qt::Key_H, Qt::ControlModifier);
+    auto& find = Named<QWidget>(pane, "FindReplaceDialog");
+    // Whose shortcuts count is known a moment after the window has the focus.
+    ASSERT_TRUE(QTest::qWaitFor([&find] { return QApplication::activeWindow() == &find; }));
+    OpenedAddresses opened;
+    QTest::keyClick(&Named<QWidget>(find, "txtFind"), Qt::Key_F1);
+    ASSERT_EQ(opened.Addresses.size(), 1);
+    EXPECT_EQ(opened.Addresses.front().fileName(), QStringLiteral("4985.htm"));
 }
 
 TEST_F(ClosingKeys, EscAsksBeforeItDropsAChangedAction) {
