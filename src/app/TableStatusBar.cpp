@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/TableStatusBar.h"
 
+#include "kit/ElidedLabel.h"
+#include "kit/StatusPlace.h"
+
 #include <QEvent>
-#include <QLabel>
-#include <QTextDocument>
 
 namespace orvane {
 
@@ -15,36 +16,37 @@ constexpr int kWidestName = 400; // pixels
 
 TableStatusBar::TableStatusBar(QWidget* parent)
     : QStatusBar(parent),
-      Panel1(AddPanel(QStringLiteral("Panel1"), 0)),
-      Panel2(AddPanel(QStringLiteral("Panel2"), 0)),
+      Panel1(AddPanel(QStringLiteral("Panel1"))),
+      Panel2(AddPanel(QStringLiteral("Panel2"))),
       Panel3(AddPanel(QStringLiteral("Panel3"), 1)),
-      lblFindings(new QLabel(this)) {
+      lblFindings(new ElidedLabel(this)) {
     setObjectName(QStringLiteral("StatusBar1"));
     setAccessibleName(tr("Status"));
     Panel1->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("***")));
     Panel1->setAlignment(Qt::AlignCenter);
     Panel2->setMaximumWidth(kWidestName);
-    Panel3->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     lblFindings->setObjectName(QStringLiteral("lblFindings"));
-    lblFindings->setTextFormat(Qt::PlainText);
     lblFindings->setToolTip(tr("A click lists them; F8 goes to the next"));
     lblFindings->setCursor(Qt::PointingHandCursor);
     lblFindings->installEventFilter(this);
-    addPermanentWidget(lblFindings);
+    addPermanentWidget(new StatusPlace(*lblFindings, this));
 }
 
-QLabel* TableStatusBar::AddPanel(const QString& name, int stretch) {
-    auto* panel = new QLabel(this);
+// One that stretches takes the room that is left, whatever it says.
+ElidedLabel* TableStatusBar::AddPanel(const QString& name, int stretch) {
+    auto* panel = new ElidedLabel(this);
     panel->setObjectName(name);
-    panel->setTextFormat(Qt::PlainText);
-    addWidget(panel, stretch);
+    auto* place = new StatusPlace(*panel, this);
+    if (stretch > 0)
+        place->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    addWidget(place, stretch);
     return panel;
 }
 
 void TableStatusBar::ShowShift(bool held) { Panel1->setText(held ? QStringLiteral("*") : QString()); }
 
 void TableStatusBar::ShowName(const QString& name) {
-    Panel2->setText(name.isEmpty() ? QStringLiteral("[Un-named]") : name);
+    Panel2->ShowText(name.isEmpty() ? QStringLiteral("[Un-named]") : name);
 }
 
 void TableStatusBar::ShowFindings(const QString& counts) { lblFindings->setText(counts); }
@@ -78,7 +80,7 @@ void TableStatusBar::Say(const QString& text) {
     ShowMessages();
 }
 
-// Where the line is cut off, the whole of it shows under the pointer.
+// Under the pointer each has a line of its own.
 void TableStatusBar::ShowMessages() {
     QStringList messages;
     if (!said_.isEmpty())
@@ -91,8 +93,7 @@ void TableStatusBar::ShowMessages() {
     if (!problem_.isEmpty())
         messages += problem_;
     Panel3->setText(messages.join(QStringLiteral("  ")));
-    const QString lines = messages.join(QLatin1Char('\n'));
-    Panel3->setToolTip(Qt::mightBeRichText(lines) ? Qt::convertFromPlainText(lines) : lines); // a path may
+    Panel3->setToolTip(PlainToolTip(messages.join(QLatin1Char('\n'))));
 }
 
 } // namespace orvane

@@ -3,12 +3,12 @@
 
 #include <QStatusBar>
 
-class QLabel;
-
 namespace orvane {
 
+class ElidedLabel;
+
 // The main window's status bar: the Shift mark, the machine's name, and what there is to say. Nothing in it
-// makes the window wider.
+// makes the window wider; what is cut off ends in "…" and is whole under the pointer.
 class TableStatusBar : public QStatusBar {
     Q_OBJECT
 
@@ -37,13 +37,13 @@ class TableStatusBar : public QStatusBar {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
-    QLabel* AddPanel(const QString& name, int stretch);
+    ElidedLabel* AddPanel(const QString& name, int stretch = 0);
     void ShowMessages();
 
-    QLabel* Panel1;
-    QLabel* Panel2;
-    QLabel* Panel3;
-    QLabel* lblFindings;
+    ElidedLabel* Panel1;
+    ElidedLabel* Panel2;
+    ElidedLabel* Panel3;
+    ElidedLabel* lblFindings;
     QString said_;
     QString written_;
     QString problem_;

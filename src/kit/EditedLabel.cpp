@@ -3,19 +3,13 @@
 
 namespace orvane {
 
-EditedLabel::EditedLabel(QWidget* parent, const QString& what) : QLabel(parent) {
+EditedLabel::EditedLabel(QWidget* parent, const QString& what) : ElidedLabel(parent) {
     setObjectName(QStringLiteral("lblEdited"));
-    setTextFormat(Qt::PlainText);
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     QFont bold = font();
     bold.setBold(true);
     setFont(bold);
-    ShowEdited(what);
-}
-
-void EditedLabel::ShowEdited(const QString& what) {
-    setText(what);
-    setToolTip(Qt::mightBeRichText(what) ? what.toHtmlEscaped() : what);
+    ShowText(what);
 }
 
 } // namespace orvane

@@ -1,19 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QLabel>
+#include "kit/ElidedLabel.h"
 
 namespace orvane {
 
-// What a window edits, told inside it: "State 3:Opening". It makes no window wider: what there is no room for
-// is cut off, and is whole in the tooltip.
-class EditedLabel : public QLabel {
+// What a window edits, told inside it: "State 3:Opening".
+class EditedLabel : public ElidedLabel {
     Q_OBJECT
 
   public:
     explicit EditedLabel(QWidget* parent, const QString& what = {});
-
-    void ShowEdited(const QString& what);
 };
 
 } // namespace orvane

@@ -151,9 +151,9 @@ void frmBuilder::SetFileName(const QString& path) { txtFileName->setText(path); 
 
 void frmBuilder::TakeDocumentPath() {
     documentPath_ = QString::fromStdString(session_.Path());
-    lblEdited->ShowEdited(documentPath_.isEmpty()
-                              ? tr("The builder script of a machine that has no file yet")
-                              : tr("The builder script of %1").arg(QFileInfo(documentPath_).fileName()));
+    lblEdited->ShowText(documentPath_.isEmpty()
+                            ? tr("The builder script of a machine that has no file yet")
+                            : tr("The builder script of %1").arg(QFileInfo(documentPath_).fileName()));
 }
 
 void frmBuilder::StartDocument() {

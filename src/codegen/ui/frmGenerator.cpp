@@ -5,9 +5,10 @@
 #include "kit/AnsiString.h"
 #include "kit/CloseKeys.h"
 #include "kit/CodePane.h"
+#include "kit/ElidedLabel.h"
 #include "kit/OpenInDesktop.h"
+#include "kit/StatusPlace.h"
 
-#include <QLabel>
 #include <QMouseEvent>
 #include <QPlainTextEdit>
 #include <QStatusBar>
@@ -62,20 +63,22 @@ void frmGenerator::BuildErrorPane() {
 void frmGenerator::BuildStatusBar() {
     StatusBar1 = new QStatusBar(this);
     StatusBar1->setObjectName(QStringLiteral("StatusBar1"));
-    Panel1 = new QLabel(StatusBar1);
+    Panel1 = new ElidedLabel(StatusBar1);
     Panel1->setObjectName(QStringLiteral("Panel1"));
-    Panel1->setTextFormat(Qt::PlainText); // a folder can be named in markup
-    Panel2 = new QLabel(txtCode->CaretReadOut(), StatusBar1);
+    auto* place = new StatusPlace(*Panel1, StatusBar1);
+    place->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    Panel2 = new ElidedLabel(StatusBar1);
     Panel2->setObjectName(QStringLiteral("Panel2"));
-    StatusBar1->addWidget(Panel1, 1);
-    StatusBar1->addPermanentWidget(Panel2);
+    Panel2->setText(txtCode->CaretReadOut());
+    StatusBar1->addWidget(place, 1);
+    StatusBar1->addPermanentWidget(new StatusPlace(*Panel2, StatusBar1));
 }
 
 void frmGenerator::SetVocabulary(const Vocabulary& vocabulary) { txtCode->SetVocabulary(vocabulary); }
 
 void frmGenerator::TakeRun(const GeneratedProgram& program, const QString& status) {
     run_ = program;
-    Panel1->setText(status);
+    Panel1->ShowText(status);
     if (run_.Text.size() < kLargeProgram)
         ShowRun();
     else

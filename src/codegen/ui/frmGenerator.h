@@ -9,13 +9,13 @@
 
 #include <vector>
 
-class QLabel;
 class QPlainTextEdit;
 class QStatusBar;
 
 namespace orvane {
 
 class CodePane;
+class ElidedLabel;
 
 // Shows the latest generation run: the program above, its report below.
 //
@@ -57,8 +57,8 @@ class frmGenerator : public QWidget {
     CodePane* txtCode = nullptr;
     QPlainTextEdit* txtErrors = nullptr;
     QStatusBar* StatusBar1 = nullptr;
-    QLabel* Panel1 = nullptr;
-    QLabel* Panel2 = nullptr;
+    ElidedLabel* Panel1 = nullptr;
+    ElidedLabel* Panel2 = nullptr;
 
     GeneratedProgram run_;
     std::vector<ReportLine> reportLines_; // what the report pane shows

@@ -25,7 +25,7 @@ EditorDialog::EditorDialog(const QString& name, int helpPage, QWidget* parent) :
     AddHelpKey(*this, helpPage);
 }
 
-void EditorDialog::SetEdited(const QString& what) { lblEdited->ShowEdited(what); }
+void EditorDialog::SetEdited(const QString& what) { lblEdited->ShowText(what); }
 
 // Left to itself Qt puts it over the window anew each time, beside where the frame was.
 void EditorDialog::setVisible(bool visible) {

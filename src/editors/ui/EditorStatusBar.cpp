@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editors/ui/EditorStatusBar.h"
 
+#include "kit/ElidedLabel.h"
+#include "kit/StatusPlace.h"
+
 #include <QApplication>
 #include <QKeyEvent>
-#include <QLabel>
 
 namespace orvane {
 
@@ -19,11 +21,10 @@ EditorStatusBar::EditorStatusBar(QWidget* parent)
 
 // Messages are shown beside the panels, not over them.
 QLabel* EditorStatusBar::AddPanel(const QString& name, const QString& widestText) {
-    auto* panel = new QLabel(this);
+    auto* panel = new ElidedLabel(this);
     panel->setObjectName(name);
-    panel->setTextFormat(Qt::PlainText);
     panel->setMinimumWidth(panel->fontMetrics().horizontalAdvance(widestText));
-    addPermanentWidget(panel);
+    addPermanentWidget(new StatusPlace(*panel, this));
     return panel;
 }
 
