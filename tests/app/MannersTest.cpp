@@ -12,6 +12,7 @@
 #include <QApplication>
 #include <QFileDialog>
 #include <QMenu>
+#include <QScrollBar>
 #include <QWheelEvent>
 
 namespace orvane {
@@ -149,6 +150,30 @@ TEST_F(MannersTest, TheTableIsZoomedAndTheDocumentStaysWhatItIs) {
     EXPECT_EQ(Grid()->rowHeight(6), height);
     Wheel(-120);
     EXPECT_LT(Grid()->columnWidth(2), width);
+}
+
+TEST_F(MannersTest, ZoomLeavesTheCurrentCellInSight) {
+    StartOn(PumpDocument());
+    Window().resize(1100, 700);
+    QApplication::processEvents();
+    const QModelIndex cut = Grid()->indexAt(Grid()->viewport()->rect().bottomRight());
+    Grid()->setCurrentIndex(cut.siblingAtColumn(cut.column() - 1).siblingAtRow(cut.row() - 1));
+    for (int step = 0; step < 7; ++step) { // 250 %
+        Trigger("mnuZoomIn");
+        const QRect cell = Grid()->visualRect(Grid()->currentIndex());
+        EXPECT_TRUE(Grid()->viewport()->rect().contains(cell)) << step;
+        EXPECT_GE(cell.left(), Grid()->columnWidth(0)) << step;
+    }
+}
+
+TEST_F(MannersTest, ZoomLeavesATableThereThatWasScrolledAwayFromTheCurrentCell) {
+    StartOn(PumpDocument());
+    Grid()->setCurrentIndex(Grid()->model()->index(6, 1));
+    Grid()->horizontalScrollBar()->setValue(2000);
+    Grid()->verticalScrollBar()->setValue(300);
+    Trigger("mnuZoomIn");
+    EXPECT_EQ(Grid()->horizontalScrollBar()->value(), 2000);
+    EXPECT_EQ(Grid()->verticalScrollBar()->value(), 300);
 }
 
 TEST_F(MannersTest, AWindowThatIsMadeLargerThanTheScreenComesUpWithin) {

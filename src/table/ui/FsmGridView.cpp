@@ -150,10 +150,13 @@ void FsmGridView::updateGeometries() {
     Q_EMIT CellsMoved();
 }
 
-// What takes room from the table, as a pane that opens beside it, takes the current cell from nobody who was
-// looking at it. Who has scrolled away from it is left where he is.
+bool FsmGridView::SeesCurrentCell(const QSize& viewport) const {
+    return visualRect(currentIndex()).intersects(AreaOf(currentIndex(), viewport));
+}
+
+// A pane that opens beside the table takes room from it.
 void FsmGridView::resizeEvent(QResizeEvent* event) {
-    const bool wasSeen = visualRect(currentIndex()).intersects(AreaOf(currentIndex(), event->oldSize()));
+    const bool wasSeen = SeesCurrentCell(event->oldSize());
     QTableView::resizeEvent(event);
     if (wasSeen)
         scrollTo(currentIndex());

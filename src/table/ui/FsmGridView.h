@@ -39,6 +39,10 @@ class FsmGridView : public QTableView {
     Q_INVOKABLE QRect CellRect(int row, int col) { return CellRect(Cell{row, col}); }
     QRect CellRect(Cell cell);
 
+    // Whether something of the current cell can be seen now. What takes room from the table takes it from
+    // nobody who was looking at it; who has scrolled away from it is left where he is.
+    bool SeesCurrentCell() const { return SeesCurrentCell(viewport()->size()); }
+
     // The part of the cell that can be seen now; empty when nothing can.
     QRect VisibleRect(const QModelIndex& index) const;
 
@@ -102,6 +106,7 @@ class FsmGridView : public QTableView {
     // What the right button does on the cell under the pointer, done on the current cell.
     void PressCurrentCell();
     QRect AreaOf(const QModelIndex& index, const QSize& viewport) const;
+    bool SeesCurrentCell(const QSize& viewport) const;
     bool ShowFinding(const QHelpEvent& event);
     bool DragBorder(const QMouseEvent& event);
     void PressCell(const QMouseEvent& event);

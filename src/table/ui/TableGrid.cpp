@@ -137,8 +137,9 @@ void TableGrid::Zoom(int steps) {
     Settings().setValue(ZoomKey(), zoom_);
 }
 
-// What is being typed stays where its cell is.
+// What is being typed stays where its cell is. Larger cells leave room for fewer.
 void TableGrid::SetZoom(int percent) {
+    const bool wasSeen = MSFlexGrid1->SeesCurrentCell();
     zoom_ = percent;
     QFont larger = font();
     if (larger.pointSizeF() > 0)
@@ -149,6 +150,8 @@ void TableGrid::SetZoom(int percent) {
     MSFlexGrid1->setFont(larger);
     Measure();
     Draw({Touched::Extent::Everything, {}});
+    if (wasSeen)
+        MSFlexGrid1->scrollTo(MSFlexGrid1->currentIndex());
 }
 
 void TableGrid::Measure() {
