@@ -67,6 +67,11 @@ void PaneRoom::Follow(bool shown) {
         Shown();
 }
 
+int PaneRoom::FirstSize() const {
+    constexpr int percentBelow = 30; // of the window's height
+    return side_ == Qt::BottomDockWidgetArea ? window_.height() * percentBelow / 100 : 0;
+}
+
 int PaneRoom::Size() const { return side_ == Qt::RightDockWidgetArea ? pane_->width() : pane_->height(); }
 
 // Where the user has put it elsewhere, its size there says nothing about this side.

@@ -27,8 +27,9 @@ class PaneRoom : public Room {
     void ShowPane();
 
     virtual Pane* MakePane() = 0;
-    // How large a new pane is across, in pixels; 0 is as large as its fields want to be.
-    virtual int FirstSize() const { return 0; }
+    // How large a new pane is across, in pixels; 0 is as large as its fields want to be. Below the table it
+    // is a few lines, because lists want half of the window.
+    virtual int FirstSize() const;
     // The pane is to be seen from now on and may show what has been changed long ago.
     virtual void Shown() = 0;
     // It is about to be hidden, also by the user's pressing its own button. The room listens yet.

@@ -143,6 +143,15 @@ TEST_P(Panes, ItComesBackAsLargeAsItWasMadeInTheNextRunToo) {
     EXPECT_EQ(Size(), size);
 }
 
+TEST_P(Panes, OneThatIsNewLeavesTheTableItsPart) {
+    Toggle();
+    if (GetParam().Across == Qt::Vertical) { // of the table's height little is left anyway
+        EXPECT_LT(Size(), Window().height() / 3);
+    } else {
+        EXPECT_LE(Size(), Window().width() / 2);
+    }
+}
+
 TEST_P(Panes, ASizeThatWouldHideTheTableIsNotTakenOver) {
     Settings().setValue(QStringLiteral("PaneSizes/") + QLatin1String(GetParam().Name), 5000);
     Toggle();
