@@ -2,6 +2,7 @@
 #include "app/Application.h"
 
 #include "kit/UserMessageBox.h"
+#include "kit/Utf8String.h"
 
 #include <utility>
 
@@ -11,7 +12,7 @@ void TellFault(std::string_view what) {
     static bool telling = false; // a fault while one is being told would never end
     if (std::exchange(telling, true))
         return;
-    const QString cause = QString::fromUtf8(what.data(), qsizetype(what.size()));
+    const QString cause = FromUtf8(what);
     Tell(
         QApplication::activeWindow(),
         QApplication::translate(

@@ -14,7 +14,7 @@ namespace orvane {
 
 namespace {
 
-QString Text(std::string_view text) { return QLatin1String(QByteArrayView(text)); }
+QString Latin1(std::string_view text) { return QLatin1String(QByteArrayView(text)); }
 
 } // namespace
 
@@ -34,7 +34,7 @@ CommandMenus::CommandMenus(QMainWindow& window) : QObject(&window), window_(wind
             subMenu = AddMenu(menu, entry);
             break;
         case EntryKind::Divider:
-            menu->addSeparator()->setObjectName(Text(entry.Name));
+            menu->addSeparator()->setObjectName(Latin1(entry.Name));
             break;
         case EntryKind::Item:
         case EntryKind::Toggle:
@@ -63,19 +63,19 @@ void CommandMenus::AddMenuKeys() {
 }
 
 QMenu* CommandMenus::AddMenu(QMenu* parent, const CommandEntry& entry) {
-    const QString caption = Text(entry.Caption);
+    const QString caption = Latin1(entry.Caption);
     QMenu* menu = parent != nullptr ? parent->addMenu(caption) : new QMenu(caption, &window_);
-    menu->setObjectName(Text(entry.Name));
-    menu->menuAction()->setObjectName(Text(entry.Name));
+    menu->setObjectName(Latin1(entry.Name));
+    menu->menuAction()->setObjectName(Latin1(entry.Name));
     Item(entry.Id) = menu->menuAction();
     return menu;
 }
 
 void CommandMenus::AddItem(QMenu* menu, const CommandEntry& entry) {
-    QAction* item = menu->addAction(Text(entry.Caption));
-    item->setObjectName(Text(entry.Name));
+    QAction* item = menu->addAction(Latin1(entry.Caption));
+    item->setObjectName(Latin1(entry.Name));
     item->setCheckable(entry.Kind == EntryKind::Toggle);
-    item->setShortcut(QKeySequence::fromString(Text(entry.Keys), QKeySequence::PortableText));
+    item->setShortcut(QKeySequence::fromString(Latin1(entry.Keys), QKeySequence::PortableText));
     if (entry.Where == HeardIn::TheTable)
         item->setShortcutContext(Qt::WidgetShortcut);
     connect(item, &QAction::triggered, this, [this, id = entry.Id] { Q_EMIT Chosen(id); });

@@ -25,9 +25,6 @@ namespace orvane {
 
 namespace {
 
-constexpr auto kOwnCommands = std::to_array<Command>(
-    {Command::FileNew, Command::FileOpen, Command::FileSave, Command::FileSaveAs, Command::FileQuit});
-
 constexpr std::size_t kMostBoxes = 5;  // messages about one file that get a box of their own
 constexpr std::size_t kMostLines = 20; // of those that share the last box
 
@@ -63,7 +60,11 @@ FsmDocument FreshDocument() {
 
 DocumentLifecycle::DocumentLifecycle(const RoomPlace& place) : session_(place.Open), window_(&place.Window) {}
 
-std::span<const Command> DocumentLifecycle::Commands() const { return kOwnCommands; }
+std::span<const Command> DocumentLifecycle::Commands() const {
+    static constexpr auto commands = std::to_array<Command>(
+        {Command::FileNew, Command::FileOpen, Command::FileSave, Command::FileSaveAs, Command::FileQuit});
+    return commands;
+}
 
 void DocumentLifecycle::Run(Command command) {
     switch (command) {

@@ -17,7 +17,7 @@ namespace orvane {
 
 namespace {
 
-QString Translated(const char* text) { return QCoreApplication::translate("ReplaceGuard", text); }
+QString TrReplace(const char* text) { return QCoreApplication::translate("ReplaceGuard", text); }
 
 FileContent ReadThere(const QString& path) {
     NativeFiles files;
@@ -36,9 +36,9 @@ bool WasReplaced(const Session& session, const QString& path, const FileContent&
 
 QMessageBox::StandardButton Ask(QWidget* window, const QString& path) {
     const QString text =
-        Translated("Another program has changed\r\n%1\r\nsince it was opened or saved here. Replace it?\r\n"
-                   "\r\nYes: your document takes its place; what is there now is kept in the recovery folder."
-                   "\r\nNo: you save under another name.\r\nCancel: nothing is saved.");
+        TrReplace("Another program has changed\r\n%1\r\nsince it was opened or saved here. Replace it?\r\n"
+                  "\r\nYes: your document takes its place; what is there now is kept in the recovery folder."
+                  "\r\nNo: you save under another name.\r\nCancel: nothing is saved.");
     return AskYesNoCancel(window, QStringLiteral("Orvane"), text.arg(path), QMessageBox::Cancel);
 }
 
@@ -53,8 +53,8 @@ ReplaceDecision Keep(QWidget* window, const QString& path, const FileContent& th
         why = QString::fromStdString(ReasonText(copy.Failure));
     }
     Tell(window,
-         Translated("Nothing was saved: no copy of\r\n%1\r\ncould be kept (%2). Your document is still "
-                    "open here, with all changes. You can save it under another name.")
+         TrReplace("Nothing was saved: no copy of\r\n%1\r\ncould be kept (%2). Your document is still "
+                   "open here, with all changes. You can save it under another name.")
              .arg(path, why));
     return {ReplaceAnswer::Nothing, {}};
 }

@@ -22,8 +22,8 @@ namespace orvane {
 
 namespace {
 
-constexpr int kHelpPage = 4835;
-constexpr QSize kStartSize{1100, 700}; // pixels
+constexpr int kTableHelpPage = 4835;
+constexpr QSize kTableSize{1100, 700}; // pixels
 
 bool Runs(const Room& room, Command command) {
     const std::span<const Command> own = room.Commands();
@@ -35,7 +35,7 @@ bool Runs(const Room& room, Command command) {
 frmTable::frmTable(QWidget* parent)
     : QMainWindow(parent), menus_(new CommandMenus(*this)), status_(new TableStatusBar(this)) {
     setObjectName(QStringLiteral("frmTable"));
-    resize(kStartSize);
+    resize(kTableSize);
     setStatusBar(status_);
     session_.Observe(ObserverRank::Title, *this);
     connect(menus_, &CommandMenus::Chosen, this, &frmTable::Run);
@@ -43,7 +43,7 @@ frmTable::frmTable(QWidget* parent)
         if (!session_.IsPaneShown(Command::ViewFindings))
             Run(Command::ViewFindings);
     });
-    AddHelpKey(*this, kHelpPage);
+    AddHelpKey(*this, kTableHelpPage);
     Trace("Start at " + QDateTime::currentDateTime().toString(Qt::ISODate).toStdString());
     LoadWords();
     MakeRooms();

@@ -16,14 +16,12 @@ namespace orvane::cli {
 
 namespace {
 
-std::string Number(std::size_t number) { return NumberText(number); }
-
 std::string OutOf(const run::CoverageCount& count, const char* what) {
-    return Number(count.Taken) + " of " + Number(count.All) + " " + what;
+    return NumberText(count.Taken) + " of " + NumberText(count.All) + " " + what;
 }
 
 std::string CountObject(const run::CoverageCount& count) {
-    return "{\"taken\":" + Number(count.Taken) + ",\"all\":" + Number(count.All) + "}";
+    return "{\"taken\":" + NumberText(count.Taken) + ",\"all\":" + NumberText(count.All) + "}";
 }
 
 const char* VerdictName(run::Verdict verdict) {
@@ -40,18 +38,18 @@ const char* VerdictName(run::Verdict verdict) {
 
 std::string TestCase(const TestedFile& file, const TestedTest& test) {
     std::string xml = "    <testcase classname=\"" + XmlTextOfUtf8(file.Name) + "\" name=\"" +
-                      XmlTextOfUtf8(test.Name.empty() ? "line " + Number(test.Line) : test.Name) + "\"";
+                      XmlTextOfUtf8(test.Name.empty() ? "line " + NumberText(test.Line) : test.Name) + "\"";
     if (test.Is == run::Verdict::Passed && test.Notes.empty())
         return xml + "/>\n";
     xml += ">\n";
-    const std::string where = file.Name + ":" + Number(test.Line) + ":" + Number(test.Column) + ": ";
+    const std::string where = file.Name + ":" + NumberText(test.Line) + ":" + NumberText(test.Column) + ": ";
     const char* element = test.Is == run::Verdict::Failed ? "failure" : "error";
     if (test.Is != run::Verdict::Passed)
         xml += std::string("      <") + element + " message=\"" + XmlTextOfUtf8(test.Message) + "\">" +
                XmlTextOfUtf8(where + test.Message) + "</" + element + ">\n";
     for (const run::TestMessage& note : test.Notes)
         xml += "      <system-out>" +
-               XmlTextOfUtf8(file.Name + ":" + Number(note.At.Line) + ": note: " + note.Text) +
+               XmlTextOfUtf8(file.Name + ":" + NumberText(note.At.Line) + ": note: " + note.Text) +
                "</system-out>\n";
     return xml + "    </testcase>\n";
 }
@@ -118,9 +116,9 @@ std::vector<CoveredDocument> CoveredDocuments(const std::vector<TestedFile>& fil
 std::string JsonOfTest(const TestedFile& file, const TestedTest& test) {
     std::string notes;
     for (const run::TestMessage& note : test.Notes)
-        notes += (notes.empty() ? "{\"line\":" : ",{\"line\":") + Number(note.At.Line) +
+        notes += (notes.empty() ? "{\"line\":" : ",{\"line\":") + NumberText(note.At.Line) +
                  ",\"text\":" + JsonString(note.Text) + "}";
-    return "{\"file\":" + JsonString(file.Name) + ",\"line\":" + Number(test.Line) +
+    return "{\"file\":" + JsonString(file.Name) + ",\"line\":" + NumberText(test.Line) +
            ",\"test\":" + (test.Name.empty() ? "null" : JsonString(test.Name)) + ",\"verdict\":\"" +
            VerdictName(test.Is) +
            "\",\"message\":" + (test.Message.empty() ? "null" : JsonString(test.Message)) + ",\"notes\":[" +
@@ -138,8 +136,9 @@ std::string JsonOfRun(const TestCounts& counts, const std::vector<CoveredDocumen
         emptyCells += document.Seen.EmptyCells();
         pairs += document.Seen.Pairs();
     }
-    return "{\"version\":1,\"passed\":" + Number(counts.Passed) + ",\"failed\":" + Number(counts.Failed) +
-           ",\"errors\":" + Number(counts.Errors) + ",\"coverage\":{\"states\":" + CountObject(states) +
+    return "{\"version\":1,\"passed\":" + NumberText(counts.Passed) +
+           ",\"failed\":" + NumberText(counts.Failed) + ",\"errors\":" + NumberText(counts.Errors) +
+           ",\"coverage\":{\"states\":" + CountObject(states) +
            ",\"transitions\":" + CountObject(transitions) + ",\"emptyCells\":" + CountObject(emptyCells) +
            ",\"pairs\":" + CountObject(pairs) + "}}\n";
 }
@@ -148,8 +147,9 @@ std::string JUnitXml(const std::vector<TestedFile>& files) {
     std::string xml = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<testsuites name=\"orvanec test\">\n";
     for (const TestedFile& file : files) {
         const TestCounts counts = CountTests({file});
-        xml += "  <testsuite name=\"" + XmlTextOfUtf8(file.Name) + "\" tests=\"" + Number(file.Tests.size()) +
-               "\" failures=\"" + Number(counts.Failed) + "\" errors=\"" + Number(counts.Errors) + "\">\n";
+        xml += "  <testsuite name=\"" + XmlTextOfUtf8(file.Name) + "\" tests=\"" +
+               NumberText(file.Tests.size()) + "\" failures=\"" + NumberText(counts.Failed) + "\" errors=\"" +
+               NumberText(counts.Errors) + "\">\n";
         for (const TestedTest& test : file.Tests)
             xml += TestCase(file, test);
         xml += "  </testsuite>\n";
@@ -161,23 +161,23 @@ std::string MarkdownReport(const std::vector<TestedFile>& files,
                            const std::vector<CoveredDocument>& covered) {
     const TestCounts counts = CountTests(files);
     std::string text =
-        "# Tests\n\n" + Number(counts.Passed) + " passed, " + Number(counts.Failed) + " failed";
-    text += counts.Errors == 0 ? "\n" : ", " + Number(counts.Errors) + " could not be understood\n";
+        "# Tests\n\n" + NumberText(counts.Passed) + " passed, " + NumberText(counts.Failed) + " failed";
+    text += counts.Errors == 0 ? "\n" : ", " + NumberText(counts.Errors) + " could not be understood\n";
     if (counts.Failed + counts.Errors > 0)
         text += "\n| where | test | what |\n| --- | --- | --- |\n";
     for (const TestedFile& file : files) {
         for (const TestedTest& test : file.Tests) {
             if (test.Is != run::Verdict::Passed)
-                text += "| " + Markdown(file.Name) + ":" + Number(test.Line) + " | " + Markdown(test.Name) +
-                        " | " + Markdown(test.Message) + " |\n";
+                text += "| " + Markdown(file.Name) + ":" + NumberText(test.Line) + " | " +
+                        Markdown(test.Name) + " | " + Markdown(test.Message) + " |\n";
         }
     }
     if (!covered.empty())
         text += "\n| machine | states | transitions | % |\n| --- | ---: | ---: | ---: |\n";
     for (const CoveredDocument& document : covered)
         text += "| " + Markdown(document.Name) + " | " + OutOf(document.Seen.States(), "|") + " " +
-                OutOf(document.Seen.Transitions(), "|") + " " + Number(Percent(document.Seen.Transitions())) +
-                " |\n";
+                OutOf(document.Seen.Transitions(), "|") + " " +
+                NumberText(Percent(document.Seen.Transitions())) + " |\n";
     return text;
 }
 

@@ -15,8 +15,6 @@ namespace orvane::cli {
 
 namespace {
 
-std::string Number(std::size_t number) { return NumberText(number); }
-
 // The documents that too little was seen of.
 void CheckCoverage(const std::vector<CoveredDocument>& covered, const TestArguments& asked,
                    Outcome& outcome) {
@@ -24,8 +22,8 @@ void CheckCoverage(const std::vector<CoveredDocument>& covered, const TestArgume
         const std::size_t percent = Percent(document.Seen.Transitions());
         if (!asked.LeastCovered || percent >= *asked.LeastCovered)
             continue;
-        outcome.Errors += ShownName(document.Name) + ": " + Number(percent) +
-                          " % of the transitions were taken, " + Number(*asked.LeastCovered) +
+        outcome.Errors += ShownName(document.Name) + ": " + NumberText(percent) +
+                          " % of the transitions were taken, " + NumberText(*asked.LeastCovered) +
                           " % are wanted\n";
         outcome.Raise(kDesignError);
     }
@@ -45,8 +43,8 @@ Outcome Summary(const std::vector<TestedFile>& tested, const TestArguments& aske
     if (asked.Json)
         outcome.Output = JsonOfRun(counts, covered);
     else
-        outcome.Output = CoverageText(covered, asked.Coverage) + Number(counts.Passed) + " passed, " +
-                         Number(counts.Failed) + " failed\n";
+        outcome.Output = CoverageText(covered, asked.Coverage) + NumberText(counts.Passed) + " passed, " +
+                         NumberText(counts.Failed) + " failed\n";
     return outcome;
 }
 

@@ -82,13 +82,13 @@ class Packer {
 };
 
 // Ends the unpacking from anywhere; what was read up to here stays.
-struct BreakOff {
+struct BrokenImage {
     std::string Why;
 };
 
 // Stands apart so that the hot path, which reads thousands of numbers, stays short.
 [[noreturn]] void Refuse(std::string_view what, int number) {
-    throw BreakOff{"The snapshot holds the " + std::string(what) + " " + NumberText(number)};
+    throw BrokenImage{"The snapshot holds the " + std::string(what) + " " + NumberText(number)};
 }
 
 class Unpacker {
@@ -130,7 +130,7 @@ std::vector<std::string> Unpacker::Unpack() {
         UnpackEvents();
         UnpackStates();
         UnpackFields<kGeneralFields>(document_.General);
-    } catch (const BreakOff& breakOff) {
+    } catch (const BrokenImage& breakOff) {
         messages_.push_back(breakOff.Why);
     }
     return std::move(messages_);
@@ -180,7 +180,7 @@ void Unpacker::UnpackCells(StateRecord& state) {
 
 int Unpacker::Number() {
     if (position_ >= image_.size())
-        throw BreakOff{"The snapshot ends too early"};
+        throw BrokenImage{"The snapshot ends too early"};
     return ByteOf(image_[position_++]);
 }
 

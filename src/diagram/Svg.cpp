@@ -25,9 +25,7 @@ constexpr std::string_view kStyle =
     ".sign{fill:none;stroke:#333;stroke-width:1.1}\n"
     ".error{fill:#c00;stroke:#fff;stroke-width:1}\n";
 
-std::string Number(int number) { return NumberText(number); }
-
-std::string At(Point point) { return Number(point.X) + "," + Number(point.Y); }
+std::string At(Point point) { return NumberText(point.X) + "," + NumberText(point.Y); }
 
 std::string PathData(const Path& line) {
     std::string data = "M" + At(line.Begin);
@@ -63,17 +61,18 @@ class SvgWriter {
     void WriteHead() {
         const Rect& bounds = layout_.Bounds;
         const std::string size =
-            "width=\"" + Number(bounds.Width) + "\" height=\"" + Number(bounds.Height) + "\"";
-        const std::string corner = "x=\"" + Number(bounds.X) + "\" y=\"" + Number(bounds.Y) + "\" ";
+            "width=\"" + NumberText(bounds.Width) + "\" height=\"" + NumberText(bounds.Height) + "\"";
+        const std::string corner = "x=\"" + NumberText(bounds.X) + "\" y=\"" + NumberText(bounds.Y) + "\" ";
         svg_ = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
                "<svg xmlns=\"http://www.w3.org/2000/svg\" version=\"1.1\" " +
-               size + " viewBox=\"" + Number(bounds.X) + " " + Number(bounds.Y) + " " + Number(bounds.Width) +
-               " " + Number(bounds.Height) + "\">\n<style type=\"text/css\">\n" + std::string(kStyle) +
-               "</style>\n<rect " + corner + size + " fill=\"#fff\"/>\n";
+               size + " viewBox=\"" + NumberText(bounds.X) + " " + NumberText(bounds.Y) + " " +
+               NumberText(bounds.Width) + " " + NumberText(bounds.Height) +
+               "\">\n<style type=\"text/css\">\n" + std::string(kStyle) + "</style>\n<rect " + corner + size +
+               " fill=\"#fff\"/>\n";
     }
 
     void WriteEdge(const SceneEdge& edge, const PlacedEdge& placed) {
-        svg_ += "<g id=\"edge-" + Number(edge.From.Number()) + "-" + Number(edge.To.Number()) + "\"" +
+        svg_ += "<g id=\"edge-" + NumberText(edge.From.Number()) + "-" + NumberText(edge.To.Number()) + "\"" +
                 (edge.IsDashed ? " class=\"else\"" : "") + ">\n";
         WriteTitle(edge.Name);
         WriteLine(placed.Line);
@@ -87,17 +86,18 @@ class SvgWriter {
 
     void WriteStart(const PlacedStart& start) {
         const int radius = start.Dot.Width / 2;
-        svg_ += "<g id=\"start\">\n<circle class=\"head\" cx=\"" + Number(start.Dot.X + radius) + "\" cy=\"" +
-                Number(start.Dot.Y + radius) + "\" r=\"" + Number(radius) + "\"/>\n";
+        svg_ += "<g id=\"start\">\n<circle class=\"head\" cx=\"" + NumberText(start.Dot.X + radius) +
+                "\" cy=\"" + NumberText(start.Dot.Y + radius) + "\" r=\"" + NumberText(radius) + "\"/>\n";
         WriteLine(start.Line);
         svg_ += "</g>\n";
     }
 
     void WriteState(const SceneState& state, const Rect& box) {
-        svg_ += "<g id=\"state-" + Number(state.Number.Number()) + "\"" + ClassOf(state) + ">\n";
+        svg_ += "<g id=\"state-" + NumberText(state.Number.Number()) + "\"" + ClassOf(state) + ">\n";
         WriteTitle(state.Name);
-        svg_ += "<rect class=\"box\" x=\"" + Number(box.X) + "\" y=\"" + Number(box.Y) + "\" width=\"" +
-                Number(box.Width) + "\" height=\"" + Number(box.Height) + "\" rx=\"5\"/>\n";
+        svg_ += "<rect class=\"box\" x=\"" + NumberText(box.X) + "\" y=\"" + NumberText(box.Y) +
+                "\" width=\"" + NumberText(box.Width) + "\" height=\"" + NumberText(box.Height) +
+                "\" rx=\"5\"/>\n";
         Point at = TextCorner(state, box, sizes_);
         if (state.HasError) {
             WriteErrorSign(at);
@@ -140,8 +140,8 @@ class SvgWriter {
             return;
         const bool isTitle = role == TextRole::Title;
         const int base = at.Y + (isTitle ? kTitlePixels : kLinePixels);
-        svg_ += std::string("<text ") + (isTitle ? "class=\"title\" " : "") + "x=\"" + Number(at.X) +
-                "\" y=\"" + Number(base) + "\" textLength=\"" + Number(sizes_.Width(text, role)) +
+        svg_ += std::string("<text ") + (isTitle ? "class=\"title\" " : "") + "x=\"" + NumberText(at.X) +
+                "\" y=\"" + NumberText(base) + "\" textLength=\"" + NumberText(sizes_.Width(text, role)) +
                 "\" lengthAdjust=\"spacingAndGlyphs\" xml:space=\"preserve\">" + XmlText(text) + "</text>\n";
     }
 

@@ -22,13 +22,13 @@ constexpr bool IsPlain(char character) {
            std::string_view(" _.,()+*/?!=").find(character) != std::string_view::npos;
 }
 
-constexpr ByteSet kEscaped =
+constexpr ByteSet kEscapedInCharts =
     EscapedBytes([](unsigned char byte) { return !IsPlain(static_cast<char>(byte)); });
 
 // Anything that could be markup as an entity: ";" would end a label, "::" the line, "a<b" begin a tag.
 std::string MermaidText(std::string_view ansi) {
     std::string text;
-    AppendEscaped(text, ansi, kEscaped, [](std::string& out, std::string_view rest) {
+    AppendEscaped(text, ansi, kEscapedInCharts, [](std::string& out, std::string_view rest) {
         Append(out, "#", NumberText(ByteOf(rest.front())), ";");
     });
     return text;
@@ -36,7 +36,7 @@ std::string MermaidText(std::string_view ansi) {
 
 std::string PlantUmlText(std::string_view ansi) {
     std::string text;
-    AppendEscaped(text, ansi, kEscaped, [](std::string& out, std::string_view rest) {
+    AppendEscaped(text, ansi, kEscapedInCharts, [](std::string& out, std::string_view rest) {
         const std::string code = HexText(ByteOf(rest.front()));
         Append(out, "<U+", std::string(4 - code.size(), '0'), code, ">");
     });

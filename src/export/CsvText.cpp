@@ -20,7 +20,8 @@ char Separator(std::string_view text) {
     return best;
 }
 
-constexpr ByteSet kEscaped = EscapedBytes([](unsigned char byte) { return byte == '"' || byte == '\r'; });
+constexpr ByteSet kEscapedInCsv =
+    EscapedBytes([](unsigned char byte) { return byte == '"' || byte == '\r'; });
 constexpr ByteSet kParting = BytesThat([](unsigned char byte) {
     return byte == '"' || byte == ',' || byte == ';' || byte == '\t' || byte == '\n' || byte == '\r';
 });
@@ -100,7 +101,7 @@ std::string CsvCell(std::string_view ansi) {
     if (isPlain)
         return ToUtf8(ansi);
     std::string quoted = "\"";
-    AppendEscaped(quoted, ansi, kEscaped, [](std::string& out, std::string_view rest) {
+    AppendEscaped(quoted, ansi, kEscapedInCsv, [](std::string& out, std::string_view rest) {
         if (rest.front() == '"')
             out += "\"\"";
         else if (!rest.starts_with("\r\n"))

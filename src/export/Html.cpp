@@ -28,7 +28,7 @@ std::string Link(const std::string& id, const std::string& text) {
     return (((link += id) += "\">") += text) += "</a>";
 }
 
-std::string Code(const std::string& title, std::string_view ansi) {
+std::string CodeParagraph(const std::string& title, std::string_view ansi) {
     if (ansi.empty())
         return "";
     return "<p>" + title + "</p>\n<pre>" + XmlText(ansi) + "</pre>\n";
@@ -48,7 +48,7 @@ class HtmlWriter {
         html_ = "<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n<title>" +
                 XmlText(name) + "</title>\n<style>\n" + std::string(kStyle) +
                 "</style>\n</head>\n<body>\n<h1>" + XmlText(name) + "</h1>\n" +
-                Code("Header", document_.General.HeaderComment);
+                CodeParagraph("Header", document_.General.HeaderComment);
         WriteTable();
         html_ += "<h2>States</h2>\n";
         for (const StateNumber state : states_)
@@ -56,9 +56,10 @@ class HtmlWriter {
         html_ += "<h2>Events</h2>\n";
         for (const RowNumber row : rows_)
             WriteEvent(row);
-        html_ += "<h2>Machine</h2>\n" + Code("TESTSEG", document_.General.TestSeg) +
-                 Code("INITSEG", document_.General.InitSeg) + Code("CODESEG", document_.General.CodeSeg) +
-                 Code("NVEM0DATA", document_.General.NvEm0Data) + "</body>\n</html>\n";
+        html_ += "<h2>Machine</h2>\n" + CodeParagraph("TESTSEG", document_.General.TestSeg) +
+                 CodeParagraph("INITSEG", document_.General.InitSeg) +
+                 CodeParagraph("CODESEG", document_.General.CodeSeg) +
+                 CodeParagraph("NVEM0DATA", document_.General.NvEm0Data) + "</body>\n</html>\n";
         return std::move(html_);
     }
 
@@ -107,10 +108,10 @@ class HtmlWriter {
         html_ += "<h3 id=\"" + StateId(state) + "\">" + titles_.Of(state) + "</h3>\n";
         if (!record.Tooltip.empty())
             html_ += "<p>" + XmlText(record.Tooltip) + "</p>\n";
-        html_ += Code("Entry action", record.EntryCode);
+        html_ += CodeParagraph("Entry action", record.EntryCode);
         for (const RowNumber row : rows_)
             WriteWay(record, {row, state});
-        html_ += Code("Exit action", record.ExitCode);
+        html_ += CodeParagraph("Exit action", record.ExitCode);
     }
 
     void WriteWay(const StateRecord& record, Cell cell) {
@@ -136,7 +137,7 @@ class HtmlWriter {
         html_ += "<h3 id=\"" + RowId(row) + "\">" + titles_.Of(row) + "</h3>\n";
         if (!document_.Event(row).Tooltip.empty())
             html_ += "<p>" + XmlText(document_.Event(row).Tooltip) + "</p>\n";
-        html_ += Code("Test", document_.Event(row).Code);
+        html_ += CodeParagraph("Test", document_.Event(row).Code);
     }
 
     const FsmDocument& document_;

@@ -34,7 +34,7 @@ std::string Plain(std::string_view ansi) {
 }
 
 // A fence longer than any row of back quotes in the code.
-std::string Code(const std::string& title, std::string_view ansi) {
+std::string FencedCode(const std::string& title, std::string_view ansi) {
     if (ansi.empty())
         return "";
     const std::string lines = Utf8Lines(ansi);
@@ -56,7 +56,7 @@ class MarkdownWriter {
     std::string Write() {
         const std::string name = Plain(document_.General.FsmName);
         text_ = "# " + (name.empty() ? "Machine" : name) + "\n\n" +
-                Code("Header", document_.General.HeaderComment);
+                FencedCode("Header", document_.General.HeaderComment);
         if (states_.size() <= kMostColumns)
             WriteTable();
         text_ += "## States\n\n";
@@ -66,7 +66,7 @@ class MarkdownWriter {
         for (const RowNumber row : rows_) {
             if (row >= kFirstEventRow)
                 text_ += "### " + titles_.Of(row) + "\n\n" + Comment(document_.Event(row).Tooltip) +
-                         Code("Test", document_.Event(row).Code);
+                         FencedCode("Test", document_.Event(row).Code);
         }
         text_.resize(text_.size() - 1); // one line end is enough
         return std::move(text_);
@@ -104,7 +104,7 @@ class MarkdownWriter {
     void WriteState(StateNumber state) {
         const StateRecord& record = document_.State(state);
         text_ += "### " + titles_.Of(state) + "\n\n" + Comment(record.Tooltip) +
-                 Code("Entry action", record.EntryCode);
+                 FencedCode("Entry action", record.EntryCode);
         bool hasWays = false;
         for (const RowNumber row : rows_) {
             const StateNumber target = record.Targets[row];
@@ -116,8 +116,8 @@ class MarkdownWriter {
         }
         text_ += hasWays ? "\n" : "";
         for (const RowNumber row : rows_)
-            text_ += Code("Action on " + titles_.Of(row), record.Actions[row]);
-        text_ += Code("Exit action", record.ExitCode);
+            text_ += FencedCode("Action on " + titles_.Of(row), record.Actions[row]);
+        text_ += FencedCode("Exit action", record.ExitCode);
     }
 
     const FsmDocument& document_;

@@ -28,7 +28,7 @@ constexpr bool IsMarkup(unsigned char byte) {
     return byte == '&' || byte == '<' || byte == '>' || byte == '"';
 }
 
-constexpr ByteSet kEscaped = EscapedBytes(
+constexpr ByteSet kEscapedInXml = EscapedBytes(
     [](unsigned char byte) { return byte < 0x20 || byte == '\'' || byte == '\\' || IsMarkup(byte); });
 
 void AppendEscape(std::string& literal, std::string_view rest) {
@@ -52,7 +52,7 @@ void AppendEscape(std::string& literal, std::string_view rest) {
 // A text as an expression in an attribute.
 void AppendLiteral(std::string& xml, std::string_view ansi) {
     xml += "&#39;";
-    AppendEscaped(xml, ansi, kEscaped, AppendEscape);
+    AppendEscaped(xml, ansi, kEscapedInXml, AppendEscape);
     xml += "&#39;";
 }
 

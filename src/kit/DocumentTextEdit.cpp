@@ -13,7 +13,7 @@ namespace orvane {
 
 namespace {
 
-constexpr int kTabWidth = 8; // blanks
+constexpr int kTabBlanks = 8; // blanks
 
 } // namespace
 
@@ -37,7 +37,7 @@ std::string DocumentTextEdit::Text() const {
 
 // Tabs stand where they stand in a code pane.
 void DocumentTextEdit::SetTabWidth() {
-    setTabStopDistance(kTabWidth * fontMetrics().horizontalAdvance(QLatin1Char(' ')));
+    setTabStopDistance(kTabBlanks * fontMetrics().horizontalAdvance(QLatin1Char(' ')));
 }
 
 void DocumentTextEdit::changeEvent(QEvent* event) {

@@ -26,12 +26,12 @@ QFont Sized(QFont font, double factor) {
     return font;
 }
 
+} // namespace
+
 QFont Bold(QFont font) {
     font.setBold(true);
     return font;
 }
-
-} // namespace
 
 PictureFonts::Face::Face(const QFont& font) : Font(font) {
     const QFontMetricsF metrics(font);

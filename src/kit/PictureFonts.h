@@ -9,6 +9,9 @@
 
 namespace orvane {
 
+// The same font in bold.
+QFont Bold(QFont font);
+
 // What the texts of a machine's picture are set in. A value that a thread may take along: the letters are
 // measured once, and a text is as wide as its letters, because it is painted without kerning.
 class PictureFonts : public diagram::TextSizes {

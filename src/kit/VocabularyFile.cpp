@@ -17,7 +17,7 @@ constexpr std::size_t kLargestFile = 1u << 20; // bytes
 
 QString Tr(const char* text) { return QCoreApplication::translate("VocabularyFile", text); }
 
-QString WhyUnread(const FileError& error) {
+QString WhyNoVocabulary(const FileError& error) {
     if (error.Refused)
         return Tr("it is not a file");
     if (error.Reason == std::errc::no_such_file_or_directory)
@@ -32,7 +32,7 @@ QString Read(const QString& path, Vocabulary& words) {
     NativeFiles files;
     const FileContent file = ReadFile(files, NativePath(path), kLargestFile);
     if (file.Failure)
-        return WhyUnread(*file.Failure);
+        return WhyNoVocabulary(*file.Failure);
     words = ParseVocabulary(file.Bytes());
     return {};
 }

@@ -18,7 +18,7 @@ namespace {
 
 constexpr int kInterval = 50;   // milliseconds between two ticks
 constexpr int kProseWidth = 60; // average characters
-constexpr int kMargin = 4;      // pixels around the text
+constexpr int kHintMargin = 4;  // pixels around the text
 constexpr int kBelow = 22;      // pixels from the pointer's tip to a hint below: clear of the arrow
 constexpr int kAbove = 6;
 constexpr int kAside = 10;
@@ -40,7 +40,7 @@ frmMyToolTip::frmMyToolTip(QWidget* owner)
     lblHint->setForegroundRole(QPalette::ToolTipText);
     lblHint->setTextFormat(Qt::PlainText);
     lblHint->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    lblHint->setMargin(kMargin);
+    lblHint->setMargin(kHintMargin);
     lblHint->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored); // a long text is cut
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -113,7 +113,7 @@ QSize frmMyToolTip::SizeForText(const QRect& screen) const {
         return lblHint->sizeHint() + frame;
     const int widest =
         std::min(kProseWidth * fontMetrics().averageCharWidth(), screen.width() - frame.width());
-    const int oneLine = fontMetrics().size(Qt::TextExpandTabs, text_).width() + 2 * kMargin;
+    const int oneLine = fontMetrics().size(Qt::TextExpandTabs, text_).width() + 2 * kHintMargin;
     const int width = std::min(widest, oneLine);
     return QSize(width, lblHint->heightForWidth(width)) + frame;
 }

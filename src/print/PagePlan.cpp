@@ -11,7 +11,7 @@ namespace {
 
 constexpr int kTileWidth = 160;
 constexpr int kTileHeight = 110;
-constexpr int kGap = 100;              // beside and below the boxes
+constexpr int kBoxGap = 100;           // beside and below the boxes
 constexpr std::size_t kMostTiles = 30; // in a line
 
 bool IsDrawn(const PagePlan& plan) { return plan.Rows <= kMostTiles && plan.Columns <= kMostTiles; }
@@ -20,7 +20,7 @@ bool IsDrawn(const PagePlan& plan) { return plan.Rows <= kMostTiles && plan.Colu
 
 int PlanHeight(const PagePlan& plan, const Letters& letters) {
     const int drawn = !plan.IsOnePage() && IsDrawn(plan) ? int(plan.Rows) * kTileHeight : 0;
-    return std::max(drawn, letters.LineHeight(Face::Small)) + kGap;
+    return std::max(drawn, letters.LineHeight(Face::Small)) + kBoxGap;
 }
 
 void WritePlan(PageFlow& flow, const PagePlan& plan) {
@@ -28,7 +28,7 @@ void WritePlan(PageFlow& flow, const PagePlan& plan) {
         return flow.Skip(PlanHeight(plan, flow.Measure()));
     const std::string place = "Part " + NumberText(std::int64_t(plan.Row * plan.Columns + plan.Column + 1)) +
                               " of " + NumberText(std::int64_t(plan.Rows * plan.Columns));
-    const int left = flow.Width() - (IsDrawn(plan) ? int(plan.Columns) * kTileWidth + kGap : 0);
+    const int left = flow.Width() - (IsDrawn(plan) ? int(plan.Columns) * kTileWidth + kBoxGap : 0);
     flow.Put(left - WidthOf(place, Face::Small, flow.Measure()), Face::Small, place);
     for (std::size_t row = 0; IsDrawn(plan) && row < plan.Rows; ++row) {
         for (std::size_t column = 0; column < plan.Columns; ++column) {

@@ -25,14 +25,14 @@ constexpr int kMostRounds = 10;
 
 // One kind of thing, states or events, on both sides.
 template <typename Number>
-struct Sides {
+struct Lists {
     std::vector<Number> Old;
     std::vector<Number> New;
 };
 
 // Those whose key, which is not 0, is unique on both sides.
 template <typename Number, typename OldKey, typename NewKey>
-void JoinByUniqueKey(Pairing<Number>& pairing, const Sides<Number>& free, OldKey oldKey, NewKey newKey) {
+void JoinByUniqueKey(Pairing<Number>& pairing, const Lists<Number>& free, OldKey oldKey, NewKey newKey) {
     struct Found {
         std::vector<Number> Old;
         std::vector<Number> New;
@@ -79,10 +79,10 @@ class Matcher {
 
   private:
     template <typename Number>
-    void Follow(const std::vector<Wish<Number>>& wishes, Pairing<Number>& pairing, Sides<Number>& free);
+    void Follow(const std::vector<Wish<Number>>& wishes, Pairing<Number>& pairing, Lists<Number>& free);
     void JoinByNames();
     template <typename Number>
-    static void KeepFree(Sides<Number>& sides, const Pairing<Number>& pairing);
+    static void KeepFree(Lists<Number>& sides, const Pairing<Number>& pairing);
 
     Matching BySameNumbers() const;
     Matching ByOrder() const;
@@ -92,21 +92,21 @@ class Matcher {
     Matching WithoutCostlyGuesses(Matching matching) const;
     Matching WithCheapGuesses(Matching matching);
     template <typename Number, typename LikenessOf>
-    void JoinCheap(Matching& matching, Pairing<Number> Matching::*kind, const Sides<Number>& sides,
+    void JoinCheap(Matching& matching, Pairing<Number> Matching::*kind, const Lists<Number>& sides,
                    LikenessOf likenessOf) const;
     template <typename Number>
-    void PartCostly(Matching& matching, Pairing<Number> Matching::*kind, const Sides<Number>& sides) const;
+    void PartCostly(Matching& matching, Pairing<Number> Matching::*kind, const Lists<Number>& sides) const;
 
     TextIds ids_;
     MachineDigest old_;
     MachineDigest new_;
     Matching known_;
-    Sides<StateNumber> states_; // those that are to be guessed
-    Sides<RowNumber> rows_;
+    Lists<StateNumber> states_; // those that are to be guessed
+    Lists<RowNumber> rows_;
 };
 
 template <typename Number>
-void Matcher::Follow(const std::vector<Wish<Number>>& wishes, Pairing<Number>& pairing, Sides<Number>& free) {
+void Matcher::Follow(const std::vector<Wish<Number>>& wishes, Pairing<Number>& pairing, Lists<Number>& free) {
     for (const Wish<Number>& wish : wishes) {
         const auto isFree = [](const std::vector<Number>& numbers, std::optional<Number> number) {
             return !number || std::find(numbers.begin(), numbers.end(), *number) != numbers.end();
@@ -121,7 +121,7 @@ void Matcher::Follow(const std::vector<Wish<Number>>& wishes, Pairing<Number>& p
 }
 
 template <typename Number>
-void Matcher::KeepFree(Sides<Number>& sides, const Pairing<Number>& pairing) {
+void Matcher::KeepFree(Lists<Number>& sides, const Pairing<Number>& pairing) {
     std::erase_if(sides.Old, [&](Number number) { return pairing.HasNew(number); });
     std::erase_if(sides.New, [&](Number number) { return pairing.HasOld(number); });
 }
@@ -142,7 +142,7 @@ void Matcher::JoinByNames() {
 }
 
 template <typename Number>
-void JoinSameNumbers(Pairing<Number>& pairing, const Sides<Number>& free) {
+void JoinSameNumbers(Pairing<Number>& pairing, const Lists<Number>& free) {
     for (const Number number : free.Old) {
         if (std::find(free.New.begin(), free.New.end(), number) != free.New.end())
             pairing.Join(number, number, true);
@@ -150,7 +150,7 @@ void JoinSameNumbers(Pairing<Number>& pairing, const Sides<Number>& free) {
 }
 
 template <typename Number>
-void JoinInOrder(Pairing<Number>& pairing, const Sides<Number>& free) {
+void JoinInOrder(Pairing<Number>& pairing, const Lists<Number>& free) {
     for (std::size_t i = 0; i < std::min(free.Old.size(), free.New.size()); ++i)
         pairing.Join(free.Old[i], free.New[i], true);
 }
@@ -185,7 +185,7 @@ Matching Matcher::Settled(Matching matching) {
 }
 
 template <typename Number, typename LikenessOf>
-void JoinAssigned(Pairing<Number>& pairing, const Sides<Number>& free, LikenessOf likenessOf) {
+void JoinAssigned(Pairing<Number>& pairing, const Lists<Number>& free, LikenessOf likenessOf) {
     Worths worths(free.Old.size(), free.New.size());
     for (std::size_t row = 0; row < free.Old.size(); ++row) {
         for (std::size_t column = 0; column < free.New.size(); ++column) {
@@ -222,7 +222,7 @@ Matching Matcher::WithoutCostlyGuesses(Matching matching) const {
 
 template <typename Number>
 void Matcher::PartCostly(Matching& matching, Pairing<Number> Matching::*kind,
-                         const Sides<Number>& sides) const {
+                         const Lists<Number>& sides) const {
     std::size_t length = ListLength(old_, new_, matching);
     for (const Number number : sides.Old) {
         if (!(matching.*kind).HasNew(number))
@@ -251,7 +251,7 @@ Matching Matcher::WithCheapGuesses(Matching matching) {
 }
 
 template <typename Number, typename LikenessOf>
-void Matcher::JoinCheap(Matching& matching, Pairing<Number> Matching::*kind, const Sides<Number>& sides,
+void Matcher::JoinCheap(Matching& matching, Pairing<Number> Matching::*kind, const Lists<Number>& sides,
                         LikenessOf likenessOf) const {
     std::size_t length = ListLength(old_, new_, matching);
     for (const Number oldOne : sides.Old) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "review/MergeContent.h"
 
+#include "core/RecordOf.h"
 #include "review/Presence.h"
 #include "review/ShowText.h"
 #include "review/StoredFields.h"
@@ -12,8 +13,6 @@ namespace orvane::review {
 
 namespace {
 
-const StateRecord& RecordOf(const FsmDocument& document, StateNumber state) { return document.State(state); }
-const EventRecord& RecordOf(const FsmDocument& document, RowNumber row) { return document.Event(row); }
 StateRecord Template(const FsmDocument& document, StateNumber) { return document.StateTemplate(); }
 EventRecord Template(const FsmDocument&, RowNumber) { return FsmDocument::EventTemplate(); }
 

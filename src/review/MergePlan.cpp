@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "review/MergePlan.h"
 
+#include "core/RecordOf.h"
 #include "review/Compare.h"
 #include "review/Presence.h"
 #include "review/Titles.h"
@@ -21,9 +22,6 @@ std::vector<Number> AddedOnes(const std::vector<Number>& present, const Pairing<
                  [&](Number number) { return !pairing.HasOld(number); });
     return added;
 }
-
-const StateRecord& RecordOf(const FsmDocument& document, StateNumber state) { return document.State(state); }
-const EventRecord& RecordOf(const FsmDocument& document, RowNumber row) { return document.Event(row); }
 
 template <typename Number>
 std::map<std::string, std::vector<Number>> ByName(const FsmDocument& document,

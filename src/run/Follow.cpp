@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "run/Follow.h"
 
+#include "core/RecordOf.h"
 #include "run/TestPlan.h"
 
 #include <numeric>
@@ -17,9 +18,6 @@ auto Identity(const StateRecord& state) {
     return std::tie(state.Name, state.Tooltip, state.EntryCode, state.ExitCode, state.TimeConst,
                     state.TimingVar, state.TimerId);
 }
-
-const EventRecord& RecordOf(const FsmDocument& document, RowNumber row) { return document.Event(row); }
-const StateRecord& RecordOf(const FsmDocument& document, StateNumber state) { return document.State(state); }
 
 // The rows or columns of one table beside those of another. An edit moves a stretch of them by one place:
 // that is looked for first, because names may stand twice.

@@ -11,11 +11,6 @@ namespace orvane::run {
 
 namespace {
 
-bool Has(const PlannedStep& step, Doing what) {
-    return std::any_of(step.Doings.begin(), step.Doings.end(),
-                       [what](const PlannedDoing& doing) { return doing.What == what; });
-}
-
 std::string FileNameOf(const std::string& path) { return path.substr(path.find_last_of("/\\") + 1); }
 
 // A test as the steps of a run. What its signals mean is worked out by walking through it.
@@ -46,8 +41,8 @@ class StepsOfTest {
 
   private:
     void AddDoings(const PlannedStep& step) {
-        const bool pulses = Has(step, Doing::Pulse);
-        const bool scans = !pulses && Has(step, Doing::Scan);
+        const bool pulses = step.Has(Doing::Pulse);
+        const bool scans = !pulses && step.Has(Doing::Scan);
         AddInputs(pulses || scans);
         if (pulses)
             steps_.push_back(PulseOf(walk_.Pulsed()));

@@ -37,5 +37,6 @@ RunStep LimitOf(StateNumber state, Units units);
 
 // Bit r for the event of row r.
 constexpr std::uint64_t BitOf(RowNumber row) { return std::uint64_t{1} << row.Number(); }
+constexpr std::uint64_t LowestBit(std::uint64_t bits) { return bits & (~bits + 1); }
 
 } // namespace orvane::run

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "run/Scans.h"
 
+#include "run/RunStep.h"
+
 #include <algorithm>
 #include <bit>
 #include <utility>
@@ -10,8 +12,6 @@ namespace orvane::run {
 namespace {
 
 constexpr Units kBeyondAllTimes = Units{1} << 60;
-
-std::uint64_t LowestBit(std::uint64_t bits) { return bits & (~bits + 1); }
 
 } // namespace
 

@@ -294,6 +294,11 @@ Units Planner::InUnits(const TestTime& time) {
 
 } // namespace
 
+bool PlannedStep::Has(Doing what) const {
+    return std::any_of(Doings.begin(), Doings.end(),
+                       [what](const PlannedDoing& doing) { return doing.What == what; });
+}
+
 std::optional<TestName> MachineOf(const TestFile& file) {
     for (const TestLine& line : file.Lines) {
         if (const auto* head = std::get_if<MachineHead>(&line.What))

@@ -41,6 +41,8 @@ struct PlannedStep {
     std::vector<PlannedDoing> Doings;
     std::vector<StateNumber> Way; // empty when nothing is expected
     std::vector<PlannedCheck> Checks;
+
+    bool Has(Doing what) const;
 };
 
 struct PlannedTest {

@@ -11,7 +11,7 @@ namespace orvane::run {
 
 namespace {
 
-constexpr std::size_t kMostDigits = 9; // in a time with a suffix
+constexpr std::size_t kMostTimeDigits = 9; // in a time with a suffix
 constexpr std::array<std::int64_t, 5> kMicroseconds = {0, 1'000, 1'000'000, 60'000'000, 3'600'000'000};
 
 // None when there are too many digits, or something is finer than a microsecond.
@@ -20,10 +20,10 @@ std::optional<std::int64_t> Microseconds(const TestTime& time) {
     std::int64_t divisor = 1;
     if (const std::size_t point = digits.find('.'); point != std::string::npos) {
         digits.erase(point, 1);
-        for (std::size_t i = point; i < digits.size() && i < point + kMostDigits; ++i)
+        for (std::size_t i = point; i < digits.size() && i < point + kMostTimeDigits; ++i)
             divisor *= 10;
     }
-    if (digits.size() > kMostDigits)
+    if (digits.size() > kMostTimeDigits)
         return std::nullopt;
     const std::int64_t product = ParseNumber(digits) * kMicroseconds.at(Ordinal(time.Suffix));
     return product % divisor == 0 ? std::optional(product / divisor) : std::nullopt;

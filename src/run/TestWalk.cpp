@@ -8,15 +8,9 @@ namespace orvane::run {
 
 namespace {
 
-bool Has(const PlannedStep& step, Doing what) {
-    return std::any_of(step.Doings.begin(), step.Doings.end(),
-                       [what](const PlannedDoing& doing) { return doing.What == what; });
-}
-
 // More than inputs that are there: something that a machine without power cannot do.
 bool NeedsPower(const PlannedStep& step) {
-    return step.Written->Wait || Has(step, Doing::Pulse) || Has(step, Doing::Timeout) ||
-           Has(step, Doing::Scan);
+    return step.Written->Wait || step.Has(Doing::Pulse) || step.Has(Doing::Timeout) || step.Has(Doing::Scan);
 }
 
 std::uint64_t Bit(int row) { return std::uint64_t{1} << row; }
@@ -58,19 +52,19 @@ StepResult TestWalk::PowerOn() {
 
 Outcome TestWalk::Move(const PlannedStep& step, StepResult& result) {
     Units wait = step.Wait;
-    if (Has(step, Doing::Timeout)) {
+    if (step.Has(Doing::Timeout)) {
         const std::optional<Units> due = clock_.NextTimeout();
         result.NoTimeout = !due;
         wait = due.value_or(clock_.Where().Now) - clock_.Where().Now;
     }
-    if (step.Written->Wait || Has(step, Doing::Timeout)) {
+    if (step.Written->Wait || step.Has(Doing::Timeout)) {
         const Outcome waited = clock_.Advance(wait);
         TakeLog(result);
         if (!IsIdle(waited))
             return waited;
     }
     pulsed_ = Change(step);
-    if (Has(step, Doing::Pulse))
+    if (step.Has(Doing::Pulse))
         return PulseNow(pulsed_, result);
     RecordInputs(Events());
     const auto scan = std::find_if(step.Doings.begin(), step.Doings.end(),
@@ -115,7 +109,7 @@ std::uint64_t TestWalk::Change(const PlannedStep& step) {
             Switch(doing, doing.What != Doing::Off);
     }
     const std::uint64_t pulsed = Events();
-    if (Has(step, Doing::Pulse))
+    if (step.Has(Doing::Pulse))
         RecordInputs(pulsed);
     for (const PlannedDoing& doing : step.Doings) {
         if (doing.What == Doing::Pulse)

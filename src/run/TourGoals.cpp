@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "run/TourGoals.h"
 
+#include "run/RunStep.h"
+
 #include <algorithm>
 #include <bit>
 
@@ -9,8 +11,6 @@ namespace orvane::run {
 namespace {
 
 constexpr int kMostAtOnce = 8; // names on a line that is still read
-
-std::uint64_t LowestBit(std::uint64_t bits) { return bits & (~bits + 1); }
 
 } // namespace
 

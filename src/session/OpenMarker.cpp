@@ -10,11 +10,11 @@ namespace orvane {
 
 namespace {
 
-constexpr std::size_t kDigits = 32; // enough that no two documents share a marker
+constexpr std::size_t kMarkerDigits = 32; // enough that no two documents share a marker
 
 FileSystem::Path NameOf(const FileSystem::Path& document) {
     const std::u8string path = document.u8string();
-    return "open-" + DigestText(Sha256(std::string(path.begin(), path.end()))).substr(0, kDigits);
+    return "open-" + DigestText(Sha256(std::string(path.begin(), path.end()))).substr(0, kMarkerDigits);
 }
 
 } // namespace

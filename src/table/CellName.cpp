@@ -14,7 +14,7 @@ namespace {
 
 constexpr std::string_view kNothing = "empty";
 
-std::string FirstLine(std::string_view code) {
+std::string FirstCodeLine(std::string_view code) {
     const std::string line(code.substr(0, code.find_first_of("\r\n")));
     return line.empty() && code.empty() ? std::string(kNothing) : line;
 }
@@ -58,11 +58,11 @@ std::string HeadName(const FsmDocument& document, RowNumber row) {
 std::string Content(const FsmDocument& document, Cell cell) {
     const StateRecord& state = document.State(cell.State);
     if (cell.Row == RowNumber(kEntryActionRow))
-        return FirstLine(state.EntryCode);
+        return FirstCodeLine(state.EntryCode);
     if (cell.Row == RowNumber(kExitActionRow))
-        return FirstLine(state.ExitCode);
+        return FirstCodeLine(state.ExitCode);
     if (cell.Row == RowNumber(kTimingModeRow))
-        return FirstLine(TimingText(state));
+        return FirstCodeLine(TimingText(state));
     const std::string target = TargetText(document, state.Targets[cell.Row]);
     if (state.Actions[cell.Row].empty())
         return target.empty() ? std::string(kNothing) : target;

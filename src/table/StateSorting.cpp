@@ -13,7 +13,7 @@ namespace orvane {
 
 namespace {
 
-constexpr StateNumber kStart = 1;
+constexpr StateNumber kStartColumn = 1;
 
 class StatesInUse {
   public:
@@ -50,7 +50,7 @@ bool IsInUse(const FsmDocument& document, RowNumber row) {
 
 // The states in the order in which a walk that looks at the nearest ones first meets them.
 std::vector<StateNumber> MetFromTheStart(const FsmDocument& document) {
-    std::vector<StateNumber> met = {kStart};
+    std::vector<StateNumber> met = {kStartColumn};
     for (std::size_t next = 0; next < met.size(); ++next) {
         const StateRecord& record = document.State(met[next]);
         for (const RowNumber row : CellRows()) {
@@ -69,7 +69,7 @@ StateOrder SortedByName(const FsmDocument& document, StartState start) {
     std::vector<std::tuple<bool, bool, bool, std::string, StateNumber>> keys;
     for (const StateNumber state : StateNumbers()) {
         const std::string& name = document.State(state).Name;
-        const bool moves = start == StartState::IsSorted || state != kStart;
+        const bool moves = start == StartState::IsSorted || state != kStartColumn;
         keys.emplace_back(moves, !inUse.Has(state), name.empty(), ToUpper(name), state);
     }
     std::sort(keys.begin(), keys.end());
@@ -92,9 +92,9 @@ StateOrder SortedByWay(const FsmDocument& document) {
 
 StateOrder StateGapsClosed(const FsmDocument& document) {
     const StatesInUse inUse(document);
-    std::vector<StateNumber> order = {kStart};
+    std::vector<StateNumber> order = {kStartColumn};
     for (const StateNumber state : StateNumbers()) {
-        if (state != kStart && inUse.Has(state))
+        if (state != kStartColumn && inUse.Has(state))
             order.push_back(state);
     }
     return StateOrder::InOrder(order);

@@ -2,27 +2,18 @@
 #include "text/Crc32c.h"
 
 #include "text/ByteOf.h"
+#include "text/CrcTable.h"
 
-#include <array>
 #include <cstddef>
 
 namespace orvane {
 
 namespace {
 
-constexpr std::uint32_t kPolynomial = 0x82F63B78; // with the lowest bit first
-constexpr std::size_t kStride = 8;                // bytes taken at once, each with a table of its own
+constexpr std::size_t kStride = 8; // bytes taken at once, each with a table of its own
 
-using Table = std::array<std::uint32_t, 256>;
-
-constexpr std::array<Table, kStride> MakeTables() {
-    std::array<Table, kStride> tables{};
-    for (std::uint32_t byte = 0; byte < 256; ++byte) {
-        std::uint32_t rest = byte;
-        for (int bit = 0; bit < 8; ++bit)
-            rest = (rest >> 1) ^ ((rest & 1) != 0 ? kPolynomial : 0);
-        tables[0][byte] = rest;
-    }
+constexpr std::array<CrcTable, kStride> MakeTables() {
+    std::array<CrcTable, kStride> tables{MakeCrcTable(0x82F63B78)};
     for (std::size_t n = 1; n < kStride; ++n) {
         for (std::size_t byte = 0; byte < 256; ++byte) {
             const std::uint32_t rest = tables[n - 1][byte];
@@ -32,7 +23,7 @@ constexpr std::array<Table, kStride> MakeTables() {
     return tables;
 }
 
-constexpr std::array<Table, kStride> kTables = MakeTables();
+constexpr std::array<CrcTable, kStride> kTables = MakeTables();
 
 constexpr std::uint32_t Byte(char character) { return ByteOf(character); }
 

@@ -7,7 +7,7 @@ namespace orvane {
 
 namespace {
 
-constexpr bool IsSpecial(unsigned char byte) {
+constexpr bool IsSpecialInJson(unsigned char byte) {
     return byte < 0x20 || byte == 0x7F || byte == '"' || byte == '\\';
 }
 
@@ -30,7 +30,7 @@ void AppendEscape(std::string& json, std::string_view rest) {
 } // namespace
 
 std::string JsonString(std::string_view utf8) {
-    static constexpr ByteSet special = BytesThat(IsSpecial);
+    static constexpr ByteSet special = BytesThat(IsSpecialInJson);
     std::string json = "\"";
     AppendReplaced(json, ValidUtf8(utf8), special, AppendEscape);
     return json += '"';
@@ -43,7 +43,7 @@ std::string JsonStringOfAnsi(std::string_view ansi) {
 }
 
 void AppendJsonStringOfAnsi(std::string& json, std::string_view ansi) {
-    static constexpr ByteSet special = EscapedBytes(IsSpecial);
+    static constexpr ByteSet special = EscapedBytes(IsSpecialInJson);
     json += '"';
     AppendEscaped(json, ansi, special, AppendEscape);
     json += '"';

@@ -9,7 +9,7 @@ namespace {
 
 constexpr std::string_view kReplacement = "\xEF\xBF\xBD";
 
-constexpr bool IsSpecial(unsigned char byte) {
+constexpr bool IsSpecialInXml(unsigned char byte) {
     const bool isMarkup = std::string_view("&<>\"'").find(static_cast<char>(byte)) != std::string_view::npos;
     return isMarkup || (byte < 0x20 && byte != '\n' && byte != '\t');
 }
@@ -41,7 +41,7 @@ void AppendEntity(std::string& xml, std::string_view rest) {
 } // namespace
 
 std::string XmlTextOfUtf8(std::string_view utf8) {
-    static constexpr ByteSet special = BytesThat(IsSpecial);
+    static constexpr ByteSet special = BytesThat(IsSpecialInXml);
     std::string xml;
     AppendReplaced(xml, ValidUtf8(utf8), special, AppendEntity);
     return xml;
@@ -54,7 +54,7 @@ std::string XmlText(std::string_view ansi) {
 }
 
 void AppendXmlText(std::string& xml, std::string_view ansi) {
-    static constexpr ByteSet special = EscapedBytes(IsSpecial);
+    static constexpr ByteSet special = EscapedBytes(IsSpecialInXml);
     AppendEscaped(xml, ansi, special, AppendEntity);
 }
 

@@ -9,7 +9,7 @@
 namespace orvane {
 namespace {
 
-const QColor kRed(255, 0, 0);
+const QColor kCurrentInk(255, 0, 0);
 const QColor kPale(204, 255, 255);
 
 class CurrentState : public PopUpFixture {
@@ -18,7 +18,7 @@ class CurrentState : public PopUpFixture {
     std::vector<int> RedHeads() {
         std::vector<int> red;
         for (int column = 1; column <= 100; ++column)
-            if (Colour(0, column) == kRed)
+            if (Colour(0, column) == kCurrentInk)
                 red.push_back(column);
         return red;
     }
@@ -37,7 +37,7 @@ TEST_F(CurrentState, OneHeadIsRedAtATime) {
     EXPECT_EQ(RedHeads(), std::vector{2});
     Choose(0, 5, "mnuCurrentState");
     EXPECT_EQ(RedHeads(), std::vector{5});
-    EXPECT_EQ(Painted(5), kRed);
+    EXPECT_EQ(Painted(5), kCurrentInk);
     EXPECT_EQ(Painted(2), kPale);
 }
 
@@ -56,7 +56,7 @@ TEST_F(CurrentState, ItOutlivesScrollingAndResizing) {
     CellRect(54, 1);
     CellRect(6, 100);
     EXPECT_EQ(RedHeads(), std::vector{60});
-    EXPECT_EQ(Painted(60), kRed);
+    EXPECT_EQ(Painted(60), kCurrentInk);
     EXPECT_EQ(Painted(61), kPale);
 }
 
@@ -72,7 +72,7 @@ TEST_F(CurrentState, ItOutlivesRedrawsUndoAndRedo) {
     EXPECT_EQ(RedHeads(), std::vector{2});
     Trigger("mnuRedo");
     EXPECT_EQ(RedHeads(), std::vector{2});
-    EXPECT_EQ(Painted(2), kRed);
+    EXPECT_EQ(Painted(2), kCurrentInk);
 }
 
 TEST_F(CurrentState, ItIsANumberThatStaysWhenColumnsMove) {

@@ -26,8 +26,8 @@ struct Content {
 
     bool operator==(const Content&) const = default;
 };
-using Place = std::pair<int, int>; // row, state
-using Table = std::map<Place, Content>;
+using KeyPlace = std::pair<int, int>; // row, state
+using Table = std::map<KeyPlace, Content>;
 
 // Rows and states, each in order.
 struct Rectangle {
@@ -71,7 +71,7 @@ class Model {
         steps_ = {now_};
     }
 
-    std::string Text(Place place) const {
+    std::string Text(KeyPlace place) const {
         const Content content = At(place);
         std::string text;
         if (content.Target != 0)
@@ -93,7 +93,7 @@ class Model {
             MoveTo({*next, Frame.second});
     }
     void Clear() {
-        for (const Place& place : Places())
+        for (const KeyPlace& place : Places())
             Put(place, {});
         Commit();
     }
@@ -109,7 +109,7 @@ class Model {
     bool HasClip() const { return !clip_.empty(); }
     void Paste() {
         if (clip_.size() == 1 && clip_[0].size() == 1) {
-            for (const Place& place : Places())
+            for (const KeyPlace& place : Places())
                 PutNamed(place, clip_[0][0]);
         } else {
             const Rectangle chosen = Chosen();
@@ -125,13 +125,13 @@ class Model {
     bool Redo() { return GoTo(1); }
     std::size_t Steps() const { return steps_.size() - 1; }
 
-    void MoveTo(Place place) {
+    void MoveTo(KeyPlace place) {
         if (place == Frame)
             return;
         Frame = anchor_ = place;
         chosen_.reset();
     }
-    void ExtendTo(Place place) {
+    void ExtendTo(KeyPlace place) {
         Frame = place;
         const auto [top, bottom] = std::minmax(anchor_.first, place.first);
         const auto [left, right] = std::minmax(anchor_.second, place.second);
@@ -150,23 +150,23 @@ class Model {
         chosen_.reset();
     }
 
-    Place Frame{6, 1};
+    KeyPlace Frame{6, 1};
 
   private:
-    Content At(Place place) const { return now_.contains(place) ? now_.at(place) : Content{}; }
-    void Put(Place place, const Content& content) {
+    Content At(KeyPlace place) const { return now_.contains(place) ? now_.at(place) : Content{}; }
+    void Put(KeyPlace place, const Content& content) {
         if (content == Content{})
             now_.erase(place);
         else
             now_[place] = content;
     }
-    void PutNamed(Place place, const Content& content) {
+    void PutNamed(KeyPlace place, const Content& content) {
         if (place.first != kUnnamedRow && place.second <= kStateCount)
             Put(place, content);
     }
     Rectangle Chosen() const { return chosen_.value_or(Rectangle{{Frame.first}, {Frame.second}}); }
-    std::vector<Place> Places() const {
-        std::vector<Place> places;
+    std::vector<KeyPlace> Places() const {
+        std::vector<KeyPlace> places;
         const Rectangle chosen = Chosen();
         for (const int row : chosen.Rows) {
             for (const int state : chosen.States)
@@ -193,7 +193,7 @@ class Model {
     std::vector<Table> steps_;
     std::size_t at_ = 0;
     std::vector<std::vector<Content>> clip_;
-    Place anchor_{6, 1};
+    KeyPlace anchor_{6, 1};
     std::optional<Rectangle> chosen_;
 };
 
@@ -209,7 +209,7 @@ class RandomKeys : public TableFixture, public testing::WithParamInterface<unsig
         for (const char letter : text)
             Key(QChar::fromLatin1(letter).toUpper().unicode());
     }
-    Place Frame() {
+    KeyPlace Frame() {
         const QModelIndex cell = Grid()->currentIndex();
         return {cell.row(), cell.column()};
     }
@@ -227,7 +227,7 @@ class RandomKeys : public TableFixture, public testing::WithParamInterface<unsig
 void RandomKeys::Arrow(Model& model) {
     const bool extends = Random(0, 2) == 0;
     const auto row = std::find(std::begin(kRows), std::end(kRows), model.Frame.first);
-    std::map<int, Place> ways;
+    std::map<int, KeyPlace> ways;
     if (row != std::begin(kRows))
         ways[Qt::Key_Up] = {row[-1], model.Frame.second};
     if (row + 1 != std::end(kRows))

@@ -26,7 +26,7 @@ struct Twin {
     std::optional<UserMessage> Told;
 };
 
-struct Place {
+struct MenuPlace {
     int Row;
     int Column;
 };
@@ -34,65 +34,66 @@ struct Place {
 struct MenuCommand {
     Command Id;
     enum { StateHead, EventHead, EntryCell, TransitionCell } Where;
-    void (*Run)(Twin& twin, const Place& at);
+    void (*Run)(Twin& twin, const MenuPlace& at);
     bool PasteItems::*Needs = nullptr;
 };
 
 constexpr std::array kMenuCommands = {
-    MenuCommand{Command::InsertState, MenuCommand::StateHead,
-                [](Twin& t, const Place& at) { t.Told = InsertState(t.Document, t.Clipboard, at.Column); }},
+    MenuCommand{
+        Command::InsertState, MenuCommand::StateHead,
+        [](Twin& t, const MenuPlace& at) { t.Told = InsertState(t.Document, t.Clipboard, at.Column); }},
     MenuCommand{Command::DeleteState, MenuCommand::StateHead,
-                [](Twin& t, const Place& at) { DeleteState(t.Document, t.Clipboard, at.Column); }},
+                [](Twin& t, const MenuPlace& at) { DeleteState(t.Document, t.Clipboard, at.Column); }},
     MenuCommand{Command::CopyState, MenuCommand::StateHead,
-                [](Twin& t, const Place& at) { CopyState(t.Document, t.Clipboard, at.Column); }},
+                [](Twin& t, const MenuPlace& at) { CopyState(t.Document, t.Clipboard, at.Column); }},
     MenuCommand{Command::PasteState, MenuCommand::StateHead,
-                [](Twin& t, const Place& at) { PasteState(t.Document, t.Clipboard, at.Column); },
+                [](Twin& t, const MenuPlace& at) { PasteState(t.Document, t.Clipboard, at.Column); },
                 &PasteItems::State},
     MenuCommand{Command::InsertEvent, MenuCommand::EventHead,
-                [](Twin& t, const Place& at) { t.Told = InsertEvent(t.Document, t.Clipboard, at.Row); }},
+                [](Twin& t, const MenuPlace& at) { t.Told = InsertEvent(t.Document, t.Clipboard, at.Row); }},
     MenuCommand{Command::DeleteEvent, MenuCommand::EventHead,
-                [](Twin& t, const Place& at) {
+                [](Twin& t, const MenuPlace& at) {
                     t.Told = QuestionBeforeDeleteEvent(t.Document, at.Row);
                     if (!t.Told || t.Yes)
                         DeleteEvent(t.Document, t.Clipboard, at.Row);
                 }},
     MenuCommand{Command::CopyEvent, MenuCommand::EventHead,
-                [](Twin& t, const Place& at) { CopyEvent(t.Document, t.Clipboard, at.Row); }},
+                [](Twin& t, const MenuPlace& at) { CopyEvent(t.Document, t.Clipboard, at.Row); }},
     MenuCommand{Command::PasteEvent, MenuCommand::EventHead,
-                [](Twin& t, const Place& at) { PasteEvent(t.Document, t.Clipboard, at.Row); },
+                [](Twin& t, const MenuPlace& at) { PasteEvent(t.Document, t.Clipboard, at.Row); },
                 &PasteItems::Event},
     MenuCommand{Command::CopyEntryAction, MenuCommand::EntryCell,
-                [](Twin& t, const Place& at) { CopyEntryAction(t.Document, t.Clipboard, at.Column); }},
+                [](Twin& t, const MenuPlace& at) { CopyEntryAction(t.Document, t.Clipboard, at.Column); }},
     MenuCommand{Command::CutEntryAction, MenuCommand::EntryCell,
-                [](Twin& t, const Place& at) { CutEntryAction(t.Document, t.Clipboard, at.Column); }},
+                [](Twin& t, const MenuPlace& at) { CutEntryAction(t.Document, t.Clipboard, at.Column); }},
     MenuCommand{Command::DeleteEntryAction, MenuCommand::EntryCell,
-                [](Twin& t, const Place& at) { DeleteEntryAction(t.Document, at.Column); }},
+                [](Twin& t, const MenuPlace& at) { DeleteEntryAction(t.Document, at.Column); }},
     MenuCommand{Command::PasteEntryAction, MenuCommand::EntryCell,
-                [](Twin& t, const Place& at) { PasteEntryAction(t.Document, t.Clipboard, at.Column); },
+                [](Twin& t, const MenuPlace& at) { PasteEntryAction(t.Document, t.Clipboard, at.Column); },
                 &PasteItems::EntryAction},
     MenuCommand{Command::CopyTransition, MenuCommand::TransitionCell,
-                [](Twin& t, const Place& at) {
+                [](Twin& t, const MenuPlace& at) {
                     CopyTransition(t.Document, t.Clipboard, {at.Row, at.Column});
                 }},
     MenuCommand{Command::CutTransition, MenuCommand::TransitionCell,
-                [](Twin& t, const Place& at) {
+                [](Twin& t, const MenuPlace& at) {
                     CutTransition(t.Document, t.Clipboard, {at.Row, at.Column});
                 }},
     MenuCommand{Command::PasteTransition, MenuCommand::TransitionCell,
-                [](Twin& t, const Place& at) {
+                [](Twin& t, const MenuPlace& at) {
                     PasteTransition(t.Document, t.Clipboard, {at.Row, at.Column});
                 },
                 &PasteItems::Transition},
     MenuCommand{Command::CopyAction, MenuCommand::TransitionCell,
-                [](Twin& t, const Place& at) {
+                [](Twin& t, const MenuPlace& at) {
                     CopyTransitionAction(t.Document, t.Clipboard, {at.Row, at.Column});
                 }},
     MenuCommand{Command::CutAction, MenuCommand::TransitionCell,
-                [](Twin& t, const Place& at) {
+                [](Twin& t, const MenuPlace& at) {
                     CutTransitionAction(t.Document, t.Clipboard, {at.Row, at.Column});
                 }},
     MenuCommand{Command::PasteAction, MenuCommand::TransitionCell,
-                [](Twin& t, const Place& at) {
+                [](Twin& t, const MenuPlace& at) {
                     PasteTransitionAction(t.Document, t.Clipboard, {at.Row, at.Column});
                 },
                 &PasteItems::TransitionAction},
@@ -103,19 +104,19 @@ static_assert(test::EachPopUpCommandIsTried([](Command command) {
                        [command](const MenuCommand& tried) { return tried.Id == command; });
 }));
 
-struct Step {
+struct MenuStep {
     MenuCommand Do;
-    Place At;
+    MenuPlace At;
     bool Yes;
 };
 
-void showValue(const Step& step, std::ostream& out) {
+void showValue(const MenuStep& step, std::ostream& out) {
     out << EntryOf(step.Do.Id).Name << " at row " << step.At.Row << ", column " << step.At.Column
         << (step.Yes ? ", yes" : ", no");
 }
 
 // Most steps meet in one corner of the table, where they have something to do with each other.
-rc::Gen<Step> AnyStep() {
+rc::Gen<MenuStep> AnyMenuStep() {
     const auto number = [](int first, int corner, int last) {
         return rc::gen::weightedOneOf<int>(
             {{4, rc::gen::inRange(first, corner + 1)}, {1, rc::gen::inRange(first, last + 1)}});
@@ -124,13 +125,13 @@ rc::Gen<Step> AnyStep() {
         [](const MenuCommand& command, int row, int column, bool yes) {
             switch (command.Where) {
             case MenuCommand::StateHead:
-                return Step{command, {kHeadRow, column}, yes};
+                return MenuStep{command, {kHeadRow, column}, yes};
             case MenuCommand::EventHead:
-                return Step{command, {row, 0}, yes};
+                return MenuStep{command, {row, 0}, yes};
             case MenuCommand::EntryCell:
-                return Step{command, {kEntryActionRow, column}, yes};
+                return MenuStep{command, {kEntryActionRow, column}, yes};
             default:
-                return Step{command, {row, column}, yes};
+                return MenuStep{command, {row, column}, yes};
             }
         },
         rc::gen::elementOf(kMenuCommands), number(kFirstEventRow, 12, kLastRow), number(1, 8, kStateCount),
@@ -154,7 +155,7 @@ class RandomMenuCommands : public PopUpFixture {
     }
 
     // The command in the window and on the twin; the window must offer it exactly when it should.
-    void Take(const Step& step) {
+    void Take(const MenuStep& step) {
         QAction* item = PopUpWith(step.At.Row, step.At.Column, EntryOf(step.Do.Id).Name);
         PoppedUp();
         twin_.Offered = EnablePasteItems(twin_.Clipboard.Kind, twin_.Offered);
@@ -176,7 +177,7 @@ class RandomMenuCommands : public PopUpFixture {
             twin_.Images.push_back(std::move(image));
     }
 
-    bool ShouldBeOffered(const Step& step) const {
+    bool ShouldBeOffered(const MenuStep& step) const {
         if (step.Do.Needs != nullptr)
             return twin_.Offered.*step.Do.Needs;
         if (step.Do.Id == Command::DeleteState)
@@ -204,7 +205,7 @@ class RandomMenuCommands : public PopUpFixture {
 TEST_F(RandomMenuCommands, FiveHundredOfThemKeepTheTableValidAndAreUndoneAndRedoneAsFarAsTheyReach) {
     test::ExpectProperty({.Cases = 6}, [this] {
         Begin(test::StoredPart(WithColumnsToPress(*test::AnyDocument())));
-        for (const Step& step : *rc::gen::container<std::vector<Step>>(500, AnyStep()))
+        for (const MenuStep& step : *rc::gen::container<std::vector<MenuStep>>(500, AnyMenuStep()))
             Take(step);
         RequireWindowHolds(twin_.Images.back());
         RequireWidthsTravelled();

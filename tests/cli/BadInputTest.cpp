@@ -12,22 +12,10 @@ namespace {
 using testing::HasSubstr;
 using testing::StartsWith;
 
-std::string Field(const std::string& tag, const std::string& value) {
-    return "\xA4<" + tag + ">" + value + "\xA4/\r\n";
-}
-
 std::string Head(bool polytask = false) {
     return Field("FSM_NAME", "P") + Field("POLYTASK", polytask ? "True" : "False") + Field("EVENT", "6:") +
            Field("CODE", ";go") + Field("NAME", "Go") + Field("/EVENT", "") + Field("EVENT", "7:") +
            Field("CODE", ";back") + Field("NAME", "Back") + Field("/EVENT", "");
-}
-
-std::string State(const std::string& number, const std::string& name, const std::string& fields,
-                  const std::vector<std::string>& transitions) {
-    std::string text = Field("STATE", number + ":") + Field("NAME", name) + fields + "\xA4<TRANSITIONS>\r\n";
-    for (const std::string& transition : transitions)
-        text += Field("TRANS", transition);
-    return text + Field("/TRANSITIONS", "") + "\xA4</STATE>\r\n";
 }
 
 using BadInput = Orvanec;

@@ -9,12 +9,6 @@ namespace {
 using testing::HasSubstr;
 using testing::StartsWith;
 
-std::string Replaced(std::string text, std::string_view from, std::string_view to) {
-    for (std::size_t at = text.find(from); at != std::string::npos; at = text.find(from, at + to.size()))
-        text.replace(at, from.size(), to);
-    return text;
-}
-
 class Diff : public Orvanec {
   protected:
     Diff() {

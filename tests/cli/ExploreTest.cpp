@@ -11,10 +11,6 @@ namespace {
 using testing::HasSubstr;
 using testing::StartsWith;
 
-std::string Field(const std::string& tag, const std::string& value) {
-    return "\xA4<" + tag + ">" + value + "\xA4/\r\n";
-}
-
 // Events E6 to E8, each with a test of its own.
 std::string Events() {
     std::string text = Field("FSM_NAME", "P");
@@ -22,15 +18,6 @@ std::string Events() {
         text += Field("EVENT", row + ":") + Field("CODE", ";test " + row) + Field("NAME", "E" + row) +
                 Field("/EVENT", "");
     return text;
-}
-
-// A state; the transitions stand as "row:target".
-std::string State(const std::string& number, const std::string& name, const std::string& fields,
-                  const std::vector<std::string>& transitions) {
-    std::string text = Field("STATE", number + ":") + Field("NAME", name) + fields + "\xA4<TRANSITIONS>\r\n";
-    for (const std::string& transition : transitions)
-        text += Field("TRANS", transition);
-    return text + Field("/TRANSITIONS", "") + "\xA4</STATE>\r\n";
 }
 
 std::string Timing(const std::string& mode, const std::string& limit, const std::string& timer) {

@@ -14,12 +14,6 @@ namespace {
 using testing::HasSubstr;
 using testing::Not;
 
-std::string Replaced(std::string text, std::string_view from, std::string_view to) {
-    for (std::size_t at = text.find(from); at != std::string::npos; at = text.find(from, at + to.size()))
-        text.replace(at, from.size(), to);
-    return text;
-}
-
 constexpr const char* kState3 = "\xA4<STATE>3:\xA4/\r\n"
                                 "  \xA4<NAME>Purge\xA4/\r\n"
                                 "  \xA4<ENTRY>;purge entry\xA4/\r\n"

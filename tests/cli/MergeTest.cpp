@@ -10,7 +10,7 @@ using testing::HasSubstr;
 using testing::Not;
 using testing::StartsWith;
 
-std::string Replaced(std::string text, std::string_view from, std::string_view to) {
+std::string ReplacedOnce(std::string text, std::string_view from, std::string_view to) {
     const std::size_t at = text.find(from);
     return at == std::string::npos ? text : text.replace(at, from.size(), to);
 }
@@ -19,9 +19,9 @@ class Merge : public Orvanec {
   protected:
     Merge() {
         WriteFile("base.zfsm", PumpDocument());
-        WriteFile("entry.zfsm", Replaced(PumpDocument(), ";run entry", ";run fast"));
-        WriteFile("slow.zfsm", Replaced(PumpDocument(), ";run entry", ";run slow"));
-        WriteFile("name.zfsm", Replaced(PumpDocument(), "<NAME>Idle", "<NAME>Waiting"));
+        WriteFile("entry.zfsm", ReplacedOnce(PumpDocument(), ";run entry", ";run fast"));
+        WriteFile("slow.zfsm", ReplacedOnce(PumpDocument(), ";run entry", ";run slow"));
+        WriteFile("name.zfsm", ReplacedOnce(PumpDocument(), "<NAME>Idle", "<NAME>Waiting"));
     }
 };
 
@@ -37,7 +37,7 @@ TEST_F(Merge, PutsBothChangesTogether) {
     const RunResult run = Run("merge base.zfsm entry.zfsm name.zfsm");
     EXPECT_EQ(run.Status, 0);
     EXPECT_EQ(run.Errors, "");
-    EXPECT_EQ(run.Output, Replaced(ReadFile("entry.zfsm"), "<NAME>Idle", "<NAME>Waiting"));
+    EXPECT_EQ(run.Output, ReplacedOnce(ReadFile("entry.zfsm"), "<NAME>Idle", "<NAME>Waiting"));
 }
 
 TEST_F(Merge, AConflictKeepsOursAndHasTheirsInABlock) {
@@ -45,7 +45,7 @@ TEST_F(Merge, AConflictKeepsOursAndHasTheirsInABlock) {
     EXPECT_EQ(run.Status, 1);
     EXPECT_EQ(run.Output, "");
     EXPECT_EQ(run.Errors, "merged.zfsm: conflict: state 2:Run, entry action\n");
-    EXPECT_EQ(ReadFile("merged.zfsm"), Replaced(PumpDocument(), ";run entry\xA4/", kBlock));
+    EXPECT_EQ(ReadFile("merged.zfsm"), ReplacedOnce(PumpDocument(), ";run entry\xA4/", kBlock));
     EXPECT_EQ(ReadFile("merged.zfsm.conflicts"),
               "{\"version\":1,\"document\":\"merged.zfsm\",\"conflicts\":[\n"
               "{\"kind\":\"field\",\"what\":\"state 2:Run, entry action\",\"state\":2,\"row\":null,"
@@ -145,7 +145,7 @@ TEST_F(Merge, AnEmptyBaseIsThatOfADocumentThatBothSidesAdded) {
 }
 
 TEST_F(Merge, TheMarksOfATextMergeAreTold) {
-    WriteFile("marks.zfsm", Replaced(PumpDocument(), "\xA4<STATE>2:", "<<<<<<< HEAD\r\n\xA4<STATE>2:"));
+    WriteFile("marks.zfsm", ReplacedOnce(PumpDocument(), "\xA4<STATE>2:", "<<<<<<< HEAD\r\n\xA4<STATE>2:"));
     EXPECT_THAT(Run("merge base.zfsm marks.zfsm name.zfsm -o out").Errors,
                 HasSubstr("The marks of a merge conflict stand from here"));
 }

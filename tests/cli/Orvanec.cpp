@@ -7,7 +7,6 @@
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
-#include <vector>
 
 #include <sys/wait.h>
 #include <unistd.h>
@@ -147,6 +146,24 @@ std::string DocumentWithErrors() {
            "\xA4</TRANSITIONS>\xA4/\r\n"
            "\xA4</STATE>\r\n"
            "\r\n";
+}
+
+std::string Field(const std::string& tag, const std::string& value) {
+    return "\xA4<" + tag + ">" + value + "\xA4/\r\n";
+}
+
+std::string State(const std::string& number, const std::string& name, const std::string& fields,
+                  const std::vector<std::string>& transitions) {
+    std::string text = Field("STATE", number + ":") + Field("NAME", name) + fields + "\xA4<TRANSITIONS>\r\n";
+    for (const std::string& transition : transitions)
+        text += Field("TRANS", transition);
+    return text + Field("/TRANSITIONS", "") + "\xA4</STATE>\r\n";
+}
+
+std::string Replaced(std::string text, std::string_view from, std::string_view to) {
+    for (std::size_t at = text.find(from); at != std::string::npos; at = text.find(from, at + to.size()))
+        text.replace(at, from.size(), to);
+    return text;
 }
 
 } // namespace orvane

@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -46,6 +47,14 @@ std::string PumpDocument();
 std::string PumpProgram(std::string_view path, std::string_view date = "01/01/1970 00:00:00");
 std::string DocumentWithoutName();
 std::string DocumentWithErrors();
+
+// Pieces of a document; a state's transitions stand as "row:target".
+std::string Field(const std::string& tag, const std::string& value);
+std::string State(const std::string& number, const std::string& name, const std::string& fields,
+                  const std::vector<std::string>& transitions);
+
+// The text with another piece for each `from`.
+std::string Replaced(std::string text, std::string_view from, std::string_view to);
 
 inline constexpr std::string_view kCleanReport = "Errors and warnings\n";
 inline constexpr std::string_view kNoNameReport =

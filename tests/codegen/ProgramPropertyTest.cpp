@@ -9,7 +9,7 @@ namespace {
 const GenerationContext kContext{"C:\\work\\random.zfsm", "16/11/2026 01:02:03"};
 
 // Without a name nothing is generated.
-FsmDocument NamedDocument() {
+FsmDocument DocumentWithName() {
     FsmDocument document = *AnyDocument();
     document.General.FsmName += "P";
     return document;
@@ -17,7 +17,7 @@ FsmDocument NamedDocument() {
 
 TEST(ProgramProperties, TheSameDocumentGivesTheSameProgramAndReport) {
     ExpectProperty({.Cases = 1500, .LargestSize = 200}, [] {
-        const FsmDocument document = NamedDocument();
+        const FsmDocument document = DocumentWithName();
         const GeneratedProgram first = GenerateProgram(document, kContext);
         const FsmDocument copy = document;
         const GeneratedProgram second = GenerateProgram(copy, kContext);
@@ -30,7 +30,7 @@ TEST(ProgramProperties, TheSameDocumentGivesTheSameProgramAndReport) {
 
 TEST(ProgramProperties, WhatIsNeitherGeneratedNorNamedInMessagesChangesNothing) {
     ExpectProperty({.Cases = 500, .LargestSize = 200}, [] {
-        const FsmDocument document = NamedDocument();
+        const FsmDocument document = DocumentWithName();
         FsmDocument other = document;
         for (const StateNumber state : StateNumbers()) {
             other.State(state).ExitCode = *AnyText();

@@ -23,7 +23,7 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-std::string Generate(const FsmDocument& document) {
+std::string GenerateSound(const FsmDocument& document) {
     const GeneratedProgram program =
         GenerateProgram(document, {"C:\\work\\walk.zfsm", "16/11/2026 01:02:03"});
     EXPECT_FALSE(program.Findings.HasErrors()) << ReportText(program.Findings);
@@ -38,7 +38,7 @@ TEST(ProgramWalk, RandomMachinesDoWhatTheirTablesSay) {
         RC_PRE(!EnteredStates(machine).empty());
         const World world(*AnyTicks());
         const Trace trace = RunTable(machine, world);
-        RC_ASSERT(RunProgram(Generate(machine), world) == trace);
+        RC_ASSERT(RunProgram(GenerateSound(machine), world) == trace);
         longWalks += trace.size() > 50 ? 1 : 0;
         givenUp += !trace.empty() && trace.back() == kGoesRound ? 1 : 0;
     });
@@ -51,7 +51,7 @@ TEST(ProgramWalk, RandomMachinesDoWhatTheirTablesSay) {
 TEST(ProgramWalk, ProgramsOfRandomMachinesAreSound) {
     ExpectProperty({.Cases = 1000, .LargestSize = 100}, [] {
         const FsmDocument machine = *AnyMachine();
-        RC_ASSERT(ProgramFaults(machine, Generate(machine)) == std::vector<std::string>());
+        RC_ASSERT(ProgramFaults(machine, GenerateSound(machine)) == std::vector<std::string>());
     });
 }
 
@@ -153,7 +153,7 @@ std::vector<std::string> WrongLines(const ProgramLine& line, const std::vector<s
 
 // Puts each wrong line into the program in turn; returns those that no walk notices.
 std::vector<std::string> UnnoticedFaults(const FsmDocument& machine) {
-    const std::string text = Generate(machine);
+    const std::string text = GenerateSound(machine);
     const Trace right = Walks([&](const World& world) { return RunTable(machine, world); });
     const std::vector<ProgramLine> parsed = ParseProgram(text);
     std::vector<std::string> labels;
@@ -182,7 +182,7 @@ std::vector<std::string> UnnoticedFaults(const FsmDocument& machine) {
 TEST(ProgramWalk, EachConstructDoesWhatTheTableSays) {
     for (const bool polytask : {false, true}) {
         const FsmDocument machine = EveryConstruct(polytask);
-        const std::string text = Generate(machine);
+        const std::string text = GenerateSound(machine);
         EXPECT_THAT(ProgramFaults(machine, text), IsEmpty());
         EXPECT_EQ(Walks([&](const World& world) { return RunProgram(text, world); }),
                   Walks([&](const World& world) { return RunTable(machine, world); }));

@@ -16,7 +16,7 @@ namespace {
 
 using ::testing::IsEmpty;
 
-GeneratedProgram Generate(const FsmDocument& document) {
+GeneratedProgram GenerateMachine(const FsmDocument& document) {
     return GenerateProgram(document, {"C:\\work\\machine.zfsm", "16/11/2026 01:02:03"});
 }
 
@@ -47,7 +47,7 @@ std::vector<FsmDocument> Walkable(const FsmDocument& document) {
 }
 
 void ExpectSameWalks(const FsmDocument& machine) {
-    const std::string text = Generate(machine).Text;
+    const std::string text = GenerateMachine(machine).Text;
     EXPECT_THAT(ProgramFaults(machine, text), IsEmpty());
     std::size_t steps = 0;
     for (unsigned seed = 0; seed < 10; ++seed) {
@@ -71,7 +71,7 @@ class RealMachines : public ::testing::Test {
 
 TEST_F(RealMachines, AreGeneratedWithoutErrors) {
     for (const NamedDocument& machine : machines_) {
-        const GeneratedProgram program = Generate(machine.Document);
+        const GeneratedProgram program = GenerateMachine(machine.Document);
         EXPECT_FALSE(program.Findings.HasErrors()) << machine.Name << ReportText(program.Findings);
     }
 }
@@ -79,7 +79,7 @@ TEST_F(RealMachines, AreGeneratedWithoutErrors) {
 TEST_F(RealMachines, GiveSoundPrograms) {
     for (const NamedDocument& machine : machines_) {
         const FsmDocument document = WithNamedStates(machine.Document);
-        EXPECT_THAT(ProgramFaults(document, Generate(document).Text), IsEmpty()) << machine.Name;
+        EXPECT_THAT(ProgramFaults(document, GenerateMachine(document).Text), IsEmpty()) << machine.Name;
     }
 }
 
@@ -107,7 +107,7 @@ TEST(ExampleWalk, ExamplesDoWhatTheirTablesSay) {
     int walked = 0;
     for (const NamedDocument& example : examples) {
         SCOPED_TRACE(example.Name);
-        if (Generate(example.Document).Findings.HasErrors())
+        if (GenerateMachine(example.Document).Findings.HasErrors())
             continue; // an example of a faulty design
         for (const FsmDocument& document : Walkable(example.Document))
             ExpectSameWalks(document);

@@ -9,7 +9,7 @@ namespace {
 
 using testing::ElementsAre;
 
-FsmDocument Filled() {
+FsmDocument FilledDocument() {
     FsmDocument document;
     document.General = {"PMP", ";header", ";code", ";init", ";data", ";test", "4", false, "C:\\pump.b1d"};
     document.View = {true, true, true, true, 3000, {1, 2, 3, 4}};
@@ -52,16 +52,16 @@ TEST(FsmDocument, TheDefaultWidthIsTheInitialWidthOfEveryState) {
 }
 
 TEST(FsmDocument, ClearingWithoutKeptWidthsEmptiesAllButViewAndBuilderScript) {
-    FsmDocument document = Filled();
+    FsmDocument document = FilledDocument();
     document.ClearDataBase(false);
     FsmDocument expected;
     expected.General.BuildFile = "C:\\pump.b1d";
-    expected.View = Filled().View;
+    expected.View = FilledDocument().View;
     EXPECT_EQ(document, expected);
 }
 
 TEST(FsmDocument, ClearingWithKeptWidthsLeavesEveryColumnWidth) {
-    FsmDocument document = Filled();
+    FsmDocument document = FilledDocument();
     document.ClearDataBase(true);
     for (const StateNumber number : StateNumbers()) {
         StateRecord expected;
@@ -83,7 +83,7 @@ TEST(FsmDocument, ClearingTracesItsStepsInOrder) {
 }
 
 TEST(FsmDocument, EachTraceLabelPrecedesItsStep) {
-    FsmDocument document = Filled();
+    FsmDocument document = FilledDocument();
     document.ClearDataBase(false, [&](std::string_view label) {
         EXPECT_EQ(document.State(100).Name.empty(), label[0] == 'C' && label > "CDBc") << label;
         EXPECT_EQ(document.Event(54).Name.empty(), label[0] == 'C' && label > "CDBd") << label;
@@ -93,7 +93,7 @@ TEST(FsmDocument, EachTraceLabelPrecedesItsStep) {
 }
 
 TEST(FsmDocument, StatesAndRowsOutsideTheTableAreRefusedAndChangeNothing) {
-    FsmDocument document = Filled();
+    FsmDocument document = FilledDocument();
     const FsmDocument& constant = document;
     for (const int number : {-1, 0, 101, 32767}) {
         EXPECT_THROW(document.State(number).Name = "x", BoundsError);
@@ -103,7 +103,7 @@ TEST(FsmDocument, StatesAndRowsOutsideTheTableAreRefusedAndChangeNothing) {
         EXPECT_THROW(document.Event(row).Name = "x", BoundsError);
         EXPECT_THROW(constant.Event(row), BoundsError);
     }
-    EXPECT_EQ(document, Filled());
+    EXPECT_EQ(document, FilledDocument());
 }
 
 TEST(FsmDocument, BoundsErrorsNameTheNumberAndItsRange) {

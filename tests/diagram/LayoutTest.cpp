@@ -2,8 +2,8 @@
 #include "diagram/Layout.h"
 
 #include "diagram/HitTest.h"
-#include "diagram/LetterWidths.h"
 #include "diagram/Order.h"
+#include "diagram/SceneOf.h"
 #include "support/PictureFaults.h"
 
 #include <gtest/gtest.h>
@@ -18,8 +18,6 @@ FsmDocument Named(int states) {
         document.State(state).Name = "State" + std::to_string(state);
     return document;
 }
-
-Scene SceneOf(const FsmDocument& document) { return MakeScene(document, LetterWidths()); }
 
 Layout Cold(const FsmDocument& document, Direction direction = Direction::LeftToRight) {
     return ColdLayout(SceneOf(document), LetterWidths(), direction);

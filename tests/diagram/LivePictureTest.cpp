@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "diagram/LivePicture.h"
 
-#include "diagram/LetterWidths.h"
+#include "diagram/SceneOf.h"
 
 #include <gtest/gtest.h>
 
@@ -9,8 +9,6 @@
 
 namespace orvane::diagram {
 namespace {
-
-const LetterWidths kSizes;
 
 // Each state leads to the next, the last to the first.
 FsmDocument Ring(int states, int linesEach = 1) {

@@ -2,7 +2,7 @@
 // Pictures of machines that other people designed, counted as a reader would judge them. Skipped where the
 // folder of machines is missing.
 #include "diagram/Layout.h"
-#include "diagram/LetterWidths.h"
+#include "diagram/SceneOf.h"
 #include "support/MachineJson.h"
 #include "support/PictureFaults.h"
 
@@ -14,10 +14,6 @@
 
 namespace orvane::diagram {
 namespace {
-
-const LetterWidths kSizes;
-
-Scene SceneOf(const FsmDocument& document) { return MakeScene(document, kSizes); }
 
 class DiagramQuality : public testing::Test {
   protected:

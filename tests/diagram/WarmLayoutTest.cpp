@@ -1,15 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "diagram/Layout.h"
-
-#include "diagram/LetterWidths.h"
+#include "diagram/SceneOf.h"
 #include "support/PictureFaults.h"
 
 #include <gtest/gtest.h>
 
 namespace orvane::diagram {
 namespace {
-
-const LetterWidths kSizes;
 
 FsmDocument Ring(int states) {
     FsmDocument document;
@@ -21,9 +18,7 @@ FsmDocument Ring(int states) {
     return document;
 }
 
-int MiddleX(const Rect& box) { return box.X + box.Width / 2; }
-
-Scene SceneOf(const FsmDocument& document) { return MakeScene(document, kSizes); }
+int CentreX(const Rect& box) { return box.X + box.Width / 2; }
 
 Layout Cold(const FsmDocument& document) {
     return ColdLayout(SceneOf(document), kSizes, Direction::LeftToRight);
@@ -125,7 +120,7 @@ TEST(DiagramWarmLayout, ALineWithinOneColumnTurnsBack) {
     const Rect& box = after.States[1].Box;
     EXPECT_EQ(line.Begin.X, box.Right());
     EXPECT_EQ(line.Pieces.back().End.X, after.States[2].Box.Right());
-    EXPECT_EQ(MiddleX(after.States[1].Box), MiddleX(after.States[2].Box));
+    EXPECT_EQ(CentreX(after.States[1].Box), CentreX(after.States[2].Box));
 }
 
 TEST(DiagramWarmLayout, TidyIsOfferedForThreeCrossingsAndAThird) {

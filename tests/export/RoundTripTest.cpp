@@ -25,7 +25,7 @@ FsmDocument Imported(const ImportResult& result) {
 }
 
 // Every byte that a document can hold, in names and in code, and what other forms take for their own.
-FsmDocument Hostile() {
+FsmDocument HostileToReaders() {
     FsmDocument document;
     document.General.FsmName = "=cmd|' /C calc'!A0";
     for (int byte = 1; byte < 256; ++byte) {
@@ -63,7 +63,7 @@ FsmDocument Full() {
 std::vector<test::NamedDocument> Documents() {
     std::vector<test::NamedDocument> documents = test::ExampleDocuments();
     documents.push_back({"empty", FsmDocument()});
-    documents.push_back({"hostile", Hostile()});
+    documents.push_back({"hostile", HostileToReaders()});
     documents.push_back({"full", Full()});
     FsmDocument one;
     one.State(1).Name = "Only";

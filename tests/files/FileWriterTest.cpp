@@ -13,11 +13,9 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-const FileSystem::Path kPath = "/work/pump.zfsm";
+const FileSystem::Path kWritten = "/work/pump.zfsm";
 const std::string kOld = "what was there before";
 const std::string kNew = "the new text, which is longer than that";
-
-std::error_code Errno(int number) { return {number, std::generic_category()}; }
 
 // Every reason for which a call of the system may fail on a drive that is full, broken or somebody else's.
 const std::vector<int> kReasons = {ENOSPC, EIO, EACCES, EROFS, EINTR,
@@ -28,7 +26,7 @@ const std::vector<int> kReasons = {ENOSPC, EIO, EACCES, EROFS, EINTR,
 
 class FileWriterTest : public testing::TestWithParam<Outlives> {
   protected:
-    WrittenFile Write(MemoryFiles& files, const FileSystem::Path& path = kPath) const {
+    WrittenFile Write(MemoryFiles& files, const FileSystem::Path& path = kWritten) const {
         WriteOptions options;
         options.Must = GetParam();
         options.Patience = {};
@@ -41,18 +39,18 @@ class FileWriterTest : public testing::TestWithParam<Outlives> {
     }
     static MemoryFiles WithOldFile() {
         MemoryFiles files;
-        files.Put(kPath, kOld);
+        files.Put(kWritten, kOld);
         return files;
     }
     // What was told is what happened: the file is as told, whole, and nothing is left behind unsaid.
     void ExpectOldOrNew(MemoryFiles& files, const WrittenFile& written,
                         const std::optional<std::string>& old) const {
         const bool isThere = !written.Failure || written.Failure->Step == FileStep::SyncFolder;
-        EXPECT_EQ(files.Bytes(kPath), isThere ? std::optional(kNew) : old);
+        EXPECT_EQ(files.Bytes(kWritten), isThere ? std::optional(kNew) : old);
         EXPECT_EQ(files.OpenHandles(), 0);
         const bool leftSaid =
             std::count(written.Notes.begin(), written.Notes.end(), FileNote::LeftBehind) > 0;
-        const std::size_t own = files.Bytes(kPath) ? 1 : 0;
+        const std::size_t own = files.Bytes(kWritten) ? 1 : 0;
         EXPECT_EQ(files.AllNames().size(), own + (leftSaid ? 1 : 0));
     }
 };
@@ -67,9 +65,9 @@ TEST_P(FileWriterTest, AFileHoldsThePiecesInARow) {
     const WrittenFile written = Write(files);
     EXPECT_EQ(written.Failure, std::nullopt);
     EXPECT_THAT(written.Notes, IsEmpty());
-    EXPECT_EQ(files.Bytes(kPath), kNew);
-    EXPECT_EQ(written.Stamp, StampOf(files.Find(kPath)->Facts));
-    EXPECT_THAT(files.AllNames(), ElementsAre(kPath.generic_string()));
+    EXPECT_EQ(files.Bytes(kWritten), kNew);
+    EXPECT_EQ(written.Stamp, StampOf(files.Find(kWritten)->Facts));
+    EXPECT_THAT(files.AllNames(), ElementsAre(kWritten.generic_string()));
 }
 
 TEST_P(FileWriterTest, AnyCallThatFailsIsToldAndLeavesTheOldFileOrTheNewOneWhole) {
@@ -78,7 +76,7 @@ TEST_P(FileWriterTest, AnyCallThatFailsIsToldAndLeavesTheOldFileOrTheNewOneWhole
             const int calls = CallsOfAWrite(WithOldFile());
             for (int call = 1; call <= calls; ++call) {
                 MemoryFiles files;
-                files.Put(kPath, kOld);
+                files.Put(kWritten, kOld);
                 files.FailAt(call, Errno(reason), forGood);
                 const WrittenFile written = Write(files);
                 SCOPED_TRACE("call " + std::to_string(call) + ", errno " + std::to_string(reason));
@@ -126,7 +124,7 @@ TEST_P(FileWriterTest, ADriveThatTakesOneByteAtATimeGetsThemAll) {
     MemoryFiles files = WithOldFile();
     files.WriteInParts(1);
     EXPECT_TRUE(Write(files));
-    EXPECT_EQ(files.Bytes(kPath), kNew);
+    EXPECT_EQ(files.Bytes(kWritten), kNew);
 }
 
 TEST_P(FileWriterTest, ADriveThatTakesNothingIsTold) {
@@ -135,14 +133,14 @@ TEST_P(FileWriterTest, ADriveThatTakesNothingIsTold) {
     const WrittenFile written = Write(files);
     ASSERT_TRUE(written.Failure);
     EXPECT_EQ(written.Failure->Step, FileStep::Write);
-    EXPECT_EQ(files.Bytes(kPath), kOld);
+    EXPECT_EQ(files.Bytes(kWritten), kOld);
 }
 
 TEST_P(FileWriterTest, ALinkStaysALinkAndTheFileItLeadsToIsWrittenInItsOwnFolder) {
     MemoryFiles files;
     files.Put("/far/real.zfsm", kOld);
     files.PutLink("/far/middle", "real.zfsm");
-    files.PutLink(kPath, "/far/middle");
+    files.PutLink(kWritten, "/far/middle");
     EXPECT_TRUE(Write(files));
     EXPECT_EQ(files.Bytes("/far/real.zfsm"), kNew);
     EXPECT_THAT(files.AllNames(), ElementsAre("/far/real.zfsm"));
@@ -150,8 +148,8 @@ TEST_P(FileWriterTest, ALinkStaysALinkAndTheFileItLeadsToIsWrittenInItsOwnFolder
 
 TEST_P(FileWriterTest, LinksInACircleAreTold) {
     MemoryFiles files;
-    files.PutLink(kPath, "/work/other");
-    files.PutLink("/work/other", kPath);
+    files.PutLink(kWritten, "/work/other");
+    files.PutLink("/work/other", kWritten);
     const WrittenFile written = Write(files);
     EXPECT_EQ(written.Failure, (FileError{FileStep::Find, Errno(ELOOP)}));
     EXPECT_THAT(files.Log, IsEmpty());
@@ -159,17 +157,17 @@ TEST_P(FileWriterTest, LinksInACircleAreTold) {
 
 TEST_P(FileWriterTest, WhatMayNotBeChangedIsNotReplaced) {
     MemoryFiles files;
-    files.Put(kPath, kOld, 0444);
+    files.Put(kWritten, kOld, 0444);
     const WrittenFile written = Write(files);
     EXPECT_EQ(written.Failure, (FileError{FileStep::AskToWrite, Errno(EACCES)}));
-    EXPECT_EQ(files.Bytes(kPath), kOld);
+    EXPECT_EQ(files.Bytes(kWritten), kOld);
     EXPECT_THAT(files.Log, IsEmpty());
 }
 
 TEST_P(FileWriterTest, WhatIsNoFileIsRefusedBeforeItIsOpened) {
     for (const FileKind kind : {FileKind::Folder, FileKind::Pipe, FileKind::Device, FileKind::Socket}) {
         MemoryFiles files;
-        files.PutSpecial(kPath, kind);
+        files.PutSpecial(kWritten, kind);
         const WrittenFile written = Write(files);
         ASSERT_TRUE(written.Failure);
         EXPECT_EQ(written.Failure->Refused, kind);
@@ -179,22 +177,22 @@ TEST_P(FileWriterTest, WhatIsNoFileIsRefusedBeforeItIsOpened) {
 
 TEST_P(FileWriterTest, ThePermissionsOfTheOldFileAreKept) {
     MemoryFiles files;
-    files.Put(kPath, kOld, 0640);
+    files.Put(kWritten, kOld, 0640);
     EXPECT_THAT(Write(files).Notes, IsEmpty());
-    EXPECT_EQ(files.Find(kPath)->Facts.Mode, 0640u);
+    EXPECT_EQ(files.Find(kWritten)->Facts.Mode, 0640u);
 }
 
 TEST_P(FileWriterTest, ANewFileHasThePermissionsThatTheUserGivesNewFiles) {
     MemoryFiles files;
     EXPECT_TRUE(Write(files));
-    EXPECT_EQ(files.Find(kPath)->Facts.Mode, 0644u);
+    EXPECT_EQ(files.Find(kWritten)->Facts.Mode, 0644u);
 }
 
 // Wherever the drive breaks down for good, what cannot be cleaned up any more shows how it stood there.
 TEST_P(FileWriterTest, TheTemporaryFileIsNeverMoreReadableThanTheFile) {
     for (int call = 1; call <= CallsOfAWrite(WithOldFile()); ++call) {
         MemoryFiles files;
-        files.Put(kPath, kOld, 0600);
+        files.Put(kWritten, kOld, 0600);
         files.FailAt(call, Errno(EIO), true);
         (void)Write(files);
         for (const std::string& name : files.AllNames())
@@ -204,47 +202,47 @@ TEST_P(FileWriterTest, TheTemporaryFileIsNeverMoreReadableThanTheFile) {
 
 TEST_P(FileWriterTest, OwnerGroupAndAttributesAreKeptWhereTheRightsAllow) {
     MemoryFiles files;
-    files.Put(kPath, kOld, 0666);
-    files.Find(kPath)->Facts.Owner = 7;
-    files.Find(kPath)->Facts.Group = 8;
-    files.Find(kPath)->Attributes = "user.comment";
+    files.Put(kWritten, kOld, 0666);
+    files.Find(kWritten)->Facts.Owner = 7;
+    files.Find(kWritten)->Facts.Group = 8;
+    files.Find(kWritten)->Attributes = "user.comment";
     EXPECT_THAT(Write(files).Notes, IsEmpty());
-    EXPECT_EQ(files.Find(kPath)->Facts.Owner, 7u);
-    EXPECT_EQ(files.Find(kPath)->Facts.Group, 8u);
-    EXPECT_EQ(files.Find(kPath)->Attributes, "user.comment");
+    EXPECT_EQ(files.Find(kWritten)->Facts.Owner, 7u);
+    EXPECT_EQ(files.Find(kWritten)->Facts.Group, 8u);
+    EXPECT_EQ(files.Find(kWritten)->Attributes, "user.comment");
 }
 
 TEST_P(FileWriterTest, WhatCannotBeKeptIsNotedAndAnotherGroupGetsNoMoreThanEverybody) {
     MemoryFiles files;
-    files.Put(kPath, kOld, 06664);
-    files.Find(kPath)->Facts.Group = 8;
+    files.Put(kWritten, kOld, 06664);
+    files.Find(kWritten)->Facts.Group = 8;
     files.KeepNothing();
     EXPECT_THAT(Write(files).Notes, ElementsAre(FileNote::Group, FileNote::Attributes));
-    EXPECT_EQ(files.Find(kPath)->Facts.Mode, 0644u);
+    EXPECT_EQ(files.Find(kWritten)->Facts.Mode, 0644u);
 
-    files.Put(kPath, kOld, 06666);
-    files.Find(kPath)->Facts.Owner = 7;
+    files.Put(kWritten, kOld, 06666);
+    files.Find(kWritten)->Facts.Owner = 7;
     EXPECT_THAT(Write(files).Notes, ElementsAre(FileNote::Owner, FileNote::Attributes));
-    EXPECT_EQ(files.Find(kPath)->Facts.Mode, 0666u);
+    EXPECT_EQ(files.Find(kWritten)->Facts.Mode, 0666u);
 }
 
 TEST_P(FileWriterTest, OtherNamesThatKeepTheOldBytesAreNoted) {
     MemoryFiles files = WithOldFile();
-    files.Find(kPath)->Facts.Names = 2;
+    files.Find(kWritten)->Facts.Names = 2;
     EXPECT_THAT(Write(files).Notes, ElementsAre(FileNote::OtherNames));
 }
 
 TEST(FileWriterOfADocument, APowerFailureAtAnyMomentLeavesTheOldFileOrTheNewOneWhole) {
     MemoryFiles counted;
-    counted.Put(kPath, kOld);
-    ASSERT_TRUE(WriteFile(counted, kPath, {kNew}));
+    counted.Put(kWritten, kOld);
+    ASSERT_TRUE(WriteFile(counted, kWritten, {kNew}));
     for (int call = 1; call <= counted.Calls() + 1; ++call) {
         MemoryFiles files;
-        files.Put(kPath, kOld);
+        files.Put(kWritten, kOld);
         files.FailAt(call, Errno(EIO), true);
-        const WrittenFile written = WriteFile(files, kPath, {kNew});
+        const WrittenFile written = WriteFile(files, kWritten, {kNew});
         for (const bool renamesWereLost : {false, true}) {
-            const auto left = files.AfterPowerFailure(kPath, renamesWereLost);
+            const auto left = files.AfterPowerFailure(kWritten, renamesWereLost);
             EXPECT_TRUE(written.Failure ? left == kOld || left == kNew : left == kNew) << call;
         }
     }
@@ -252,43 +250,43 @@ TEST(FileWriterOfADocument, APowerFailureAtAnyMomentLeavesTheOldFileOrTheNewOneW
 
 TEST(FileWriterOfADocument, AFolderThatCannotBeWaitedForIsNotedAndOneThatFailsIsAnError) {
     MemoryFiles files;
-    ASSERT_TRUE(WriteFile(files, kPath, {kNew}));
+    ASSERT_TRUE(WriteFile(files, kWritten, {kNew}));
     const int last = files.Calls();
-    files.Remove(kPath);
+    files.Remove(kWritten);
     files.FailAt(last, Errno(EINVAL));
-    EXPECT_THAT(WriteFile(files, kPath, {kNew}).Notes, ElementsAre(FileNote::Unsynced));
+    EXPECT_THAT(WriteFile(files, kWritten, {kNew}).Notes, ElementsAre(FileNote::Unsynced));
     files.FailAt(0, {});
-    files.Remove(kPath);
+    files.Remove(kWritten);
     files.FailAt(last, Errno(EIO));
-    const WrittenFile written = WriteFile(files, kPath, {kNew});
+    const WrittenFile written = WriteFile(files, kWritten, {kNew});
     EXPECT_EQ(written.Failure, (FileError{FileStep::SyncFolder, Errno(EIO)}));
 }
 
 TEST(FileWriterOfAProgram, NeitherFileNorFolderIsWaitedForAndTheOldOneIsSwappedOut) {
     MemoryFiles files;
-    files.Put(kPath, kOld);
-    ASSERT_TRUE(WriteFile(files, kPath, {kNew}, {Outlives::Process}));
+    files.Put(kWritten, kOld);
+    ASSERT_TRUE(WriteFile(files, kWritten, {kNew}, {Outlives::Process}));
     EXPECT_THAT(files.Log, ElementsAre("create", "write", "mode", "swap", "remove"));
 }
 
 TEST(FileWriterOfAProgram, WhereFilesCannotBeSwappedTheNewOneReplacesTheOldOne) {
     MemoryFiles files;
-    files.Put(kPath, kOld);
+    files.Put(kWritten, kOld);
     files.HaveNoSwap();
-    ASSERT_TRUE(WriteFile(files, kPath, {kNew}, {Outlives::Process}));
+    ASSERT_TRUE(WriteFile(files, kWritten, {kNew}, {Outlives::Process}));
     EXPECT_THAT(files.Log, ElementsAre("create", "write", "mode", "rename"));
-    EXPECT_EQ(files.Bytes(kPath), kNew);
+    EXPECT_EQ(files.Bytes(kWritten), kNew);
 }
 
 // An output that its user named.
 TEST(FileWriterIntoWhatIsNoFile, ADeviceTakesTheBytesAndStaysWhatItIs) {
     const WriteOptions options{Outlives::Machine, SpecialFiles::WrittenInto};
     MemoryFiles files;
-    files.PutSpecial(kPath, FileKind::Device);
-    EXPECT_TRUE(WriteFile(files, kPath, {kNew}, options));
-    EXPECT_EQ(files.Bytes(kPath), kNew);
-    EXPECT_EQ(files.Find(kPath)->Facts.Kind, FileKind::Device);
-    EXPECT_THAT(files.AllNames(), ElementsAre(kPath.generic_string()));
+    files.PutSpecial(kWritten, FileKind::Device);
+    EXPECT_TRUE(WriteFile(files, kWritten, {kNew}, options));
+    EXPECT_EQ(files.Bytes(kWritten), kNew);
+    EXPECT_EQ(files.Find(kWritten)->Facts.Kind, FileKind::Device);
+    EXPECT_THAT(files.AllNames(), ElementsAre(kWritten.generic_string()));
 }
 
 TEST(FileWriterIntoWhatIsNoFile, AnyCallThatFailsIsTold) {
@@ -296,9 +294,9 @@ TEST(FileWriterIntoWhatIsNoFile, AnyCallThatFailsIsTold) {
     for (int call = 2; call <= 4;
          ++call) { // open, write, close; after a look that finds nothing a file is made
         MemoryFiles files;
-        files.PutSpecial(kPath, FileKind::Pipe);
+        files.PutSpecial(kWritten, FileKind::Pipe);
         files.FailAt(call, Errno(EPIPE));
-        const WrittenFile written = WriteFile(files, kPath, {kNew}, options);
+        const WrittenFile written = WriteFile(files, kWritten, {kNew}, options);
         ASSERT_TRUE(written.Failure) << call;
         EXPECT_EQ(written.Failure->Reason, Errno(EPIPE));
         EXPECT_EQ(files.OpenHandles(), 0);
@@ -307,9 +305,9 @@ TEST(FileWriterIntoWhatIsNoFile, AnyCallThatFailsIsTold) {
 
 TEST(FileWriterIntoWhatIsNoFile, AFolderIsRefusedAllTheSame) {
     MemoryFiles files;
-    files.PutSpecial(kPath, FileKind::Folder);
+    files.PutSpecial(kWritten, FileKind::Folder);
     const WrittenFile written =
-        WriteFile(files, kPath, {kNew}, {Outlives::Machine, SpecialFiles::WrittenInto});
+        WriteFile(files, kWritten, {kNew}, {Outlives::Machine, SpecialFiles::WrittenInto});
     ASSERT_TRUE(written.Failure);
     EXPECT_EQ(written.Failure->Reason, std::errc::is_a_directory);
 }

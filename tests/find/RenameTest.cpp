@@ -21,7 +21,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 // A machine whose code names everything that has a name.
-FsmDocument Garage() {
+FsmDocument TimedGarage() {
     FsmDocument document = SmallTable()
                                .Name(1, "Idle", "\tGoTo\tP_Open_Set2")
                                .Name(2, "Open", "; P_Idle_Set1 is left\r\n\tp_idle_set1\tP_Idle_1")
@@ -46,7 +46,7 @@ std::vector<std::string> Lines(const FsmDocument& document, const std::vector<Te
 }
 
 TEST(Rename, AStateTakesItsLabelsAlongAndOffersItsWords) {
-    const FsmDocument document = Garage();
+    const FsmDocument document = TimedGarage();
     const RenamePlan plan = PlanRename(document, OfState{1}, "Rest");
     EXPECT_EQ(plan.Refusal, "");
     EXPECT_THAT(plan.Notes, IsEmpty());
@@ -60,7 +60,7 @@ TEST(Rename, AStateTakesItsLabelsAlongAndOffersItsWords) {
 }
 
 TEST(Rename, ANameWithABlankLeavesTheLabels) {
-    const FsmDocument document = Garage();
+    const FsmDocument document = TimedGarage();
     const RenamePlan plan = PlanRename(document, OfState{2}, "Wide open");
     EXPECT_THAT(plan.Notes, ElementsAre("A name with a blank is left out of the state's labels"));
     EXPECT_THAT(Lines(document, plan.Uses), ElementsAre("State 2:Open, name: Open > Wide open",
@@ -68,7 +68,7 @@ TEST(Rename, ANameWithABlankLeavesTheLabels) {
 }
 
 TEST(Rename, ATimerIsRenamedInAllStatesThatShareIt) {
-    const FsmDocument document = Garage();
+    const FsmDocument document = TimedGarage();
     const RenamePlan plan = PlanRename(document, OfTimer{"T1 "}, "Door");
     EXPECT_THAT(Lines(document, plan.Uses),
                 ElementsAre("State 1:Idle, timer I.D.: T1 > Door", "State 2:Open, timer I.D.:  T1 > Door",
@@ -76,7 +76,7 @@ TEST(Rename, ATimerIsRenamedInAllStatesThatShareIt) {
 }
 
 TEST(Rename, TheMachineTakesTheSymbolsWithItsPrefixAlong) {
-    const FsmDocument document = Garage();
+    const FsmDocument document = TimedGarage();
     const RenamePlan plan = PlanRename(document, OfMachine{}, "My Q");
     const std::vector<std::string> lines = Lines(document, plan.Uses);
     EXPECT_EQ(lines.front(), "Machine, name: P > My Q");
@@ -89,21 +89,21 @@ TEST(Rename, TheMachineTakesTheSymbolsWithItsPrefixAlong) {
 }
 
 TEST(Rename, TheLoopOfAStateWithoutANameGoesWithTheMachine) {
-    FsmDocument document = Garage();
+    FsmDocument document = TimedGarage();
     document.State(2).Name.clear();
     const RenamePlan plan = PlanRename(document, OfMachine{}, "Q");
     EXPECT_THAT(Lines(document, plan.Uses), testing::Contains("Machine, CODESEG: P2 > Q2"));
 }
 
 TEST(Rename, AWordIsMeantWhereItIsCode) {
-    const FsmDocument document = Garage();
+    const FsmDocument document = TimedGarage();
     EXPECT_THAT(Lines(document, PlanRename(document, OfWord{"Idle"}, "Rest").Uses),
                 ElementsAre("Machine, CODESEG: Idle > Rest", "Machine, CODESEG: Idle > Rest ?",
                             "State 1:Idle, name: Idle > Rest ?", "1:Idle, on E6, action: Idle > Rest ?"));
 }
 
 TEST(Rename, SaysWhyANameCannotBe) {
-    const FsmDocument document = Garage();
+    const FsmDocument document = TimedGarage();
     const auto refusal = [&](const std::string& name) {
         return PlanRename(document, OfState{1}, name).Refusal;
     };
@@ -117,7 +117,7 @@ TEST(Rename, SaysWhyANameCannotBe) {
 }
 
 TEST(Rename, TellsWhatTheNewNameRunsInto) {
-    FsmDocument document = Garage();
+    FsmDocument document = TimedGarage();
     EXPECT_THAT(PlanRename(document, OfState{1}, "Open").Notes,
                 ElementsAre("State 2:Open has this name already"));
     EXPECT_THAT(PlanRename(document, OfEvent{6}, "E7").Notes,
@@ -132,14 +132,14 @@ TEST(Rename, TellsWhatTheNewNameRunsInto) {
 }
 
 TEST(Rename, TellsLabelsThatWouldStandTwice) {
-    FsmDocument document = Garage();
+    FsmDocument document = TimedGarage();
     document.State(1).TimerId = document.State(2).TimerId = "2";
     EXPECT_THAT(PlanRename(document, OfState{2}, "Timer").Notes,
                 ElementsAre("The program would have the label P_Timer_2 twice"));
 }
 
 TEST(Rename, TellsATimerThatWouldHaveNoDefinition) {
-    FsmDocument document = Garage();
+    FsmDocument document = TimedGarage();
     document.State(2).TimingMode = 1;
     document.State(2).TimerId = "Light";
     EXPECT_THAT(PlanRename(document, OfTimer{"Light"}, "1").Notes,
@@ -201,7 +201,7 @@ TEST(Rename, ThereAndBackIsTheIdentity) {
 
 // Renaming a state with what is sure changes the program in its labels alone.
 TEST(Rename, TheProgramOfARenamedStateDiffersInItsLabelsAlone) {
-    FsmDocument document = Garage();
+    FsmDocument document = TimedGarage();
     const auto program = [](const FsmDocument& of) { return GenerateProgram(of, {}).Text; };
     std::string expected = program(document);
     for (const auto& [before, after] :
@@ -224,7 +224,7 @@ std::vector<std::string> UseLines(const FsmDocument& document, const Subject& su
 }
 
 TEST(WhereUsed, TellsTransitionsLabelsAndWords) {
-    const FsmDocument document = Garage();
+    const FsmDocument document = TimedGarage();
     EXPECT_THAT(UseLines(document, OfState{2}),
                 ElementsAre("1:Idle, on E6: leads here", "State 1:Idle, entry action: label P_Open_Set2"));
     EXPECT_THAT(UseLines(document, OfEvent{6}),

@@ -43,9 +43,9 @@ std::map<std::string, std::string> WindowsOfTheCode() {
 
 // Empty where the window has none behind F1.
 std::string PageOf(const std::string& code) {
-    static const std::regex number(R"(kHelpPage = (\d+);)");
+    static const std::regex number(R"(k\w*HelpPage = (\d+);)");
     static const std::regex key(
-        R"(AddHelpKey\(\*this, kHelpPage\)|\bkHelpPage, parent\))"); // by itself or its base
+        R"(AddHelpKey\(\*this, k\w*HelpPage\)|\bk\w*HelpPage, parent\))"); // by itself or its base
     std::smatch found;
     return std::regex_search(code, found, number) && std::regex_search(code, key) ? found[1].str() + ".htm"
                                                                                   : "";

@@ -16,7 +16,7 @@ using review::Match;
 using review::Matching;
 
 // Idle, Run and Stop in columns 1 to 3.
-SmallTable Pump() {
+SmallTable PumpThatRepeats() {
     SmallTable table;
     table.Name(1, "Idle", ";idle").Name(2, "Run", ";run").Name(3, "Stop", ";stop");
     table.Cell(1, 6, 2).Cell(2, 7, 3, ";slow").Cell(3, 8, 1).Cell(3, 9, 3, ";again");
@@ -33,7 +33,7 @@ std::vector<ChangeKind> KindsOf(const std::vector<Change>& changes) {
 TEST(Match, FollowsAUniqueNameToAnotherNumber) {
     SmallTable moved;
     moved.Name(5, "Idle").Name(1, "Run").Name(2, "Stop");
-    const Matching matching = Match(Pump().Document(), moved.Document());
+    const Matching matching = Match(PumpThatRepeats().Document(), moved.Document());
     EXPECT_EQ(matching.States.NewOf(1), StateNumber(5));
     EXPECT_FALSE(matching.States.IsGuess(1));
     EXPECT_TRUE(matching.States.HasMoved(1));
@@ -43,7 +43,7 @@ TEST(Match, FollowsAUniqueNameToAnotherNumber) {
 TEST(Match, BlanksAtTheEndsMakeNoOtherName) {
     SmallTable table;
     table.Name(4, " Run ");
-    EXPECT_EQ(Match(Pump().Document(), table.Document()).States.NewOf(2), StateNumber(4));
+    EXPECT_EQ(Match(PumpThatRepeats().Document(), table.Document()).States.NewOf(2), StateNumber(4));
 }
 
 TEST(Match, KnowsARenamedEventByItsTestCode) {
@@ -58,19 +58,19 @@ TEST(Match, KnowsARenamedEventByItsTestCode) {
 }
 
 TEST(Match, GuessesARenamedStateByItsContent) {
-    SmallTable renamed = Pump();
+    SmallTable renamed = PumpThatRepeats();
     renamed.Name(3, "Halt", ";stop");
-    const Matching matching = Match(Pump().Document(), renamed.Document());
+    const Matching matching = Match(PumpThatRepeats().Document(), renamed.Document());
     EXPECT_EQ(matching.States.NewOf(3), StateNumber(3));
     EXPECT_TRUE(matching.States.IsGuess(3));
     EXPECT_FALSE(matching.States.IsGuess(1));
 }
 
 TEST(Match, DoesNotTakeAStateWithOtherContentForARenamedOne) {
-    SmallTable other = Pump();
+    SmallTable other = PumpThatRepeats();
     other.Document().State(3) = FsmDocument().StateTemplate();
     other.Name(3, "Drain", ";open\r\n;the valve").Cell(3, 6, 2, ";x").Cell(3, 7, 2, ";y").Cell(2, 7, 0);
-    const Matching matching = Match(Pump().Document(), other.Document());
+    const Matching matching = Match(PumpThatRepeats().Document(), other.Document());
     EXPECT_FALSE(matching.States.HasNew(3));
     EXPECT_FALSE(matching.States.HasOld(3));
 }
@@ -79,13 +79,13 @@ TEST(Match, TwoStatesThatExchangedTheirNumbersAreOneMove) {
     SmallTable exchanged;
     exchanged.Name(1, "Idle", ";idle").Name(3, "Run", ";run").Name(2, "Stop", ";stop");
     exchanged.Cell(1, 6, 3).Cell(3, 7, 2, ";slow").Cell(2, 8, 1).Cell(2, 9, 2, ";again");
-    EXPECT_EQ(KindsOf(Compare(Pump().Document(), exchanged.Document()).Changes),
+    EXPECT_EQ(KindsOf(Compare(PumpThatRepeats().Document(), exchanged.Document()).Changes),
               std::vector{ChangeKind::StateMoved});
 }
 
 TEST(Match, AWishForTheSameOverrulesNames) {
-    const FsmDocument oldOne = Pump().Document();
-    SmallTable newOne = Pump();
+    const FsmDocument oldOne = PumpThatRepeats().Document();
+    SmallTable newOne = PumpThatRepeats();
     newOne.Name(4, "Wait");
     const Matching matching = Match(oldOne, newOne.Document(), {{{2, 4}}, {{6, 7}}});
     EXPECT_EQ(matching.States.NewOf(2), StateNumber(4));
@@ -97,7 +97,7 @@ TEST(Match, AWishForTheSameOverrulesNames) {
 }
 
 TEST(Match, AWishThatAnOldStateIsGoneLeavesItAlone) {
-    const FsmDocument document = Pump().Document();
+    const FsmDocument document = PumpThatRepeats().Document();
     const Matching matching = Match(document, document, {{{2, std::nullopt}}, {}});
     EXPECT_FALSE(matching.States.HasNew(2));
     EXPECT_FALSE(matching.States.HasOld(2));
@@ -105,7 +105,7 @@ TEST(Match, AWishThatAnOldStateIsGoneLeavesItAlone) {
 }
 
 TEST(Match, PassesOverWishesForWhatIsNotThere) {
-    const FsmDocument document = Pump().Document();
+    const FsmDocument document = PumpThatRepeats().Document();
     EXPECT_EQ(Match(document, document, {{{50, 1}, {1, 1}, {1, 2}}, {}}).States.NewOf(1), StateNumber(1));
 }
 
@@ -124,7 +124,7 @@ TEST(Compare, AStateThatWasPutInIsOneChangeAndThoseBehindItAreOnlyRenumbered) {
     SmallTable newOne;
     newOne.Name(1, "Idle", ";idle").Name(2, "New", ";new").Name(3, "Run", ";run").Name(4, "Stop", ";stop");
     newOne.Cell(1, 6, 3).Cell(3, 7, 4, ";slow").Cell(4, 8, 1).Cell(4, 9, 4, ";again");
-    const review::ChangeList list = Compare(Pump().Document(), newOne.Document());
+    const review::ChangeList list = Compare(PumpThatRepeats().Document(), newOne.Document());
     ASSERT_EQ(KindsOf(list.Changes), std::vector{ChangeKind::StateAdded});
     EXPECT_EQ(list.Changes.front().New.State, StateNumber(2));
     EXPECT_EQ(list.Same.States.NewOf(2), StateNumber(3));
@@ -134,24 +134,24 @@ TEST(Compare, AnEmptyColumnThatPushesOthersAlongIsADifference) {
     SmallTable newOne;
     newOne.Name(1, "Idle", ";idle").Name(3, "Run", ";run").Name(4, "Stop", ";stop");
     newOne.Cell(1, 6, 3).Cell(3, 7, 4, ";slow").Cell(4, 8, 1).Cell(4, 9, 4, ";again");
-    const review::ChangeList list = Compare(Pump().Document(), newOne.Document());
+    const review::ChangeList list = Compare(PumpThatRepeats().Document(), newOne.Document());
     EXPECT_TRUE(list.Changes.empty());
     EXPECT_FALSE(list.IsEmpty());
 }
 
 TEST(Compare, WidthsAndRowsThatAreShownAreOfTheView) {
-    SmallTable newOne = Pump();
+    SmallTable newOne = PumpThatRepeats();
     newOne.Document().State(2).ColWidth = 1200;
     newOne.Document().State(60).ColWidth = 1300;
     newOne.Document().View.ShowElse = true;
     newOne.Document().View.Col0Width = 99;
     newOne.Document().View.RowVisible.Else = 240;
-    const review::ChangeList list = Compare(Pump().Document(), newOne.Document());
+    const review::ChangeList list = Compare(PumpThatRepeats().Document(), newOne.Document());
     EXPECT_EQ(list.Changes.size(), 5u);
     for (const Change& change : list.Changes)
         EXPECT_TRUE(change.IsOfTheView) << change.Name;
     newOne.Document().View.Polytask = true; // makes another program
-    const std::vector<Change> changes = Compare(Pump().Document(), newOne.Document()).Changes;
+    const std::vector<Change> changes = Compare(PumpThatRepeats().Document(), newOne.Document()).Changes;
     EXPECT_EQ(changes.size(), 6u);
     EXPECT_FALSE(changes.front().IsOfTheView);
 }
@@ -160,7 +160,7 @@ TEST(Compare, WhatWentStandsBehindWhatItStoodBehind) {
     SmallTable newOne;
     newOne.Name(1, "Idle", ";idle").Name(2, "Stop", ";halt");
     newOne.Cell(2, 8, 1).Cell(2, 9, 2, ";again");
-    const std::vector<Change> changes = Compare(Pump().Document(), newOne.Document()).Changes;
+    const std::vector<Change> changes = Compare(PumpThatRepeats().Document(), newOne.Document()).Changes;
     EXPECT_EQ(KindsOf(changes),
               (std::vector{ChangeKind::Target, ChangeKind::StateRemoved, ChangeKind::StateField}));
     EXPECT_EQ(std::get<StateNumber>(changes[0].Before), StateNumber(2));

@@ -11,11 +11,10 @@
 namespace orvane::run {
 namespace {
 
+using test::kPowerOn;
+using test::kStart;
+using test::kStop;
 using test::PumpTable;
-
-constexpr RunStep kPowerOn{0, RunAct::PowerOn};
-const std::uint64_t kStart = BitOf(6);
-const std::uint64_t kStop = BitOf(7);
 
 class PumpRun : public testing::Test {
   protected:

@@ -11,8 +11,8 @@ namespace {
 
 using testing::HasSubstr;
 
-const RowNumber kStart = 6;
-const RowNumber kStop = 7;
+const RowNumber kStartRow = 6;
+const RowNumber kStopRow = 7;
 
 class LivePump : public testing::Test {
   protected:
@@ -38,11 +38,11 @@ class LivePump : public testing::Test {
 };
 
 TEST_F(LivePump, DoesWhatIsAskedAndSaysWhyWhenItCannot) {
-    run.Pulse(kStart);
+    run.Pulse(kStartRow);
     EXPECT_EQ(run.Notice(), "the power is off");
     run.PowerOn();
     EXPECT_EQ(run.Notice(), "");
-    run.Pulse(kStart);
+    run.Pulse(kStartRow);
     EXPECT_EQ(Where(), "2 at 0");
     run.ToTimeout();
     EXPECT_EQ(Where(), "1 at 100");
@@ -55,11 +55,11 @@ TEST_F(LivePump, DoesWhatIsAskedAndSaysWhyWhenItCannot) {
 
 TEST_F(LivePump, PowerOnBeginsANewRunWithTheInputsAsTheyAre) {
     run.PowerOn();
-    run.Hold(kStop, true);
+    run.Hold(kStopRow, true);
     run.Wait(5);
     run.PowerOn();
     EXPECT_EQ(Where(), "1 at 0");
-    EXPECT_TRUE(run.IsTrue(kStop));
+    EXPECT_TRUE(run.IsTrue(kStopRow));
     EXPECT_TRUE(run.CanBringBack());
     run.BringBack();
     EXPECT_EQ(Where(), "1 at 5");
@@ -67,11 +67,11 @@ TEST_F(LivePump, PowerOnBeginsANewRunWithTheInputsAsTheyAre) {
 
 TEST_F(LivePump, WhatWasCutOffCanBeBroughtBack) {
     run.PowerOn();
-    run.Pulse(kStart);
+    run.Pulse(kStartRow);
     run.Wait(30);
     EXPECT_FALSE(run.CanBringBack());
     run.Back();
-    run.Pulse(kStop);
+    run.Pulse(kStopRow);
     EXPECT_EQ(Where(), "1 at 0");
     run.BringBack();
     EXPECT_EQ(Where(), "2 at 30");
@@ -80,7 +80,7 @@ TEST_F(LivePump, WhatWasCutOffCanBeBroughtBack) {
 
 TEST_F(LivePump, AnEditIsPlayedAgainAndToldWhenItGoesAnotherWay) {
     run.PowerOn();
-    run.Pulse(kStart);
+    run.Pulse(kStartRow);
     run.Wait(60);
     Edit([](FsmDocument& table, TableClipboard&) { table.State(2).TimeConst = "50"; });
     EXPECT_EQ(Where(), "1 at 60");
@@ -94,7 +94,7 @@ TEST_F(LivePump, AnEditIsPlayedAgainAndToldWhenItGoesAnotherWay) {
 
 TEST_F(LivePump, ARunFollowsStatesAndEventsThatMove) {
     run.PowerOn();
-    run.Pulse(kStart);
+    run.Pulse(kStartRow);
     run.Wait(20);
     Edit([](FsmDocument& table, TableClipboard& clipboard) { InsertState(table, clipboard, 2); });
     EXPECT_EQ(Where(), "3 at 20");
@@ -107,11 +107,11 @@ TEST_F(LivePump, ARunFollowsStatesAndEventsThatMove) {
 
 TEST_F(LivePump, ARunStandsBeforeAStepWhoseEventIsGoneAndComesBackWithIt) {
     run.PowerOn();
-    run.Pulse(kStart);
+    run.Pulse(kStartRow);
     run.Wait(20);
-    run.Pulse(kStop);
+    run.Pulse(kStopRow);
     const FsmDocument before = document;
-    Edit([](FsmDocument& table, TableClipboard& clipboard) { DeleteEvent(table, clipboard, kStop); });
+    Edit([](FsmDocument& table, TableClipboard& clipboard) { DeleteEvent(table, clipboard, kStopRow); });
     EXPECT_EQ(Where(), "2 at 20");
     EXPECT_EQ(run.Notice(), "The run stands before step 4, which does not fit the table any more: the event "
                             "Stop is gone");
@@ -124,10 +124,10 @@ TEST_F(LivePump, ARunStandsBeforeAStepWhoseEventIsGoneAndComesBackWithIt) {
 
 TEST_F(LivePump, GoingOnWhereARunStandsMakesItTheRun) {
     run.PowerOn();
-    run.Pulse(kStart);
-    run.Pulse(kStop);
+    run.Pulse(kStartRow);
+    run.Pulse(kStopRow);
     const FsmDocument before = document;
-    Edit([](FsmDocument& table, TableClipboard& clipboard) { DeleteEvent(table, clipboard, kStop); });
+    Edit([](FsmDocument& table, TableClipboard& clipboard) { DeleteEvent(table, clipboard, kStopRow); });
     run.Wait(7);
     EXPECT_EQ(Where(), "2 at 7");
     Edit([&](FsmDocument& table, TableClipboard&) { table = before; });
@@ -136,12 +136,12 @@ TEST_F(LivePump, GoingOnWhereARunStandsMakesItTheRun) {
 
 TEST_F(LivePump, AnErrorOfTheDesignStopsTheRunUntilItIsMended) {
     run.PowerOn();
-    run.Pulse(kStart);
+    run.Pulse(kStartRow);
     Edit([](FsmDocument& table, TableClipboard&) { table.Event(6).Code.clear(); });
     EXPECT_FALSE(run.Obstacles().empty());
     EXPECT_EQ(run.Past(), nullptr);
     EXPECT_EQ(run.State(), StateNumber());
-    run.Pulse(kStop);
+    run.Pulse(kStopRow);
     EXPECT_EQ(run.Notice(), run.Obstacles().front());
     run.PowerOn();
     EXPECT_EQ(run.Notice(), run.Obstacles().front());
@@ -151,7 +151,7 @@ TEST_F(LivePump, AnErrorOfTheDesignStopsTheRunUntilItIsMended) {
 
 TEST_F(LivePump, AnEditThatLetsItGoRoundWithoutEndStandsThere) {
     run.PowerOn();
-    run.Hold(kStart, true);
+    run.Hold(kStartRow, true);
     run.Wait(5);
     Edit([](FsmDocument& table, TableClipboard&) {
         table.State(2).Targets[6] = 1;
@@ -169,7 +169,7 @@ TEST_F(LivePump, AConstantThatIsANameIsAskedForAndHolds) {
     run.Restart();
     run.PowerOn();
     EXPECT_EQ(run.Wanted(), std::nullopt);
-    run.Pulse(kStart);
+    run.Pulse(kStartRow);
     EXPECT_EQ(run.Past()->End(), Outcome::LimitMissing);
     EXPECT_EQ(run.Wanted(), (WantedLimit{2, true, "LONG", true}));
     run.Wait(1);
@@ -185,7 +185,7 @@ TEST_F(LivePump, AVariableLimitIsGivenBeforeTheStepThatNeedsIt) {
     document.State(2).TimingVar = "\tLoad\tLEVEL";
     run.Restart();
     run.PowerOn();
-    run.Pulse(kStart);
+    run.Pulse(kStartRow);
     ASSERT_TRUE(run.Wanted().has_value());
     EXPECT_TRUE(run.Wanted()->Missing);
     run.GiveLimit(9);
@@ -201,7 +201,7 @@ TEST_F(LivePump, AVariableLimitIsGivenBeforeTheStepThatNeedsIt) {
 
 TEST_F(LivePump, TimeThatPassesWithoutAnythingIsOneStep) {
     run.PowerOn();
-    run.Pulse(kStart);
+    run.Pulse(kStartRow);
     for (int i = 0; i < 25; ++i)
         run.PassTime(10);
     EXPECT_EQ(Where(), "1 at 250");
@@ -212,17 +212,17 @@ TEST_F(LivePump, TimeThatPassesWithoutAnythingIsOneStep) {
 
 TEST_F(LivePump, APulseOfAHeldInputSaysThatItIsHeld) {
     run.PowerOn();
-    run.Hold(kStop, true);
-    run.Pulse(kStop);
+    run.Hold(kStopRow, true);
+    run.Pulse(kStopRow);
     EXPECT_EQ(run.Notice(), "Stop is held already; Ctrl+click or H lets it go");
-    EXPECT_TRUE(run.IsTrue(kStop));
+    EXPECT_TRUE(run.IsTrue(kStopRow));
 }
 
 TEST_F(LivePump, ARunFromElsewhereIsPlayedUnderItsReadingAndCanBeLeftAgain) {
     run.PowerOn();
     run.Wait(3);
     run.Play(
-        {{{0, RunAct::PowerOn}, PulseOf(BitOf(kStart)), WaitFor(100)}, {}, {.AfterLimit = true}, {2, 0}});
+        {{{0, RunAct::PowerOn}, PulseOf(BitOf(kStartRow)), WaitFor(100)}, {}, {.AfterLimit = true}, {2, 0}});
     EXPECT_EQ(Where(), "2 at 0");
     run.Forward();
     EXPECT_EQ(Where(), "2 at 100");
@@ -232,7 +232,7 @@ TEST_F(LivePump, ARunFromElsewhereIsPlayedUnderItsReadingAndCanBeLeftAgain) {
 
 TEST_F(LivePump, AnotherDocumentBeginsWithoutARun) {
     run.PowerOn();
-    run.Pulse(kStart);
+    run.Pulse(kStartRow);
     run.Restart();
     EXPECT_EQ(run.State(), StateNumber());
     EXPECT_FALSE(run.CanBringBack());
@@ -244,8 +244,8 @@ class LongRun : public LivePump {
     LongRun() {
         run.PowerOn();
         for (int i = 0; i < kRounds; ++i) {
-            run.Pulse(kStart);
-            run.Pulse(kStop);
+            run.Pulse(kStartRow);
+            run.Pulse(kStopRow);
         }
     }
 

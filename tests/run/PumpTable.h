@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "run/RunStep.h"
 #include "support/SmallTable.h"
 
 namespace orvane::test {
@@ -16,5 +17,9 @@ inline SmallTable PumpTable() {
     table.Document().Event(7).Name = "Stop";
     return table;
 }
+
+constexpr run::RunStep kPowerOn{0, run::RunAct::PowerOn};
+inline const std::uint64_t kStart = run::BitOf(6);
+inline const std::uint64_t kStop = run::BitOf(7);
 
 } // namespace orvane::test

@@ -17,7 +17,7 @@ namespace {
 
 using testing::IsEmpty;
 
-FsmDocument Pump() { return test::PumpTable().Document(); }
+FsmDocument PumpMachine() { return test::PumpTable().Document(); }
 
 // Where a run of these steps is then.
 Config After(const FsmDocument& document, const RanTests& ran, const RanTest& test, Moment moment) {
@@ -32,21 +32,21 @@ Config After(const FsmDocument& document, const RanTests& ran, const RanTest& te
 TEST(RanTests, AFailedTestStandsAtTheEndOfTheLineBefore) {
     const RanTests ran = RunTestsOf("test t\n => Idle\n pulse Start => Run\n +50 => Run stays\n"
                                     " +10 pulse Stop => Run\n +1 => Idle\n",
-                                    Pump(), "pump.zfsm");
+                                    PumpMachine(), "pump.zfsm");
     ASSERT_EQ(ran.Tests.size(), 1U);
     EXPECT_EQ(ran.Tests[0].Result.At.Line, 5U);
-    EXPECT_EQ(After(Pump(), ran, ran.Tests[0], ran.Tests[0].Before), (Config{2, 50, {0}}));
-    EXPECT_EQ(After(Pump(), ran, ran.Tests[0], {ran.Tests[0].Steps.size(), 0}), (Config{1, 60, {0}}));
+    EXPECT_EQ(After(PumpMachine(), ran, ran.Tests[0], ran.Tests[0].Before), (Config{2, 50, {0}}));
+    EXPECT_EQ(After(PumpMachine(), ran, ran.Tests[0], {ran.Tests[0].Steps.size(), 0}), (Config{1, 60, {0}}));
 }
 
 TEST(RanTests, ATestThatFailsInItsFirstLineStandsBeforePower) {
-    const RanTests ran = RunTestsOf("test t\n on Start => Idle\n", Pump(), "pump.zfsm");
+    const RanTests ran = RunTestsOf("test t\n on Start => Idle\n", PumpMachine(), "pump.zfsm");
     EXPECT_EQ(ran.Tests.at(0).Before, Moment());
     EXPECT_EQ(ran.Tests.at(0).Steps.size(), 2U);
 }
 
 TEST(RanTests, SlipsAreToldAndNothingIsRun) {
-    const RanTests ran = RunTestsOf("test t\n => Idel\n", Pump(), "pump.zfsm");
+    const RanTests ran = RunTestsOf("test t\n => Idel\n", PumpMachine(), "pump.zfsm");
     ASSERT_EQ(ran.Slips.size(), 1U);
     EXPECT_EQ(ran.Slips[0].Text, "no state is called \"Idel\" in pump.zfsm; did you mean \"Idle\"?");
     EXPECT_THAT(ran.Tests, IsEmpty());
@@ -56,23 +56,24 @@ TEST(RanTests, SignalsAreTheEventsThatFollowFromThem) {
     const RanTests ran =
         RunTestsOf("signal Flow\nevent Start = Flow\nevent Stop = not Flow\n"
                    "test t\n => Idle\n on Flow => Run\n off Flow => Idle\n pulse Flow => Idle\n",
-                   Pump(), "pump.zfsm");
+                   PumpMachine(), "pump.zfsm");
     ASSERT_THAT(ran.Slips, IsEmpty());
     EXPECT_EQ(ran.Tests.at(0).Result.Message, "");
-    EXPECT_EQ(After(Pump(), ran, ran.Tests[0], ran.Tests[0].Before).State, StateNumber(1));
+    EXPECT_EQ(After(PumpMachine(), ran, ran.Tests[0], ran.Tests[0].Before).State, StateNumber(1));
     EXPECT_EQ(ran.Tests[0].Steps.back(), PulseOf(BitOf(6)));
 }
 
 TEST(RanTests, TestsOfAnotherDocumentAreNotRun) {
-    const RanTests ran = RunTestsOf("machine ../x/other.zfsm\ntest t\n => Idle\n", Pump(), "pump.zfsm");
+    const RanTests ran =
+        RunTestsOf("machine ../x/other.zfsm\ntest t\n => Idle\n", PumpMachine(), "pump.zfsm");
     ASSERT_EQ(ran.Slips.size(), 1U);
     EXPECT_EQ(ran.Slips[0].Text, "these are tests of ../x/other.zfsm, not of pump.zfsm");
-    EXPECT_THAT(RunTestsOf("machine ../x/pump.zfsm\ntest t\n => Idle\n", Pump(), "pump.zfsm").Slips,
+    EXPECT_THAT(RunTestsOf("machine ../x/pump.zfsm\ntest t\n => Idle\n", PumpMachine(), "pump.zfsm").Slips,
                 IsEmpty());
 }
 
 TEST(RanTests, TheReadingOfTheFileIsThatOfTheRun) {
-    const RanTests ran = RunTestsOf("reading after-limit\ntest t\n => Idle\n", Pump(), "pump.zfsm");
+    const RanTests ran = RunTestsOf("reading after-limit\ntest t\n => Idle\n", PumpMachine(), "pump.zfsm");
     EXPECT_EQ(ran.Read, (Readings{true, false}));
 }
 

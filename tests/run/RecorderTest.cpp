@@ -16,12 +16,11 @@
 namespace orvane::run {
 namespace {
 
+using test::kPowerOn;
+using test::kStart;
+using test::kStop;
 using testing::HasSubstr;
 using testing::IsEmpty;
-
-constexpr RunStep kPowerOn{0, RunAct::PowerOn};
-const std::uint64_t kStart = BitOf(6);
-const std::uint64_t kStop = BitOf(7);
 
 std::string Recorded(const FsmDocument& document, const std::vector<RunStep>& steps,
                      const Constants& given = {}) {

@@ -10,11 +10,10 @@
 namespace orvane::run {
 namespace {
 
+using test::kPowerOn;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
-
-constexpr RunStep kPowerOn{0, RunAct::PowerOn};
 
 class PumpTimeline : public testing::Test {
   protected:

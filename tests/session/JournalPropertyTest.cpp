@@ -15,23 +15,23 @@
 namespace orvane::test {
 namespace {
 
-constexpr const char* kFolder = "/recovery";
+constexpr const char* kJournals = "/recovery";
 
 JournalPlace PlaceIn(MemoryFiles& files) {
-    return {files, kFolder, "Orvane 1", TestClock, JournalSyncer::How::WhenTold};
+    return {files, kJournals, "Orvane 1", TestClock, JournalSyncer::How::WhenTold};
 }
 
 RecoveredJournal Read(MemoryFiles& files, const JournaledWindow& window) {
-    return Recover(*files.Bytes(std::string(kFolder) + "/" + window.Writer.Name()));
+    return Recover(*files.Bytes(std::string(kJournals) + "/" + window.Writer.Name()));
 }
 
 // A document under edits and its window.
-struct Session {
+struct KeptSession {
     MemoryFiles Files;
     FsmDocument Document;
     JournaledWindow Window{PlaceIn(Files), Pack(FsmDocument())};
 
-    Session() { Window.View = ViewOf(Document); }
+    KeptSession() { Window.View = ViewOf(Document); }
 
     void Edit(const DocumentEdit& edit) {
         edit.Apply(Document);
@@ -49,7 +49,7 @@ struct Session {
     void Type(int state) { Window.Type({JournalDraftKind::Action, {6, state}, {{"Code", *AnyText()}}}); }
 };
 
-void DoSomething(Session& session) {
+void DoSomething(KeptSession& session) {
     switch (*rc::gen::inRange(0, 12)) {
     case 0:
         return session.Move(-1);
@@ -70,7 +70,7 @@ void DoSomething(Session& session) {
 
 TEST(JournalProperties, AfterEveryCallTheJournalHoldsTheSession) {
     ExpectProperty({.Cases = 60}, [] {
-        Session session;
+        KeptSession session;
         for (int left = *rc::gen::inRange(1, 40); left > 0; --left) {
             DoSomething(session);
             if (session.Window.Writer.Name().empty())
@@ -87,7 +87,7 @@ TEST(JournalProperties, AfterEveryCallTheJournalHoldsTheSession) {
 // As the session fills its own after a crash.
 TEST(JournalProperties, TheUndoRingIsFilledAsItWas) {
     ExpectProperty({.Cases = 30}, [] {
-        Session session;
+        KeptSession session;
         session.Edit({"first", [](FsmDocument& document) { document.General.FsmName = "FIRST"; }});
         for (int left = *rc::gen::element(5, 150, 260); left > 0; --left)
             DoSomething(session);
@@ -109,7 +109,7 @@ TEST(JournalProperties, TheUndoRingIsFilledAsItWas) {
 
 TEST(JournalProperties, CutAnywhereItHoldsAnEarlierMoment) {
     ExpectProperty({.Cases = 60}, [] {
-        Session session;
+        KeptSession session;
         session.Edit({"first", [](FsmDocument& document) { document.General.FsmName = "FIRST"; }});
         std::vector<std::string> moments{session.Window.Present()};
         for (int left = 20; left > 0; --left) {
@@ -117,7 +117,7 @@ TEST(JournalProperties, CutAnywhereItHoldsAnEarlierMoment) {
             moments.push_back(session.Window.Present());
         }
         const std::string bytes =
-            *session.Files.Bytes(std::string(kFolder) + "/" + session.Window.Writer.Name());
+            *session.Files.Bytes(std::string(kJournals) + "/" + session.Window.Writer.Name());
         const RecoveredJournal journal =
             Recover(bytes.substr(0, *rc::gen::inRange<std::size_t>(0, bytes.size())));
         RC_ASSERT(journal.End != JournalEnd::Damaged);
@@ -129,7 +129,7 @@ TEST(JournalProperties, CutAnywhereItHoldsAnEarlierMoment) {
 
 TEST(JournalProperties, KilledAndAdoptedAgainAndAgainNothingIsLost) {
     ExpectProperty({.Cases = 40}, [] {
-        Session session;
+        KeptSession session;
         session.Edit({"first", [](FsmDocument& document) { document.General.FsmName = "FIRST"; }});
         std::vector<std::unique_ptr<JournaledWindow>> killed;
         JournaledWindow* window = &session.Window;
@@ -139,7 +139,7 @@ TEST(JournalProperties, KilledAndAdoptedAgainAndAgainNothingIsLost) {
             if (*rc::gen::inRange(0, 2) == 0)
                 window->Writer.SyncNow();
             session.Files.CloseAll();
-            const RecoveryFolder folder(session.Files, kFolder);
+            const RecoveryFolder folder(session.Files, kJournals);
             const std::vector<OrphanedJournal> orphans = folder.Orphans();
             RC_ASSERT(orphans.size() == 1u);
             Result<AdoptedJournal> adopted = folder.Adopt(orphans.front().Name, TestClock());

@@ -11,12 +11,12 @@
 namespace orvane {
 namespace {
 
-constexpr const char* kPath = "/work/pump.zfsm";
+constexpr const char* kSaved = "/work/pump.zfsm";
 
 class OwnSaveTest : public testing::Test {
   protected:
     OwnSaveTest() {
-        Journal.Head.Path = kPath;
+        Journal.Head.Path = kSaved;
         Journal.Head.Stamp = JournalStamp{1, 2, {}};
         Journal.History = {{"older", "", {}}, {"0 present", "transition", {}}};
         Journal.Current = 1;
@@ -32,13 +32,13 @@ class OwnSaveTest : public testing::Test {
 
 TEST_F(OwnSaveTest, AFileThatSaysWhatTheJournalSaysWasSavedByItsWindow) {
     const std::string bytes = WriteDocument(Journal.Document);
-    Files.Put(kPath, bytes);
+    Files.Put(kSaved, bytes);
     EXPECT_TRUE(TakeOwnSave(Files, Journal));
     EXPECT_FALSE(Journal.HasUnsavedWork());
     EXPECT_EQ(Journal.Changes, 0u);
     ASSERT_TRUE(Journal.Head.Stamp);
     EXPECT_EQ(Journal.Head.Stamp->Size, bytes.size());
-    EXPECT_EQ(Journal.Head.Stamp->Modified, Files.Find(kPath)->Facts.Changed);
+    EXPECT_EQ(Journal.Head.Stamp->Modified, Files.Find(kSaved)->Facts.Changed);
     EXPECT_EQ(Journal.Head.Stamp->Sha256, Sha256(bytes));
 }
 
@@ -46,7 +46,7 @@ TEST_F(OwnSaveTest, AFileThatSaysWhatTheJournalSaysWasSavedByItsWindow) {
 TEST_F(OwnSaveTest, AFileThatSaysAnythingElseIsSomebodysWork) {
     FsmDocument other = Journal.Document;
     other.View.Polytask = false;
-    Files.Put(kPath, WriteDocument(other));
+    Files.Put(kSaved, WriteDocument(other));
     EXPECT_FALSE(TakeOwnSave(Files, Journal));
     EXPECT_EQ(Journal.SavedImage, "older");
     EXPECT_EQ(Journal.Changes, 3u);

@@ -9,9 +9,13 @@
 #include <mutex>
 #include <optional>
 #include <string>
+#include <system_error>
 #include <vector>
 
 namespace orvane {
+
+// What a call of the system that failed leaves in errno.
+inline std::error_code Errno(int number) { return {number, std::generic_category()}; }
 
 // Files that are only remembered, on a disk that fails, writes in parts or loses power when a test wants it
 // to. It knows one user, 1000, of one group, 1000, who may do what the permissions say. Paths are taken as

@@ -23,23 +23,23 @@ FsmDocument WideDocument() {
     return document;
 }
 
-std::string Cell(const FsmDocument& document, int row, int column) {
+std::string CellTextAt(const FsmDocument& document, int row, int column) {
     return CellText(document, {row, column}, WidthOf);
 }
 
 TEST(CellText, TheHeadOfTheTableIsTheNamePrefix) {
     FsmDocument document = WideDocument();
     document.General.FsmName = "PMP";
-    EXPECT_EQ(Cell(document, kHeadRow, 0), "PMP");
+    EXPECT_EQ(CellTextAt(document, kHeadRow, 0), "PMP");
 }
 
 TEST(CellText, TheSpecialRowsHaveTheirHeads) {
     const FsmDocument document = WideDocument();
-    EXPECT_EQ(Cell(document, kExitActionRow, 0), "Exit Action");
-    EXPECT_EQ(Cell(document, kTimingModeRow, 0), "Timeout mode");
-    EXPECT_EQ(Cell(document, kTimeoutRow, 0), "Timeout target");
-    EXPECT_EQ(Cell(document, kElseRow, 0), "ELSE");
-    EXPECT_EQ(Cell(document, kEntryActionRow, 0), ForceLREventAction(kWide, WidthOf));
+    EXPECT_EQ(CellTextAt(document, kExitActionRow, 0), "Exit Action");
+    EXPECT_EQ(CellTextAt(document, kTimingModeRow, 0), "Timeout mode");
+    EXPECT_EQ(CellTextAt(document, kTimeoutRow, 0), "Timeout target");
+    EXPECT_EQ(CellTextAt(document, kElseRow, 0), "ELSE");
+    EXPECT_EQ(CellTextAt(document, kEntryActionRow, 0), ForceLREventAction(kWide, WidthOf));
 }
 
 TEST(CellText, AnEventWithoutCodeShowsItsNameAndOneBlank) {
@@ -47,9 +47,9 @@ TEST(CellText, AnEventWithoutCodeShowsItsNameAndOneBlank) {
     document.Event(6).Name = "Start";
     document.Event(7).Name = "Stop";
     document.Event(7).Code = ";stop?";
-    EXPECT_EQ(Cell(document, 6, 0), "Start ");
-    EXPECT_EQ(Cell(document, 7, 0), "Stop");
-    EXPECT_EQ(Cell(document, 54, 0), " ");
+    EXPECT_EQ(CellTextAt(document, 6, 0), "Start ");
+    EXPECT_EQ(CellTextAt(document, 7, 0), "Stop");
+    EXPECT_EQ(CellTextAt(document, 54, 0), " ");
 }
 
 TEST(CellText, EventNamesAreNotFittedButTheOtherHeadsAre) {
@@ -58,34 +58,35 @@ TEST(CellText, EventNamesAreNotFittedButTheOtherHeadsAre) {
     document.Event(6).Name = "AnEventWithALongName";
     document.Event(6).Code = ";";
     document.General.FsmName = "PUMPSTATION";
-    EXPECT_EQ(Cell(document, 6, 0), "AnEventWithALongName");
-    EXPECT_EQ(Cell(document, kHeadRow, 0), "PUMP..");
-    EXPECT_EQ(Cell(document, kElseRow, 0), "ELSE");
-    EXPECT_EQ(Cell(document, kTimingModeRow, 0), "Time..");
-    EXPECT_EQ(Cell(document, kEntryActionRow, 0), "Even..");
+    EXPECT_EQ(CellTextAt(document, 6, 0), "AnEventWithALongName");
+    EXPECT_EQ(CellTextAt(document, kHeadRow, 0), "PUMP..");
+    EXPECT_EQ(CellTextAt(document, kElseRow, 0), "ELSE");
+    EXPECT_EQ(CellTextAt(document, kTimingModeRow, 0), "Time..");
+    EXPECT_EQ(CellTextAt(document, kEntryActionRow, 0), "Even..");
 }
 
 TEST(CellText, AStateHeadIsNumberAndName) {
     FsmDocument document = WideDocument();
     document.State(3).Name = "Idle ";
-    EXPECT_EQ(Cell(document, kHeadRow, 3), "3:Idle");
-    EXPECT_EQ(Cell(document, kHeadRow, 100), "100:");
+    EXPECT_EQ(CellTextAt(document, kHeadRow, 3), "3:Idle");
+    EXPECT_EQ(CellTextAt(document, kHeadRow, 100), "100:");
 }
 
 TEST(CellText, ANameTooWideForItsColumnIsItsLongestFittingBeginningAndTwoDots) {
     FsmDocument document;
     document.State(7).Name = "Running";
-    EXPECT_EQ(Cell(document, kHeadRow, 7), "7:Runni.."); // 7 characters are narrower than 945 - 200 twips
+    EXPECT_EQ(CellTextAt(document, kHeadRow, 7),
+              "7:Runni.."); // 7 characters are narrower than 945 - 200 twips
     document.State(7).ColWidth = 250;
-    EXPECT_EQ(Cell(document, kHeadRow, 7), "");
+    EXPECT_EQ(CellTextAt(document, kHeadRow, 7), "");
 }
 
 TEST(CellText, EntryAndExitCodeShowTheirTabsAsBlanks) {
     FsmDocument document = WideDocument();
     document.State(1).EntryCode = "\tSet\tM1\r\n\tOn";
     document.State(1).ExitCode = "\tClr\tM1";
-    EXPECT_EQ(Cell(document, kEntryActionRow, 1), " Set M1\r\n On");
-    EXPECT_EQ(Cell(document, kExitActionRow, 1), " Clr M1");
+    EXPECT_EQ(CellTextAt(document, kEntryActionRow, 1), " Set M1\r\n On");
+    EXPECT_EQ(CellTextAt(document, kExitActionRow, 1), " Clr M1");
 }
 
 TEST(CellText, TheTimingRowNamesTimerAndLimit) {
@@ -97,7 +98,7 @@ TEST(CellText, TheTimingRowNamesTimerAndLimit) {
     const char* const expected[] = {"", "Start T1/100", "Start T1/Var", "Cont T1/100", "Cont T1/Var"};
     for (int mode = 0; mode <= 4; ++mode) {
         state.TimingMode = mode;
-        EXPECT_EQ(Cell(document, kTimingModeRow, 2), expected[mode]);
+        EXPECT_EQ(CellTextAt(document, kTimingModeRow, 2), expected[mode]);
     }
 }
 
@@ -119,11 +120,11 @@ TEST(CellText, ATransitionCellShowsItsTargetAndAStarForItsAction) {
     state.Actions[7] = ";act";
     state.Targets[kTimeoutRow] = 5;
     state.Targets[kElseRow] = 9;
-    EXPECT_EQ(Cell(document, 6, 1), "5:Busy*");
-    EXPECT_EQ(Cell(document, 7, 1), "*");
-    EXPECT_EQ(Cell(document, 8, 1), "");
-    EXPECT_EQ(Cell(document, kTimeoutRow, 1), "5:Busy");
-    EXPECT_EQ(Cell(document, kElseRow, 1), "9:");
+    EXPECT_EQ(CellTextAt(document, 6, 1), "5:Busy*");
+    EXPECT_EQ(CellTextAt(document, 7, 1), "*");
+    EXPECT_EQ(CellTextAt(document, 8, 1), "");
+    EXPECT_EQ(CellTextAt(document, kTimeoutRow, 1), "5:Busy");
+    EXPECT_EQ(CellTextAt(document, kElseRow, 1), "9:");
 }
 
 TEST(CellText, TheStarIsCutOffWithTheRest) {
@@ -131,7 +132,7 @@ TEST(CellText, TheStarIsCutOffWithTheRest) {
     document.State(5).Name = "Bottle";
     document.State(1).Targets[6] = 5;
     document.State(1).Actions[6] = ";act";
-    EXPECT_EQ(Cell(document, 6, 1), "5:Bottl..");
+    EXPECT_EQ(CellTextAt(document, 6, 1), "5:Bottl..");
 }
 
 // Such widths come in foreign documents.
@@ -155,11 +156,11 @@ TEST(CellText, TheSmallestAndTheLargestWidthsAreTakenAsTheyAre) {
 TEST(CellText, CellsOutsideTheTableAreRefused) {
     const FsmDocument document;
     for (const int column : {0, 1}) {
-        EXPECT_THROW(Cell(document, -1, column), BoundsError);
-        EXPECT_THROW(Cell(document, 55, column), BoundsError);
+        EXPECT_THROW(CellTextAt(document, -1, column), BoundsError);
+        EXPECT_THROW(CellTextAt(document, 55, column), BoundsError);
     }
-    EXPECT_THROW(Cell(document, 6, -1), BoundsError);
-    EXPECT_THROW(Cell(document, 6, 101), BoundsError);
+    EXPECT_THROW(CellTextAt(document, 6, -1), BoundsError);
+    EXPECT_THROW(CellTextAt(document, 6, 101), BoundsError);
 }
 
 TEST(EventActionHead, SpreadsOverTheColumn) {

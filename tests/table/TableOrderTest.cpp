@@ -171,7 +171,7 @@ TEST(TableOrder, TenThousandMovesThereAndBackChangeNothing) {
     EXPECT_GT(moved, 250); // of about 500; documents with next to nothing in them stay as they are
 }
 
-std::string Generate(const FsmDocument& document) {
+std::string ProgramTextOf(const FsmDocument& document) {
     return GenerateProgram(document, {"C:\\work\\walk.zfsm", "16/11/2026 01:02:03"}).Text;
 }
 
@@ -206,10 +206,10 @@ TEST(TableOrder, TheProgramHasTheSameLinesButForTheNumbersInItsLabels) {
     ExpectProperty({.Cases = 300, .LargestSize = 60}, [&] {
         FsmDocument machine = *AnyMachine();
         TableClipboard clipboard;
-        const std::vector<std::string> before = MaskedLines(Generate(machine));
+        const std::vector<std::string> before = MaskedLines(ProgramTextOf(machine));
         Rearrange(machine, clipboard, AnyOrderOfOthers(random));
         Rearrange(machine, clipboard, AnyOrder<EventOrder>(random));
-        RC_ASSERT(MaskedLines(Generate(machine)) == before);
+        RC_ASSERT(MaskedLines(ProgramTextOf(machine)) == before);
     });
 }
 
@@ -244,7 +244,7 @@ TEST(TableOrder, TheProgramDoesWhatTheTableDidBeforeTheMove) {
             TableClipboard clipboard;
             const StateOrder order = AnyOrderOfOthers(random);
             Rearrange(machine, clipboard, order);
-            RC_ASSERT(Relabelled(RunProgram(Generate(machine), world), order) == expected);
+            RC_ASSERT(Relabelled(RunProgram(ProgramTextOf(machine), world), order) == expected);
             steps += 300;
         });
     }

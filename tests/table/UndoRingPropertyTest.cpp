@@ -108,12 +108,12 @@ TEST(UndoRingProperties, TheRingDoesWhatAListWithNinetyNineStepsDoes) {
 }
 
 // A document under edits, its ring, and every image that was pushed.
-struct Session {
+struct DrawnDocument {
     FsmDocument Document;
     UndoRing Ring;
     std::vector<std::string> Pushed;
 
-    Session() {
+    DrawnDocument() {
         Ring.Reset(Pack(Document));
         Pushed.push_back(Ring.Current());
     }
@@ -132,7 +132,7 @@ struct Session {
 TEST(UndoRingProperties, UndoneToTheStartAndRedoneToTheEndEveryDocumentComesBack) {
     ExpectProperty({.Cases = 60}, [] {
         const int edits = *rc::gen::element(3, 98, 99, 100, 101, 102, 160, 230);
-        Session session;
+        DrawnDocument session;
         for (int i = 0; i < edits; ++i)
             session.Edit(*AnyEdit());
 
@@ -156,7 +156,7 @@ TEST(UndoRingProperties, UndoneToTheStartAndRedoneToTheEndEveryDocumentComesBack
 
 TEST(UndoRingProperties, ASavedDocumentIsUnmodifiedWheneverUndoOrRedoComesBackToIt) {
     ExpectProperty({.Cases = 200}, [] {
-        Session session;
+        DrawnDocument session;
         const auto before = *rc::gen::container<std::vector<DocumentEdit>>(AnyEdit());
         const auto after = *rc::gen::container<std::vector<DocumentEdit>>(AnyEdit());
         for (const DocumentEdit& edit : before)

@@ -9,17 +9,14 @@
 
 namespace orvane {
 
-namespace {
-
-constexpr auto kOwnCommands = std::to_array<Command>({Command::Builder, Command::BuildAndTest});
-
-} // namespace
-
 BuilderRoom::BuilderRoom(const RoomPlace& place) : session_(place.Open) {}
 
 BuilderRoom::~BuilderRoom() = default;
 
-std::span<const Command> BuilderRoom::Commands() const { return kOwnCommands; }
+std::span<const Command> BuilderRoom::Commands() const {
+    static constexpr auto commands = std::to_array<Command>({Command::Builder, Command::BuildAndTest});
+    return commands;
+}
 
 void BuilderRoom::Run(Command command) {
     if (command == Command::BuildAndTest)

@@ -12,7 +12,7 @@ namespace orvane {
 
 namespace {
 
-QString Translated(const char* text) { return QCoreApplication::translate("ScriptGate", text); }
+QString TrScript(const char* text) { return QCoreApplication::translate("ScriptGate", text); }
 
 bool IsNamedAsScript(const QString& path) {
     return QFileInfo(path).suffix().compare(QStringLiteral("b1d"), Qt::CaseInsensitive) == 0;
@@ -36,15 +36,15 @@ QString ScriptTarget(const QString& path) {
 
 QString WhyNoScript(const QString& path) {
     if (!IsNamedAsScript(path))
-        return Translated("its name does not end in .b1d");
+        return TrScript("its name does not end in .b1d");
     NativeFiles files;
     const Result<FileFacts> facts = files.Look(NativePath(path));
     if (facts.Failure)
         return {};
     if (facts.Got.Kind != FileKind::Regular)
-        return Translated("it is no file but a folder, a pipe or a device");
+        return TrScript("it is no file but a folder, a pipe or a device");
     if (!IsNamedAsScript(ScriptTarget(path)))
-        return Translated("it is a link to %1, whose name does not end in .b1d")
+        return TrScript("it is a link to %1, whose name does not end in .b1d")
             .arg(QDir::toNativeSeparators(ScriptTarget(path)));
     return {};
 }

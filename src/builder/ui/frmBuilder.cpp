@@ -29,8 +29,8 @@ namespace orvane {
 
 namespace {
 
-constexpr int kHelpPage = 4947;
-constexpr QSize kFirstSize{720, 620};
+constexpr int kBuilderHelpPage = 4947;
+constexpr QSize kBuilderSize{720, 620};
 constexpr int kPromptLines = 10; // the explanation at the first width, and some room for a narrower window
 
 const QString kSaveFilter = QStringLiteral("All Files (*.*);;Config file (*.b1d)");
@@ -43,8 +43,8 @@ frmBuilder::frmBuilder(Session& session, QWidget* parent) : TabStops(parent, Qt:
     setWindowTitle(tr("Builder script"));
     BuildControls();
     LayOut();
-    resize(kFirstSize);
-    AddHelpKey(*this, kHelpPage);
+    resize(kBuilderSize);
+    AddHelpKey(*this, kBuilderHelpPage);
     AddCloseKeys(*this);
     connect(cmdRun, &QPushButton::clicked, this, &frmBuilder::BuildWanted);
     connect(cmdSave, &QPushButton::clicked, this, &frmBuilder::Save);

@@ -20,8 +20,6 @@ namespace orvane {
 
 namespace {
 
-constexpr auto kOwnCommands = std::to_array<Command>({Command::Generate});
-
 // Of every line end, of whatever kind, a blank.
 std::string OnOneLine(std::string text) {
     for (const std::string_view end : {"\r\n", "\r", "\n"}) {
@@ -74,7 +72,10 @@ GeneratorRoom::GeneratorRoom(const RoomPlace& place, std::unique_ptr<FileSystem>
 
 GeneratorRoom::~GeneratorRoom() = default;
 
-std::span<const Command> GeneratorRoom::Commands() const { return kOwnCommands; }
+std::span<const Command> GeneratorRoom::Commands() const {
+    static constexpr auto commands = std::to_array<Command>({Command::Generate});
+    return commands;
+}
 
 void GeneratorRoom::Run(Command) {
     session_.WantProgram();

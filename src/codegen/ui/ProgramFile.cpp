@@ -23,7 +23,7 @@ namespace {
 
 constexpr std::size_t kLargestProgram = 64u << 20; // bytes; far above any
 
-QString Translated(const char* text) { return QCoreApplication::translate("ProgramFile", text); }
+QString TrProgram(const char* text) { return QCoreApplication::translate("ProgramFile", text); }
 
 // Also through a link, and in whatever case where the system does not tell cases apart.
 bool IsSameFile(FileSystem& files, const FileSystem::Path& one, const FileSystem::Path& other) {
@@ -47,8 +47,8 @@ QString WhyUnwritten(const WrittenFile& written) {
 }
 
 QString WhyNotKept(const QString& why) {
-    return Translated("What is there was not made by Orvane, and no copy of it could be kept (%1). Move it "
-                      "away or save the document under another name")
+    return TrProgram("What is there was not made by Orvane, and no copy of it could be kept (%1). Move it "
+                     "away or save the document under another name")
         .arg(why);
 }
 
@@ -143,7 +143,7 @@ QString ProgramFile::BringBack() {
                       : again.Failure;
     if (failure.isEmpty())
         return {};
-    return Translated(
+    return TrProgram(
                "The program\r\n%1\r\nstill has changes that were not saved: %2.\r\n\r\nGenerate it again "
                "before you build: open the document and choose Code, Generate.")
         .arg(QDir::toNativeSeparators(QString::fromStdU16String(path.u16string())), failure);

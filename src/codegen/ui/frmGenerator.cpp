@@ -19,12 +19,12 @@ namespace orvane {
 
 namespace {
 
-constexpr int kHelpPage = 4947;
+constexpr int kGeneratorHelpPage = 4947;
 constexpr double kErrorShare = 0.3;    // of the window's height
-constexpr int kGap = 50 / 15;          // pixels: 50 twips between the panes
+constexpr int kPaneGap = 50 / 15;      // pixels: 50 twips between the panes
 constexpr int kQuietWhileHidden = 200; // milliseconds; a hidden window can wait for a pause in the typing
 constexpr std::size_t kLargeProgram = 64 * 1024; // bytes; some 3000 lines, two milliseconds to show
-constexpr QSize kFirstSize{760, 640};
+constexpr QSize kGeneratorSize{760, 640};
 
 } // namespace
 
@@ -34,11 +34,11 @@ frmGenerator::frmGenerator(QWidget* parent) : QWidget(parent, Qt::Window) {
     BuildCodePane();
     BuildErrorPane();
     BuildStatusBar();
-    AddHelpKey(*this, kHelpPage);
+    AddHelpKey(*this, kGeneratorHelpPage);
     AddCloseKeys(*this);
     runDue_.setSingleShot(true);
     connect(&runDue_, &QTimer::timeout, this, &frmGenerator::ShowRun);
-    resize(kFirstSize);
+    resize(kGeneratorSize);
 }
 
 void frmGenerator::BuildCodePane() {
@@ -127,9 +127,9 @@ void frmGenerator::resizeEvent(QResizeEvent* event) {
 void frmGenerator::LayOut() {
     const int status = StatusBar1->sizeHint().height();
     const int errors = static_cast<int>(height() * kErrorShare);
-    const int code = qMax(0, height() - errors - status - kGap);
+    const int code = qMax(0, height() - errors - status - kPaneGap);
     txtCode->setGeometry(0, 0, width(), code);
-    txtErrors->setGeometry(0, code + kGap, width(), errors);
+    txtErrors->setGeometry(0, code + kPaneGap, width(), errors);
     StatusBar1->setGeometry(0, height() - status, width(), status);
 }
 

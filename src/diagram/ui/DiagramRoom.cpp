@@ -20,8 +20,6 @@ namespace orvane {
 
 namespace {
 
-constexpr auto kOwnCommands = std::to_array<Command>({Command::ViewDiagram});
-
 constexpr int kPause = 700; // milliseconds without an edit, before a better picture is looked for
 constexpr int kLimit = 300; // milliseconds that laying out all of a machine may take
 
@@ -71,7 +69,10 @@ DiagramRoom::DiagramRoom(const RoomPlace& place)
 // The thread measures with fonts that go with the room.
 DiagramRoom::~DiagramRoom() { work_.Drop(); }
 
-std::span<const Command> DiagramRoom::Commands() const { return kOwnCommands; }
+std::span<const Command> DiagramRoom::Commands() const {
+    static constexpr auto commands = std::to_array<Command>({Command::ViewDiagram});
+    return commands;
+}
 
 ObserverRank DiagramRoom::Rank() const { return ObserverRank::Rooms; }
 

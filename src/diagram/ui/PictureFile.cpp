@@ -25,18 +25,18 @@ namespace {
 constexpr int kPointsPerPixel = 2; // of an image, so that it can be printed
 constexpr int kMostPoints = 16000; // across or down, which every viewer can show
 
-QString Text(const char* text) { return QCoreApplication::translate("PictureFile", text); }
+QString TrPicture(const char* text) { return QCoreApplication::translate("PictureFile", text); }
 
 // Beside the document, named after it.
 QString ChooseFile(QWidget& window, const Session& session) {
     const QFileInfo document(QString::fromStdString(session.Path()));
     const QString name = session.Path().empty() ? QStringLiteral("diagram") : document.completeBaseName();
     const QString folder = session.Path().empty() ? QString() : document.path() + QLatin1Char('/');
-    const QString lines = Text("Drawings (*.svg)");
+    const QString lines = TrPicture("Drawings (*.svg)");
     QString kind = lines;
-    QString path = QFileDialog::getSaveFileName(&window, Text("Save the picture"),
-                                                folder + name + QStringLiteral(".svg"),
-                                                lines + QStringLiteral(";;") + Text("Images (*.png)"), &kind);
+    QString path = QFileDialog::getSaveFileName(
+        &window, TrPicture("Save the picture"), folder + name + QStringLiteral(".svg"),
+        lines + QStringLiteral(";;") + TrPicture("Images (*.png)"), &kind);
     if (!path.isEmpty() && QFileInfo(path).suffix().isEmpty())
         path += kind == lines ? QStringLiteral(".svg") : QStringLiteral(".png");
     return path;
@@ -76,7 +76,7 @@ QString SavePicture(QWidget& window, const Session& session, const diagram::Live
         return {};
     const QByteArray bytes = BytesOf(path, {picture.Shown(), picture.Places(), fonts});
     if (bytes.isEmpty()) {
-        Tell(&window, Text("The picture could not be made."), QMessageBox::Warning);
+        Tell(&window, TrPicture("The picture could not be made."), QMessageBox::Warning);
         return {};
     }
     NativeFiles files;
@@ -84,7 +84,8 @@ QString SavePicture(QWidget& window, const Session& session, const diagram::Live
         WriteFile(files, NativePath(path), {std::string_view(bytes.constData(), std::size_t(bytes.size()))});
     if (!written.Failure)
         return path;
-    Tell(&window, Text("%1 was not saved: %2.").arg(QFileInfo(path).fileName(), Message(*written.Failure)),
+    Tell(&window,
+         TrPicture("%1 was not saved: %2.").arg(QFileInfo(path).fileName(), Message(*written.Failure)),
          QMessageBox::Warning);
     return {};
 }

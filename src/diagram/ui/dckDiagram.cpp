@@ -19,15 +19,15 @@ namespace orvane {
 
 namespace {
 
-constexpr int kHelpPage = 4987;
+constexpr int kDiagramHelpPage = 4987;
 constexpr int kEventCharacters = 10; // shown of an event's name at least
 
-QString EventText(const FsmDocument& document, RowNumber row) {
+QString EventTitle(const FsmDocument& document, RowNumber row) {
     const std::string_view name = Trim(document.Event(row).Name);
     return name.empty() ? QStringLiteral("e%1").arg(row.Number()) : FromAnsi(name).simplified();
 }
 
-bool IsUsed(const FsmDocument& document, RowNumber row) {
+bool HasTransition(const FsmDocument& document, RowNumber row) {
     for (const StateNumber state : StateNumbers()) {
         if (document.State(state).Targets[row] != kNoState)
             return true;
@@ -38,7 +38,7 @@ bool IsUsed(const FsmDocument& document, RowNumber row) {
 } // namespace
 
 dckDiagram::dckDiagram(const diagram::LivePicture& picture, const PictureFonts& fonts, QWidget* parent)
-    : Pane("dckDiagram", tr("Diagram"), kHelpPage, parent),
+    : Pane("dckDiagram", tr("Diagram"), kDiagramHelpPage, parent),
       picture_(picture),
       view_(new picDiagram(picture, fonts, this)),
       cboEvent(new QComboBox(this)),
@@ -116,13 +116,13 @@ void dckDiagram::ShowEvents(const FsmDocument& document) {
     const QVariant chosen = cboEvent->currentData();
     cboEvent->clear();
     cboEvent->addItem(tr("All events"), 0);
-    if (IsUsed(document, kTimeoutRow))
+    if (HasTransition(document, kTimeoutRow))
         cboEvent->addItem(tr("Timeouts"), kTimeoutRow);
-    if (IsUsed(document, kElseRow))
+    if (HasTransition(document, kElseRow))
         cboEvent->addItem(tr("ELSE"), kElseRow);
     for (const RowNumber row : EventRows()) {
-        if (IsUsed(document, row))
-            cboEvent->addItem(EventText(document, row), row.Number());
+        if (HasTransition(document, row))
+            cboEvent->addItem(EventTitle(document, row), row.Number());
     }
     cboEvent->setCurrentIndex(std::max(0, cboEvent->findData(chosen)));
 }

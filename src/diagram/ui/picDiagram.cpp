@@ -22,10 +22,10 @@ using diagram::Hit;
 constexpr double kLeastZoom = 0.1;
 constexpr double kMostZoom = 4;
 constexpr double kReadableZoom = 0.7;
-constexpr double kZoomStep = 1.25; // for each notch of the wheel
-constexpr double kNotch = 120;     // what a wheel tells for one notch
-constexpr int kMargin = 12;        // pixels kept around what is brought into sight
-constexpr int kReach = 5;          // pixels of the screen from a line
+constexpr double kNotchZoom = 1.25; // for each notch of the wheel
+constexpr double kWheelNotch = 120; // what a wheel tells for one notch
+constexpr int kSightMargin = 12;    // pixels kept around what is brought into sight
+constexpr int kLineReach = 5;       // pixels of the screen from a line
 
 std::optional<diagram::Heading> HeadingOf(int key) {
     switch (key) {
@@ -162,10 +162,10 @@ void picDiagram::BringIntoSight(const Hit& hit) {
     if (!IsShown(hit))
         return;
     const auto bring = [](QScrollBar& bar, int begin, int end, int page) {
-        if (end + kMargin > page)
-            bar.setValue(bar.value() + std::min(end + kMargin - page, begin - kMargin));
-        else if (begin - kMargin < 0)
-            bar.setValue(bar.value() + begin - kMargin);
+        if (end + kSightMargin > page)
+            bar.setValue(bar.value() + std::min(end + kSightMargin - page, begin - kSightMargin));
+        else if (begin - kSightMargin < 0)
+            bar.setValue(bar.value() + begin - kSightMargin);
     };
     bring(*horizontalScrollBar(), RectOf(hit).left(), RectOf(hit).right(), viewport()->width());
     bring(*verticalScrollBar(), RectOf(hit).top(), RectOf(hit).bottom(), viewport()->height());
@@ -191,7 +191,7 @@ QRect picDiagram::EdgeRect(int from, int to) {
 Hit picDiagram::HitAtViewport(const QPoint& point) const {
     const QPointF at = ToPicture(point);
     return HitAt(picture_.Places(), {int(std::floor(at.x())), int(std::floor(at.y()))},
-                 int(std::ceil(kReach / std::min(zoom_, 1.0))));
+                 int(std::ceil(kLineReach / std::min(zoom_, 1.0))));
 }
 
 // Of a label the event that is pointed at, of a line all of them.
@@ -256,9 +256,9 @@ bool picDiagram::ZoomBy(const QKeyEvent& key) {
     if (key.key() == Qt::Key_0)
         Fit();
     else if (key.key() == Qt::Key_Plus)
-        Magnify(kZoomStep, middle);
+        Magnify(kNotchZoom, middle);
     else if (key.key() == Qt::Key_Minus)
-        Magnify(1 / kZoomStep, middle);
+        Magnify(1 / kNotchZoom, middle);
     else
         return false;
     return true;
@@ -333,7 +333,7 @@ void picDiagram::mouseReleaseEvent(QMouseEvent*) { viewport()->unsetCursor(); }
 void picDiagram::wheelEvent(QWheelEvent* event) {
     const QPoint turned = event->angleDelta();
     if (event->modifiers().testFlag(Qt::ControlModifier)) {
-        Magnify(std::pow(kZoomStep, turned.y() / kNotch), event->position());
+        Magnify(std::pow(kNotchZoom, turned.y() / kWheelNotch), event->position());
     } else {
         const bool isAcross = event->modifiers().testFlag(Qt::ShiftModifier);
         const int across = isAcross && turned.x() == 0 ? turned.y() : turned.x();

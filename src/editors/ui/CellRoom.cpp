@@ -17,8 +17,6 @@ namespace {
 
 using Extent = Touched::Extent;
 
-constexpr auto kOwnCommands = std::to_array<Command>({Command::ViewCell});
-
 bool IsTransition(const PlaceFields& before, const PlaceFields& after) {
     return before.Target != after.Target || before.Action != after.Action;
 }
@@ -46,7 +44,10 @@ CellRoom::CellRoom(const RoomPlace& place)
 
 CellRoom::~CellRoom() { session_.RemoveDraftSource(*this); }
 
-std::span<const Command> CellRoom::Commands() const { return kOwnCommands; }
+std::span<const Command> CellRoom::Commands() const {
+    static constexpr auto commands = std::to_array<Command>({Command::ViewCell});
+    return commands;
+}
 
 ObserverRank CellRoom::Rank() const { return ObserverRank::Rooms; }
 

@@ -21,8 +21,6 @@ namespace {
 
 using Extent = Touched::Extent;
 
-constexpr auto kOwnCommands = std::to_array<Command>({Command::GeneralCode, Command::EditAction});
-
 constexpr std::string_view kGeneralCodeStep = EntryOf(Command::GeneralCode).Step;
 
 // Which script the document names is no business of the dialog's.
@@ -41,7 +39,10 @@ EditorsRoom::EditorsRoom(const RoomPlace& place)
 
 EditorsRoom::~EditorsRoom() { session_.RemoveDraftSource(*this); }
 
-std::span<const Command> EditorsRoom::Commands() const { return kOwnCommands; }
+std::span<const Command> EditorsRoom::Commands() const {
+    static constexpr auto commands = std::to_array<Command>({Command::GeneralCode, Command::EditAction});
+    return commands;
+}
 
 void EditorsRoom::Run(Command command) {
     EditPlace(command == Command::GeneralCode ? Cell{} : session_.Pressed());

@@ -23,7 +23,7 @@ namespace orvane {
 namespace {
 
 constexpr PaneHandlers kHandlers = {.TextChanged = true, .FindKey = true};
-constexpr int kHelpPage = 4990;
+constexpr int kCellHelpPage = 4990;
 constexpr int kPaneLines = 4; // of code that are seen at least
 
 // Asks for no more room than it must have, so that all parts are to be seen at once where there is room, and
@@ -44,7 +44,7 @@ QWidget* WidgetOf(const std::variant<DocumentLineEdit*, DocumentTextEdit*, CodeP
 } // namespace
 
 dckCell::dckCell(const Vocabulary& words, QWidget* parent)
-    : Pane("dckCell", tr("Cell"), kHelpPage, parent), lblCell(new QLabel(this)) {
+    : Pane("dckCell", tr("Cell"), kCellHelpPage, parent), lblCell(new QLabel(this)) {
     lblCell->setObjectName(QStringLiteral("lblCell"));
     lblCell->setTextFormat(Qt::PlainText);
     lblCell->setWordWrap(true);

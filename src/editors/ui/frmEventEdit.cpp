@@ -17,25 +17,25 @@ namespace orvane {
 
 namespace {
 
-constexpr int kHelpPage = 4943;
-constexpr QSize kStartSize = {560, 420}; // pixels
-constexpr int kCodeTab = 0;
-constexpr PaneHandlers kEventCode = {
+constexpr int kEventEditHelpPage = 4943;
+constexpr QSize kEventEditSize = {560, 420}; // pixels
+constexpr int kTestTab = 0;
+constexpr PaneHandlers kTestHandlers = {
     .GotFocus = true, .TextChanged = true, .FindKey = true, .MouseReleased = true, .OvertypeChanged = true};
 
 } // namespace
 
 frmEventEdit::frmEventEdit(QWidget* parent)
-    : TabbedEditorDialog(QStringLiteral("frmEventEdit"), kHelpPage, parent) {
+    : TabbedEditorDialog(QStringLiteral("frmEventEdit"), kEventEditHelpPage, parent) {
     setWindowTitle(QStringLiteral("Event Definition"));
     StatusBar1->ShowOvertype(false);
     LayOutTabs(tr("Parts of the event"), [this] { BuildTabs(); });
     ConnectFields();
-    resize(kStartSize);
+    resize(kEventEditSize);
 }
 
 void frmEventEdit::BuildTabs() {
-    txtEventCode = new CodePane(kEventCode, this);
+    txtEventCode = new CodePane(kTestHandlers, this);
     txtEventCode->setObjectName(QStringLiteral("txtEventCode"));
     txtComment = new DocumentTextEdit(this);
     txtComment->setObjectName(QStringLiteral("txtComment"));
@@ -79,7 +79,7 @@ void frmEventEdit::ShowEventRecord() {
 }
 
 void frmEventEdit::Activate() {
-    SSTab1->setCurrentIndex(kCodeTab);
+    SSTab1->setCurrentIndex(kTestTab);
     txtEventCode->setFocus();
 }
 

@@ -21,9 +21,9 @@ namespace orvane {
 
 namespace {
 
-constexpr int kHelpPage = 4942;
-constexpr QSize kStartSize = {680, 500}; // pixels
-constexpr int kCodeTab = 0;
+constexpr int kGeneralCodeEditHelpPage = 4942;
+constexpr QSize kGeneralCodeSize = {680, 500}; // pixels
+constexpr int kCodeSegTab = 0;
 constexpr int kTabCount = 7;
 
 const QString kPolytaskPrompt =
@@ -40,7 +40,7 @@ void AddSuggestion(QWidget& page, SuggestionFrame* frame) {
 } // namespace
 
 frmGeneralCodeEdit::frmGeneralCodeEdit(QWidget* parent)
-    : TabbedEditorDialog(QStringLiteral("frmGeneralCodeEdit"), kHelpPage, parent) {
+    : TabbedEditorDialog(QStringLiteral("frmGeneralCodeEdit"), kGeneralCodeEditHelpPage, parent) {
     setWindowTitle(QStringLiteral("General code"));
     LayOutTabs(tr("Segments"), [this] {
         BuildPanes();
@@ -49,7 +49,7 @@ frmGeneralCodeEdit::frmGeneralCodeEdit(QWidget* parent)
     ConnectFields();
     ConnectOptions();
     ShowGeneralCode({});
-    resize(kStartSize);
+    resize(kGeneralCodeSize);
 }
 
 // In the order in which F6 goes through them.
@@ -210,14 +210,14 @@ void frmGeneralCodeEdit::Execute(bool polytask) {
 void frmGeneralCodeEdit::Activate() {
     ShowPolytask();
     RefreshSuggestions();
-    SSTab1->setCurrentIndex(kCodeTab);
+    SSTab1->setCurrentIndex(kCodeSegTab);
     txtCodeSeg->setFocus();
 }
 
 void frmGeneralCodeEdit::ShowPolytask() {
     lblCodePrompt->setText(polytask_ ? kPolytaskPrompt : kStartupPrompt);
-    SSTab1->setTabText(kCodeTab, polytask_ ? QStringLiteral("CODESEG") : QStringLiteral("Startup code"));
-    for (int tab = kCodeTab + 1; tab < kTabCount; ++tab)
+    SSTab1->setTabText(kCodeSegTab, polytask_ ? QStringLiteral("CODESEG") : QStringLiteral("Startup code"));
+    for (int tab = kCodeSegTab + 1; tab < kTabCount; ++tab)
         SSTab1->setTabVisible(tab, polytask_);
 }
 

@@ -18,8 +18,8 @@ namespace orvane {
 
 namespace {
 
-constexpr int kHelpPage = 4944;
-constexpr QSize kStartSize = {640, 480}; // pixels
+constexpr int kStateEditHelpPage = 4944;
+constexpr QSize kStateEditSize = {640, 480}; // pixels
 
 constexpr int kEntryTab = 0;
 constexpr int kTimeoutTab = 2;
@@ -32,11 +32,11 @@ constexpr PaneHandlers kExitCode = {}; // for documentation only: never generate
 } // namespace
 
 frmStateEdit::frmStateEdit(QWidget* parent)
-    : TabbedEditorDialog(QStringLiteral("frmStateEdit"), kHelpPage, parent) {
+    : TabbedEditorDialog(QStringLiteral("frmStateEdit"), kStateEditHelpPage, parent) {
     setWindowTitle(QStringLiteral("State Definition"));
     LayOutTabs(tr("Parts of the state"), [this] { BuildTabs(); });
     ConnectFields();
-    resize(kStartSize);
+    resize(kStateEditSize);
 }
 
 void frmStateEdit::BuildTabs() {

@@ -16,13 +16,13 @@ namespace orvane {
 
 namespace {
 
-constexpr int kHelpPage = 4943;
-constexpr QSize kStartSize = {480, 300}; // pixels
+constexpr int kTransitionActionHelpPage = 4943;
+constexpr QSize kTransitionActionSize = {480, 300}; // pixels
 
 } // namespace
 
 frmTransitionAction::frmTransitionAction(QWidget* parent)
-    : EditorDialog(QStringLiteral("frmTransitionAction"), kHelpPage, parent) {
+    : EditorDialog(QStringLiteral("frmTransitionAction"), kTransitionActionHelpPage, parent) {
     setWindowTitle(QStringLiteral("Transition action"));
     txtCode = new DocumentTextEdit(this);
     txtCode->setObjectName(QStringLiteral("txtCode"));
@@ -44,7 +44,7 @@ frmTransitionAction::frmTransitionAction(QWidget* parent)
     ConnectText(*txtCode);
     connect(txtCode, &DocumentTextEdit::GotFocus, this, &frmTransitionAction::SuspendTabStops);
     connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
-    resize(kStartSize);
+    resize(kTransitionActionSize);
 }
 
 void frmTransitionAction::SetCode(std::string_view ansi) {

@@ -8,6 +8,7 @@
 #include "files/NativeFiles.h"
 #include "kit/FilePath.h"
 #include "kit/UserMessageBox.h"
+#include "kit/Utf8String.h"
 #include "session/Commands.h"
 #include "session/Session.h"
 
@@ -22,15 +23,14 @@ namespace orvane {
 
 namespace {
 
-constexpr auto kOwnCommands = std::to_array<Command>({Command::FileExport, Command::FileImport});
-
-QString Text(std::string_view text) { return QString::fromUtf8(text.data(), qsizetype(text.size())); }
-
 EditStep ImportStep() { return {EntryOf(Command::FileImport).Step, {Touched::Extent::Everything, {}}}; }
 
 } // namespace
 
-std::span<const Command> ExportRoom::Commands() const { return kOwnCommands; }
+std::span<const Command> ExportRoom::Commands() const {
+    static constexpr auto commands = std::to_array<Command>({Command::FileExport, Command::FileImport});
+    return commands;
+}
 
 ObserverRank ExportRoom::Rank() const { return ObserverRank::Rooms; }
 
@@ -53,8 +53,8 @@ void ExportRoom::Write(const frmExport& asked) {
     const QFileInfo document(QString::fromStdString(session_.Path()));
     const QString name = session_.Path().empty() ? QStringLiteral("machine") : document.completeBaseName();
     const QString path = QFileDialog::getSaveFileName(
-        &window_, tr("Export"), document.path() + QLatin1Char('/') + name + Text(form.Ending),
-        Text(form.Title) + QStringLiteral(" (*%1);;").arg(Text(form.Ending)) + tr("All files (*)"));
+        &window_, tr("Export"), document.path() + QLatin1Char('/') + name + FromUtf8(form.Ending),
+        FromUtf8(form.Title) + QStringLiteral(" (*%1);;").arg(FromUtf8(form.Ending)) + tr("All files (*)"));
     if (path.isEmpty())
         return;
     const std::string bytes = form.Write(session_.Document(), asked.HowFormulas());

@@ -3,6 +3,7 @@
 
 #include "kit/OpenInDesktop.h"
 #include "kit/Settings.h"
+#include "kit/Utf8String.h"
 
 #include <QCheckBox>
 #include <QDialogButtonBox>
@@ -20,13 +21,11 @@ namespace orvane {
 
 namespace {
 
-constexpr int kHelpPage = 5005;
-constexpr QSize kSize{860, 520};
+constexpr int kExportHelpPage = 5005;
+constexpr QSize kExportSize{860, 520};
 constexpr std::size_t kMostPreview = 30'000; // bytes: what a user looks through
 
 QString LastForm() { return QStringLiteral("export/form"); }
-
-QString Text(std::string_view text) { return QString::fromUtf8(text.data(), qsizetype(text.size())); }
 
 // The front of a text, up to the end of a line.
 std::string_view Front(std::string_view text) {
@@ -41,7 +40,7 @@ std::string_view Front(std::string_view text) {
 frmExport::frmExport(const FsmDocument& document, QWidget* parent) : QDialog(parent), document_(document) {
     setObjectName(QStringLiteral("frmExport"));
     setWindowTitle(tr("Export"));
-    AddHelpKey(*this, kHelpPage);
+    AddHelpKey(*this, kExportHelpPage);
     Build();
     LayOut();
     const exports::Form* last = exports::FormOf(Settings().value(LastForm()).toString().toStdString());
@@ -54,7 +53,7 @@ void frmExport::Build() {
     lstForms->setObjectName(QStringLiteral("lstForms"));
     lstForms->setAccessibleName(tr("Form"));
     for (const exports::Form& form : exports::Forms())
-        lstForms->addItem(Text(form.Title));
+        lstForms->addItem(FromUtf8(form.Title));
     chkSafe = new QCheckBox(tr("&Keep spreadsheets from taking cells for formulas"), this);
     chkSafe->setObjectName(QStringLiteral("chkSafe"));
     chkSafe->setToolTip(tr("An apostrophe before cells that begin with = + - @"));
@@ -90,7 +89,7 @@ void frmExport::LayOut() {
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(panes, 1);
     layout->addWidget(buttons);
-    resize(kSize);
+    resize(kExportSize);
 }
 
 const exports::Form& frmExport::Chosen() const {
@@ -108,11 +107,11 @@ void frmExport::ShowForm() {
     lblPreview->setText(front.size() == text.size()
                             ? tr("%L1 characters").arg(text.size())
                             : tr("The first part of %L1 characters").arg(text.size()));
-    txtPreview->setPlainText(Text(front));
+    txtPreview->setPlainText(FromUtf8(front));
 }
 
 void frmExport::Accept() {
-    Settings().setValue(LastForm(), Text(Chosen().Word));
+    Settings().setValue(LastForm(), FromUtf8(Chosen().Word));
     accept();
 }
 

@@ -7,6 +7,7 @@
 #include "kit/AnsiString.h"
 #include "kit/FilePath.h"
 #include "kit/OpenInDesktop.h"
+#include "kit/Utf8String.h"
 
 #include <QClipboard>
 #include <QDialogButtonBox>
@@ -27,12 +28,10 @@ namespace orvane {
 
 namespace {
 
-constexpr int kHelpPage = 5005;
-constexpr QSize kSize{860, 560};
+constexpr int kImportHelpPage = 5005;
+constexpr QSize kImportSize{860, 560};
 constexpr std::size_t kMostBytes = std::size_t{64} << 20; // as of a document
 constexpr int kNotesHeight = 110;
-
-QString Text(std::string_view text) { return QString::fromUtf8(text.data(), qsizetype(text.size())); }
 
 } // namespace
 
@@ -40,7 +39,7 @@ frmImport::frmImport(const QString& folder, QWidget* parent)
     : QDialog(parent), folder_(folder), table_(new QStandardItemModel(this)) {
     setObjectName(QStringLiteral("frmImport"));
     setWindowTitle(tr("Import"));
-    AddHelpKey(*this, kHelpPage);
+    AddHelpKey(*this, kImportHelpPage);
     BuildSource();
     BuildPreview();
     LayOut();
@@ -97,7 +96,7 @@ void frmImport::LayOut() {
     layout->addWidget(tblImport, 1);
     for (QWidget* widget : std::initializer_list<QWidget*>{lstNotes, optNew, optOpen, buttons})
         layout->addWidget(widget);
-    resize(kSize);
+    resize(kImportSize);
 }
 
 bool frmImport::IsIntoOpen() const { return optOpen->isChecked(); }
@@ -145,7 +144,7 @@ void frmImport::ShowPreview() {
     for (const exports::CsvLine& line : *lines) {
         QList<QStandardItem*> items;
         for (const std::string& cell : line.Cells)
-            items += new QStandardItem(Text(cell));
+            items += new QStandardItem(FromUtf8(cell));
         table_->appendRow(items);
     }
 }

@@ -14,13 +14,6 @@
 
 namespace orvane {
 
-namespace {
-
-constexpr auto kOwnCommands = std::to_array<Command>(
-    {Command::Find, Command::WhereUsed, Command::ViewFind, Command::StateUses, Command::EventUses});
-
-} // namespace
-
 FindRoom::FindRoom(const RoomPlace& place)
     : PaneRoom(place.Window, Command::ViewFind, Qt::BottomDockWidgetArea),
       session_(place.Open),
@@ -32,7 +25,11 @@ FindRoom::FindRoom(const RoomPlace& place)
     }
 }
 
-std::span<const Command> FindRoom::Commands() const { return kOwnCommands; }
+std::span<const Command> FindRoom::Commands() const {
+    static constexpr auto commands = std::to_array<Command>(
+        {Command::Find, Command::WhereUsed, Command::ViewFind, Command::StateUses, Command::EventUses});
+    return commands;
+}
 
 ObserverRank FindRoom::Rank() const { return ObserverRank::Rooms; }
 

@@ -20,12 +20,6 @@
 
 namespace orvane {
 
-namespace {
-
-constexpr auto kOwnCommands = std::to_array<Command>({Command::Move, Command::MoveState, Command::MoveEvent});
-
-} // namespace
-
 MoveRoom::MoveRoom(const RoomPlace& place) : session_(place.Open), window_(place.Window) {
     AddKey(Qt::CTRL | Qt::SHIFT | Qt::Key_Left, 0, -1);
     AddKey(Qt::CTRL | Qt::SHIFT | Qt::Key_Right, 0, 1);
@@ -40,7 +34,11 @@ void MoveRoom::AddKey(const QKeySequence& key, int rows, int columns) {
     connect(shortcut, &QShortcut::activated, this, [this, rows, columns] { MoveBy(rows, columns); });
 }
 
-std::span<const Command> MoveRoom::Commands() const { return kOwnCommands; }
+std::span<const Command> MoveRoom::Commands() const {
+    static constexpr auto commands =
+        std::to_array<Command>({Command::Move, Command::MoveState, Command::MoveEvent});
+    return commands;
+}
 
 ObserverRank MoveRoom::Rank() const { return ObserverRank::Rooms; }
 

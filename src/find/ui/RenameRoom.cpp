@@ -18,9 +18,6 @@ namespace orvane {
 
 namespace {
 
-constexpr auto kOwnCommands =
-    std::to_array<Command>({Command::Rename, Command::RenameState, Command::RenameEvent});
-
 // How many places of the code surely have the machine's old name in them.
 std::ptrdiff_t PlacesOfPrefix(const FsmDocument& former, const std::string& newName) {
     const find::RenamePlan plan = PlanRename(former, find::OfMachine{}, newName);
@@ -33,7 +30,11 @@ std::ptrdiff_t PlacesOfPrefix(const FsmDocument& former, const std::string& newN
 
 } // namespace
 
-std::span<const Command> RenameRoom::Commands() const { return kOwnCommands; }
+std::span<const Command> RenameRoom::Commands() const {
+    static constexpr auto commands =
+        std::to_array<Command>({Command::Rename, Command::RenameState, Command::RenameEvent});
+    return commands;
+}
 
 ObserverRank RenameRoom::Rank() const { return ObserverRank::Rooms; }
 

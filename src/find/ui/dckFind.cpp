@@ -23,7 +23,7 @@ namespace orvane {
 
 namespace {
 
-constexpr int kHelpPage = 4985;
+constexpr int kFindHelpPage = 4985;
 constexpr int kPlacePercent = 35;
 
 QLabel* MakeLabel(QWidget* parent, const char* name) {
@@ -37,7 +37,7 @@ QLabel* MakeLabel(QWidget* parent, const char* name) {
 } // namespace
 
 dckFind::dckFind(const FsmDocument& document, QWidget* parent)
-    : Pane("dckFind", tr("Find"), kHelpPage, parent),
+    : Pane("dckFind", tr("Find"), kFindHelpPage, parent),
       hits_(new HitsModel(document, this)),
       uses_(new UsesModel(document, this)) {
     tabFind = new QTabWidget(this);

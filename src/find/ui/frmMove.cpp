@@ -23,7 +23,7 @@ namespace orvane {
 
 namespace {
 
-constexpr int kHelpPage = 4985;
+constexpr int kMoveHelpPage = 4985;
 
 } // namespace
 
@@ -31,7 +31,7 @@ frmMove::frmMove(const FsmDocument& document, Cell what, QWidget* parent)
     : QDialog(parent), document_(document), what_(what), changes_(new PlanModel(document, this)) {
     setObjectName(QStringLiteral("frmMove"));
     setWindowTitle(tr("Move"));
-    AddHelpKey(*this, kHelpPage);
+    AddHelpKey(*this, kMoveHelpPage);
     Build();
     txtPlace->setFocus();
     Preview();

@@ -22,7 +22,7 @@ namespace orvane {
 
 namespace {
 
-constexpr int kHelpPage = 4985;
+constexpr int kRenameHelpPage = 4985;
 
 } // namespace
 
@@ -33,7 +33,7 @@ frmRename::frmRename(const FsmDocument& document, find::Subject subject, QWidget
       changes_(new PlanModel(document, this)) {
     setObjectName(QStringLiteral("frmRename"));
     setWindowTitle(tr("Rename"));
-    AddHelpKey(*this, kHelpPage);
+    AddHelpKey(*this, kRenameHelpPage);
     Build();
     txtNew->SetText(find::NameOf(document_, subject_));
     txtNew->selectAll();

@@ -19,7 +19,7 @@ namespace orvane {
 
 namespace {
 
-constexpr int kHelpPage = 4985;
+constexpr int kReplaceHelpPage = 4985;
 
 } // namespace
 
@@ -27,7 +27,7 @@ frmReplace::frmReplace(const FsmDocument& document, find::ReplacementPlan plan, 
     : QDialog(parent), changes_(new PlanModel(document, this)) {
     setObjectName(QStringLiteral("frmReplace"));
     setWindowTitle(tr("Replace in all"));
-    AddHelpKey(*this, kHelpPage);
+    AddHelpKey(*this, kReplaceHelpPage);
     auto* lblEdited = new EditedLabel(this, tr("All texts of the machine"));
     auto* lblNotes = new QLabel(NoteOf(plan), this);
     lblNotes->setObjectName(QStringLiteral("lblNotes"));

@@ -6,12 +6,6 @@
 
 namespace orvane {
 
-namespace {
-
-enum Column { kSeverity, kPlace, kText };
-
-} // namespace
-
 FindingsModel::FindingsModel(const FsmDocument& document, const std::vector<DesignFinding>& findings,
                              QObject* parent)
     : ListModel({tr("Severity"), tr("Place"), tr("What there is to be told")}, parent),

@@ -26,6 +26,8 @@ class FindingsModel : public ListModel {
     int Rows() const override { return int(findings_.size()); }
 
   private:
+    enum Column { kSeverity, kPlace, kText };
+
     const FsmDocument& document_;
     const std::vector<DesignFinding>& findings_;
 };

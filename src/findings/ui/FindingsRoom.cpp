@@ -12,13 +12,6 @@
 
 namespace orvane {
 
-namespace {
-
-constexpr auto kOwnCommands =
-    std::to_array<Command>({Command::ViewFindings, Command::NextFinding, Command::PreviousFinding});
-
-} // namespace
-
 FindingsRoom::FindingsRoom(const RoomPlace& place)
     : PaneRoom(place.Window, Command::ViewFindings, Qt::BottomDockWidgetArea),
       session_(place.Open),
@@ -26,7 +19,11 @@ FindingsRoom::FindingsRoom(const RoomPlace& place)
 
 FindingsRoom::~FindingsRoom() = default;
 
-std::span<const Command> FindingsRoom::Commands() const { return kOwnCommands; }
+std::span<const Command> FindingsRoom::Commands() const {
+    static constexpr auto commands =
+        std::to_array<Command>({Command::ViewFindings, Command::NextFinding, Command::PreviousFinding});
+    return commands;
+}
 
 ObserverRank FindingsRoom::Rank() const { return ObserverRank::Rooms; }
 

@@ -14,7 +14,7 @@ namespace orvane {
 
 namespace {
 
-constexpr int kHelpPage = 4995;
+constexpr int kFindingsHelpPage = 4995;
 constexpr int kSeverityWidth = 12; // characters
 constexpr int kPlaceWidth = 32;
 
@@ -22,7 +22,7 @@ constexpr int kPlaceWidth = 32;
 
 dckFindings::dckFindings(const FsmDocument& document, const std::vector<DesignFinding>& findings,
                          QWidget* parent)
-    : Pane("dckFindings", tr("Findings"), kHelpPage, parent),
+    : Pane("dckFindings", tr("Findings"), kFindingsHelpPage, parent),
       model_(new FindingsModel(document, findings, this)),
       lstFindings(new QTableView(this)),
       chkExplore(new QCheckBox(tr("Look at all that the machine can do, too"), this)),

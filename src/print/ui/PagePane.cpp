@@ -12,7 +12,7 @@ namespace orvane {
 
 namespace {
 
-constexpr int kMargin = 8; // pixels around the page
+constexpr int kPageMargin = 8; // pixels around the page
 
 } // namespace
 
@@ -36,8 +36,8 @@ void PagePane::paintEvent(QPaintEvent*) {
         return;
     const QRect sheet = printout_->Paper().fullRectPixels(kTwipsPerInch);
     const QRect printable = printout_->Paper().paintRectPixels(kTwipsPerInch);
-    const double scale = std::min(double(width() - 2 * kMargin) / sheet.width(),
-                                  double(height() - 2 * kMargin) / sheet.height());
+    const double scale = std::min(double(width() - 2 * kPageMargin) / sheet.width(),
+                                  double(height() - 2 * kPageMargin) / sheet.height());
     if (scale <= 0)
         return;
     QPainter painter(this);

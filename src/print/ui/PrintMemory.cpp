@@ -11,7 +11,7 @@ namespace orvane {
 
 namespace {
 
-constexpr double kMargin = 15; // millimetres, which every printer leaves room for
+constexpr double kFirstMargin = 15; // millimetres, which every printer leaves room for
 
 class Memory : public QSettings {
   public:
@@ -26,7 +26,7 @@ QString GroupOf(const QString& documentPath) {
 }
 
 QPageLayout LayoutOf(QPageSize::PageSizeId size, QPageLayout::Orientation orientation) {
-    return {QPageSize(size), orientation, QMarginsF(kMargin, kMargin, kMargin, kMargin),
+    return {QPageSize(size), orientation, QMarginsF(kFirstMargin, kFirstMargin, kFirstMargin, kFirstMargin),
             QPageLayout::Millimeter};
 }
 

@@ -25,8 +25,6 @@ namespace orvane {
 
 namespace {
 
-constexpr auto kOwnCommands = std::to_array<Command>({Command::FilePrint});
-
 // SOURCE_DATE_EPOCH stands for the clock where it is set, so that the same print has the same words.
 QString DateText() {
     bool isSet = false;
@@ -38,7 +36,10 @@ QString DateText() {
 
 } // namespace
 
-std::span<const Command> PrintRoom::Commands() const { return kOwnCommands; }
+std::span<const Command> PrintRoom::Commands() const {
+    static constexpr auto commands = std::to_array<Command>({Command::FilePrint});
+    return commands;
+}
 
 ObserverRank PrintRoom::Rank() const { return ObserverRank::Rooms; }
 

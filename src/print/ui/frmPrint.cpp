@@ -21,8 +21,8 @@ namespace orvane {
 
 namespace {
 
-constexpr int kHelpPage = 5005;
-constexpr QSize kSize{900, 680};
+constexpr int kPrintHelpPage = 5005;
+constexpr QSize kPrintSize{900, 680};
 constexpr int kPreviewPause = 250; // milliseconds, so that typing is not held up
 
 constexpr std::array<QPageSize::PageSizeId, 4> kSizes{QPageSize::A4, QPageSize::A3, QPageSize::Letter,
@@ -34,7 +34,7 @@ frmPrint::frmPrint(const FsmDocument& document, const print::CoverFacts& facts, 
     : QDialog(parent), document_(document), facts_(facts) {
     setObjectName(QStringLiteral("frmPrint"));
     setWindowTitle(tr("Print"));
-    AddHelpKey(*this, kHelpPage);
+    AddHelpKey(*this, kPrintHelpPage);
     BuildNames();
     BuildPaper();
     BuildParts();
@@ -158,7 +158,7 @@ void frmPrint::LayOut() {
     layout->addWidget(picPage, 0, 1);
     layout->addLayout(bottom, 1, 0, 1, 2);
     layout->setColumnStretch(1, 1);
-    resize(kSize);
+    resize(kPrintSize);
 }
 
 void frmPrint::ShowNames(const PrintNames& names) {

@@ -26,8 +26,6 @@ namespace orvane {
 
 namespace {
 
-constexpr auto kOwnCommands = std::to_array<Command>({Command::RecoverWork});
-
 // What the work was begun from: its file as it is now, or an empty table where there is none.
 NamedVersion BeganFrom(const QString& path) {
     DocumentFile file = path.isEmpty() ? DocumentFile() : ReadDocumentFile(path);
@@ -51,7 +49,10 @@ RecoveryRoom::RecoveryRoom(const RoomPlace& place) : session_(place.Open), main_
 
 RecoveryRoom::~RecoveryRoom() = default;
 
-std::span<const Command> RecoveryRoom::Commands() const { return kOwnCommands; }
+std::span<const Command> RecoveryRoom::Commands() const {
+    static constexpr auto commands = std::to_array<Command>({Command::RecoverWork});
+    return commands;
+}
 
 void RecoveryRoom::Run(Command) {
     Refresh();

@@ -20,8 +20,8 @@ namespace orvane {
 
 namespace {
 
-constexpr QSize kFirstSize{820, 420};
-constexpr int kHelpPage = 4970;
+constexpr QSize kRecoverySize{820, 420};
+constexpr int kRecoveryHelpPage = 4970;
 constexpr int kShownDiscarded = 4; // rows of that list, which is not what the window came up for
 
 // The first row with the name; none when it is not there.
@@ -41,8 +41,8 @@ frmRecovery::frmRecovery(QWidget* parent)
     setWindowTitle(tr("Recover earlier work"));
     BuildControls();
     LayOut();
-    resize(kFirstSize);
-    AddHelpKey(*this, kHelpPage);
+    resize(kRecoverySize);
+    AddHelpKey(*this, kRecoveryHelpPage);
     AddCloseKeys(*this);
     ShowWork({});
 }

@@ -7,12 +7,6 @@
 
 namespace orvane {
 
-namespace {
-
-enum Column { Sign, Text, ColumnCount };
-
-} // namespace
-
 void ChangesModel::Show(std::shared_ptr<const review::ComparedVersions> versions) {
     beginResetModel();
     versions_ = std::move(versions);

@@ -24,6 +24,8 @@ class ChangesModel : public QAbstractTableModel {
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
 
   private:
+    enum Column { Sign, Text, ColumnCount };
+
     std::shared_ptr<const review::ComparedVersions> versions_;
 };
 

@@ -17,8 +17,6 @@ namespace orvane {
 
 namespace {
 
-constexpr auto kOwnCommands = std::to_array<Command>({Command::CompareWith});
-
 // After these the document is another one, or looks another way.
 bool ChangesTheDocument(ChangeKind kind) {
     switch (kind) {
@@ -46,7 +44,10 @@ ReviewRoom::ReviewRoom(const RoomPlace& place)
 
 ReviewRoom::~ReviewRoom() = default;
 
-std::span<const Command> ReviewRoom::Commands() const { return kOwnCommands; }
+std::span<const Command> ReviewRoom::Commands() const {
+    static constexpr auto commands = std::to_array<Command>({Command::CompareWith});
+    return commands;
+}
 
 ObserverRank ReviewRoom::Rank() const { return ObserverRank::Rooms; }
 

@@ -27,13 +27,13 @@ namespace orvane {
 
 namespace {
 
-constexpr QSize kFirstSize{1100, 720};
-constexpr int kHelpPage = 4980;
-constexpr int kColumnWidth = 130;   // pixels, of a state
-constexpr int kIdentityLength = 20; // characters
-constexpr int kGap = 16;            // pixels
-constexpr int kLongestName = 30;    // characters of a name in a prompt
-constexpr int kSeen = 100;          // milliseconds after which a comparison is one that is waited for
+constexpr QSize kCompareSize{1100, 720};
+constexpr int kCompareHelpPage = 4980;
+constexpr int kColumnWidth = 130;      // pixels, of a state
+constexpr int kIdentityLength = 20;    // characters
+constexpr int kLineGap = 16;           // pixels
+constexpr int kLongestPromptName = 30; // characters of a name in a prompt
+constexpr int kSeen = 100;             // milliseconds after which a comparison is one that is waited for
 constexpr auto kSources =
     std::to_array<VersionSource>({VersionSource::Disk, VersionSource::Head, VersionSource::File});
 
@@ -57,8 +57,8 @@ frmCompare::frmCompare(const Vocabulary& vocabulary, QWidget* parent)
     tmrCompare_->setInterval(kSeen);
     connect(tmrCompare_, &QTimer::timeout, this,
             [this] { ShowNothing(tr("The versions are compared ...")); });
-    resize(kFirstSize);
-    AddHelpKey(*this, kHelpPage);
+    resize(kCompareSize);
+    AddHelpKey(*this, kCompareHelpPage);
     AddCloseKeys(*this);
 }
 
@@ -154,17 +154,17 @@ void frmCompare::LayOut() {
     auto* across = new QSplitter(Qt::Horizontal, this);
     across->addWidget(tblCompare);
     across->addWidget(lstChanges);
-    across->setSizes({kFirstSize.width() * 3 / 5, kFirstSize.width() * 2 / 5});
+    across->setSizes({kCompareSize.width() * 3 / 5, kCompareSize.width() * 2 / 5});
     across->setChildrenCollapsible(false);
     auto* down = new QSplitter(Qt::Vertical, this);
     down->addWidget(across);
     down->addWidget(sides_);
-    down->setSizes({kFirstSize.height() * 3 / 5, kFirstSize.height() * 2 / 5});
+    down->setSizes({kCompareSize.height() * 3 / 5, kCompareSize.height() * 2 / 5});
     down->setChildrenCollapsible(false);
     auto* buttons = new QHBoxLayout;
     for (QPushButton* button : {cmdPrevious, cmdNext, cmdTakeOver})
         buttons->addWidget(button);
-    buttons->addSpacing(kGap);
+    buttons->addSpacing(kLineGap);
     buttons->addWidget(lblIdentity);
     buttons->addWidget(cboIdentity);
     buttons->addStretch(1);
@@ -283,8 +283,8 @@ void frmCompare::ShowIdentity(const review::Change& change) {
     if (!identity)
         return;
     QString what = QString::fromStdString(identity->What);
-    if (what.size() > kLongestName)
-        what = what.left(kLongestName) + QStringLiteral("...");
+    if (what.size() > kLongestPromptName)
+        what = what.left(kLongestPromptName) + QStringLiteral("...");
     what += identity->IsGuess ? tr(" (guessed)") : QString();
     lblIdentity->setText(identity->IsOfOld ? tr("Old %1 is in the new version").arg(what)
                                            : tr("New %1 is in the old version").arg(what));

@@ -13,12 +13,6 @@
 
 namespace orvane {
 
-namespace {
-
-enum Column { Name, Present, LeadsTo };
-
-} // namespace
-
 InputsModel::InputsModel(const FsmDocument& document, const run::LiveRun& run, QObject* parent)
     : ListModel({tr("Input"), tr("Now"), tr("Leads to")}, parent), document_(document), run_(run) {}
 

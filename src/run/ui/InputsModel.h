@@ -29,6 +29,8 @@ class InputsModel : public ListModel {
     int Rows() const override { return int(events_.size()); }
 
   private:
+    enum Column { Name, Present, LeadsTo };
+
     QString Text(RowNumber event, int column) const;
     bool HasEffect(RowNumber event) const;
 

@@ -7,12 +7,6 @@
 
 namespace orvane {
 
-namespace {
-
-enum Column { When, What };
-
-} // namespace
-
 LogModel::LogModel(const FsmDocument& document, const run::LiveRun& run, QObject* parent)
     : ListModel({tr("At"), tr("What happened")}, parent), document_(document), run_(run) {}
 

@@ -30,6 +30,8 @@ class LogModel : public ListModel {
     int Rows() const override { return rows_; }
 
   private:
+    enum Column { When, What };
+
     int Entries() const;
 
     const FsmDocument& document_;

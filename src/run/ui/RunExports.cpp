@@ -20,7 +20,7 @@ namespace orvane {
 
 namespace {
 
-QString Text(const char* text) { return QCoreApplication::translate("RunExports", text); }
+QString TrExport(const char* text) { return QCoreApplication::translate("RunExports", text); }
 
 // Asks for the file, the document's name with this ending first.
 QString ChooseFile(QWidget& window, const Session& session, const QString& ending, const QString& filter) {
@@ -28,7 +28,7 @@ QString ChooseFile(QWidget& window, const Session& session, const QString& endin
     if (offered.isEmpty())
         offered = QStringLiteral("run");
     const QString folder = QFileInfo(QString::fromStdString(session.Path())).path();
-    return QFileDialog::getSaveFileName(&window, Text("Save the run"),
+    return QFileDialog::getSaveFileName(&window, TrExport("Save the run"),
                                         folder + QLatin1Char('/') + offered + ending, filter);
 }
 
@@ -37,28 +37,28 @@ void Save(QWidget& window, const QString& path, std::string_view bytes) {
     const WrittenFile written = WriteFile(files, NativePath(path), {bytes});
     if (written.Failure)
         Tell(&window,
-             Text("%1 was not saved: %2.").arg(QFileInfo(path).fileName(), Message(*written.Failure)),
+             TrExport("%1 was not saved: %2.").arg(QFileInfo(path).fileName(), Message(*written.Failure)),
              QMessageBox::Warning);
 }
 
 } // namespace
 
 void SavePicture(QWidget& window, const Session& session, const QPixmap& picture) {
-    const QString path = ChooseFile(window, session, QStringLiteral(".png"), Text("Pictures (*.png)"));
+    const QString path = ChooseFile(window, session, QStringLiteral(".png"), TrExport("Pictures (*.png)"));
     if (path.isEmpty())
         return;
     QByteArray bytes;
     QBuffer buffer(&bytes);
     if (!buffer.open(QIODevice::WriteOnly) || !picture.save(&buffer, "PNG"))
-        return Tell(&window, Text("The picture could not be made."), QMessageBox::Warning);
+        return Tell(&window, TrExport("The picture could not be made."), QMessageBox::Warning);
     Save(window, path, {bytes.constData(), std::size_t(bytes.size())});
 }
 
 void SaveVcd(QWidget& window, const Session& session, const run::LiveRun& run, const QString& unit) {
     if (run.State() == kNoState)
-        return Tell(&window, Text("There is nothing to save before power on."));
+        return Tell(&window, TrExport("There is nothing to save before power on."));
     const QString path =
-        ChooseFile(window, session, QStringLiteral(".vcd"), Text("Value change dumps (*.vcd)"));
+        ChooseFile(window, session, QStringLiteral(".vcd"), TrExport("Value change dumps (*.vcd)"));
     if (path.isEmpty())
         return;
     run::RunTrace trace = run::TraceOfRun(session.Document(), *run.Built(), *run.Past());

@@ -22,10 +22,6 @@ namespace orvane {
 
 namespace {
 
-constexpr auto kOwnCommands =
-    std::to_array<Command>({Command::ViewRun, Command::PowerOn, Command::StepTime, Command::StepBack,
-                            Command::ToTimeout, Command::SaveAsTest, Command::RunTests, Command::Tour});
-
 RunWish WishOf(Command command) {
     switch (command) {
     case Command::PowerOn:
@@ -55,7 +51,12 @@ RunRoom::RunRoom(const RoomPlace& place)
 
 RunRoom::~RunRoom() = default;
 
-std::span<const Command> RunRoom::Commands() const { return kOwnCommands; }
+std::span<const Command> RunRoom::Commands() const {
+    static constexpr auto commands =
+        std::to_array<Command>({Command::ViewRun, Command::PowerOn, Command::StepTime, Command::StepBack,
+                                Command::ToTimeout, Command::SaveAsTest, Command::RunTests, Command::Tour});
+    return commands;
+}
 
 ObserverRank RunRoom::Rank() const { return ObserverRank::Rooms; }
 

@@ -26,16 +26,17 @@ namespace {
 
 constexpr std::size_t kLargestTestFile = 16 << 20;
 
-QString Text(const char* text) { return QCoreApplication::translate("TestFileAccess", text); }
+QString TrTestFile(const char* text) { return QCoreApplication::translate("TestFileAccess", text); }
 
 // Why there is nothing to write down; empty when there is.
 QString WhyNoTest(const FsmDocument& document, const run::LiveRun& run) {
     if (run.State() == kNoState)
-        return Text("A test begins with power on. Power on, do what the test is to show, and save it then.");
+        return TrTestFile(
+            "A test begins with power on. Power on, do what the test is to show, and save it then.");
     const run::Outcome end = run.Past()->End();
     if (run::IsIdle(end) || end == run::Outcome::Spins)
         return {};
-    return Text("A test cannot end here: %1. Go a step back first.")
+    return TrTestFile("A test cannot end here: %1. Go a step back first.")
         .arg(QString::fromStdString(run::OutcomeText(document, *run.Past())));
 }
 
@@ -53,7 +54,7 @@ QString FirstSlip(const std::string& bytes, const Session& session, const QStrin
     const run::TestPlan plan = run::PlanTests(read.File, session.Document(), DocumentFileName(session));
     for (const std::vector<run::TestMessage>& slips : {read.Slips, plan.Slips}) {
         if (!slips.empty())
-            return Text("%1, line %2: %3")
+            return TrTestFile("%1, line %2: %3")
                 .arg(QFileInfo(path).fileName())
                 .arg(slips.front().At.Line)
                 .arg(QString::fromStdString(slips.front().Text));
@@ -65,7 +66,7 @@ bool WriteTests(QWidget& window, const QString& path, const std::string& bytes) 
     NativeFiles files;
     const WrittenFile written = WriteFile(files, NativePath(path), {bytes});
     if (written.Failure)
-        Tell(&window, Text("The test was not saved: %1.").arg(Message(*written.Failure)),
+        Tell(&window, TrTestFile("The test was not saved: %1.").arg(Message(*written.Failure)),
              QMessageBox::Warning);
     return !written.Failure;
 }
@@ -73,7 +74,8 @@ bool WriteTests(QWidget& window, const QString& path, const std::string& bytes) 
 QString ChooseTestFile(QWidget& window, const Session& session) {
     if (const QString beside = TestFileBeside(session); !beside.isEmpty())
         return beside;
-    return QFileDialog::getSaveFileName(&window, Text("Save as test"), {}, Text("Tests (*.ztest)"));
+    return QFileDialog::getSaveFileName(&window, TrTestFile("Save as test"), {},
+                                        TrTestFile("Tests (*.ztest)"));
 }
 
 } // namespace
@@ -110,7 +112,8 @@ std::optional<std::string> ReadTests(QWidget& window, const QString& path) {
     const FileContent file = ReadFile(files, NativePath(path), kLargestTestFile);
     if (!file.Failure)
         return std::string(file.Bytes());
-    Tell(&window, Text("%1 cannot be read: %2.").arg(QFileInfo(path).fileName(), Message(*file.Failure)),
+    Tell(&window,
+         TrTestFile("%1 cannot be read: %2.").arg(QFileInfo(path).fileName(), Message(*file.Failure)),
          QMessageBox::Warning);
     return std::nullopt;
 }
@@ -122,8 +125,9 @@ QString SaveRunAsTest(QWidget& window, const Session& session, const run::LiveRu
     }
     bool given = false;
     const QString name =
-        QInputDialog::getText(&window, Text("Save as test"), Text("What the test shows:"), QLineEdit::Normal,
-                              Text("goes to %1").arg(StateText(session.Document(), run.State())), &given)
+        QInputDialog::getText(
+            &window, TrTestFile("Save as test"), TrTestFile("What the test shows:"), QLineEdit::Normal,
+            TrTestFile("goes to %1").arg(StateText(session.Document(), run.State())), &given)
             .simplified();
     const QString path = given && !name.isEmpty() ? ChooseTestFile(window, session) : QString();
     if (path.isEmpty())
@@ -141,13 +145,14 @@ QString SaveRunAsTest(QWidget& window, const Session& session, const run::LiveRu
                                                      std::nullopt, run.Read()}));
     if (const QString slip = FirstSlip(bytes, session, path); !slip.isEmpty()) {
         Tell(&window,
-             Text("The test was not saved, because the file would not be understood any more.\n%1").arg(slip),
+             TrTestFile("The test was not saved, because the file would not be understood any more.\n%1")
+                 .arg(slip),
              QMessageBox::Warning);
         return {};
     }
     if (!WriteTests(window, path, bytes))
         return {};
-    return Text("The test \"%1\" is in %2 now.").arg(name, QFileInfo(path).fileName());
+    return TrTestFile("The test \"%1\" is in %2 now.").arg(name, QFileInfo(path).fileName());
 }
 
 QString ChooseTourFile(QWidget& window, const Session& session) {
@@ -155,7 +160,8 @@ QString ChooseTourFile(QWidget& window, const Session& session) {
     const QString offered = beside.isEmpty() ? QStringLiteral("tour.ztest")
                                              : beside.chopped(int(std::string_view(".ztest").size())) +
                                                    QLatin1String("-tour.ztest");
-    return QFileDialog::getSaveFileName(&window, Text("Save the tour"), offered, Text("Tests (*.ztest)"));
+    return QFileDialog::getSaveFileName(&window, TrTestFile("Save the tour"), offered,
+                                        TrTestFile("Tests (*.ztest)"));
 }
 
 QString SaveTour(QWidget& window, const Session& session, const run::Tour& tour, const QString& path) {
@@ -166,14 +172,14 @@ QString SaveTour(QWidget& window, const Session& session, const run::Tour& tour,
     if (!WriteTests(window, path, run::TourFile(tour, machine)))
         return {};
     QStringList said{
-        Text("%1: %2").arg(QFileInfo(path).fileName(), QString::fromStdString(run::TourSummary(tour)))};
+        TrTestFile("%1: %2").arg(QFileInfo(path).fileName(), QString::fromStdString(run::TourSummary(tour)))};
     if (tour.StepsRanOut)
-        said += Text("the rest needs more steps than were allowed");
+        said += TrTestFile("the rest needs more steps than were allowed");
     const std::vector<std::string> gaps = run::TourGaps(tour, session.Document());
     if (!gaps.empty())
         said += QString::fromStdString(gaps.front());
     if (gaps.size() > 1)
-        said += Text("and %1 more").arg(gaps.size() - 1);
+        said += TrTestFile("and %1 more").arg(gaps.size() - 1);
     return said.join(QLatin1String("; "));
 }
 

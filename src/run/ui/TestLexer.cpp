@@ -15,7 +15,7 @@ using run::TestWordKind;
 
 // Blanks have the style of names.
 constexpr int StyleOf(TestWordKind kind) { return int(Ordinal(kind)); }
-constexpr int kStyleCount = StyleOf(TestWordKind::Wrong) + 1;
+constexpr int kTestStyleCount = StyleOf(TestWordKind::Wrong) + 1;
 
 } // namespace
 
@@ -23,7 +23,7 @@ TestLexer::TestLexer(QObject* parent) : QsciLexerCustom(parent) {}
 
 void TestLexer::SetPalette(const QPalette& palette) {
     palette_ = palette;
-    for (int style = 0; style < kStyleCount; ++style) {
+    for (int style = 0; style < kTestStyleCount; ++style) {
         setColor(defaultColor(style), style);
         setPaper(defaultPaper(style), style);
         setFont(defaultFont(style), style);

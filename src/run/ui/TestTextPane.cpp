@@ -10,7 +10,7 @@ namespace orvane {
 
 namespace {
 
-constexpr int kNumberMargin = 0;
+constexpr int kLineMargin = 0;
 constexpr int kSymbolMargin = 1;
 constexpr int kShownMark = 0; // the ground of the line
 constexpr int kFailedMark = 1;
@@ -48,8 +48,8 @@ void TestTextPane::ApplyLook() {
     setMarkerBackgroundColor(dark ? QColor(0x274B2E) : QColor(0xDDF2DD), kShownMark);
     setMarkerBackgroundColor(dark ? QColor(0x5A2A2A) : QColor(0xFFDDDD), kFailedMark);
     setMarkerBackgroundColor(palette().color(QPalette::Text), kArrowMark);
-    setMarginType(kNumberMargin, NumberMargin);
-    setMarginWidth(kNumberMargin, QStringLiteral("0%1").arg(qMax(lines(), 10)));
+    setMarginType(kLineMargin, NumberMargin);
+    setMarginWidth(kLineMargin, QStringLiteral("0%1").arg(qMax(lines(), 10)));
     setMarginWidth(kSymbolMargin, kArrowWidth);
     setMarginMarkerMask(kSymbolMargin, 1 << kArrowMark);
 }

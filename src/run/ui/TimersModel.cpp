@@ -7,12 +7,6 @@
 
 namespace orvane {
 
-namespace {
-
-enum Column { Name, RunsFor, Limit, Left, LeadsTo };
-
-} // namespace
-
 TimersModel::TimersModel(const FsmDocument& document, const run::LiveRun& run, QObject* parent)
     : ListModel({tr("Timer"), tr("Runs for"), tr("Limit"), tr("Left"), tr("Leads to")}, parent),
       document_(document),

@@ -24,6 +24,8 @@ class TimersModel : public ListModel {
     int Rows() const override { return rows_; }
 
   private:
+    enum Column { Name, RunsFor, Limit, Left, LeadsTo };
+
     int Timers() const;
     QString Text(std::size_t timer, int column) const;
     QString TextOfLookedAt(int column) const;

@@ -26,9 +26,9 @@ namespace orvane {
 
 namespace {
 
-constexpr int kHelpPage = 4975;
+constexpr int kRunHelpPage = 4975;
 
-QLabel* MakeLabel(QWidget* parent, const char* name) {
+QLabel* MakeNote(QWidget* parent, const char* name) {
     auto* label = new QLabel(parent);
     label->setObjectName(QLatin1String(name));
     label->setWordWrap(true);
@@ -40,7 +40,7 @@ QLabel* MakeLabel(QWidget* parent, const char* name) {
 } // namespace
 
 dckRun::dckRun(const FsmDocument& document, const run::LiveRun& run, QWidget* parent)
-    : Pane("dckRun", tr("Run the machine"), kHelpPage, parent),
+    : Pane("dckRun", tr("Run the machine"), kRunHelpPage, parent),
       document_(document),
       run_(run),
       body_(new QWidget(this)),
@@ -59,11 +59,11 @@ void dckRun::MakeTop(QVBoxLayout& layout) {
     buttons_ = new fraRunButtons(body_);
     way_ = new fraWay(document_, body_);
     player_ = new RunPlayer(body_);
-    lblWhere = MakeLabel(body_, "lblWhere");
+    lblWhere = MakeNote(body_, "lblWhere");
     QFont large = lblWhere->font();
     large.setBold(true);
     lblWhere->setFont(large);
-    lblNotice = MakeLabel(body_, "lblNotice");
+    lblNotice = MakeNote(body_, "lblNotice");
     fraLimit_ = new fraLimit(document_, body_);
     for (QWidget* widget :
          std::initializer_list<QWidget*>{buttons_, way_, player_, lblWhere, lblNotice, fraLimit_})

@@ -22,7 +22,7 @@ namespace orvane {
 
 namespace {
 
-constexpr int kHelpPage = 4975;
+constexpr int kTourHelpPage = 4975;
 constexpr int kMostSteps = 1'000'000; // more is read by nobody
 constexpr int kLookEvery = 50;        // milliseconds
 
@@ -39,7 +39,7 @@ frmTour::frmTour(const Session& session, QWidget* parent)
       barTour(new QProgressBar(this)) {
     setObjectName(QStringLiteral("frmTour"));
     setWindowTitle(tr("Tour of the machine"));
-    AddHelpKey(*this, kHelpPage);
+    AddHelpKey(*this, kTourHelpPage);
     auto* column = new QVBoxLayout(this);
     MakeOptions(*column);
     MakeButtons(*column);

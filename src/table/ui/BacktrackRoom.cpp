@@ -9,17 +9,14 @@
 
 namespace orvane {
 
-namespace {
-
-constexpr auto kOwnCommands = std::to_array<Command>({Command::Backtrack});
-
-} // namespace
-
 BacktrackRoom::BacktrackRoom(const RoomPlace& place) : session_(place.Open) {}
 
 BacktrackRoom::~BacktrackRoom() = default;
 
-std::span<const Command> BacktrackRoom::Commands() const { return kOwnCommands; }
+std::span<const Command> BacktrackRoom::Commands() const {
+    static constexpr auto commands = std::to_array<Command>({Command::Backtrack});
+    return commands;
+}
 
 void BacktrackRoom::Run(Command) { BackTrack(session_.Pressed().State); }
 

@@ -11,12 +11,12 @@ namespace orvane {
 
 namespace {
 
-constexpr int kReach = 3; // pixels at either side of a border
+constexpr int kBorderReach = 3; // pixels at either side of a border
 
 // In a narrow column the borders reach less far, so that its middle stays a place to press.
 int ReachIn(const FsmGridView& view, const QPoint& position) {
     const QModelIndex cell = view.indexAt(position);
-    return cell.isValid() ? std::clamp(view.columnWidth(cell.column()) / 4, 1, kReach) : kReach;
+    return cell.isValid() ? std::clamp(view.columnWidth(cell.column()) / 4, 1, kBorderReach) : kBorderReach;
 }
 
 } // namespace

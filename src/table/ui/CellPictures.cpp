@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "table/ui/CellPictures.h"
 
+#include "kit/PictureFonts.h"
+
 #include <QPainter>
 
 namespace orvane {
@@ -14,11 +16,6 @@ constexpr int kBorder = 1;     // right of it and below
 void DrawLine(QPainter& painter, const QRect& area, const QString& text) {
     painter.drawText(area.adjusted(kTextMargin, 0, -kBorder, -kBorder),
                      Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, text);
-}
-
-QFont Bold(QFont font) {
-    font.setBold(true);
-    return font;
 }
 
 // A document may make a cell so large that it is never seen as a whole.

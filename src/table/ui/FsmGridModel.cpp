@@ -7,6 +7,7 @@
 #include "table/CellName.h"
 #include "table/CellText.h"
 #include "table/ui/CellIndex.h"
+#include "table/ui/ToQColor.h"
 #include "text/Ordinal.h"
 
 #include <algorithm>
@@ -19,8 +20,6 @@ namespace {
 constexpr std::size_t IndexOfCell(Cell cell) {
     return IndexIn(TableColumns(), cell.State) * kTableRows + IndexIn(TableRows(), cell.Row);
 }
-
-QColor ToQColor(Colour colour) { return {colour.Red, colour.Green, colour.Blue}; }
 
 // 1 for advice up to 4 for an error.
 constexpr unsigned char Badness(FindingLevel level) {

@@ -8,14 +8,14 @@ namespace orvane {
 
 namespace {
 
-constexpr int kSize = 14; // pixels
+constexpr int kMarkerSize = 14; // pixels
 
 } // namespace
 
 NextStateMarker::NextStateMarker(QWidget* parent) : QWidget(parent) {
     setObjectName(QStringLiteral("picNextStateMarker"));
     setAttribute(Qt::WA_TransparentForMouseEvents);
-    resize(kSize, kSize);
+    resize(kMarkerSize, kMarkerSize);
     hide();
 }
 

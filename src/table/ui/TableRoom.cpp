@@ -25,47 +25,6 @@
 
 namespace orvane {
 
-namespace {
-
-constexpr auto kOwnCommands = std::to_array<Command>({Command::Undo,
-                                                      Command::Redo,
-                                                      Command::CutCell,
-                                                      Command::CopyCell,
-                                                      Command::PasteCell,
-                                                      Command::ClearCell,
-                                                      Command::ChooseTarget,
-                                                      Command::GoTo,
-                                                      Command::ZoomIn,
-                                                      Command::ZoomOut,
-                                                      Command::ZoomReset,
-                                                      Command::FitColumns,
-                                                      Command::ShowExitAction,
-                                                      Command::ShowElse,
-                                                      Command::ShowTimingMode,
-                                                      Command::ShowTimeTarget,
-                                                      Command::Polytask,
-                                                      Command::CopyState,
-                                                      Command::PasteState,
-                                                      Command::InsertState,
-                                                      Command::DeleteState,
-                                                      Command::SetCurrentState,
-                                                      Command::InsertEvent,
-                                                      Command::DeleteEvent,
-                                                      Command::CopyEvent,
-                                                      Command::PasteEvent,
-                                                      Command::CopyAction,
-                                                      Command::CutAction,
-                                                      Command::PasteAction,
-                                                      Command::CopyTransition,
-                                                      Command::CutTransition,
-                                                      Command::PasteTransition,
-                                                      Command::CopyEntryAction,
-                                                      Command::PasteEntryAction,
-                                                      Command::DeleteEntryAction,
-                                                      Command::CutEntryAction});
-
-} // namespace
-
 TableRoom::TableRoom(const RoomPlace& place)
     : session_(place.Open),
       window_(place.Window),
@@ -160,7 +119,45 @@ void TableRoom::GoTo() {
         ShowPlace(*place);
 }
 
-std::span<const Command> TableRoom::Commands() const { return kOwnCommands; }
+std::span<const Command> TableRoom::Commands() const {
+    static constexpr auto commands = std::to_array<Command>({Command::Undo,
+                                                             Command::Redo,
+                                                             Command::CutCell,
+                                                             Command::CopyCell,
+                                                             Command::PasteCell,
+                                                             Command::ClearCell,
+                                                             Command::ChooseTarget,
+                                                             Command::GoTo,
+                                                             Command::ZoomIn,
+                                                             Command::ZoomOut,
+                                                             Command::ZoomReset,
+                                                             Command::FitColumns,
+                                                             Command::ShowExitAction,
+                                                             Command::ShowElse,
+                                                             Command::ShowTimingMode,
+                                                             Command::ShowTimeTarget,
+                                                             Command::Polytask,
+                                                             Command::CopyState,
+                                                             Command::PasteState,
+                                                             Command::InsertState,
+                                                             Command::DeleteState,
+                                                             Command::SetCurrentState,
+                                                             Command::InsertEvent,
+                                                             Command::DeleteEvent,
+                                                             Command::CopyEvent,
+                                                             Command::PasteEvent,
+                                                             Command::CopyAction,
+                                                             Command::CutAction,
+                                                             Command::PasteAction,
+                                                             Command::CopyTransition,
+                                                             Command::CutTransition,
+                                                             Command::PasteTransition,
+                                                             Command::CopyEntryAction,
+                                                             Command::PasteEntryAction,
+                                                             Command::DeleteEntryAction,
+                                                             Command::CutEntryAction});
+    return commands;
+}
 
 void TableRoom::Run(Command command) {
     switch (command) {

@@ -5,6 +5,7 @@
 #include "kit/CloseKeys.h"
 #include "kit/OpenInDesktop.h"
 #include "kit/PaneLook.h"
+#include "table/ui/ToQColor.h"
 
 #include <QEvent>
 #include <QHeaderView>
@@ -17,13 +18,11 @@ namespace orvane {
 
 namespace {
 
-constexpr QSize kFirstSize{360, 400};
-constexpr int kHelpPage = 4965;
+constexpr QSize kBackTrackSize{360, 400};
+constexpr int kBackTrackHelpPage = 4965;
 constexpr int kEventColumn = 0;
 constexpr int kFromColumn = 1;
 constexpr int kEventPercent = 45; // of the grid's width; the other column has the rest
-
-QColor ToQColor(Colour colour) { return {colour.Red, colour.Green, colour.Blue}; }
 
 // In the colours that the table has.
 QTableWidgetItem* ListItem(const std::string& text, Colour light, bool isDark) {
@@ -43,8 +42,8 @@ frmBackTrack::frmBackTrack(QWidget* parent) : QWidget(parent, Qt::Window) {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(MSFlexGrid1);
-    resize(kFirstSize);
-    AddHelpKey(*this, kHelpPage);
+    resize(kBackTrackSize);
+    AddHelpKey(*this, kBackTrackHelpPage);
     AddCloseKeys(*this);
 }
 

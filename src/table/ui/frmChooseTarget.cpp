@@ -21,9 +21,9 @@ namespace orvane {
 
 namespace {
 
-constexpr int kMostLines = 10;      // seen at once
+constexpr int kMostSeen = 10;       // seen at once
 constexpr int kAverageName = 28;    // characters
-constexpr int kLongestName = 70;    // characters that are seen of a name
+constexpr int kLongestSeen = 70;    // characters that are seen of a name
 constexpr int kRole = Qt::UserRole; // the state's number; none on the line that says there is none
 
 } // namespace
@@ -97,7 +97,7 @@ int frmChooseTarget::WidthOfNames() const {
         widest = std::max(widest, lstTargets->fontMetrics().horizontalAdvance(label));
     }
     const int beside = style()->pixelMetric(QStyle::PM_ScrollBarExtent) + 4 * frameWidth() + 2 * character;
-    return std::clamp(widest + beside, kAverageName * character, kLongestName * character);
+    return std::clamp(widest + beside, kAverageName * character, kLongestSeen * character);
 }
 
 // Over the cell with its upper left corner, moved as far as it must to be seen whole.
@@ -105,7 +105,7 @@ void frmChooseTarget::Place() {
     const QRect cell = view_.VisibleRect(IndexOf(*view_.model(), cell_));
     const int width = std::max(cell.width(), WidthOfNames());
     const int frames = 2 * (lstTargets->frameWidth() + frameWidth() + 1);
-    const int lines = lstTargets->sizeHintForRow(0) * kMostLines + frames;
+    const int lines = lstTargets->sizeHintForRow(0) * kMostSeen + frames;
     const QRect room = view_.viewport()->rect();
     const QSize size = QSize(width, txtChooseTarget->sizeHint().height() + lines).boundedTo(room.size());
     const QPoint corner(std::clamp(cell.left(), 0, room.width() - size.width()),
@@ -139,10 +139,10 @@ bool frmChooseTarget::Take(int key) {
         lstTargets->setCurrentRow(std::min(row + 1, lstTargets->count() - 1));
         return true;
     case Qt::Key_PageUp:
-        lstTargets->setCurrentRow(std::max(row - kMostLines, 0));
+        lstTargets->setCurrentRow(std::max(row - kMostSeen, 0));
         return true;
     case Qt::Key_PageDown:
-        lstTargets->setCurrentRow(std::min(row + kMostLines, lstTargets->count() - 1));
+        lstTargets->setCurrentRow(std::min(row + kMostSeen, lstTargets->count() - 1));
         return true;
     case Qt::Key_Tab:
     case Qt::Key_Backtab:

@@ -17,7 +17,7 @@ namespace orvane {
 
 namespace {
 
-constexpr int kHelpPage = 4835;
+constexpr int kGoToHelpPage = 4835;
 constexpr int kAverageText = 40; // characters
 
 QString NameOf(const FsmDocument& document, Cell place) {
@@ -32,7 +32,7 @@ frmGoTo::frmGoTo(const FsmDocument& document, QWidget* parent)
     : QDialog(parent), document_(document), txtGoTo(new DocumentLineEdit(this)), lblGoTo(new QLabel(this)) {
     setObjectName(QStringLiteral("frmGoTo"));
     setWindowTitle(tr("Go to"));
-    AddHelpKey(*this, kHelpPage);
+    AddHelpKey(*this, kGoToHelpPage);
     txtGoTo->setObjectName(QStringLiteral("txtGoTo"));
     txtGoTo->setAccessibleName(tr("State or event, by name or number"));
     txtGoTo->setMinimumWidth(kAverageText * fontMetrics().averageCharWidth());

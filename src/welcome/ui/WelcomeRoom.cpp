@@ -24,8 +24,6 @@ namespace orvane {
 
 namespace {
 
-constexpr auto kOwnCommands = std::to_array<Command>({Command::HelpPages, Command::About});
-
 constexpr int kSplashLogo = 128; // pixels
 constexpr int kAboutLogo = 64;
 
@@ -62,7 +60,10 @@ void OfferUpdate(QWidget* window, const std::string& latestVersion) {
 
 WelcomeRoom::WelcomeRoom(const RoomPlace& place) : window_(place.Window) {}
 
-std::span<const Command> WelcomeRoom::Commands() const { return kOwnCommands; }
+std::span<const Command> WelcomeRoom::Commands() const {
+    static constexpr auto commands = std::to_array<Command>({Command::HelpPages, Command::About});
+    return commands;
+}
 
 void WelcomeRoom::Run(Command command) {
     if (command == Command::HelpPages)

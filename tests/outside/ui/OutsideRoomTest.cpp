@@ -17,7 +17,7 @@
 namespace orvane {
 namespace {
 
-const QString kDocument = QStringLiteral("machine.zfsm");
+const QString kMachine = QStringLiteral("machine.zfsm");
 constexpr const char* kWasChanged =
     "machine.zfsm was changed by another program. Reload it, or keep what this window shows: then the next "
     "save asks before it replaces the file.";
@@ -29,10 +29,10 @@ class OutsideRoomTest : public TableFixture {
         document.State(1).Name = state;
         return WriteDocument(document);
     }
-    void ChangeFromOutside(const std::string& state) { WriteFile(kDocument, BytesOf(state)); }
+    void ChangeFromOutside(const std::string& state) { WriteFile(kMachine, BytesOf(state)); }
     void ReplaceFromOutside(const std::string& state) {
         WriteFile(QStringLiteral("new"), BytesOf(state));
-        ASSERT_EQ(std::rename(Path(QStringLiteral("new")).toLocal8Bit(), Path(kDocument).toLocal8Bit()), 0);
+        ASSERT_EQ(std::rename(Path(QStringLiteral("new")).toLocal8Bit(), Path(kMachine).toLocal8Bit()), 0);
     }
     void ChangeHere() { TypeTarget(7, 1, QStringLiteral("2")); }
 
@@ -159,18 +159,18 @@ TEST_F(OutsideRoomTest, OwnSavesAndATouchSayNothing) {
     Trigger("mnuFSave");
     ComeBack();
     EXPECT_FALSE(HasStrip());
-    WriteFile(kDocument, ReadFile(kDocument));
+    WriteFile(kMachine, ReadFile(kMachine));
     ComeBack();
     EXPECT_FALSE(HasStrip());
 }
 
 TEST_F(OutsideRoomTest, AChangeThatIsTakenBackTakesTheStripWithIt) {
     StartOn(PumpDocument());
-    const std::string before = ReadFile(kDocument);
+    const std::string before = ReadFile(kMachine);
     ChangeFromOutside("Rest");
     ComeBack();
     ASSERT_TRUE(HasStrip());
-    WriteFile(kDocument, before);
+    WriteFile(kMachine, before);
     ComeBack();
     EXPECT_FALSE(HasStrip());
 }
@@ -187,14 +187,14 @@ TEST_F(OutsideRoomTest, AnotherDocumentBeginsWithoutAStrip) {
 
 TEST_F(OutsideRoomTest, AFileThatIsGoneIsToldAndSavedAgain) {
     StartOn(PumpDocument());
-    QFile::remove(Path(kDocument));
+    QFile::remove(Path(kMachine));
     ComeBack();
     EXPECT_EQ(StripText(), "machine.zfsm is gone: it was deleted, moved or renamed. Save writes it again, as "
                            "this window shows it.");
     EXPECT_FALSE(Offers("cmdReload"));
     Trigger("mnuFSave");
     EXPECT_FALSE(HasStrip());
-    EXPECT_TRUE(QFile::exists(Path(kDocument)));
+    EXPECT_TRUE(QFile::exists(Path(kMachine)));
     EXPECT_TRUE(Answers.Seen().empty());
 }
 
@@ -207,11 +207,11 @@ TEST_F(OutsideRoomTest, ASaveOverAChangeAsksAndCancelSavesNothing) {
     ASSERT_EQ(Answers.Seen().size(), 1u);
     EXPECT_EQ(Answers.Seen()[0].Buttons, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
     EXPECT_EQ(Answers.Seen()[0].Text,
-              "Another program has changed\r\n" + QDir::toNativeSeparators(Path(kDocument)).toStdString() +
+              "Another program has changed\r\n" + QDir::toNativeSeparators(Path(kMachine)).toStdString() +
                   "\r\nsince it was opened or saved here. Replace it?\r\n\r\nYes: your document takes its "
                   "place; what is there now is kept in the recovery folder.\r\nNo: you save under another "
                   "name.\r\nCancel: nothing is saved.");
-    EXPECT_EQ(ReadFile(kDocument), BytesOf("Rest"));
+    EXPECT_EQ(ReadFile(kMachine), BytesOf("Rest"));
     EXPECT_EQ(Title()[0], '*');
     EXPECT_TRUE(Kept().empty());
 }
@@ -222,7 +222,7 @@ TEST_F(OutsideRoomTest, YesSavesAndKeepsWhatWasThere) {
     ChangeFromOutside("Rest");
     Answers.Press(QMessageBox::Yes);
     Trigger("mnuFSave");
-    EXPECT_EQ(ReadDocument(ReadFile(kDocument)).Document.State(1).Targets[7], 2);
+    EXPECT_EQ(ReadDocument(ReadFile(kMachine)).Document.State(1).Targets[7], 2);
     EXPECT_EQ(Kept(), std::vector{BytesOf("Rest")});
     EXPECT_TRUE(Panel("Panel3").starts_with("What another program had made of the file is kept as "));
     EXPECT_FALSE(HasStrip());
@@ -237,7 +237,7 @@ TEST_F(OutsideRoomTest, NoSavesUnderAnotherName) {
     ChangeFromOutside("Rest");
     Answers.Press(QMessageBox::No).ChooseFile(Path(QStringLiteral("mine.zfsm")));
     Trigger("mnuFSave");
-    EXPECT_EQ(ReadFile(kDocument), BytesOf("Rest"));
+    EXPECT_EQ(ReadFile(kMachine), BytesOf("Rest"));
     EXPECT_EQ(ReadDocument(ReadFile(QStringLiteral("mine.zfsm"))).Document.State(1).Targets[7], 2);
     EXPECT_EQ(Title()[0], 'm');
 }
@@ -248,7 +248,7 @@ TEST_F(OutsideRoomTest, ReturnDoesNotReplaceAnothersWork) {
     ChangeFromOutside("Rest");
     InNextDialog(Answers, [](QWidget& box) { QTest::keyClick(&box, Qt::Key_Return); });
     Trigger("mnuFSave");
-    EXPECT_EQ(ReadFile(kDocument), BytesOf("Rest"));
+    EXPECT_EQ(ReadFile(kMachine), BytesOf("Rest"));
 }
 
 TEST_F(OutsideRoomTest, TheQuestionOfCloseDoesNotReplaceAnothersWorkEither) {
@@ -257,7 +257,7 @@ TEST_F(OutsideRoomTest, TheQuestionOfCloseDoesNotReplaceAnothersWorkEither) {
     ChangeFromOutside("Rest");
     Answers.Press(QMessageBox::Yes).Press(QMessageBox::Cancel);
     EXPECT_FALSE(Window().close());
-    EXPECT_EQ(ReadFile(kDocument), BytesOf("Rest"));
+    EXPECT_EQ(ReadFile(kMachine), BytesOf("Rest"));
 }
 
 TEST_F(OutsideRoomTest, WhatCannotBeKeptIsNotReplaced) {
@@ -267,7 +267,7 @@ TEST_F(OutsideRoomTest, WhatCannotBeKeptIsNotReplaced) {
     ChangeFromOutside("Rest");
     Answers.Press(QMessageBox::Yes).Press(QMessageBox::Ok);
     Trigger("mnuFSave");
-    EXPECT_EQ(ReadFile(kDocument), BytesOf("Rest"));
+    EXPECT_EQ(ReadFile(kMachine), BytesOf("Rest"));
     EXPECT_EQ(Title()[0], '*');
     ASSERT_EQ(Answers.Seen().size(), 2u);
     EXPECT_TRUE(Answers.Seen()[1].Text.starts_with("Nothing was saved: no copy of\r\n"));
@@ -278,7 +278,7 @@ TEST_F(OutsideRoomTest, ASecondWindowOnTheSameDocumentSaysSo) {
     {
         frmTable other;
         other.show();
-        other.Start({Path(kDocument), false});
+        other.Start({Path(kMachine), false});
         EXPECT_TRUE(HasStrip(other));
         EXPECT_EQ(Named<QLabel>(other, "lblFileChanged").text().toStdString(),
                   "machine.zfsm is open in another window too. Edit it in one of them: a save in the other "
@@ -296,7 +296,7 @@ TEST_F(OutsideRoomTest, AWindowThatIsGoneLeavesNoMarker) {
     EXPECT_TRUE(Window().close());
     frmTable other;
     other.show();
-    other.Start({Path(kDocument), false});
+    other.Start({Path(kMachine), false});
     EXPECT_FALSE(HasStrip(other));
 }
 
