@@ -320,7 +320,16 @@ Outcome CommandLine::Answer(const CLI::ParseError& error) {
 }
 
 std::string CommandLine::WhatIsMissing() const {
-    return app_.get_subcommands().empty() ? NoSuchVerb(firstWord_, VerbNames()) : "No document is given";
+    const std::vector<CLI::App*> verbs = app_.get_subcommands();
+    if (verbs.empty())
+        return NoSuchVerb(firstWord_, VerbNames());
+    const std::vector<CLI::Option*> options = verbs.front()->get_options();
+    const auto missing = std::find_if(options.begin(), options.end(), [](const CLI::Option* option) {
+        return option->get_required() && option->count() == 0;
+    });
+    if (missing == options.end())
+        return "No document is given";
+    return Missing(verbs.front()->get_name(), (*missing)->get_name(), (*missing)->get_description());
 }
 
 std::string CommandLine::WhatIsLeftOver() const {

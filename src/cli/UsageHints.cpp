@@ -31,6 +31,18 @@ std::string NoSuchVerb(const std::string& word, const std::vector<std::string>& 
     return "There is no verb " + ShownName(word) + run::DidYouMean(word, verbs) + "; " + list;
 }
 
+std::string Missing(const std::string& verb, const std::string& name, const std::string& help) {
+    if (name == "DOC")
+        return "No document is given";
+    if (name == "FILE")
+        return "No file is given";
+    if (name == "PATTERN")
+        return "No pattern is given";
+    if (name == "WHAT")
+        return "git takes the word enable";
+    return verb + " needs " + name + ": " + help;
+}
+
 std::string LeftOver(const std::string& verb, const std::string& word,
                      const std::vector<std::string>& options) {
     if (!IsOption(word))

@@ -10,6 +10,10 @@ namespace orvane::cli {
 // The first word is none of the verbs. Empty when there is no word at all.
 std::string NoSuchVerb(const std::string& word, const std::vector<std::string>& verbs);
 
+// What the verb cannot do without was not given: DOC and the like, or an option as it is typed, of which its
+// help says this.
+std::string Missing(const std::string& verb, const std::string& name, const std::string& help);
+
 // What was left over when the verb had taken all that it knows. The options are as they are typed.
 std::string LeftOver(const std::string& verb, const std::string& word,
                      const std::vector<std::string>& options);

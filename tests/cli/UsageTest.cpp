@@ -67,6 +67,14 @@ TEST_F(Usage, WrongUsageIsSaidOnStandardError) {
     ExpectWrong("generate", "No document is given");
     ExpectWrong("check", "No document is given");
     ExpectWrong("format", "No document is given");
+    ExpectWrong("export", "No document is given");
+    ExpectWrong("export a -o out",
+                "export needs --format: html, markdown, csv, csv-long, json, dot, mermaid, "
+                "plantuml or scxml");
+    ExpectWrong("import", "No file is given");
+    ExpectWrong("find", "No pattern is given");
+    ExpectWrong("find Horn", "No document is given");
+    ExpectWrong("git", "git takes the word enable");
     ExpectWrong("generate -o out a b", "-o takes the program of one document, not of 2");
     ExpectWrong("generate -o '' a", "-o needs the name of a file");
     ExpectWrong("diagram a b", "b is one argument more than diagram takes");
