@@ -21,6 +21,11 @@ std::string Utf8(const fs::path& path) {
     return {utf8.begin(), utf8.end()};
 }
 
+std::string PortableText(const fs::path& path) {
+    const std::u8string utf8 = path.generic_u8string();
+    return {utf8.begin(), utf8.end()};
+}
+
 #ifdef _WIN32
 
 // The library takes a network path for one of the current drive; the system also knows "C:name" and "\name".

@@ -11,6 +11,10 @@ namespace orvane::cli {
 std::filesystem::path PathOf(std::string_view utf8);
 std::string Utf8(const std::filesystem::path& path);
 
+// The same with the one separator that all systems, make and ninja understand. For what is written into
+// files.
+std::string PortableText(const std::filesystem::path& path);
+
 // The absolute path of a file named on the command line, without "." and "..": a dot in the path is the dot
 // of an extension. Links keep their names.
 std::filesystem::path FullPath(const std::string& name);

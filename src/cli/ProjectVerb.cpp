@@ -32,7 +32,7 @@ std::string PathFrom(const fs::path& folder, const std::string& listed) {
 #ifndef _WIN32
     std::replace(path.begin(), path.end(), '\\', '/');
 #endif
-    return Utf8(folder / PathOf(path));
+    return Utf8((folder / PathOf(path)).make_preferred());
 }
 
 class ProjectRun {

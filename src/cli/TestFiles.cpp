@@ -62,7 +62,7 @@ std::vector<std::string> TestFilesOf(const std::vector<std::string>& arguments, 
 std::string DocumentOf(const std::string& testFile, const std::optional<std::string>& named) {
     fs::path path = PathOf(testFile);
     if (!named)
-        return Utf8(path.replace_extension(".zfsm"));
+        return Utf8(path.replace_extension(".zfsm").make_preferred()); // one name, whoever asks for it
     return Utf8((path.parent_path() / PathOf(*named)).lexically_normal());
 }
 

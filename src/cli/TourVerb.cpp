@@ -41,7 +41,8 @@ class TourWriter {
             ToStandardOutput() ? document.parent_path() / "-" : FullPath(*arguments_.Output);
         if (DocumentOf(Utf8(tests), std::nullopt) == Utf8(document))
             return std::nullopt;
-        return Utf8(document.lexically_relative(tests.parent_path()));
+        const std::filesystem::path way = document.lexically_relative(tests.parent_path());
+        return PortableText(way.empty() ? document : way); // no way leads to another drive
     }
 
     void Tell(const run::Tour& tour, const FsmDocument& machine) {

@@ -93,6 +93,8 @@ TEST_F(Generate, BlanksAndUmlautsInTheNameAreKeptInTheProgramAsAnsi) {
 }
 
 TEST_F(Generate, CharactersOfTheNameThatACommentCannotHoldBecomeQuestionMarks) {
+    if (IsForWindows())
+        GTEST_SKIP() << "a name there has no control characters and is always text";
     const std::string name = "a\nb\tc\xE6\xB0\xB4"
                              "d\xFF.zfsm";
     WriteFile(name, PumpDocument());

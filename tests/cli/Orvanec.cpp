@@ -42,13 +42,16 @@ Orvanec::~Orvanec() {
 }
 
 std::string Orvanec::PathText(std::string_view name) const {
-    std::string path = Path(name).string();
-    if (Program().ends_with(".exe")) {
+    return (IsForWindows() ? "Z:" : "") + NativeText(Path(name).string());
+}
+
+std::string Orvanec::NativeText(std::string path) {
+    if (IsForWindows())
         std::replace(path.begin(), path.end(), '/', '\\');
-        path.insert(0, "Z:");
-    }
     return path;
 }
+
+bool Orvanec::IsForWindows() { return Program().ends_with(".exe"); }
 
 RunResult Orvanec::Run(const std::string& arguments, const std::string& before) const {
     const std::string streams = folder_.parent_path().string();

@@ -32,6 +32,10 @@ class Orvanec : public testing::Test {
     std::filesystem::path Path(std::string_view name) const { return folder_ / name; }
     // The path as the program itself names it.
     std::string PathText(std::string_view name) const;
+    // A path that the program put together, with the separators of its system.
+    static std::string NativeText(std::string path);
+    // Whether the program is one for Windows, on which some of this system's files cannot be shown.
+    static bool IsForWindows();
     void WriteFile(std::string_view name, std::string_view bytes) const;
     std::string ReadFile(std::string_view name) const;
     bool Exists(std::string_view name) const { return std::filesystem::exists(Path(name)); }

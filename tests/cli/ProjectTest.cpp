@@ -38,7 +38,8 @@ class Project : public Orvanec {
 TEST_F(Project, ItsDocumentsAreCheckedAndAProjectInOrderHasNoAdvice) {
     const RunResult run = Run("check --project plant/plant.b1d");
     EXPECT_EQ(run.Status, 0);
-    EXPECT_EQ(run.Output, "plant/pump.zfsm:\nErrors and warnings\nplant/fan.zfsm:\nErrors and warnings\n");
+    EXPECT_EQ(run.Output,
+              NativeText("plant/pump.zfsm:\nErrors and warnings\nplant/fan.zfsm:\nErrors and warnings\n"));
     EXPECT_EQ(run.Errors, "");
     EXPECT_EQ(Run("check --quiet --project plant.b1d", "cd plant;").Output, "");
 }
@@ -96,7 +97,7 @@ TEST_F(Project, AnErrorInOneOfItsDocumentsIsTheStatus) {
     WriteFile("plant/fan.zfsm", DocumentWithErrors());
     const RunResult run = Run("check --quiet --format=gcc --project plant/plant.b1d");
     EXPECT_EQ(run.Status, 1);
-    EXPECT_THAT(run.Output, HasSubstr("plant/fan.zfsm:7: error: "));
+    EXPECT_THAT(run.Output, HasSubstr(NativeText("plant/fan.zfsm:7: error: ")));
 }
 
 TEST_F(Project, AScriptThatCannotBeReadIsTold) {
