@@ -4,6 +4,7 @@
 #include "cli/DocumentPath.h"
 #include "cli/MessageText.h"
 #include "files/LinkTarget.h"
+#include "files/RealPath.h"
 #include "text/SiblingPath.h"
 
 #include <map>
@@ -32,9 +33,8 @@ class RealPaths {
 
   private:
     static fs::path RealFolder(const fs::path& folder) {
-        std::error_code failed;
-        fs::path real = fs::weakly_canonical(folder.empty() ? fs::path(".") : folder, failed);
-        return failed ? folder : real;
+        const Result<fs::path> real = RealPath(folder.empty() ? fs::path(".") : folder);
+        return real.Failure ? folder : real.Got;
     }
 
     FileSystem& files_;
@@ -47,14 +47,16 @@ fs::path ProgramTarget(const Arguments& arguments, const std::string& document) 
     if (arguments.Output)
         return PathOf(*arguments.Output);
     if (arguments.Building.OutputFolder)
-        return PathOf(*arguments.Building.OutputFolder) / ProgramName(document);
+        return (PathOf(*arguments.Building.OutputFolder) / ProgramName(document)).make_preferred();
     return ProgramPath(FullPath(document));
 }
 
 std::string NameOfTarget(const Arguments& arguments, const std::string& document) {
     const fs::path target = ProgramTarget(arguments, document);
-    if (arguments.Output || arguments.Building.OutputFolder)
+    if (arguments.Output)
         return Utf8(target);
+    if (arguments.Building.OutputFolder)
+        return PortableText(target);
     // A dot in a folder that the name does not show may be the one that the extension begins with.
     std::string sibling = ProgramFilePath(document);
     return FullPath(sibling) == target ? sibling : Utf8(target);

@@ -76,7 +76,11 @@ FileError Refusal(FileKind kind) {
             kind};
 }
 
-std::string ReasonText(std::error_code reason) { return reason.default_error_condition().message(); }
+std::string ReasonText(std::error_code reason) {
+    if (reason == std::errc::too_many_symbolic_link_levels) // of which the runtime of Windows says nothing
+        return "Too many levels of symbolic links";
+    return reason.default_error_condition().message();
+}
 
 std::string ReasonText(const FileError& error) {
     if (error.Refused && *error.Refused != FileKind::Folder)

@@ -2,6 +2,7 @@
 #ifndef _WIN32
 
 #include "files/NativeFiles.h"
+#include "files/RealPath.h"
 
 #include <array>
 #include <cerrno>
@@ -158,6 +159,12 @@ Result<FileFacts> NativeFiles::Look(FileHandle file) {
     if (const std::error_code failure = Try([&] { return fstat(file.Number, &told); }))
         return {{}, failure};
     return {FactsOf(told), {}};
+}
+
+Result<FileSystem::Path> RealPath(const FileSystem::Path& path) {
+    Result<FileSystem::Path> real;
+    real.Got = std::filesystem::canonical(path, real.Failure);
+    return real;
 }
 
 Result<FileSystem::Path> NativeFiles::ReadLink(const Path& path) {

@@ -2,6 +2,7 @@
 #ifdef _WIN32
 
 #include "files/NativeFiles.h"
+#include "files/RealPath.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -27,6 +28,8 @@ std::error_code LastWindowsError() {
     case ERROR_ACCESS_DENIED:
     case ERROR_SHARING_VIOLATION:
         return make_error_code(std::errc::permission_denied);
+    case ERROR_CANT_RESOLVE_FILENAME:
+        return make_error_code(std::errc::too_many_symbolic_link_levels);
     default:
         return {static_cast<int>(reason), std::system_category()};
     }
@@ -63,6 +66,35 @@ Result<FileFacts> FactsOf(HANDLE file) {
     return {facts, {}};
 }
 
+// What is there is left to everybody else meanwhile, and may be a folder.
+HANDLE OpenToLook(const FileSystem::Path& path) {
+    const DWORD others = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+    return CreateFileW(path.c_str(), FILE_READ_ATTRIBUTES, others, nullptr, OPEN_EXISTING,
+                       FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+}
+
+// Empty where the system does not tell it, as of devices.
+std::wstring RealName(HANDLE file) {
+    std::wstring name(GetFinalPathNameByHandleW(file, nullptr, 0, FILE_NAME_NORMALIZED), L'\0'); // with a NUL
+    const DWORD length =
+        GetFinalPathNameByHandleW(file, name.data(), static_cast<DWORD>(name.size()), FILE_NAME_NORMALIZED);
+    name.resize(length < name.size() ? length : 0);
+    return name;
+}
+
+// A real name as users and the library write it: C:\folder, \\server\share.
+std::wstring WithoutPrefix(const std::wstring& name) {
+    constexpr std::wstring_view network = L"\\\\?\\UNC\\";
+    constexpr std::wstring_view prefix = L"\\\\?\\";
+    if (name.starts_with(network))
+        return L"\\\\" + name.substr(network.size());
+    return name.starts_with(prefix) ? name.substr(prefix.size()) : name;
+}
+
+bool AreOneName(const FileSystem::Path& one, const FileSystem::Path& other) {
+    return CompareStringOrdinal(one.c_str(), -1, other.c_str(), -1, TRUE) == CSTR_EQUAL;
+}
+
 HANDLE HandleOf(FileHandle file) {
     return reinterpret_cast<HANDLE>(_get_osfhandle(file.Number)); // how the runtime hands it out
 }
@@ -70,9 +102,7 @@ HANDLE HandleOf(FileHandle file) {
 } // namespace
 
 Result<FileFacts> NativeFiles::Look(const Path& path) {
-    const DWORD others = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
-    const HANDLE file = CreateFileW(path.c_str(), FILE_READ_ATTRIBUTES, others, nullptr, OPEN_EXISTING,
-                                    FILE_FLAG_BACKUP_SEMANTICS, nullptr); // folders too
+    const HANDLE file = OpenToLook(path);
     if (file == INVALID_HANDLE_VALUE)
         return {{}, LastWindowsError()};
     const Result<FileFacts> facts = FactsOf(file);
@@ -82,12 +112,29 @@ Result<FileFacts> NativeFiles::Look(const Path& path) {
 
 Result<FileFacts> NativeFiles::Look(FileHandle file) { return FactsOf(HandleOf(file)); }
 
+Result<FileSystem::Path> RealPath(const FileSystem::Path& path) {
+    const HANDLE file = OpenToLook(path);
+    if (file == INVALID_HANDLE_VALUE)
+        return {{}, LastWindowsError()};
+    const std::wstring name = RealName(file);
+    CloseHandle(file);
+    if (name.empty())
+        return {{}, make_error_code(std::errc::not_supported)};
+    return {WithoutPrefix(name), {}};
+}
+
+// The library reads no links here. One shows in that the file is really called something else than its folder
+// and its name say; so does the short name that older programs use (PROGRA~1), which a new file would not
+// keep. A link to what is not there yet is not seen.
 Result<FileSystem::Path> NativeFiles::ReadLink(const Path& path) {
-    Result<Path> target;
-    target.Got = std::filesystem::read_symlink(path, target.Failure);
-    if (target.Failure && target.Failure != std::errc::no_such_file_or_directory)
-        target.Failure = make_error_code(std::errc::invalid_argument); // nor can the library read every link
-    return target;
+    Result<Path> real = RealPath(path);
+    if (real.Failure == std::errc::no_such_file_or_directory ||
+        real.Failure == std::errc::too_many_symbolic_link_levels)
+        return real;
+    const Result<Path> folder = RealPath(path.has_parent_path() ? path.parent_path() : Path("."));
+    if (real.Failure || folder.Failure || AreOneName(folder.Got / path.filename(), real.Got))
+        return {{}, make_error_code(std::errc::invalid_argument)};
+    return real;
 }
 
 std::error_code NativeFiles::AskToWrite(const Path& path) {

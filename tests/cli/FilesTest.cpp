@@ -73,6 +73,8 @@ TEST_F(Files, AnUnreadableDocumentIsTold) {
 TEST_F(Files, AReadErrorIsTold) {
     if (!fs::exists("/proc/self/mem"))
         GTEST_SKIP() << "no file here that opens and cannot be read";
+    if (IsForWindows())
+        GTEST_SKIP() << "another reason is given there";
     ExpectUnread("/proc/self/mem", "cannot be read (Input/output error)");
 }
 
@@ -92,6 +94,8 @@ TEST_F(Files, AControlCharacterInANameStaysOnItsLine) {
 }
 
 TEST_F(Files, APipeIsReadToItsEnd) {
+    if (IsForWindows())
+        GTEST_SKIP() << "standard input has no name there";
     const RunResult run = Run("check /dev/stdin", "cat pump.zfsm |");
     EXPECT_EQ(run.Status, 0);
     EXPECT_EQ(run.Output, kCleanReport);
@@ -102,7 +106,11 @@ TEST_F(Files, AMissingFolderIsTold) {
     EXPECT_EQ(Listing(), "pump.zfsm ");
 }
 
-TEST_F(Files, AFileInPlaceOfTheFolderIsTold) { ExpectUnwritten("pump.zfsm/pump.zls", "Not a directory"); }
+TEST_F(Files, AFileInPlaceOfTheFolderIsTold) {
+    ExpectUnwritten("pump.zfsm/pump.zls", IsForWindows() ? "there is no folder pump.zfsm: No such file or "
+                                                           "directory"
+                                                         : "Not a directory");
+}
 
 TEST_F(Files, AFolderIsNotWrittenOver) {
     fs::create_directory(Path("pump.zls"));
@@ -152,12 +160,13 @@ TEST_F(Files, AFullDiskLeavesTheOlderFileWhole) {
     const std::string oldDocument = ReadFile("disk/small.zfsm");
     EXPECT_EQ(std::system(("umount '" + Path("disk").string() + "'").c_str()), 0);
 
+    // What runs a program for Windows here has no word for a write that takes a part of the bytes.
+    const std::string why = IsForWindows() ? "Invalid argument" : "No space left on device";
     EXPECT_EQ(program.Status, 3);
-    EXPECT_EQ(program.Errors, std::string(kCleanReport) + "orvanec: large.zfsm: disk/large.zls cannot be "
-                                                          "written (No space left on device)\n");
+    EXPECT_EQ(program.Errors, std::string(kCleanReport) +
+                                  "orvanec: large.zfsm: disk/large.zls cannot be written (" + why + ")\n");
     EXPECT_EQ(document.Status, 3);
-    EXPECT_EQ(document.Errors,
-              "orvanec: large.zfsm: disk/small.zfsm cannot be written (No space left on device)\n");
+    EXPECT_EQ(document.Errors, "orvanec: large.zfsm: disk/small.zfsm cannot be written (" + why + ")\n");
     EXPECT_EQ(left, "large.zls small.zfsm ");
     EXPECT_EQ(oldProgram, "older program");
     EXPECT_EQ(oldDocument, PumpDocument());
@@ -183,6 +192,8 @@ TEST_F(Files, AClosedStandardOutputIsToldAndNoFileTakesItsPlace) {
 }
 
 TEST_F(Files, AnOlderProgramIsReplacedAndKeepsItsPermissions) {
+    if (IsForWindows())
+        GTEST_SKIP() << "permissions are those of the folder there";
     WriteFile("pump.zls", std::string(5000, 'x'));
     fs::permissions(Path("pump.zls"), fs::perms(0640));
     EXPECT_EQ(Run("generate pump.zfsm").Status, 0);
@@ -191,6 +202,8 @@ TEST_F(Files, AnOlderProgramIsReplacedAndKeepsItsPermissions) {
 }
 
 TEST_F(Files, ANewProgramHasThePermissionsThatTheUserGivesNewFiles) {
+    if (IsForWindows())
+        GTEST_SKIP() << "permissions are those of the folder there";
     EXPECT_EQ(Run("generate pump.zfsm", "umask 027;").Status, 0);
     EXPECT_EQ(fs::status(Path("pump.zls")).permissions(), fs::perms(0640));
 }
@@ -208,6 +221,8 @@ TEST_F(Files, ALinkStaysALink) {
 }
 
 TEST_F(Files, ALinkToAFileThatIsNotThereYetStaysALink) {
+    if (IsForWindows())
+        GTEST_SKIP() << "such a link is not seen there";
     fs::create_symlink("real.zls", Path("pump.zls"));
     EXPECT_EQ(Run("generate pump.zfsm").Status, 0);
     EXPECT_TRUE(fs::is_symlink(Path("pump.zls")));
@@ -215,6 +230,8 @@ TEST_F(Files, ALinkToAFileThatIsNotThereYetStaysALink) {
 }
 
 TEST_F(Files, TwoDotsBehindALinkLeadWhereTheFileSystemLeads) {
+    if (IsForWindows())
+        GTEST_SKIP() << "two dots take a name away there, before links are looked at";
     fs::create_directories(Path("far/deep"));
     fs::create_directory_symlink("far/deep", Path("link"));
     WriteFile("far/valve.zfsm", PumpDocument());
@@ -239,7 +256,7 @@ TEST_F(Files, APipeIsWrittenToAndStaysAPipe) {
 }
 
 TEST_F(Files, TheDeviceOfStandardOutputIsWrittenToAndNotReplaced) {
-    if (!fs::exists("/dev/stdout"))
+    if (!fs::exists("/dev/stdout") || IsForWindows())
         GTEST_SKIP() << "no such device here";
     const RunResult toFile = Run("generate pump.zfsm -o /dev/stdout >captured");
     EXPECT_EQ(toFile.Status, 0);
@@ -276,6 +293,8 @@ TEST_F(Files, WhatAWrittenFileHasLostIsTold) {
 }
 
 TEST_F(Files, AFileLargerThanTheUserMayMakeIsToldAndLeavesTheOlderOne) {
+    if (IsForWindows())
+        GTEST_SKIP() << "there is no such limit, and here it ends what runs the program";
     WriteFile("pump.zls", "older program");
     const RunResult run = Run("generate pump.zfsm", "ulimit -f 0;"); // captured streams are files too
     EXPECT_EQ(run.Status, 3);
