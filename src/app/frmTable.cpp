@@ -14,7 +14,6 @@
 #include "kit/VocabularyFile.h"
 
 #include <QCloseEvent>
-#include <QDateTime>
 
 #include <algorithm>
 
@@ -44,7 +43,7 @@ frmTable::frmTable(QWidget* parent)
             Run(Command::ViewFindings);
     });
     AddHelpKey(*this, kTableHelpPage);
-    Trace("Start at " + QDateTime::currentDateTime().toString(Qt::ISODate).toStdString());
+    TraceStart();
     LoadWords();
     MakeRooms();
     ConnectRecentFiles();
@@ -88,30 +87,21 @@ RoomPlace frmTable::Place() { return {session_, words_, *this}; }
 
 // Every room can ask for what another one has, and none knows which.
 void frmTable::AddRoom(std::unique_ptr<Room> room) {
-    connect(room.get(), &Room::PlaceChosen, this, [this](Cell place) {
-        for (const auto& other : rooms_)
-            other->ShowPlace(place);
-    });
-    connect(room.get(), &Room::EditWanted, this, [this](Cell place) {
-        for (const auto& other : rooms_)
-            other->EditPlace(place);
-    });
-    connect(room.get(), &Room::PieceWanted, this, [this](const TextPiece& piece) {
-        for (const auto& other : rooms_)
-            other->EditPiece(piece);
-    });
-    connect(room.get(), &Room::EventFired, this, [this](RowNumber row) {
-        for (const auto& other : rooms_)
-            other->FireEvent(row);
-    });
+    const auto pass = [&](auto wanted, auto answered) {
+        connect(room.get(), wanted, this, [this, answered](const auto& what) {
+            for (const auto& other : rooms_)
+                (*other.*answered)(what);
+        });
+    };
+    pass(&Room::PlaceChosen, &Room::ShowPlace);
+    pass(&Room::EditWanted, &Room::EditPlace);
+    pass(&Room::PieceWanted, &Room::EditPiece);
+    pass(&Room::EventFired, &Room::FireEvent);
+    pass(&Room::CompareWanted, &Room::CompareVersions);
     connect(room.get(), &Room::DocumentWanted, this, &frmTable::OpenDocument);
     connect(room.get(), &Room::CommandWanted, this, &frmTable::Run);
     connect(room.get(), &Room::PaneTurned, this,
             [this](Command toggle, bool shown) { session_.SetPaneShown(toggle, shown); });
-    connect(room.get(), &Room::CompareWanted, this, [this](const VersionsToCompare& versions) {
-        for (const auto& other : rooms_)
-            other->CompareVersions(versions);
-    });
     connect(room.get(), &Room::LeaveAsked, this, [this](bool& mayLeave) {
         mayLeave = std::all_of(rooms_.begin(), rooms_.end(), [](const auto& r) { return r->MayLeave(); });
     });

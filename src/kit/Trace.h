@@ -9,4 +9,7 @@ namespace orvane {
 // QT_LOGGING_RULES="orvane.trace=true".
 void Trace(std::string_view label);
 
+// The label of a main window that begins, with the time.
+void TraceStart();
+
 } // namespace orvane
