@@ -15,11 +15,17 @@ by_name() {
 # there NAME: whether it can be pressed now; leaves its place in `place`.
 there() { place=$("$place_of" "$work/places" "$1"); }
 
-# click_on NAME [BUTTON]: waits until it can be pressed and presses it in its middle.
+# rests NAME: whether it stands where it stood when this was asked last.
+rests() {
+    local before=$place
+    there "$1" && [ "$place" = "$before" ]
+}
+
+# click_on NAME [BUTTON]: waits until it can be pressed and stands still, and presses it in its middle.
 click_on() {
     local x y width height
-    await "$1 in the window in front" there "$1"
-    there "$1"
+    place=
+    await "$1 in the window in front" rests "$1"
     read -r x y width height <<<"$place"
     xdotool mousemove $((x + width / 2)) $((y + height / 2)) click "${2:-1}"
 }

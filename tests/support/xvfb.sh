@@ -33,9 +33,10 @@ fail() {
 
 step() { echo "-- $*"; }
 
+patience=20 # seconds
 # await WHAT COMMAND...: nothing here sleeps for luck; each step waits for what it has brought about.
 await() {
-    local what=$1 end=$((SECONDS + 20))
+    local what=$1 end=$((SECONDS + patience))
     shift
     until "$@" >/dev/null 2>&1; do
         [ "$SECONDS" -lt "$end" ] || fail "waited in vain for $what"

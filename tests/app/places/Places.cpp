@@ -3,10 +3,14 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QCheckBox>
 #include <QMenu>
 #include <QMenuBar>
+#include <QRadioButton>
 #include <QTabBar>
 #include <QTableView>
+
+#include <algorithm>
 
 namespace orvane::test {
 
@@ -25,6 +29,15 @@ Thing* Find(QWidget& window, const QString& name) {
 
 bool CanBePressed(const QWidget* widget) {
     return widget != nullptr && widget->isVisible() && widget->isEnabled();
+}
+
+// Options and checks take a press on their mark and text, not on what is empty beside these.
+QRect PartToPress(const QWidget& widget) {
+    QRect part = widget.rect();
+    if (qobject_cast<const QRadioButton*>(&widget) != nullptr ||
+        qobject_cast<const QCheckBox*>(&widget) != nullptr)
+        part.setWidth(std::min(part.width(), widget.sizeHint().width()));
+    return part;
 }
 
 // Menus stand in a bar or in another menu under the action that opens them.
@@ -96,7 +109,7 @@ QRect PlaceIn(QWidget& window, const QString& name) {
     if (const QRect item = PlaceOfMenuItem(window, name); !item.isEmpty())
         return item;
     const auto* widget = Find<QWidget>(window, name);
-    return CanBePressed(widget) ? OnScreen(*widget, widget->rect()) : QRect();
+    return CanBePressed(widget) ? OnScreen(*widget, PartToPress(*widget)) : QRect();
 }
 
 } // namespace

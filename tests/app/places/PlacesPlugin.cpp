@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Qt loads this into a program that is started with QT_QPA_GENERIC_PLUGINS=orvaneplaces. It answers at the
-// local socket that ORVANE_PLACES names: a name comes in on a line, "X Y WIDTH HEIGHT" goes back, or an empty
-// line (Places.h). The program itself is the one that is shipped and knows nothing of it.
+// port of this machine whose number it writes into the file that ORVANE_PLACES names: a name comes in on a
+// line, "X Y WIDTH HEIGHT" goes back, or an empty line (Places.h). The program itself is the one that is
+// shipped and knows nothing of it. A port, because a program for Windows can answer there to this system's
+// tests.
 #include "app/places/Places.h"
 
 #include <QGenericPlugin>
-#include <QLocalServer>
-#include <QLocalSocket>
+#include <QSaveFile>
+#include <QTcpServer>
+#include <QTcpSocket>
 
 namespace orvane::test {
 
@@ -24,9 +27,15 @@ QByteArray Answer(const QString& name) {
         .toUtf8();
 }
 
-void AnswerAt(QLocalSocket& socket) {
+void AnswerAt(QTcpSocket& socket) {
     while (socket.canReadLine())
         socket.write(Answer(QString::fromUtf8(socket.readLine()).trimmed()));
+}
+
+// Whoever looks into the file finds the whole number or none.
+bool WriteDown(quint16 port) {
+    QSaveFile file(qEnvironmentVariable("ORVANE_PLACES"));
+    return file.open(QIODevice::WriteOnly) && file.write(QByteArray::number(port)) > 0 && file.commit();
 }
 
 } // namespace
@@ -37,14 +46,14 @@ class PlacesPlugin : public QGenericPlugin {
 
   public:
     QObject* create(const QString&, const QString&) override {
-        auto* server = new QLocalServer(this);
-        QObject::connect(server, &QLocalServer::newConnection, server, [server] {
-            QLocalSocket* socket = server->nextPendingConnection();
-            QObject::connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);
-            QObject::connect(socket, &QLocalSocket::readyRead, socket, [socket] { AnswerAt(*socket); });
+        auto* server = new QTcpServer(this);
+        QObject::connect(server, &QTcpServer::newConnection, server, [server] {
+            QTcpSocket* socket = server->nextPendingConnection();
+            QObject::connect(socket, &QTcpSocket::disconnected, socket, &QObject::deleteLater);
+            QObject::connect(socket, &QTcpSocket::readyRead, socket, [socket] { AnswerAt(*socket); });
         });
-        if (!server->listen(qEnvironmentVariable("ORVANE_PLACES")))
-            qWarning("no answers at %s: %s", qPrintable(qEnvironmentVariable("ORVANE_PLACES")),
+        if (!server->listen(QHostAddress::LocalHost) || !WriteDown(server->serverPort()))
+            qWarning("no answers for %s: %s", qPrintable(qEnvironmentVariable("ORVANE_PLACES")),
                      qPrintable(server->errorString()));
         return server;
     }
