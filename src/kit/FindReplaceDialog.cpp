@@ -24,7 +24,7 @@ namespace {
 
 using Sci = QsciScintillaBase;
 
-constexpr int kHelpPage = 4985;
+constexpr int kFindReplaceHelpPage = 4985;
 
 unsigned long Unsigned(long position) { return static_cast<unsigned long>(position); }
 
@@ -50,7 +50,7 @@ FindReplaceDialog::FindReplaceDialog(QsciScintilla* editor) : QDialog(editor), e
     grid->addWidget(lblEdited, 4, 0, 1, 3);
     grid->setColumnStretch(1, 1);
     AddCloseKeys(*this);
-    AddHelpKey(*this, kHelpPage);
+    AddHelpKey(*this, kFindReplaceHelpPage);
 }
 
 void FindReplaceDialog::BuildFields(QGridLayout& grid) {

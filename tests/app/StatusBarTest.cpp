@@ -56,12 +56,12 @@ class StatusBarTest : public testing::Test {
     TableStatusBar* bar = new TableStatusBar(&window);
 };
 
-const QString kLong(400, QLatin1Char('m'));
+const QString kEndless(400, QLatin1Char('m'));
 
 TEST_F(StatusBarTest, WhatIsSaidLaysNothingOutAnew) {
     EXPECT_EQ(LayoutsAfter([this] {
                   bar->Say(QStringLiteral("Undone: transition"));
-                  bar->ShowProgram(kLong);
+                  bar->ShowProgram(kEndless);
                   bar->ShowProblem(QStringLiteral("There is no vocab.txt"));
                   bar->ShowShift(true);
               }),
@@ -95,15 +95,15 @@ TEST_F(StatusBarTest, ATextThatCameWhileTheWindowWasHiddenGetsItsRoomToo) {
 
 TEST_F(StatusBarTest, NoTextMakesTheWindowsLeastSizeLarger) {
     const QSize least = window.minimumSizeHint();
-    bar->ShowName(kLong);
-    bar->ShowFindings(kLong);
-    bar->ShowProblem(kLong + QLatin1Char('\n') + kLong);
-    bar->Say(kLong);
+    bar->ShowName(kEndless);
+    bar->ShowFindings(kEndless);
+    bar->ShowProblem(kEndless + QLatin1Char('\n') + kEndless);
+    bar->Say(kEndless);
     Settle();
     EXPECT_EQ(window.minimumSizeHint(), least);
     EXPECT_EQ(window.width(), 600);
     EXPECT_LE(Label("Panel2").width(), 400);
-    EXPECT_EQ(Label("Panel2").toolTip(), kLong);
+    EXPECT_EQ(Label("Panel2").toolTip(), kEndless);
 }
 
 } // namespace

@@ -10,7 +10,7 @@ namespace orvane {
 namespace {
 
 constexpr QSize kRoom{200, 24}; // pixels
-const QString kLong = QStringLiteral("Program written: a-machine-with-a-name-of-its-own-that-goes-on.zls");
+const QString kMessage = QStringLiteral("Program written: a-machine-with-a-name-of-its-own-that-goes-on.zls");
 
 QImage PictureOf(QLabel& label, const QString& text) {
     label.setText(text);
@@ -20,11 +20,11 @@ QImage PictureOf(QLabel& label, const QString& text) {
 
 TEST(ElidedLabel, WhatThereIsNoRoomForEndsInThreeDots) {
     ElidedLabel label(nullptr);
-    const QString cut = label.fontMetrics().elidedText(kLong, Qt::ElideRight, kRoom.width());
+    const QString cut = label.fontMetrics().elidedText(kMessage, Qt::ElideRight, kRoom.width());
     ASSERT_TRUE(cut.endsWith(QChar(0x2026)));
     QLabel plain;
-    EXPECT_EQ(PictureOf(label, kLong), PictureOf(plain, cut));
-    EXPECT_EQ(label.text(), kLong);
+    EXPECT_EQ(PictureOf(label, kMessage), PictureOf(plain, cut));
+    EXPECT_EQ(label.text(), kMessage);
 }
 
 TEST(ElidedLabel, ATextThatFitsLooksAsInAnyLabel) {
@@ -41,8 +41,8 @@ TEST(ElidedLabel, ATextThatFitsLooksAsInAnyLabel) {
 
 TEST(ElidedLabel, ATextOfItsOwnWidthIsWhole) {
     ElidedLabel label(nullptr);
-    label.ShowText(kLong);
-    EXPECT_EQ(label.fontMetrics().elidedText(kLong, Qt::ElideRight, label.sizeHint().width()), kLong);
+    label.ShowText(kMessage);
+    EXPECT_EQ(label.fontMetrics().elidedText(kMessage, Qt::ElideRight, label.sizeHint().width()), kMessage);
 }
 
 TEST(ElidedLabel, LinesAreOneLine) {
@@ -56,9 +56,9 @@ TEST(ElidedLabel, LinesAreOneLine) {
 TEST(ElidedLabel, TooltipAndScreenReaderHaveTheWholeText) {
     ElidedLabel label(nullptr);
     label.resize(kRoom);
-    label.ShowText(kLong);
-    EXPECT_EQ(label.toolTip(), kLong);
-    EXPECT_EQ(QAccessible::queryAccessibleInterface(&label)->text(QAccessible::Name), kLong);
+    label.ShowText(kMessage);
+    EXPECT_EQ(label.toolTip(), kMessage);
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(&label)->text(QAccessible::Name), kMessage);
 }
 
 TEST(ElidedLabel, MarkupInAPathIsShownInTheTooltipAsItStands) {
