@@ -8,6 +8,7 @@
 #include "text/AnsiText.h"
 #include "text/NumberText.h"
 
+#include <algorithm>
 #include <limits>
 #include <optional>
 #include <utility>
@@ -15,6 +16,13 @@
 namespace orvane {
 
 namespace {
+
+// Whether it is that tag, which is known when the program is compiled: a comparison or two of numbers, where
+// the general one is a call for each of thousands of cells.
+template <const std::string_view& kTag>
+bool Is(std::string_view tag) {
+    return tag.size() == kTag.size() && std::equal(kTag.begin(), kTag.end(), tag.begin());
+}
 
 bool IsTrue(std::string_view text) { return ToUpper(text) == "TRUE"; }
 
@@ -30,10 +38,11 @@ struct IndexedValue {
 };
 
 IndexedValue SplitIndex(std::string_view value) {
-    const std::size_t colon = value.find(':');
-    if (colon == std::string_view::npos)
+    // It stands behind a digit or two: a call that looks at many bytes at once would take longer.
+    const auto colon = std::find(value.begin(), value.end(), ':');
+    if (colon == value.end())
         return {value, {}};
-    return {value.substr(0, colon), value.substr(colon + 1)};
+    return {{value.begin(), colon}, {colon + 1, value.end()}};
 }
 
 // A number as it stands in the file, cut where it gets too long to read.
@@ -66,8 +75,8 @@ class Reader {
     void ReadTransitions(StateRecord& state);
 
     // Calls `read(tag)` for each tag up to the closing one.
-    template <typename ReadTagged>
-    void ReadBlock(std::string_view closer, ReadTagged read);
+    template <const std::string_view& kCloser, typename ReadTagged>
+    void ReadBlock(ReadTagged read);
 
     // The number in the head of an event or a state.
     template <typename Kind>
@@ -76,8 +85,9 @@ class Reader {
     void SetText(std::string& text, std::string_view value);
     void TellStart(Cell record, std::string_view tag) {
         if (starts_ != nullptr)
-            starts_->Add(record, tag, scanner_.TagLine());
+            KeepStart(record, tag);
     }
+    void KeepStart(Cell record, std::string_view tag);
 
     // Reads the value of the record's field that has the tag; tells a tag that none has.
     template <typename Fields, typename Record>
@@ -113,9 +123,8 @@ class Reader {
     TagScanner scanner_;
     TextStarts* const starts_;
     ReadResult& result_;
-    Cell record_;          // whose fields are read
-    std::string_view tag_; // the field being read
-    std::string block_;    // the block it stands in, " in state 7", empty at top level
+    Cell record_;       // whose fields are read
+    std::string block_; // the block that is read, " in state 7", empty at top level
     std::size_t unknownTags_ = 0;
     bool toldDelimiter_ = false;
 };
@@ -137,22 +146,22 @@ void Reader::Read() {
 
 void Reader::ReadTopLevel() {
     while (!scanner_.AtEnd()) {
-        const std::optional<std::string_view> found = scanner_.NextTag();
+        const bool found = scanner_.NextTag();
         if (scanner_.TagWasCut())
             throw BreakOff{"The file ends inside a tag"};
         if (!found)
             return;
-        tag_ = *found;
+        const std::string_view tag = scanner_.Tag();
         block_.clear();
         record_ = {};
-        if (tag_ == tag::kRowVisible)
+        if (tag == tag::kRowVisible)
             ReadRowHeights();
-        else if (tag_ == tag::kEvent)
+        else if (tag == tag::kEvent)
             ReadEvent();
-        else if (tag_ == tag::kState)
+        else if (tag == tag::kState)
             ReadState();
         else
-            ReadMachineField(tag_);
+            ReadMachineField(tag);
         RequireWholeValue();
     }
 }
@@ -176,23 +185,21 @@ void Reader::ReadValue(const FieldInFile& file, bool& mark) {
     mark = file.AsDigit ? NextNumber<std::int16_t>() != 0 : IsTrue(scanner_.NextValue());
 }
 
-template <typename ReadTagged>
-void Reader::ReadBlock(std::string_view closer, ReadTagged read) {
+template <const std::string_view& kCloser, typename ReadTagged>
+void Reader::ReadBlock(ReadTagged read) {
     while (true) {
-        const std::optional<std::string_view> found = scanner_.NextTag();
-        if (!found)
-            throw BreakOff{"The file ends before " + std::string(closer) + block_};
-        tag_ = *found;
-        if (tag_ == closer)
+        if (!scanner_.NextTag())
+            throw BreakOff{"The file ends before " + std::string(kCloser) + block_};
+        if (Is<kCloser>(scanner_.Tag()))
             return;
-        read(tag_);
+        read(scanner_.Tag());
         RequireWholeValue();
     }
 }
 
 void Reader::ReadRowHeights() {
     RowHeights& heights = result_.Document.View.RowVisible;
-    ReadBlock(tag::kRowVisibleEnd, [&](std::string_view tag) { ReadField(kRowHeightFields, heights, tag); });
+    ReadBlock<tag::kRowVisibleEnd>([&](std::string_view tag) { ReadField(kRowHeightFields, heights, tag); });
 }
 
 void Reader::ReadEvent() {
@@ -201,7 +208,7 @@ void Reader::ReadEvent() {
     record_ = {row, kNoState};
     TellStart(record_, tag::kEvent);
     block_ = " in event row " + NumberText(row.Number());
-    ReadBlock(tag::kEventEnd, [&](std::string_view tag) { ReadField(kEventFields, event, tag); });
+    ReadBlock<tag::kEventEnd>([&](std::string_view tag) { ReadField(kEventFields, event, tag); });
 }
 
 void Reader::ReadState() {
@@ -210,7 +217,7 @@ void Reader::ReadState() {
     record_ = {kNoRow, number};
     TellStart(record_, tag::kState);
     block_ = " in state " + NumberText(number.Number());
-    ReadBlock(tag::kStateEnd, [&](std::string_view tag) {
+    ReadBlock<tag::kStateEnd>([&](std::string_view tag) {
         if (tag == tag::kTransitions)
             ReadTransitions(state);
         else
@@ -219,9 +226,9 @@ void Reader::ReadState() {
 }
 
 void Reader::ReadTransitions(StateRecord& state) {
-    ReadBlock(tag::kTransitionsEnd, [&](std::string_view tag) {
-        const bool isTarget = tag == tag::kTarget;
-        if (!isTarget && tag != tag::kAction) {
+    ReadBlock<tag::kTransitionsEnd>([&](std::string_view tag) {
+        const bool isTarget = Is<tag::kTarget>(tag);
+        if (!isTarget && !Is<tag::kAction>(tag)) {
             TellUnknown("Unkown tag " + ShownTag(tag) + " in Transitions section");
             return;
         }
@@ -245,26 +252,29 @@ Kind Reader::HeadNumber(NumberRange<Kind> range) {
 
 void Reader::RequireWholeValue() const {
     if (scanner_.ValueWasCut())
-        throw BreakOff{"The file ends inside the value of " + std::string(tag_) + block_};
+        throw BreakOff{"The file ends inside the value of " + std::string(scanner_.Tag()) + block_};
 }
 
 void Reader::SetText(std::string& text, std::string_view value) {
     text = value;
-    if (toldDelimiter_ || value.find(kDelimiter) == std::string_view::npos)
+    // The scanner knows it of nearly all values, without another look at their bytes.
+    if (toldDelimiter_ || !scanner_.ValueHoldsDelimiter() || value.find(kDelimiter) == std::string_view::npos)
         return;
     toldDelimiter_ = true;
-    Tell("The text of " + std::string(tag_) + block_ +
+    Tell("The text of " + std::string(scanner_.Tag()) + block_ +
          " holds the character \xA4, which ends fields; it is kept and "
          "saved as it is, but undo cannot carry it");
 }
+
+void Reader::KeepStart(Cell record, std::string_view tag) { starts_->Add(record, tag, scanner_.TagLine()); }
 
 std::int64_t Reader::Number(std::string_view text, std::int64_t first, std::int64_t last) const {
     const std::int64_t number = ParseNumber(text);
     if (number >= first && number <= last)
         return number;
     RequireWholeValue(); // else the file's end is what is wrong with the number
-    throw BreakOff{"The number " + Quoted(text) + " of " + std::string(tag_) + block_ + " is outside " +
-                   NumberText(first) + ".." + NumberText(last)};
+    throw BreakOff{"The number " + Quoted(text) + " of " + std::string(scanner_.Tag()) + block_ +
+                   " is outside " + NumberText(first) + ".." + NumberText(last)};
 }
 
 // The last line of a file may hold anything: an unknown tag there is not told.

@@ -33,7 +33,8 @@ bool IsEmpty(const StateRecord& state) {
 
 FsmDocument::FsmDocument(Twips defaultColumnWidth)
     : defaultColumnWidth_(defaultColumnWidth), states_(kStateCount), events_(kCellRowCount) {
-    ClearDataBase(false);
+    for (StateRecord& state : states_)
+        state.ColWidth = defaultColumnWidth; // all else of a new record is as clearing leaves it
 }
 
 StateRecord& FsmDocument::State(StateNumber number) {

@@ -38,55 +38,76 @@ std::string WithCrLf(std::string_view bytes) {
     return text;
 }
 
+// Where the last line of a text begins; what ends that line belongs to it.
+std::size_t LastLineOf(std::string_view text) {
+    if (text.ends_with(kLineEnd))
+        text.remove_suffix(kLineEnd.size());
+    return text.rfind(kLineEnd.back()) + 1; // 0 when there is none
+}
+
 } // namespace
 
 TagScanner::TagScanner(std::string_view bytes)
     : normalised_(HasOnlyCrLf(bytes) ? std::string() : WithCrLf(bytes)),
       text_(normalised_.empty() ? bytes : normalised_),
-      lineEnds_(text_, kLineEnd),
-      countedLineEnds_(text_, kLineEnd),
-      tagOpens_(text_, kTagOpen),
-      tagCloses_(text_, kTagClose),
-      valueEnds_(text_, kValueEnd) {}
+      delimiters_(text_),
+      tagOpens_(text_),
+      valueEnds_(text_),
+      lineEnds_(text_),
+      lastLine_(LastLineOf(text_)),
+      atEnd_(text_.empty()) {}
 
-void TagScanner::TakeLinesUpTo(std::size_t place) {
-    if (place < linesEnd_)
-        return;
-    const std::size_t lineEnd = place < text_.size() ? lineEnds_.Next(place) : std::string_view::npos;
-    linesEnd_ = lineEnd == std::string_view::npos ? text_.size() : lineEnd + kLineEnd.size();
+template <const std::string_view& kWord>
+std::size_t TagScanner::Next(ForwardSearch<kWord>& search) {
+    const std::size_t delimiter = delimiters_.Next(position_);
+    const bool isIt = delimiter < text_.size() - 1 && text_[delimiter + 1] == kWord.back();
+    return isIt ? delimiter : search.Next(delimiter); // npos is the end of that search, too
 }
 
-std::optional<std::string_view> TagScanner::NextTag() {
-    const std::size_t open = tagOpens_.Next(position_);
+bool TagScanner::NextTag() {
+    const std::size_t open = Next(tagOpens_);
     TakeLinesUpTo(open);
-    if (open == std::string_view::npos) {
-        tagWasCut_ = position_ < text_.size() && text_.back() == kDelimiter;
-        if (tagWasCut_)
-            tagStart_ = text_.size() - 1;
-        position_ = text_.size();
-        return std::nullopt;
-    }
+    if (open == std::string_view::npos)
+        return EndWithoutTag();
     tagStart_ = open;
     position_ = open + kTagOpen.size();
-    const std::size_t close = tagCloses_.Next(position_);
-    if (close >= linesEnd_) {
+    const std::size_t end = TagEnd();
+    if (end == text_.size() || text_[end] != kTagClose.front()) {
+        tag_ = {};
         tagWasCut_ = AtEnd();
-        return tagWasCut_ ? std::nullopt : std::optional(std::string_view());
+        return !tagWasCut_;
     }
-    const std::string_view tag = text_.substr(position_, close - position_);
-    position_ = close + kTagClose.size();
-    return tag;
+    tag_ = Between(position_, end);
+    position_ = end + 1;
+    return true;
+}
+
+bool TagScanner::EndWithoutTag() {
+    tagWasCut_ = position_ < text_.size() && text_.back() == kDelimiter;
+    if (tagWasCut_)
+        tagStart_ = text_.size() - 1;
+    position_ = text_.size();
+    return false;
+}
+
+// The close of the tag at position_, or the end of its line when that comes first.
+std::size_t TagScanner::TagEnd() {
+    std::size_t end = std::max(tagEnd_, position_);
+    while (end < text_.size() && text_[end] != kTagClose.front() && text_[end] != kLineEnd.front())
+        ++end;
+    return tagEnd_ = end;
 }
 
 std::string_view TagScanner::NextValue() {
-    const std::size_t end = valueEnds_.Next(position_);
+    const std::size_t end = Next(valueEnds_);
+    valueHoldsDelimiter_ = delimiters_.Next(position_) < end;
     valueWasCut_ = end == std::string_view::npos;
     if (AtEnd())
         return {};
     TakeLinesUpTo(end);
     if (valueWasCut_)
         return TakeRest();
-    const std::string_view value = text_.substr(position_, end - position_);
+    const std::string_view value = Between(position_, end);
     position_ = end + kValueEnd.size();
     return value;
 }
@@ -100,8 +121,7 @@ std::string_view TagScanner::TakeRest() {
 }
 
 std::size_t TagScanner::TagLine() {
-    for (std::size_t end = countedLineEnds_.Next(lineStart_); end < tagStart_;
-         end = countedLineEnds_.Next(lineStart_)) {
+    for (std::size_t end = lineEnds_.Next(lineStart_); end < tagStart_; end = lineEnds_.Next(lineStart_)) {
         lineStart_ = end + kLineEnd.size();
         ++line_;
     }

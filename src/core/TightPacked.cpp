@@ -14,6 +14,7 @@ namespace orvane {
 namespace {
 
 constexpr char kFormatMark = '0';
+constexpr std::string_view kTextEnd(&kDelimiter, 1);
 constexpr int kUnknownMode = 255;
 constexpr std::string_view kMissingTerminator = "Expected string terminator is absent";
 
@@ -94,7 +95,7 @@ struct BrokenImage {
 class Unpacker {
   public:
     Unpacker(std::string_view image, FsmDocument& document)
-        : image_(image), delimiters_(image, {&kDelimiter, 1}), document_(document) {}
+        : image_(image), delimiters_(image), document_(document) {}
 
     std::vector<std::string> Unpack();
 
@@ -118,7 +119,7 @@ class Unpacker {
 
     std::string_view image_;
     std::size_t position_ = 1; // behind the format mark
-    ForwardSearch delimiters_;
+    ForwardSearch<kTextEnd> delimiters_;
     FsmDocument& document_;
     std::vector<std::string> messages_;
 };

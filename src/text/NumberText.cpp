@@ -3,7 +3,6 @@
 
 #include "text/Ascii.h"
 
-#include <algorithm>
 #include <array>
 #include <charconv>
 #include <limits>
@@ -11,17 +10,20 @@
 namespace orvane {
 
 std::int64_t ParseNumber(std::string_view text) {
-    text.remove_prefix(std::min(text.find_first_not_of(" \t"), text.size()));
-    const bool negative = text.starts_with('-');
-    if (negative || text.starts_with('+'))
-        text.remove_prefix(1);
-    std::uint64_t digits = 0;
-    const auto result = std::from_chars(text.data(), text.data() + text.size(), digits);
-    constexpr auto largest = static_cast<std::uint64_t>(std::numeric_limits<std::int64_t>::max());
-    if (result.ec == std::errc::result_out_of_range || digits > largest)
+    const char* at = text.data();
+    const char* const end = at + text.size();
+    while (at != end && (*at == ' ' || *at == '\t'))
+        ++at;
+    const bool negative = at != end && *at == '-';
+    if (negative || (at != end && *at == '+'))
+        ++at;
+    constexpr std::uint64_t largest = std::numeric_limits<std::int64_t>::max();
+    std::uint64_t magnitude = 0;
+    for (; at != end && IsAsciiDigit(*at) && magnitude <= largest / 10; ++at)
+        magnitude = magnitude * 10 + std::uint64_t(*at - '0');
+    if (magnitude > largest || (at != end && IsAsciiDigit(*at)))
         return negative ? std::numeric_limits<std::int64_t>::min() : std::numeric_limits<std::int64_t>::max();
-    const auto magnitude = static_cast<std::int64_t>(digits);
-    return negative ? -magnitude : magnitude;
+    return negative ? -std::int64_t(magnitude) : std::int64_t(magnitude);
 }
 
 std::string NumberText(std::int64_t number) { return std::to_string(number); }

@@ -373,6 +373,13 @@ TEST(DocumentReader, ADelimiterInsideATextIsKeptAndToldOnce) {
                                           2}));
 }
 
+TEST(DocumentReader, ADelimiterInTheRowOfAnActionIsInNoText) {
+    const ReadResult read =
+        Read("$<STATE>1:$/\r\n$<TRANSITIONS>\r\n$<TACT>6$:a$/\r\n$</TRANSITIONS>$/\r\n$</STATE>\r\n\r\n");
+    EXPECT_EQ(read.Document.State(1).Actions[6], "a");
+    EXPECT_THAT(read.Messages, IsEmpty());
+}
+
 TEST(DocumentReader, AnEmptyFileIsAnEmptyDocument) {
     for (const char* text : {"", "\r\n", " \t\r\n\n"}) {
         const ReadResult read = Read(text);

@@ -34,6 +34,7 @@ TEST(NumberText, NumbersBeyond64BitsGiveTheNearest) {
     EXPECT_EQ(ParseNumber("9223372036854775807"), largest);
     EXPECT_EQ(ParseNumber("9223372036854775808"), largest);
     EXPECT_EQ(ParseNumber("-9223372036854775808"), least);
+    EXPECT_EQ(ParseNumber("18446744073709551617"), largest); // one more than 64 bits count to
     EXPECT_EQ(ParseNumber("99999999999999999999999"), largest);
     EXPECT_EQ(ParseNumber("-99999999999999999999999"), least);
 }
