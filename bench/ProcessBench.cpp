@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Whole runs of `orvanec` beside `cat` of what they write, on the same disk. Users replace the program that
-// was there, so that is what is measured: cat empties a file and fills it again. The runs alternate, and the
-// least time of each counts: what disturbs a run only ever adds to it.
+// was there, so that is what is measured: cat empties a file and fills it again. The runs alternate, in
+// another order each time, because the disk is still busy with what the run before has left, and the least
+// time of each counts: what disturbs a run only ever adds to it.
 #include "ChildProcess.h"
 #include "SampleDocuments.h"
 #include "core/DocumentWriter.h"
@@ -12,6 +13,7 @@
 #include <iomanip>
 #include <iostream>
 #include <limits>
+#include <random>
 #include <string>
 #include <unistd.h>
 #include <vector>
@@ -58,9 +60,14 @@ void MeasureOneDocument(const std::filesystem::path& folder, const std::string& 
         {"generate --if-changed", {orvanec, "generate", "--if-changed", document}, "/dev/null", 2.5},
         {"check", {orvanec, "check", document}, "/dev/null"}};
     orvane::TimeOfCommand(lines[1].Command, lines[1].Output); // so that there is a program
+    std::vector<Line*> order;
+    for (Line& line : lines)
+        order.push_back(&line);
+    std::mt19937 shuffler; // the same orders in every run of the benchmark
     for (int run = 0; run < kRuns; ++run) {
-        for (Line& line : lines)
-            line.Least = std::min(line.Least, orvane::TimeOfCommand(line.Command, line.Output));
+        std::shuffle(order.begin(), order.end(), shuffler);
+        for (Line* line : order)
+            line->Least = std::min(line->Least, orvane::TimeOfCommand(line->Command, line->Output));
     }
     std::cout << std::fixed << "| whole process, document at the limit | time (ms) | to cat | aim |\n"
               << "| --- | ---: | ---: | ---: |\n";
