@@ -3,13 +3,10 @@
 
 #include "cli/JsonReport.h"
 #include "text/JsonString.h"
-#include "text/NumberText.h"
 
 namespace orvane::cli {
 
 namespace {
-
-std::string NumberOrNull(int number) { return number == 0 ? "null" : NumberText(number); }
 
 std::string ConflictObject(const review::Conflict& conflict) {
     return "{\"kind\":" + JsonString(ConflictKindName(conflict.Kind)) +

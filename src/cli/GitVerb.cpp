@@ -5,6 +5,7 @@
 #include "cli/GitProgram.h"
 #include "cli/MessageText.h"
 #include "cli/StandardStreams.h"
+#include "cli/UsageHints.h"
 #include "files/FileReader.h"
 #include "files/FileWriter.h"
 
@@ -163,7 +164,7 @@ class GitEnabler {
 
 Outcome EnableGit(const Run& run) {
     if (run.Asked.Documents != std::vector<std::string>{"enable"})
-        return WrongUsage("git takes the word enable");
+        return WrongUsage(kGitTakes);
     return GitEnabler(run).Do();
 }
 

@@ -39,7 +39,7 @@ std::string Missing(const std::string& verb, const std::string& name, const std:
     if (name == "PATTERN")
         return "No pattern is given";
     if (name == "WHAT")
-        return "git takes the word enable";
+        return kGitTakes;
     return verb + " needs " + name + ": " + help;
 }
 
